@@ -1,0 +1,167 @@
+#include "Model3dm.h"
+#include <algorithm>
+#include <charconv>
+#include <cmath>
+#include <fstream>
+#include <stdexcept>
+#include <system_error>
+
+namespace Assets
+{
+namespace
+{
+// Four decimals without trailing zeros: a tenth of a millimetre, and the same text everywhere.
+std::string Number(double value)
+{
+    std::array<char, 64> text{};
+    const auto result = std::to_chars(text.data(), text.data() + text.size(), value, std::chars_format::fixed, 4);
+    if (result.ec != std::errc())
+        throw std::runtime_error("a coordinate does not fit its text");
+    std::string out(text.data(), result.ptr);
+    while (out.back() == '0')
+        out.pop_back();
+    if (out.back() == '.')
+        out.pop_back();
+    return out == "-0" ? "0" : out;
+}
+
+double Length(double x, double y, double z)
+{
+    return std::sqrt(x * x + y * y + z * z);
+}
+
+std::string Joined(std::initializer_list<std::string> fields)
+{
+    std::string line;
+    for (const std::string& field : fields)
+        line += (line.empty() ? "" : ",") + field;
+    return line + "\n";
+}
+
+void AppendMesh(std::string& out, const ModelMesh& mesh, int index)
+{
+    const std::string m = std::to_string(index);
+    out += Joined({"EditObjMesh", m, std::to_string(mesh.Rows), std::to_string(mesh.Cols), std::to_string(mesh.Colour)});
+    if (mesh.Colour < 0)
+        out += mesh.Texture + "\n";
+    for (int i = 0; i < mesh.Rows; ++i)
+        for (int j = 0; j < mesh.Cols; ++j)
+        {
+            const ModelPoint& p = mesh.At(i, j);
+            out += Joined({"EditObjMeshPt", m, std::to_string(i), std::to_string(j), Number(p.X), Number(p.Y),
+                           Number(p.Z), std::to_string(p.U), std::to_string(p.V)});
+        }
+}
+
+void AppendSphere(std::string& out, const ModelSphere& sphere, int index)
+{
+    const std::string s = std::to_string(index);
+    out += Joined({"EditObjSfere", s, Number(sphere.X), Number(sphere.Y), Number(sphere.Z), Number(sphere.R)});
+    for (const SphereLink& link : sphere.Links)
+        out += Joined({"AddSfereLink", s, std::to_string(link.Mesh), std::to_string(link.Row), std::to_string(link.Col)});
+}
+}
+
+ModelMesh::ModelMesh(int rows, int cols)
+    : Rows(rows), Cols(cols), Points(static_cast<std::size_t>(rows) * static_cast<std::size_t>(cols))
+{
+}
+
+ModelPoint& ModelMesh::At(int row, int col)
+{
+    return Points.at(static_cast<std::size_t>(row) * static_cast<std::size_t>(Cols) + static_cast<std::size_t>(col));
+}
+
+const ModelPoint& ModelMesh::At(int row, int col) const
+{
+    return Points.at(static_cast<std::size_t>(row) * static_cast<std::size_t>(Cols) + static_cast<std::size_t>(col));
+}
+
+int Model::Triangles() const
+{
+    int count = 0;
+    for (const ModelMesh& mesh : Meshes)
+        count += mesh.Triangles();
+    return count;
+}
+
+double Model::Reach() const
+{
+    double reach = 0;
+    for (const ModelMesh& mesh : Meshes)
+        for (const ModelPoint& p : mesh.Points)
+            reach = std::max(reach, Length(p.X, p.Y, p.Z));
+    for (const ModelSphere& s : Spheres)
+        reach = std::max(reach, Length(s.X, s.Y, s.Z) + s.R);
+    return reach;
+}
+
+void Model::LinkNear(ModelSphere& sphere, int first, int last, double reach) const
+{
+    for (int m = first; m <= last; ++m)
+    {
+        const ModelMesh& mesh = Meshes.at(static_cast<std::size_t>(m));
+        for (int i = 0; i < mesh.Rows; ++i)
+            for (int j = 0; j < mesh.Cols; ++j)
+            {
+                const ModelPoint& p = mesh.At(i, j);
+                if (Length(p.X - sphere.X, p.Y - sphere.Y, p.Z - sphere.Z) <= sphere.R + reach)
+                    sphere.Links.push_back({m, i, j});
+            }
+    }
+}
+
+std::vector<ModelMesh> FlatBox(const std::array<double, 3>& low, const std::array<double, 3>& high, int colour, bool ends)
+{
+    // The four corners of a section, once round and closed.
+    const std::array<std::array<double, 2>, 5> ring{
+        {{low[0], low[1]}, {high[0], low[1]}, {high[0], high[1]}, {low[0], high[1]}, {low[0], low[1]}}};
+    ModelMesh sides(2, 5);
+    sides.Colour = colour;
+    for (int j = 0; j < 5; ++j)
+    {
+        const auto& corner = ring[static_cast<std::size_t>(j)];
+        sides.At(0, j) = {corner[0], corner[1], low[2]};
+        sides.At(1, j) = {corner[0], corner[1], high[2]};
+    }
+    std::vector<ModelMesh> meshes{sides};
+    if (ends)
+        for (const double z : {low[2], high[2]})
+        {
+            ModelMesh end(2, 2);
+            end.Colour = colour;
+            end.At(0, 0) = {low[0], low[1], z};
+            end.At(0, 1) = {high[0], low[1], z};
+            end.At(1, 0) = {low[0], high[1], z};
+            end.At(1, 1) = {high[0], high[1], z};
+            meshes.push_back(end);
+        }
+    return meshes;
+}
+
+void WriteModel(const Model& model, const std::filesystem::path& file)
+{
+    // Every texture is announced once, in order of first use.
+    std::vector<std::string> textures;
+    for (const ModelMesh& mesh : model.Meshes)
+        if (mesh.Colour < 0 && std::find(textures.begin(), textures.end(), mesh.Texture) == textures.end())
+            textures.push_back(mesh.Texture);
+
+    std::string out = "3DM - VER 1.0.0\n";
+    for (const std::string& texture : textures)
+        out += Joined({"MakeTexture", texture});
+    out += Joined({"MakeObj", "0", "0", "0", "0", "0", std::to_string(model.Meshes.size()),
+                   std::to_string(model.Spheres.size()), model.Visible ? "1" : "0", Number(model.Mass)});
+    out += Joined({"SetObjR", Number(model.Reach())});
+    for (std::size_t m = 0; m < model.Meshes.size(); ++m)
+        AppendMesh(out, model.Meshes[m], static_cast<int>(m));
+    for (std::size_t s = 0; s < model.Spheres.size(); ++s)
+        AppendSphere(out, model.Spheres[s], static_cast<int>(s));
+
+    std::filesystem::create_directories(file.parent_path());
+    std::ofstream stream(file, std::ios::binary);
+    stream << out;
+    if (!stream.flush())
+        throw std::runtime_error("cannot write " + file.string());
+}
+}
