@@ -41,7 +41,8 @@ std::string Joined(std::initializer_list<std::string> fields)
 void AppendMesh(std::string& out, const ModelMesh& mesh, int index)
 {
     const std::string m = std::to_string(index);
-    out += Joined({"EditObjMesh", m, std::to_string(mesh.Rows), std::to_string(mesh.Cols), std::to_string(mesh.Colour)});
+    out +=
+        Joined({"EditObjMesh", m, std::to_string(mesh.Rows), std::to_string(mesh.Cols), std::to_string(mesh.Colour)});
     if (mesh.Colour < 0)
         out += mesh.Texture + "\n";
     for (int i = 0; i < mesh.Rows; ++i)
@@ -58,7 +59,8 @@ void AppendSphere(std::string& out, const ModelSphere& sphere, int index)
     const std::string s = std::to_string(index);
     out += Joined({"EditObjSfere", s, Number(sphere.X), Number(sphere.Y), Number(sphere.Z), Number(sphere.R)});
     for (const SphereLink& link : sphere.Links)
-        out += Joined({"AddSfereLink", s, std::to_string(link.Mesh), std::to_string(link.Row), std::to_string(link.Col)});
+        out +=
+            Joined({"AddSfereLink", s, std::to_string(link.Mesh), std::to_string(link.Row), std::to_string(link.Col)});
 }
 }
 
@@ -111,7 +113,8 @@ void Model::LinkNear(ModelSphere& sphere, int first, int last, double reach) con
     }
 }
 
-std::vector<ModelMesh> FlatBox(const std::array<double, 3>& low, const std::array<double, 3>& high, int colour, bool ends)
+std::vector<ModelMesh> FlatBox(const std::array<double, 3>& low, const std::array<double, 3>& high, int colour,
+                               bool ends)
 {
     // The four corners of a section, once round and closed.
     const std::array<std::array<double, 2>, 5> ring{
