@@ -1,0 +1,100 @@
+#include "base/Files.h"
+
+#include "base/RuntimeError.h"
+#include "base/Text.h"
+
+#include <algorithm>
+#include <cstdint>
+#include <fstream>
+
+namespace base
+{
+namespace
+{
+namespace fs = std::filesystem;
+
+constexpr std::uintmax_t LargestFile = 512u << 20;
+
+fs::path FromUtf8(std::string_view text)
+{
+    return fs::path(std::u8string(text.begin(), text.end()));
+}
+
+// The entry of folder that differs from name only in case; the first by name where there are several.
+fs::path OtherCase(const fs::path& folder, std::string_view name)
+{
+    const std::string wanted = LowerAscii(name);
+    fs::path found;
+    std::error_code error;
+    for (fs::directory_iterator it(folder.empty() ? fs::path(".") : folder, error), end; !error && it != end;
+         it.increment(error))
+    {
+        const fs::path entry = it->path().filename();
+        const std::u8string text = entry.u8string();
+        if (LowerAscii(std::string(text.begin(), text.end())) == wanted && (found.empty() || entry < found))
+            found = entry;
+    }
+    return found;
+}
+}
+
+fs::path Files::Resolve(std::string_view path) const
+{
+    std::string text(path);
+    std::replace(text.begin(), text.end(), '\\', '/');
+    // A NUL byte would cut the name short below.
+    std::replace(text.begin(), text.end(), '\0', '?');
+    fs::path wanted = FromUtf8(text);
+    fs::path result = wanted.is_absolute() ? fs::path() : Root;
+    std::error_code error;
+    if (fs::exists(result / wanted, error))
+        return result / wanted;
+    for (const fs::path& step : wanted)
+    {
+        fs::path next = result / step;
+        if (!fs::exists(next, error))
+        {
+            const std::u8string name = step.u8string();
+            const fs::path other = OtherCase(result, std::string(name.begin(), name.end()));
+            if (!other.empty())
+                next = result / other;
+        }
+        result = next;
+    }
+    return result;
+}
+
+bool Files::Exists(std::string_view path) const
+{
+    std::error_code error;
+    return fs::is_regular_file(Resolve(path), error);
+}
+
+std::string Files::Read(std::string_view path) const
+{
+    const fs::path name = Resolve(path);
+    std::error_code error;
+    const fs::file_status status = fs::status(name, error);
+    if (!fs::exists(status))
+        throw RuntimeError(name.has_parent_path() && !fs::is_directory(name.parent_path(), error) ? ErrorPathNotFound
+                                                                                                  : ErrorFileNotFound);
+    if (!fs::is_regular_file(status))
+        throw RuntimeError(ErrorAccess);
+    const std::uintmax_t size = fs::file_size(name, error);
+    if (error)
+        throw RuntimeError(ErrorAccess);
+    if (size > LargestFile)
+        throw RuntimeError(ErrorMemory);
+    std::ifstream in(name, std::ios::binary);
+    std::string bytes(static_cast<std::size_t>(size), '\0');
+    if (!in || (size > 0 && !in.read(bytes.data(), static_cast<std::streamsize>(size))))
+        throw RuntimeError(ErrorAccess);
+    return bytes;
+}
+
+std::string_view FolderOf(std::string_view path)
+{
+    const std::size_t last = path.rfind('\\');
+    return last == std::string_view::npos ? path : path.substr(0, last + 1);
+}
+}

@@ -1,0 +1,85 @@
+// render/PicArray.h: pixel arrays: 24-bit pictures whose bytes lie exactly as in a bottom-up bitmap file, so that the
+// frame is shown without a copy. Row 0 is the bottom row; pixel (x, row) is bytes 3x (blue), 3x + 1 (green), 3x + 2
+// (red); rows are padded to 4 bytes.
+#pragma once
+#include "base/Files.h"
+#include "base/Trapped.h"
+
+#include <cstdint>
+#include <memory>
+#include <string>
+#include <vector>
+
+namespace ModBitmap
+{
+// Width or height of a loaded picture at most.
+inline constexpr std::int32_t LargestPicture = 16384;
+
+// Length of a padded row in bytes: (width * 3 + 3) without its two low bits. Overflow beyond 32 bits is reported and
+// gives 0.
+std::int32_t WidthBytes(base::MessageSink& messages, std::int32_t width);
+
+// The 40-byte information header of a bitmap, handed to the presentation.
+struct PicHeader
+{
+    std::int32_t biSize = 0;
+    std::int32_t biWidth = 0;
+    std::int32_t biHeight = 0; // positive: bottom-up
+    std::int16_t biPlanes = 0;
+    std::int16_t biBitCount = 0;
+    std::int32_t biCompression = 0;
+    std::int32_t biSizeImage = 0;
+    std::int32_t biXPelsPerMeter = 0;
+    std::int32_t biYPelsPerMeter = 0;
+    std::int32_t biClrUsed = 0;
+    std::int32_t biClrImportant = 0;
+};
+
+// What a loaded picture says of itself.
+struct PicInfo
+{
+    std::int32_t Width = 0, Height = 0; // pixels
+    std::int32_t RowBytes = 0;
+    std::int16_t Planes = 0, BitCount = 0;
+};
+
+// The bytes: Rows rows of RowBytes bytes.
+struct PicArray2D
+{
+    std::int32_t Rows = 0, RowBytes = 0;
+    std::vector<std::uint8_t> Bytes;
+
+    const std::uint8_t* Row(std::int32_t row) const
+    {
+        return Bytes.data() + static_cast<std::size_t>(row) * static_cast<std::size_t>(RowBytes);
+    }
+    std::uint8_t* Row(std::int32_t row)
+    {
+        return Bytes.data() + static_cast<std::size_t>(row) * static_cast<std::size_t>(RowBytes);
+    }
+    bool Empty() const { return Bytes.empty(); }
+    // All bytes 0. RuntimeError 7 where memory does not suffice.
+    void Allocate(std::int32_t rows, std::int32_t rowBytes);
+};
+
+// A picture with its description, as the scene and the forms keep them.
+struct Picture
+{
+    PicInfo Info;
+    PicArray2D Pixels;
+};
+
+// Fills the header for the width and height it holds and allocates the pixels, all 0. Reports its own errors.
+void MakePicArray2D(base::MessageSink& messages, PicHeader& header, PicArray2D& pixels);
+
+// Reads an uncompressed 24-bit ".bmp" file. Deliberate: the pixels are taken to begin right behind the 54 header bytes.
+// Width or height outside 1 … LargestPicture is error 9, fewer bytes than claimed error 62 with the missing rows black.
+// Reports its own errors; false then.
+bool LoadPicArray2D(base::MessageSink& messages, const base::Files& files, const std::string& path, PicInfo& info,
+                    PicArray2D& pixels);
+
+// A reference to the pixels of another picture, as sprites and screen pictures keep it: shared, never freed through it.
+using PicReference = std::shared_ptr<const Picture>;
+// Lets go of the shared pixels.
+void PicArrayKill(PicReference& pixels);
+}

@@ -1,0 +1,61 @@
+// render/Screen.h: what depends on the resolution: frame, depth buffer, row tables, bands of the ground pass.
+#pragma once
+#include "base/Fields.h"
+#include "base/Trapped.h"
+#include "render/Camera.h"
+#include "render/PicArray.h"
+
+#include <cstdint>
+#include <memory>
+#include <vector>
+
+namespace Mod3D
+{
+inline constexpr float FarDepth = 3.4028230607370965e38f; // an empty depth cell
+
+struct Band
+{
+    std::int32_t First = 0, Last = 0; // columns, both included
+};
+
+class GroundWalkers; // the threads of the ground pass, see render/GroundWalkers.h
+
+struct Screen
+{
+    Screen();
+    ~Screen();
+    Screen(const Screen&) = delete;
+    Screen& operator=(const Screen&) = delete;
+
+    std::int32_t ScreenW = 0, ScreenH = 0; // pixels
+    std::int32_t ScreenMaxX = 0, ScreenMaxY = 0;
+    std::int32_t RowBytes = 0, RowBytesLast = 0; // 3 * ScreenW, and 3 less
+    float CenterX = 0, CenterY = 0;
+    float NearZ = 0.01f, FarZ = 400.0f;
+    std::int16_t TxtFilter = 2;    // 0 "nessuno", 1 "lineare", 2 "anisotropico"; any other draws as 0
+    std::int16_t ThreadCount = 1;  // bands of the ground pass
+    std::int16_t SingleThread = 0; // development switch
+    std::int32_t SkyOffset = 0;    // 0 to 819
+    ModBitmap::PicHeader Header;   // of the frame
+    ModBitmap::PicArray2D Frame;
+    std::vector<float> Depth;                               // ScreenH rows of ScreenW
+    std::vector<float> RowAngle, RowSlant, RowDist, RowAux; // one a screen row
+    std::vector<Band> Bands;
+    std::unique_ptr<GroundWalkers> Walkers; // made with the resolution
+};
+
+// Takes a resolution: derived fields, MinZoom and Zoom (2 x MinZoom), frame, depth buffer, row tables, bands, walkers.
+void ApplyResolution(base::MessageSink& messages, Screen& screen, Camera& camera, std::int32_t width,
+                     std::int32_t height);
+// "nessuno", "lineare", "anisotropico"; empty for any other filter.
+const char* FilterName(std::int16_t filter);
+}
+
+template<> struct base::FieldsOf<Mod3D::Screen>
+{
+    using S = Mod3D::Screen;
+    static constexpr auto Table = std::make_tuple(
+        Fixed{"ScreenW", &S::ScreenW}, Fixed{"ScreenH", &S::ScreenH}, Fixed{"CenterX", &S::CenterX},
+        Fixed{"CenterY", &S::CenterY}, Field{"NearZ", &S::NearZ}, Field{"FarZ", &S::FarZ},
+        Field{"TxtFilter", &S::TxtFilter}, Fixed{"ThreadCount", &S::ThreadCount}, Field{"SkyOffset", &S::SkyOffset});
+};

@@ -1,0 +1,66 @@
+#include "base/Files.h"
+#include "base/RuntimeError.h"
+
+#include <gtest/gtest.h>
+
+#include <filesystem>
+#include <fstream>
+
+namespace
+{
+struct FilesTest : testing::Test
+{
+    std::filesystem::path Folder;
+    void SetUp() override
+    {
+        Folder = std::filesystem::path(testing::TempDir()) /
+                 (std::string("velkar-") + testing::UnitTest::GetInstance()->current_test_info()->name());
+        std::filesystem::create_directories(Folder / "data" / "Models");
+        std::ofstream(Folder / "data" / "Models" / "Cup.3dm") << "text";
+    }
+    void TearDown() override { std::filesystem::remove_all(Folder); }
+
+    static int ErrorOf(const base::Files& files, const char* path)
+    {
+        try
+        {
+            files.Read(path);
+        }
+        catch (const base::RuntimeError& error)
+        {
+            return error.Number;
+        }
+        return 0;
+    }
+};
+}
+
+TEST_F(FilesTest, BothSeparatorsAndAnyCase)
+{
+    const base::Files files(Folder);
+    EXPECT_EQ(files.Read("data\\Models\\Cup.3dm"), "text");
+    EXPECT_EQ(files.Read("data/models\\CUP.3DM"), "text");
+    EXPECT_TRUE(files.Exists("DATA\\models\\cup.3dm"));
+}
+
+TEST_F(FilesTest, TheExactNameComesFirst)
+{
+    std::ofstream(Folder / "data" / "Models" / "cup.3dm") << "other";
+    EXPECT_EQ(base::Files(Folder).Read("data\\Models\\cup.3dm"), "other");
+    EXPECT_EQ(base::Files(Folder).Read("data\\Models\\Cup.3dm"), "text");
+}
+
+TEST_F(FilesTest, ErrorsByNumber)
+{
+    const base::Files files(Folder);
+    EXPECT_EQ(ErrorOf(files, "data\\Models\\none.3dm"), 53);
+    EXPECT_EQ(ErrorOf(files, "data\\nowhere\\none.3dm"), 76);
+    EXPECT_EQ(ErrorOf(files, "data\\Models"), 75);
+    EXPECT_EQ(ErrorOf(files, ""), 75);
+}
+
+TEST_F(FilesTest, FolderKeepsItsLastSeparator)
+{
+    EXPECT_EQ(base::FolderOf("data\\obj\\car.3dm"), "data\\obj\\");
+    EXPECT_EQ(base::FolderOf("car.3dm"), "car.3dm");
+}
