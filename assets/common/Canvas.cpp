@@ -1,0 +1,146 @@
+#include "common/Canvas.h"
+
+#include <algorithm>
+
+namespace Assets
+{
+Canvas::Canvas(int width, int height, Rgb fill) : Canvas(width, height)
+{
+    const Pixel pixel{static_cast<float>(fill.R), static_cast<float>(fill.G), static_cast<float>(fill.B), 1};
+    std::fill(Pixels.begin(), Pixels.end(), pixel);
+}
+
+Rgb Canvas::Colour(int x, int y) const
+{
+    const Pixel& p = At(x, y);
+    return {p.R, p.G, p.B};
+}
+
+void Canvas::Set(int x, int y, Rgb colour)
+{
+    At(x, y) = {static_cast<float>(colour.R), static_cast<float>(colour.G), static_cast<float>(colour.B), 1};
+}
+
+void Canvas::Blend(int x, int y, Rgb colour, double opacity)
+{
+    if (!Inside(x, y) || opacity <= 0)
+        return;
+    Pixel& p = At(x, y);
+    const double over = std::min(opacity, 1.0);
+    const double alpha = over + p.A * (1 - over);
+    const double share = over / alpha;
+    p.R = static_cast<float>(Lerp(p.R, colour.R, share));
+    p.G = static_cast<float>(Lerp(p.G, colour.G, share));
+    p.B = static_cast<float>(Lerp(p.B, colour.B, share));
+    p.A = static_cast<float>(alpha);
+}
+
+void Canvas::Shade(int x, int y, Rgb factor, double amount)
+{
+    if (!Inside(x, y))
+        return;
+    Pixel& p = At(x, y);
+    p.R = static_cast<float>(p.R * Lerp(1, factor.R, amount));
+    p.G = static_cast<float>(p.G * Lerp(1, factor.G, amount));
+    p.B = static_cast<float>(p.B * Lerp(1, factor.B, amount));
+}
+
+// One box pass along a line of `count` values that lie `step` apart.
+static void BoxPass(float* values, int count, std::ptrdiff_t step, int reach, bool wrap, std::vector<float>& line)
+{
+    line.resize(static_cast<std::size_t>(count));
+    for (int i = 0; i < count; ++i)
+        line[static_cast<std::size_t>(i)] = values[i * step];
+    const auto value = [&](int i) {
+        return static_cast<double>(line[static_cast<std::size_t>(wrap ? Wrap(i, count) : std::clamp(i, 0, count - 1))]);
+    };
+    double sum = 0;
+    for (int i = -reach; i <= reach; ++i)
+        sum += value(i);
+    for (int i = 0; i < count; ++i)
+    {
+        values[i * step] = static_cast<float>(sum / (2 * reach + 1));
+        sum += value(i + reach + 1) - value(i - reach);
+    }
+}
+
+// Blurs a picture of interleaved channels in place.
+static void BlurPlane(float* values, int width, int height, int channels, double radius, bool wrapX, bool wrapY)
+{
+    if (radius <= 0)
+        return;
+    const int reach = std::max(1, RoundToInt(radius));
+    std::vector<float> line;
+    for (int pass = 0; pass < 3; ++pass)
+        for (int channel = 0; channel < channels; ++channel)
+        {
+            const std::ptrdiff_t row = static_cast<std::ptrdiff_t>(width) * channels;
+            for (int y = 0; y < height; ++y)
+                BoxPass(values + y * row + channel, width, channels, reach, wrapX, line);
+            for (int x = 0; x < width; ++x)
+                BoxPass(values + static_cast<std::ptrdiff_t>(x) * channels + channel, height, row, reach, wrapY, line);
+        }
+}
+
+void Blur(Mask& mask, double radius, bool wrap)
+{
+    BlurPlane(mask.Values.data(), mask.Width, mask.Height, 1, radius, wrap, wrap);
+}
+
+void Blur(Canvas& canvas, double radius, bool wrapX, bool wrapY)
+{
+    static_assert(sizeof(Pixel) == 4 * sizeof(float));
+    // Colours are weighed by their coverage, so that unpainted pixels do not darken the rim.
+    for (Pixel& p : canvas.Pixels)
+        p = {p.R * p.A, p.G * p.A, p.B * p.A, p.A};
+    if (!canvas.Pixels.empty())
+        BlurPlane(&canvas.Pixels[0].R, canvas.Width, canvas.Height, 4, radius, wrapX, wrapY);
+    for (Pixel& p : canvas.Pixels)
+        if (p.A > 0)
+            p = {p.R / p.A, p.G / p.A, p.B / p.A, p.A};
+}
+
+Canvas Resized(const Canvas& canvas, int width, int height)
+{
+    Canvas result(width, height);
+    const double stepX = static_cast<double>(canvas.Width) / width, stepY = static_cast<double>(canvas.Height) / height;
+    for (int y = 0; y < height; ++y)
+        for (int x = 0; x < width; ++x)
+        {
+            const double left = x * stepX, right = left + stepX, low = y * stepY, high = low + stepY;
+            double r = 0, g = 0, b = 0, a = 0, total = 0;
+            for (int sy = FloorToInt(low); sy < std::min(canvas.Height, FloorToInt(high - 1e-9) + 1); ++sy)
+                for (int sx = FloorToInt(left); sx < std::min(canvas.Width, FloorToInt(right - 1e-9) + 1); ++sx)
+                {
+                    const double weight = (std::min(right, sx + 1.0) - std::max(left, sx * 1.0)) *
+                                          (std::min(high, sy + 1.0) - std::max(low, sy * 1.0));
+                    const Pixel& p = canvas.At(sx, sy);
+                    r += weight * p.A * p.R;
+                    g += weight * p.A * p.G;
+                    b += weight * p.A * p.B;
+                    a += weight * p.A;
+                    total += weight;
+                }
+            if (a > 0)
+                result.At(x, y) = {static_cast<float>(r / a), static_cast<float>(g / a), static_cast<float>(b / a),
+                                   static_cast<float>(a / total)};
+        }
+    return result;
+}
+
+void Paste(Canvas& canvas, const Canvas& picture, int x, int y, double opacity)
+{
+    for (int py = 0; py < picture.Height; ++py)
+        for (int px = 0; px < picture.Width; ++px)
+            canvas.Blend(x + px, y + py, picture.Colour(px, py), picture.At(px, py).A * opacity);
+}
+
+Canvas FlippedX(const Canvas& canvas)
+{
+    Canvas result(canvas.Width, canvas.Height);
+    for (int y = 0; y < canvas.Height; ++y)
+        for (int x = 0; x < canvas.Width; ++x)
+            result.At(x, y) = canvas.At(canvas.Width - 1 - x, y);
+    return result;
+}
+}

@@ -1,0 +1,9 @@
+// track/Sky.h: the panorama behind the world.
+#pragma once
+#include <string>
+
+namespace Assets
+{
+// 820 pixels wide, one full turn; rows span the whole screen, the horizon at 59 per cent.
+void WriteSky(const std::string& path);
+}
