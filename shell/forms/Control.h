@@ -1,0 +1,70 @@
+// shell/forms/Control.h: the controls a form is made of, as records. A control is shown when it and every frame around
+// it is visible. Rectangles are pixels of the window's client area relative to the parent, y downward.
+#pragma once
+#include "base/Fields.h"
+#include "base/Numbers.h"
+
+#include <cstdint>
+#include <string>
+#include <string_view>
+#include <vector>
+
+namespace forms
+{
+enum class Kind
+{
+    Label, // text; clickable where the form handles its click
+    Button,
+    Frame, // holds other controls
+    TextBox,
+    ComboBox,
+    CheckBox,
+    Picture // shows a picture, or is painted by its owner
+};
+
+struct Rect
+{
+    std::int32_t X = 0, Y = 0, W = 0, H = 0;
+};
+
+struct Control
+{
+    Kind Kind = Kind::Label;
+    std::string Name;
+    std::int16_t Index = -1;  // in a control array; -1 alone
+    std::int16_t Parent = -1; // index of the frame around it; -1 the form itself
+    base::Flag Visible = base::True, Enabled = base::True;
+    std::string Caption; // labels, buttons, frames, check boxes
+    std::string Text;    // text and combo boxes
+    std::string Tag;
+    std::int16_t Value = 0; // check boxes: 1 ticked
+    Rect Place;
+};
+
+// Which of Caption, Text, Value a control of that kind has.
+bool HasCaption(Kind kind);
+bool HasText(Kind kind);
+bool HasValue(Kind kind);
+
+struct Form
+{
+    std::vector<Control> Controls; // painted in this order
+    std::int16_t Focus = -1;       // the control that gets the keys; -1 the form
+
+    Control* Find(std::string_view name, std::int16_t index = -1);
+    Control& Get(std::string_view name, std::int16_t index = -1); // RuntimeError 9 when there is none
+    bool IsShown(const Control& control) const;
+    // Absolute place in the client area.
+    Rect PlaceOf(const Control& control) const;
+    // The topmost shown control at a point, or nullptr.
+    Control* At(std::int32_t x, std::int32_t y);
+};
+}
+
+template<> struct base::FieldsOf<forms::Control>
+{
+    using C = forms::Control;
+    static constexpr auto Table =
+        std::make_tuple(Field{"Visible", &C::Visible}, Field{"Enabled", &C::Enabled}, Field{"Caption", &C::Caption},
+                        Field{"Text", &C::Text}, Field{"Value", &C::Value}, Field{"Tag", &C::Tag});
+};
