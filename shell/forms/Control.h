@@ -29,7 +29,7 @@ struct Rect
 
 struct Control
 {
-    Kind Kind = Kind::Label;
+    Kind Type = Kind::Label;
     std::string Name;
     std::int16_t Index = -1;  // in a control array; -1 alone
     std::int16_t Parent = -1; // index of the frame around it; -1 the form itself
