@@ -1,0 +1,61 @@
+// shell/forms/Typeface.h: the typeface of the menus and panels, drawn from strokes at any size.
+// Pixels: x to the right, y downward from the top row of the surface, whose bytes are bottom-up blue-green-red rows.
+// Text is UTF-8; what has no glyph (ill-formed bytes too) shows as a box. The same call gives the same bytes
+// everywhere.
+#pragma once
+#include <cstdint>
+#include <span>
+#include <string_view>
+#include <vector>
+
+namespace Typeface
+{
+struct Style
+{
+    double Size = 14;  // pixels from one line's accents to its descenders, about; 1 to 1000
+    double Weight = 1; // stroke width: 1 regular, 1.5 bold
+    double Slant = 0;  // pixels to the right for each pixel up; other than 0 gives up the fit to whole pixels
+};
+
+struct Colour
+{
+    std::uint8_t R = 255, G = 255, B = 255;
+};
+
+// Borrowed pixels. Draws nothing when `Bits` is shorter than Height * RowBytes.
+struct Surface
+{
+    std::span<std::uint8_t> Bits;
+    int Width = 0, Height = 0, RowBytes = 0;
+};
+
+// Pixels that may change: Left <= x < Right, Top <= y < Bottom.
+struct Clip
+{
+    int Left = 0, Top = 0, Right = 1 << 20, Bottom = 1 << 20;
+};
+
+// From the baseline up to the top of an accented capital, and the distance from line to line.
+double Ascent(double size);
+double LineHeight(double size);
+
+// Pixels that the text advances. Up to size 30 every letter has a whole number of them; digits are always alike.
+double Width(std::string_view utf8, const Style& style);
+inline double Width(std::string_view utf8, double size)
+{
+    return Width(utf8, Style{size, 1, 0});
+}
+
+// Draws one line, its box (LineHeight high) beginning at (x, y). Returns the x behind it.
+double Draw(const Surface& surface, double x, double y, const Style& style, std::string_view utf8, Colour colour,
+            const Clip& clip = {});
+
+// One straight piece of a stroke, `Radius` wide to each side, with round ends. Pixels, y upward from the baseline.
+struct Segment
+{
+    double X1 = 0, Y1 = 0, X2 = 0, Y2 = 0, Radius = 0;
+};
+
+// The strokes of a line of text whose pen starts at (0, 0): for pictures that draw letters their own way.
+std::vector<Segment> Outline(std::string_view utf8, const Style& style);
+}
