@@ -1,170 +1,21 @@
 #include "Typeface.h"
 #include "base/Numbers.h"
-#include "TypefaceGlyphs.h"
+#include "shell/forms/TypefaceShape.h"
 #include <algorithm>
-#include <array>
 #include <cmath>
-#include <cstddef>
 
 namespace Typeface
 {
 namespace
 {
 constexpr double UnitsPerSize = 0.0092; // pixels of one glyph unit at size 1
-constexpr double StrokeUnits = 9;       // regular stroke width
 constexpr double FitLimit = 30;         // up to this size strokes are fitted to whole pixels
 constexpr double ThinnestFitted = 1.1;  // pixels: thinner strokes go grey
 constexpr double FittedAir = 0.2;       // pixels added on both sides of a fitted letter before rounding
-constexpr double Bend = 0.62;           // handle length of the quarter bends: a little squarer than a circle (0.55)
-constexpr double DotFactor = 1.18;      // dots against strokes
-constexpr int MaxDepth = 4;             // glyphs within glyphs
 
 double Whole(double value)
 {
     return std::floor(value + 0.5);
-}
-
-struct Point
-{
-    double X = 0, Y = 0;
-};
-
-enum class Kind
-{
-    Line,
-    Curve,
-    Dot
-};
-
-// One piece of a glyph in glyph units. A line uses A and D, a dot A.
-struct Piece
-{
-    Kind Shape = Kind::Line;
-    Point A, B, C, D;
-};
-
-template<class T, std::size_t Limit> class FixedList
-{
-public:
-    void Add(const T& value)
-    {
-        if (count < Limit)
-            items[count++] = value;
-    }
-    std::size_t Count() const { return count; }
-    std::span<T> Items() { return std::span<T>(items).first(count); }
-    std::span<const T> Items() const { return std::span<const T>(items).first(count); }
-
-private:
-    std::array<T, Limit> items{};
-    std::size_t count = 0;
-};
-
-using Pieces = FixedList<Piece, 96>;
-using Segments = FixedList<Segment, 1024>;
-
-// Reads the blank-parted words of a glyph's path.
-class PathReader
-{
-public:
-    explicit PathReader(const char* path) : at(path) {}
-
-    // The next command letter, or 0 at the end.
-    char Command()
-    {
-        SkipBlanks();
-        return *at == 0 ? '\0' : *at++;
-    }
-
-    double Number()
-    {
-        SkipBlanks();
-        const bool negative = *at == '-';
-        if (negative)
-            ++at;
-        double value = 0;
-        for (; *at >= '0' && *at <= '9'; ++at)
-            value = value * 10 + (*at - '0');
-        if (*at == '.')
-        {
-            double place = 1;
-            for (++at; *at >= '0' && *at <= '9'; ++at)
-                value += (*at - '0') / (place *= 10);
-        }
-        return negative ? -value : value;
-    }
-
-private:
-    const char* at;
-
-    void SkipBlanks()
-    {
-        while (*at == ' ')
-            ++at;
-    }
-};
-
-struct Placing
-{
-    double Factor = 1, DX = 0, DY = 0;
-
-    Point operator()(Point p) const { return {p.X * Factor + DX, p.Y * Factor + DY}; }
-};
-
-void ReadPieces(const Glyph& glyph, const Placing& place, int depth, Pieces& pieces)
-{
-    PathReader in(glyph.Path);
-    Point pen;
-    const auto point = [&]
-    {
-        const double x = in.Number();
-        return Point{x, in.Number()};
-    };
-    for (char command = in.Command(); command != 0; command = in.Command())
-    {
-        if (command == 'G')
-        {
-            const Glyph& inner = FindGlyph(static_cast<char32_t>(base::RoundEven(in.Number())));
-            const double factor = in.Number();
-            const Point move = place(point());
-            if (depth < MaxDepth)
-                ReadPieces(inner, {place.Factor * factor, move.X, move.Y}, depth + 1, pieces);
-            continue;
-        }
-        Piece piece;
-        piece.A = pen;
-        if (command == 'C')
-        {
-            piece.Shape = Kind::Curve;
-            piece.B = point();
-            piece.C = point();
-            piece.D = point();
-        }
-        else
-            piece.D = point();
-        if (command == 'V' || command == 'H')
-        {
-            const Point to = piece.D;
-            const double x = (to.X - pen.X) * Bend;
-            const double y = (to.Y - pen.Y) * Bend;
-            piece.Shape = Kind::Curve;
-            piece.B = command == 'V' ? Point{pen.X, pen.Y + y} : Point{pen.X + x, pen.Y};
-            piece.C = command == 'V' ? Point{to.X - x, to.Y} : Point{to.X, to.Y - y};
-        }
-        pen = piece.D;
-        if (command == 'M')
-            continue;
-        if (command == 'D')
-        {
-            piece.Shape = Kind::Dot;
-            piece.A = piece.D;
-        }
-        piece.A = place(piece.A);
-        piece.B = place(piece.B);
-        piece.C = place(piece.C);
-        piece.D = place(piece.D);
-        pieces.Add(piece);
-    }
 }
 
 struct Metrics
@@ -187,106 +38,37 @@ struct Metrics
     }
 };
 
-// From glyph units to pixels along one axis: straight between anchors, plain scale outside them.
-class AxisMap
+// The first stem's edge and every gap between stems are whole pixels, so that even rhythms stay even.
+void FitStems(const Metrics& metrics, AxisMap& across)
 {
-public:
-    explicit AxisMap(const Metrics& metrics) : factor(metrics.Scale), slot(metrics.Slot), bearing(metrics.Bearing) {}
-
-    void Anchor(double unit) { units.Add(unit); }
-
-    // Horizontal axis: the first stem's edge and every gap between stems are whole pixels, so that even rhythms stay
-    // even.
-    void FitStems()
-    {
-        Sort();
-        double last = 0;
-        double lastPixel = 0;
-        for (const double unit : units.Items())
+    bool first = true;
+    double last = 0, pixel = 0;
+    across.Fit(
+        [&](double unit)
         {
-            if (pixels.Count() == 0)
-                lastPixel = slot / 2 + Whole(unit * factor - bearing + FittedAir);
+            if (first)
+                pixel = metrics.Slot / 2 + Whole(unit * metrics.Scale - metrics.Bearing + FittedAir);
             else if (unit - last >= 3)
-                lastPixel += std::max(Whole((unit - last) * factor), unit - last > 12 ? slot + 1 : 1);
-            pixels.Add(lastPixel);
+                pixel += std::max(Whole((unit - last) * metrics.Scale), unit - last > 12 ? metrics.Slot + 1 : 1);
+            first = false;
             last = unit;
-        }
-    }
-
-    // Vertical axis: every level lies on the same pixel in all glyphs; round tops stand as high as flat ones.
-    void FitLevels()
-    {
-        Sort();
-        for (const double unit : units.Items())
-            pixels.Add(slot / 2 + Whole(Level(unit) * factor));
-    }
-
-    bool Empty() const { return units.Count() == 0; }
-    double LastUnit() const { return units.Items().back(); }
-    double LastPixel() const { return pixels.Items().back(); }
-
-    double operator()(double unit) const
-    {
-        const auto from = units.Items();
-        const auto to = pixels.Items();
-        if (to.empty())
-            return unit * factor;
-        if (unit <= from.front())
-            return to.front() + (unit - from.front()) * factor;
-        for (std::size_t i = 1; i < to.size(); ++i)
-            if (unit <= from[i] && from[i] > from[i - 1])
-                return to[i - 1] + (to[i] - to[i - 1]) * (unit - from[i - 1]) / (from[i] - from[i - 1]);
-        return to.back() + (unit - from.back()) * factor;
-    }
-
-private:
-    double factor, slot, bearing;
-    FixedList<double, 96> units;
-    FixedList<double, 96> pixels;
-
-    static double Level(double unit)
-    {
-        for (const double zone : {0.0, 50.0, 70.0})
-            if (std::abs(unit - zone) <= 1.01)
-                return zone;
-        return unit;
-    }
-
-    void Sort() { std::sort(units.Items().begin(), units.Items().end()); }
-};
-
-bool Same(double a, double b)
-{
-    return std::abs(a - b) < 1e-6;
+            return pixel;
+        });
 }
 
-// The stems and levels of a glyph: straight strokes along an axis and the extremes of its bends.
-void CollectAnchors(const Pieces& pieces, AxisMap& across, AxisMap& up)
+// Round tops stand as high as flat ones.
+double Level(double unit)
 {
-    for (const Piece& piece : pieces.Items())
-        switch (piece.Shape)
-        {
-        case Kind::Line:
-            if (Same(piece.A.X, piece.D.X) && std::abs(piece.A.Y - piece.D.Y) > 15)
-                across.Anchor(piece.A.X);
-            if (Same(piece.A.Y, piece.D.Y))
-                up.Anchor(piece.A.Y);
-            break;
-        case Kind::Curve:
-            if (Same(piece.A.X, piece.B.X))
-                across.Anchor(piece.A.X);
-            if (Same(piece.C.X, piece.D.X))
-                across.Anchor(piece.D.X);
-            if (Same(piece.A.Y, piece.B.Y))
-                up.Anchor(piece.A.Y);
-            if (Same(piece.C.Y, piece.D.Y))
-                up.Anchor(piece.D.Y);
-            break;
-        case Kind::Dot:
-            across.Anchor(piece.A.X);
-            up.Anchor(piece.A.Y);
-            break;
-        }
+    for (const double zone : {0.0, 50.0, 70.0})
+        if (std::abs(unit - zone) <= 1.01)
+            return zone;
+    return unit;
+}
+
+// Every level lies on the same pixel in all glyphs.
+void FitLevels(const Metrics& metrics, AxisMap& up)
+{
+    up.Fit([&](double unit) { return metrics.Slot / 2 + Whole(Level(unit) * metrics.Scale); });
 }
 
 struct Shaped
@@ -294,31 +76,6 @@ struct Shaped
     Segments Strokes;
     double Advance = 0;
 };
-
-Point At(const Piece& piece, double t)
-{
-    const double s = 1 - t;
-    const double a = s * s * s, b = 3 * s * s * t, c = 3 * s * t * t, d = t * t * t;
-    return {a * piece.A.X + b * piece.B.X + c * piece.C.X + d * piece.D.X,
-            a * piece.A.Y + b * piece.B.Y + c * piece.C.Y + d * piece.D.Y};
-}
-
-void Flatten(const Piece& piece, double radius, int steps, Segments& out)
-{
-    if (piece.Shape == Kind::Dot)
-        out.Add({piece.A.X, piece.A.Y, piece.A.X, piece.A.Y, radius * DotFactor});
-    if (piece.Shape == Kind::Line)
-        out.Add({piece.A.X, piece.A.Y, piece.D.X, piece.D.Y, radius});
-    if (piece.Shape != Kind::Curve)
-        return;
-    Point from = piece.A;
-    for (int i = 1; i <= steps; ++i)
-    {
-        const Point to = At(piece, static_cast<double>(i) / steps);
-        out.Add({from.X, from.Y, to.X, to.Y, radius});
-        from = to;
-    }
-}
 
 // Digits keep their common advance; other fitted letters are as wide as their fitted stems ask for.
 double FittedAdvance(const Glyph& glyph, const Metrics& metrics, const AxisMap& across)
@@ -333,16 +90,15 @@ double FittedAdvance(const Glyph& glyph, const Metrics& metrics, const AxisMap& 
 
 void Shape(const Glyph& glyph, const Style& style, const Metrics& metrics, Shaped& shaped)
 {
-    Pieces pieces;
-    ReadPieces(glyph, {}, 0, pieces);
-    AxisMap across(metrics);
-    AxisMap up(metrics);
+    const Pieces pieces = ReadPieces(glyph);
+    AxisMap across(metrics.Scale);
+    AxisMap up(metrics.Scale);
     shaped.Advance = glyph.Advance * metrics.Scale + metrics.Stroke - 2 * metrics.Bearing;
     if (metrics.Fitted)
     {
         CollectAnchors(pieces, across, up);
-        across.FitStems();
-        up.FitLevels();
+        FitStems(metrics, across);
+        FitLevels(metrics, up);
         shaped.Advance = FittedAdvance(glyph, metrics, across);
     }
     const double lift = metrics.Fitted ? 0 : metrics.Bearing;
@@ -358,27 +114,6 @@ void Shape(const Glyph& glyph, const Style& style, const Metrics& metrics, Shape
         piece = {piece.Shape, place(piece.A), place(piece.B), place(piece.C), place(piece.D)};
         Flatten(piece, metrics.Stroke / 2, steps, shaped.Strokes);
     }
-}
-
-// Takes the next code point off the text; ill-formed bytes give U+FFFD one by one.
-char32_t NextCode(std::string_view& text)
-{
-    const auto byte = [&](std::size_t i) { return static_cast<unsigned char>(text[i]); };
-    const unsigned char lead = byte(0);
-    const std::size_t length = lead < 0x80         ? 1
-                               : (lead >> 5) == 6  ? 2
-                               : (lead >> 4) == 14 ? 3
-                               : (lead >> 3) == 30 ? 4
-                                                   : 0;
-    char32_t code = length == 1 ? lead : lead & (0xFFU >> (length + 1));
-    bool good = length > 0 && length <= text.size();
-    for (std::size_t i = 1; good && i < length; ++i)
-    {
-        good = (byte(i) & 0xC0) == 0x80;
-        code = code << 6 | (byte(i) & 0x3F);
-    }
-    text.remove_prefix(good ? length : 1);
-    return good ? code : U'\uFFFD';
 }
 
 // Calls use(glyph, pen) for each letter, pen being the x where its box begins; returns the x behind the text.

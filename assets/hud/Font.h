@@ -1,0 +1,9 @@
+// hud/Font.h: the bitmap font of the race display, one bitmap a code of the system code page.
+#pragma once
+#include <string>
+
+namespace Assets
+{
+// Writes FOLDER/33.bmp and so on: black ink on white, all 30 pixels high, baseline ink in rows 7 to 9 from the bottom.
+void WriteFont(const std::string& folder);
+}

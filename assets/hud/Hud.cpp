@@ -1,0 +1,10 @@
+#include "hud/Hud.h"
+#include "hud/Font.h"
+
+namespace Assets
+{
+void BuildHud(const std::string& root)
+{
+    WriteFont(root + "/data/fonts/Font_01");
+}
+}

@@ -1,0 +1,94 @@
+// shell/forms/TypefaceShape.h: from a glyph's path to strokes in pixels, each axis by a map of its own.
+// Lists have fixed capacity; what a glyph of the table needs fits, more would be left out.
+#pragma once
+#include "shell/forms/Typeface.h"
+#include "shell/forms/TypefaceGlyphs.h"
+#include <algorithm>
+#include <array>
+#include <cstddef>
+#include <span>
+
+namespace Typeface
+{
+inline constexpr double StrokeUnits = 9; // regular stroke width in glyph units
+
+struct Point
+{
+    double X = 0, Y = 0;
+};
+
+enum class Kind
+{
+    Line,
+    Curve,
+    Dot
+};
+
+// One piece of a glyph in glyph units. A line uses A and D, a dot A.
+struct Piece
+{
+    Kind Shape = Kind::Line;
+    Point A, B, C, D;
+};
+
+template<class T, std::size_t Limit> class FixedList
+{
+public:
+    void Add(const T& value)
+    {
+        if (count < Limit)
+            items[count++] = value;
+    }
+    std::size_t Count() const { return count; }
+    std::span<T> Items() { return std::span<T>(items).first(count); }
+    std::span<const T> Items() const { return std::span<const T>(items).first(count); }
+
+private:
+    std::array<T, Limit> items{};
+    std::size_t count = 0;
+};
+
+using Pieces = FixedList<Piece, 96>;
+using Segments = FixedList<Segment, 1024>;
+
+// Takes the next code point off UTF-8 text that is not empty; ill-formed bytes give U+FFFD one by one.
+char32_t NextCode(std::string_view& text);
+
+// The glyph's pieces, glyphs within glyphs included.
+Pieces ReadPieces(const Glyph& glyph);
+
+// From glyph units to pixels along one axis: straight between anchors, plain scale outside them.
+class AxisMap
+{
+public:
+    explicit AxisMap(double pixelsPerUnit) : factor(pixelsPerUnit) {}
+
+    void Anchor(double unit) { units.Add(unit); }
+
+    // Asks pixel(unit) for the place of every anchor, in rising order, equal ones again.
+    template<class Pixel> void Fit(Pixel&& pixel)
+    {
+        std::sort(units.Items().begin(), units.Items().end());
+        for (const double unit : units.Items())
+            pixels.Add(pixel(unit));
+    }
+
+    bool Empty() const { return units.Count() == 0; }
+    // After Fit, of a map that is not empty.
+    double LastUnit() const { return units.Items().back(); }
+    double LastPixel() const { return pixels.Items().back(); }
+
+    double operator()(double unit) const;
+
+private:
+    double factor;
+    FixedList<double, 96> units;
+    FixedList<double, 96> pixels;
+};
+
+// The stems and levels of a glyph: straight strokes along an axis and the extremes of its bends.
+void CollectAnchors(const Pieces& pieces, AxisMap& across, AxisMap& up);
+
+// Adds the strokes of a piece given in pixels; `steps` straight pieces a curve.
+void Flatten(const Piece& piece, double radius, int steps, Segments& out);
+}
