@@ -27,5 +27,6 @@ private:
     platform::Platform& ThePlatform;
     std::unique_ptr<Splash> TheSplash;
     std::unique_ptr<Form1> TheForm1;
+    bool IsSecondInstance = false;
 };
 }

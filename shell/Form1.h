@@ -3,7 +3,10 @@
 #pragma once
 #include "platform/Platform.h"
 #include "shell/forms/Control.h"
+#include "shell/forms/Paint.h"
 #include "shell/Game.h"
+#include "shell/MenuPictures.h"
+#include "shell/WinDrag.h"
 #include "world/RaceLogic.h"
 
 #include <memory>
@@ -12,7 +15,7 @@
 
 namespace shell
 {
-class Form1 final : public platform::WindowEvents, private modDinamica::FinishSink
+class Form1 final : public platform::WindowEvents, private modDinamica::FinishSink, private forms::PicturePainter
 {
 public:
     explicit Form1(platform::Platform& platform);
@@ -40,6 +43,7 @@ public:
     // The ticks themselves, whether due or not; the timer counts them.
     void GameT_Tick();
     void RenderT_Tick();
+    void tmrLogo_Timer();
 
     // One frame into the frame array, without showing it.
     void Draw();
@@ -63,12 +67,96 @@ public:
     bool CloseAsked() override;
 
 private:
+    // Start.cpp: start-up and shut-down
+    void SetProcessorDefaults();
+    bool InitVideo(); // false: the module failed
+    void InitAudio();
+    void Inizializza();
+    void EndFailed(const char* module); // the box that ends the program
+    void FreeResources();
+    void CloseAudio(bool& cancel);
+
+    // Settings.cpp: how a validated setting takes effect
+    void ApplyLaps(std::int16_t laps);
+    void ApplyFrameRate(std::int16_t fps);
+    void ApplyResolution(std::int32_t width, std::int32_t height);
+    void ApplyFullScreen(bool on);
+
+    // RaceRun.cpp
+    void AdvanceTimers();
     void Finished(const std::string& message) override;
+
+    // GameTick.cpp, RenderTick.cpp
+    modDinamica::Simulation MakeSimulation();
+    void MeasureFrameRate(std::uint32_t now);
+    void ShowFrame();
+
+    // Menu.cpp, Rebinding.cpp: handlers
+    struct Handler
+    {
+        std::string_view Name;
+        void (Form1::*Run)(std::int16_t index);
+    };
+    static const Handler* FindHandler(std::string_view name);
+    void SetMenuVisible(bool visible);
+    void TwinsFollow();
+    void cSTART_Click(std::int16_t index);
+    void cOPZIONI_Click(std::int16_t index);
+    void cOptOK_Click(std::int16_t index);
+    void cCREDIT_Click(std::int16_t index);
+    void cCreditOK_Click(std::int16_t index);
+    void cEXIT_Click(std::int16_t index);
+    void cCtrOpt_Click(std::int16_t index);
+    void cCtrOptOK_Click(std::int16_t index);
+    void cCtrMov_Click(std::int16_t index);
+    void cCtrCam_Click(std::int16_t index);
+    void cCtrOth_Click(std::int16_t index);
+    void cCtrKey_Click(std::int16_t index);
+    void dCtrKey_Click(std::int16_t index);
+    void ShowSubFrame(std::string_view name);
+    bool RecordsKey() const; // the rebinding box has the focus
+    void txtRecKey_KeyDown(std::int16_t code);
+    void txtRecKey_LostFocus();
+
+    // Keys.cpp: keys during a race, by code
+    void Form_KeyDown(std::int16_t code);
+    void Form_KeyUp(std::int16_t code);
+    bool IsConsoleOpen() const;
+    void ConsoleKeyUp(std::int16_t code);
+    bool SetHeldKey(std::int16_t code, base::Flag held);
+    bool BoundKeyUp(std::int16_t code);
+    void FixedKeyUp(std::int16_t code);
+    void TogglePause();
+    void StepViewPlayer(int step);
+
+    // Events.cpp: mouse, and keys while the menu shows
+    bool MenuKeyDown(std::int16_t code);
+    void StepHot(int step);
+    void SetHot(std::int16_t control);
+    bool IsClickable(const forms::Control& control) const;
+    void ClickOn(const forms::Control& control);
+    void LoseFocus();
+
+    // Picture.cpp: what the window shows
+    void Form_Resize();
+    void LayoutPanels();
+    void Repaint();
+    bool IsAnyControlShown() const;
+    void PaintBackground();
+    void PaintPicture(forms::Canvas& canvas, const forms::Control& control, forms::Rect place) override;
 
     platform::Platform& ThePlatform;
     std::unique_ptr<platform::Window> TheWindow;
     Game TheGame;
     forms::Form TheForm;
+    TickTimer tmrLogo;
+    forms::Canvas TheCanvas;
+    MenuPictures TheMenuPictures;
+    modWinDrag::Drag TheDrag;
+    std::int16_t Hot = -1;        // the control under the mouse or chosen by the arrow keys
+    std::int16_t Pressed = -1;    // the control on which the left button went down
+    std::int16_t ConsumedKey = 0; // taken by a box or the menu: its repeats and its release go nowhere else
+    bool IsVisible = false;
     bool HasEnded = false;
 };
 }

@@ -66,6 +66,12 @@ struct RunState
     bool InBox = false;            // the followed car stands still inside a box
 };
 
+// Pictures of start-up that no scene list holds.
+struct Pictures
+{
+    ModBitmap::Picture Inside; // of the car, behind the driver in the webcam picture
+};
+
 struct Game
 {
     Mod3D::Scene Scene;
@@ -78,6 +84,7 @@ struct Game
     shell::Settings Settings;
     shell::KeyBindings Bindings;
     shell::Hud Hud;
+    shell::Pictures Pictures;
     shell::RunState Run;
     shell::Timers Timers;
 };

@@ -22,10 +22,31 @@ enum class Kind
     Picture // shows a picture, or is painted by its owner
 };
 
+// How a text is painted.
+enum class Look
+{
+    Plain,
+    Heading, // of a frame
+    Entry,   // of the menu
+    Shadow,  // its dark twin underneath
+    Key,     // a key binding that a click changes
+    FixedKey,
+    Note, // small and pale
+    Tab   // a button that chooses between sub-frames
+};
+
+enum class Align
+{
+    Left,
+    Centre,
+    Right
+};
+
 struct Rect
 {
     std::int32_t X = 0, Y = 0, W = 0, H = 0;
 };
+bool Contains(const Rect& rect, std::int32_t x, std::int32_t y);
 
 struct Control
 {
@@ -38,6 +59,9 @@ struct Control
     std::string Text;    // text and combo boxes
     std::string Tag;
     std::int16_t Value = 0; // check boxes: 1 ticked
+    Look Style = Look::Plain;
+    Align TextAlign = Align::Left;
+    std::int32_t TextSize = 14; // pixels
     Rect Place;
 };
 
@@ -51,8 +75,11 @@ struct Form
     std::vector<Control> Controls; // painted in this order
     std::int16_t Focus = -1;       // the control that gets the keys; -1 the form
 
+    std::int16_t Add(Control control);
     Control* Find(std::string_view name, std::int16_t index = -1);
     Control& Get(std::string_view name, std::int16_t index = -1); // RuntimeError 9 when there is none
+    std::int16_t IndexOf(const Control& control) const;
+    const Control* ParentOf(const Control& control) const; // nullptr: it stands on the form itself
     bool IsShown(const Control& control) const;
     // Absolute place in the client area.
     Rect PlaceOf(const Control& control) const;

@@ -1,0 +1,144 @@
+#include "shell/Design.h"
+
+#include <iterator>
+
+namespace shell
+{
+namespace
+{
+using forms::Control;
+using forms::Kind;
+using forms::Look;
+
+constexpr const char* Entries[] = {"cSTART", "cOPZIONI", "cCREDIT", "cEXIT"};
+constexpr const char* EntryCaptions[] = {"Avvia partita", "Opzioni", "Crediti", "Esci"};
+
+constexpr ActionRow Actions[] = {
+    {"panelCtrMov", "Accelera:", "", "cCtrKey", 6, "38", "Freccia su"},
+    {"panelCtrMov", "Freno/Retromarcia:", "", "cCtrKey", 7, "40", "Freccia giù"},
+    {"panelCtrMov", "Gira a sinistra:", "", "cCtrKey", 8, "37", "Freccia sinistra"},
+    {"panelCtrMov", "Gira a destra:", "", "cCtrKey", 9, "39", "Freccia destra"},
+    {"panelCtrMov", "Freno a mano:", "", "cCtrKey", 10, "32", "Spazio"},
+    {"panelCtrCam", "Guarda indietro:", "", "cCtrKey", 2, "66", "B"},
+    {"panelCtrCam", "Giocatore precedente:", "", "cCtrKey", 3, "34", "Pag giù"},
+    {"panelCtrCam", "Giocatore successivo:", "", "cCtrKey", 4, "33", "Pag su"},
+    {"panelCtrCam", "Cambia visuale:", "(solo per la guida)", "cCtrKey", 5, "67", "C"},
+    {"panelCtrCam", "Seleziona visuale:", "", "dCtrKey", 4, "", "1 - 7"},
+    {"panelCtrOth", "Apri menu:", "", "dCtrKey", 0, "", "ESC"},
+    {"panelCtrOth", "Apri console:", "", "dCtrKey", 1, "", "\\"},
+    {"panelCtrOth", "Chiudi console:", "", "dCtrKey", 2, "", "ESC"},
+    {"panelCtrOth", "Pausa:", "", "dCtrKey", 3, "", "P"},
+    {"panelCtrOth", "Pilota automatico:", "(solo a gara completa)", "cCtrKey", 0, "17", "CTRL"},
+    {"panelCtrOth", "Cambia musica:", "(solo a gara completa)", "cCtrKey", 1, "9", "Tab"},
+};
+
+struct Designer
+{
+    forms::Form& Form;
+
+    std::int16_t Add(Kind kind, const char* name, std::int16_t parent, const char* caption, Look look = Look::Plain,
+                     std::int16_t index = -1)
+    {
+        Control control;
+        control.Type = kind;
+        control.Name = name;
+        control.Index = index;
+        control.Parent = parent;
+        control.Caption = caption;
+        control.Style = look;
+        return Form.Add(std::move(control));
+    }
+
+    std::int16_t AddHidden(Kind kind, const char* name, std::int16_t parent)
+    {
+        const std::int16_t made = Add(kind, name, parent, "");
+        At(made).Visible = base::False;
+        return made;
+    }
+
+    Control& At(std::int16_t index) { return Form.Controls[static_cast<std::size_t>(index)]; }
+
+    void Menu()
+    {
+        Add(Kind::Picture, "imgLogoBG", -1, "");
+        Add(Kind::Picture, "imgLogo", -1, "");
+        for (std::size_t i = 0; i < std::size(Entries); ++i)
+        {
+            const std::string twin = std::string(Entries[i]) + "2";
+            Add(Kind::Label, twin.c_str(), -1, EntryCaptions[i], Look::Shadow);
+        }
+        for (std::size_t i = 0; i < std::size(Entries); ++i)
+            Add(Kind::Label, Entries[i], -1, EntryCaptions[i], Look::Entry);
+    }
+
+    void Options()
+    {
+        const std::int16_t panel = AddHidden(Kind::Frame, "panelOption", -1);
+        Add(Kind::Label, "lblOption", panel, "Opzioni", Look::Heading);
+        Add(Kind::Button, "cCtrOpt", panel, "Controlli");
+        Add(Kind::Button, "cOptOK", panel, "OK");
+        // No capture device: the box stays off, whatever the panel around it shows.
+        const std::int16_t video = AddHidden(Kind::Frame, "panelVidOpt", -1);
+        At(Add(Kind::CheckBox, "chkWebcam", video, "Abilita webcam")).Value = 1;
+    }
+
+    void Credits()
+    {
+        const std::int16_t panel = AddHidden(Kind::Frame, "panelCredits", -1);
+        Add(Kind::Label, "lblCredits", panel, "Crediti", Look::Heading);
+        Add(Kind::Label, "lblProduct", panel, "Velkar", Look::Entry);
+        Add(Kind::Label, "lblMadeBy", panel, "Realizzato da", Look::Note);
+        Add(Kind::Label, "lblAuthors", panel, "Velkar Team");
+        Add(Kind::Button, "cCreditOK", panel, "OK");
+    }
+
+    void Controls()
+    {
+        const std::int16_t panel = AddHidden(Kind::Frame, "panelCtrOpt", -1);
+        Add(Kind::Label, "lblCtrOpt", panel, "Controlli", Look::Heading);
+        Add(Kind::Button, "cCtrMov", panel, "Movimento", Look::Tab);
+        Add(Kind::Button, "cCtrCam", panel, "Visuale", Look::Tab);
+        Add(Kind::Button, "cCtrOth", panel, "Altro", Look::Tab);
+        for (const char* name : {"panelCtrMov", "panelCtrCam", "panelCtrOth"})
+            AddHidden(Kind::Frame, name, panel);
+        Form.Get("panelCtrMov").Visible = base::True;
+        Form.Get("cCtrMov").Value = 1;
+        for (std::size_t i = 0; i < std::size(Actions); ++i)
+            Row(Actions[i], static_cast<std::int16_t>(i));
+        Add(Kind::TextBox, "txtRecKey", panel, ""); // takes the next key; has no place of its own
+        Add(Kind::Button, "cCtrOptOK", panel, "OK");
+    }
+
+    void Row(const ActionRow& row, std::int16_t number)
+    {
+        const std::int16_t panel = Form.IndexOf(Form.Get(row.Panel));
+        Add(Kind::Label, "lblAction", panel, row.Caption, Look::Plain, number);
+        if (*row.Remark != '\0')
+            Add(Kind::Label, "lblRemark", panel, row.Remark, Look::Note, number);
+        const bool isFixed = std::string_view(row.Key) == "dCtrKey";
+        const std::int16_t key =
+            Add(Kind::Label, row.Key, panel, row.KeyCaption, isFixed ? Look::FixedKey : Look::Key, row.KeyIndex);
+        At(key).Tag = row.Tag;
+    }
+};
+}
+
+std::span<const ActionRow> ActionRows()
+{
+    return Actions;
+}
+
+std::span<const char* const> MenuEntries()
+{
+    return Entries;
+}
+
+void MakeControls(forms::Form& form)
+{
+    Designer designer{form};
+    designer.Menu();
+    designer.Options();
+    designer.Credits();
+    designer.Controls();
+}
+}

@@ -1,0 +1,145 @@
+#include "shell/Hud.h"
+
+#include "base/Numbers.h"
+#include "base/RuntimeError.h"
+#include "render/Primitives.h"
+#include "world/Dynamics.h"
+
+#include <algorithm>
+#include <array>
+#include <charconv>
+#include <cmath>
+
+namespace shell
+{
+namespace
+{
+// A text put together in place.
+struct Line
+{
+    std::array<char, 96> Bytes{};
+    std::size_t Length = 0;
+
+    Line& operator<<(std::string_view text)
+    {
+        const std::size_t fits = std::min(text.size(), Bytes.size() - Length);
+        text.copy(Bytes.data() + Length, fits);
+        Length += fits;
+        return *this;
+    }
+    Line& operator<<(std::int32_t number)
+    {
+        const auto end = std::to_chars(Bytes.data() + Length, Bytes.data() + Bytes.size(), number).ptr;
+        Length = static_cast<std::size_t>(end - Bytes.data());
+        return *this;
+    }
+    operator std::string_view() const { return {Bytes.data(), Length}; }
+};
+
+void SetColour(Mod3D::Label2D& label, Mod3D::Rgb colour)
+{
+    label.ColR = colour.R;
+    label.ColG = colour.G;
+    label.ColB = colour.B;
+}
+}
+
+const world::Player& ViewedPlayer(const Game& game)
+{
+    const std::int16_t index = game.Camera.ViewPlayer;
+    if (index < 0 || static_cast<std::size_t>(index) >= game.Race.Players.size())
+        throw base::RuntimeError(base::ErrorIndex);
+    return game.Race.Players[static_cast<std::size_t>(index)];
+}
+
+void ShowFrameRate(Game& game)
+{
+    const bool fast = game.Run.Fps >= game.Settings.TargetFps - 2;
+    SetColour(game.Scene.Labels.At(game.Hud.FrameRate), fast ? Mod3D::Rgb{0, 200, 0} : Mod3D::Rgb{200, 0, 0});
+    modPrimitive::SetLabelText(game.Scene, game.Hud.FrameRate, Line() << game.Run.Fps << " fps");
+}
+
+void ShowSpeed(Game& game)
+{
+    // The floor comes before the sign is dropped: the slightest reversing shows 1.
+    const std::int32_t shown = base::ToInt32(std::abs(std::floor(ViewedPlayer(game).Speed * 36.0)));
+    modPrimitive::SetLabelText(game.Scene, game.Hud.Speed, Line() << shown);
+}
+
+void ShowGear(Game& game)
+{
+    modPrimitive::SetLabelText(game.Scene, game.Hud.Gear, modDinamica::Gear(ViewedPlayer(game).Speed));
+}
+
+void ShowPlace(Game& game)
+{
+    modPrimitive::SetLabelText(game.Scene, game.Hud.Place,
+                               Line() << ViewedPlayer(game).Place << "/" << game.Race.NumPlayers);
+}
+
+void ShowLap(Game& game)
+{
+    modPrimitive::SetLabelText(game.Scene, game.Hud.LapCounter,
+                               Line() << ViewedPlayer(game).Lap + 1 << "/" << game.Race.Laps);
+}
+
+void PlaceLapsCaption(Game& game)
+{
+    const Mod3D::Label2D& counter = game.Scene.Labels.At(game.Hud.LapCounter);
+    const ModBitmap::Font& font = game.Scene.Font;
+    const std::int32_t tab = ModBitmap::TabPixels(font, counter.Scale, counter.TabWidth);
+    const std::int16_t width = ModBitmap::TextWidth(font, counter.Scale, counter.Text, tab);
+    game.Scene.Labels.At(game.Hud.LapsCaption).X = base::ToInt16(game.Screen.ScreenW - width - 6);
+}
+
+void ShowCountdown(Game& game)
+{
+    constexpr const char* Texts[] = {"3", "2", "1", "Via!"};
+    Mod3D::Label2D& label = game.Scene.Labels.At(game.Hud.Countdown);
+    const std::int32_t time = game.Race.GameTime;
+    label.Visible = time < 4000 ? 1 : 0;
+    if (label.Visible != 0)
+        modPrimitive::SetLabelText(game.Scene, game.Hud.Countdown, Texts[std::max(0, time) / 1000]);
+}
+
+void ShowDamage(Game& game)
+{
+    Mod3D::Rect2D& bar = game.Scene.Rects.At(game.Hud.DamageBar);
+    if (bar.Visible == 0)
+        return;
+    const float damage = ViewedPlayer(game).Damage;
+    const Mod3D::Rgb colour = damage > 3   ? Mod3D::Rgb{180, 0, 0}
+                              : damage > 1 ? Mod3D::Rgb{230, 230, 0}
+                                           : Mod3D::Rgb{0, 180, 0};
+    bar.ColR = colour.R;
+    bar.ColG = colour.G;
+    bar.ColB = colour.B;
+    const double right = damage <= 5 ? (game.Screen.ScreenW - 16) * (5.0 - damage) / 5 + 15 : 15;
+    modPrimitive::SetRectW(game.Scene, game.Hud.DamageBar, base::ToInt16(right));
+}
+
+void ShowDebug(Game& game)
+{
+    if (game.Scene.Labels.At(game.Hud.Debug).Visible == 0)
+        return;
+    modPrimitive::SetLabelText(game.Scene, game.Hud.Debug,
+                               Line() << "Particles:\t" << game.Scene.ParticleCount << "\r\nRender int:\t"
+                                      << game.Timers.RenderT.interval);
+}
+
+void FadeNotice(Game& game)
+{
+    Mod3D::Label2D& label = game.Scene.Labels.At(game.Hud.Notice);
+    if (label.Visible == 0)
+        return;
+    const double time = static_cast<double>(game.Race.GameTime) - game.Run.NoticeTime;
+    if (time < 1500)
+        label.Fade = static_cast<float>(std::max(0.0, time / 1500));
+    else if (time < 3500)
+        label.Fade = 1;
+    else if (time < 5000)
+        label.Fade = static_cast<float>((5000 - time) / 1500);
+    else
+        label.Visible = 0;
+}
+}

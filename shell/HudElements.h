@@ -1,0 +1,14 @@
+// shell/HudElements.h: the elements of the head-up display: made once, moved with every new resolution.
+#pragma once
+#include "render/Scene.h"
+#include "shell/Game.h"
+
+namespace shell
+{
+// Makes the sixteen elements in their order. All texts have room for what a tick writes into them.
+void MakeHud(Mod3D::Scene& scene, base::MessageSink& messages, Hud& hud, std::int32_t width, std::int32_t height);
+// Moves them to the anchors of a frame of that size.
+void PlaceHud(Mod3D::Scene& scene, const Hud& hud, std::int32_t width, std::int32_t height);
+// The spanner of the repair indicator, 32 x 32.
+void PaintSpanner(ModBitmap::Picture& picture);
+}

@@ -1,0 +1,152 @@
+// The menu and its panels. The first entry starts the race and afterwards resumes it.
+#include "shell/Design.h"
+#include "shell/Form1.h"
+
+#include <algorithm>
+#include <iterator>
+
+namespace shell
+{
+const Form1::Handler* Form1::FindHandler(std::string_view name)
+{
+    static constexpr Handler Handlers[] = {
+        {"cSTART", &Form1::cSTART_Click},   {"cOPZIONI", &Form1::cOPZIONI_Click},   {"cOptOK", &Form1::cOptOK_Click},
+        {"cCREDIT", &Form1::cCREDIT_Click}, {"cCreditOK", &Form1::cCreditOK_Click}, {"cEXIT", &Form1::cEXIT_Click},
+        {"cCtrOpt", &Form1::cCtrOpt_Click}, {"cCtrOptOK", &Form1::cCtrOptOK_Click}, {"cCtrMov", &Form1::cCtrMov_Click},
+        {"cCtrCam", &Form1::cCtrCam_Click}, {"cCtrOth", &Form1::cCtrOth_Click},     {"cCtrKey", &Form1::cCtrKey_Click},
+        {"dCtrKey", &Form1::dCtrKey_Click},
+    };
+    const auto* found =
+        std::find_if(std::begin(Handlers), std::end(Handlers), [name](const Handler& h) { return h.Name == name; });
+    return found == std::end(Handlers) ? nullptr : found;
+}
+
+bool Form1::Click(std::string_view name, std::int16_t index)
+{
+    const Handler* handler = FindHandler(name);
+    if (HasEnded || handler == nullptr || TheForm.Find(name, index) == nullptr)
+        return false;
+    if (RecordsKey())
+        txtRecKey_LostFocus();
+    (this->*handler->Run)(index);
+    Repaint();
+    return true;
+}
+
+void Form1::TwinsFollow()
+{
+    for (const char* entry : MenuEntries())
+    {
+        const forms::Control& first = TheForm.Get(entry);
+        forms::Control& twin = TheForm.Get(std::string(entry) + "2");
+        twin.Visible = first.Visible;
+        twin.Caption = first.Caption;
+    }
+}
+
+void Form1::SetMenuVisible(bool visible)
+{
+    for (const char* entry : MenuEntries())
+        TheForm.Get(entry).Visible = base::ToFlag(visible);
+    for (const char* picture : {"imgLogoBG", "imgLogo"})
+        TheForm.Get(picture).Visible = base::ToFlag(visible);
+    TwinsFollow();
+}
+
+void Form1::ShowMenu()
+{
+    SetMenuVisible(true);
+    tmrLogo.Enable(ThePlatform.TickCount());
+    Repaint();
+}
+
+// The title shows for about two seconds, then flickers.
+void Form1::tmrLogo_Timer()
+{
+    forms::Control& logo = TheForm.Get("imgLogo");
+    std::int32_t& c = TheGame.Run.Blink;
+    const auto within = [c](std::int32_t first, std::int32_t last) { return c >= first && c <= last; };
+    const base::Flag before = logo.Visible;
+    if (c == 61)
+        c = 0; // Deliberate: the picture stays as it is, and 0 itself comes only once.
+    else
+        logo.Visible =
+            base::ToFlag(within(0, 20) || within(22, 27) || within(34, 36) || within(38, 40) || within(42, 60));
+    ++c;
+    if (logo.Visible != before)
+        Repaint();
+}
+
+void Form1::cSTART_Click(std::int16_t)
+{
+    base::Trapped(*TheWindow, "cSTART_Click",
+                  [this]
+                  {
+                      TheForm.Get("cSTART").Caption = "Continua";
+                      SetMenuVisible(false);
+                      StartProcess();
+                  });
+}
+
+void Form1::cOPZIONI_Click(std::int16_t)
+{
+    base::Trapped(*TheWindow, "cOPZIONI_Click", [this] { TheForm.Get("panelOption").Visible = base::True; });
+}
+
+void Form1::cOptOK_Click(std::int16_t)
+{
+    base::Trapped(*TheWindow, "cOptOK_Click", [this] { TheForm.Get("panelOption").Visible = base::False; });
+}
+
+void Form1::cCREDIT_Click(std::int16_t)
+{
+    base::Trapped(*TheWindow, "cCREDIT_Click", [this] { TheForm.Get("panelCredits").Visible = base::True; });
+}
+
+void Form1::cCreditOK_Click(std::int16_t)
+{
+    base::Trapped(*TheWindow, "cCreditOK_Click", [this] { TheForm.Get("panelCredits").Visible = base::False; });
+}
+
+void Form1::cEXIT_Click(std::int16_t)
+{
+    base::Trapped(*TheWindow, "cEXIT_Click", [this] { Form_Unload(); });
+}
+
+void Form1::cCtrOpt_Click(std::int16_t)
+{
+    ShowSubFrame("panelCtrMov");
+    TheForm.Get("panelCtrOpt").Visible = base::True;
+}
+
+void Form1::cCtrOptOK_Click(std::int16_t)
+{
+    TheForm.Get("panelCtrOpt").Visible = base::False;
+}
+
+void Form1::cCtrMov_Click(std::int16_t)
+{
+    ShowSubFrame("panelCtrMov");
+}
+
+void Form1::cCtrCam_Click(std::int16_t)
+{
+    ShowSubFrame("panelCtrCam");
+}
+
+void Form1::cCtrOth_Click(std::int16_t)
+{
+    ShowSubFrame("panelCtrOth");
+}
+
+void Form1::ShowSubFrame(std::string_view name)
+{
+    constexpr const char* Pairs[][2] = {
+        {"panelCtrMov", "cCtrMov"}, {"panelCtrCam", "cCtrCam"}, {"panelCtrOth", "cCtrOth"}};
+    for (const auto& [panel, tab] : Pairs)
+    {
+        TheForm.Get(panel).Visible = base::ToFlag(panel == name);
+        TheForm.Get(tab).Value = panel == name ? 1 : 0;
+    }
+}
+}

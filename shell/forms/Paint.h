@@ -1,0 +1,66 @@
+// shell/forms/Paint.h: painting a form onto a canvas of the window's client size: fills, rounded boxes, pictures, text,
+// and the controls made of them. Pixels, y downward from the top row; the canvas keeps bottom-up rows of blue, green,
+// red, padded to 4 bytes, as a window presents them.
+#pragma once
+#include "render/PicArray.h"
+#include "shell/forms/Control.h"
+
+#include <cstdint>
+#include <string_view>
+#include <vector>
+
+namespace forms
+{
+struct Colour
+{
+    std::uint8_t R = 0, G = 0, B = 0;
+};
+
+struct Canvas
+{
+    std::int32_t Width = 0, Height = 0, RowBytes = 0;
+    std::vector<std::uint8_t> Bytes;
+
+    void Resize(std::int32_t width, std::int32_t height); // keeps the memory where the size stays
+    std::uint8_t* Row(std::int32_t y);                    // y downward
+};
+
+// A picture scaled once for many paintings: rows from the top, colour and coverage a pixel.
+struct Image
+{
+    struct Pixel
+    {
+        std::uint8_t B = 0, G = 0, R = 0, A = 0;
+    };
+    std::int32_t Width = 0, Height = 0;
+    std::vector<Pixel> Pixels;
+};
+
+// Area average where it shrinks, linear where it grows. seeThrough: exactly black pixels are not painted.
+Image Scale(const ModBitmap::Picture& picture, std::int32_t width, std::int32_t height, bool seeThrough);
+
+// alpha: 0 nothing, 255 covers. All drawing is clipped to the canvas.
+void Fill(Canvas& canvas, const Rect& rect, Colour colour, int alpha = 255);
+void FillDownward(Canvas& canvas, const Rect& rect, Colour top, int topAlpha, Colour bottom, int bottomAlpha);
+void FillRounded(Canvas& canvas, const Rect& rect, double radius, Colour colour, int alpha = 255);
+void OutlineRounded(Canvas& canvas, const Rect& rect, double radius, double thickness, Colour colour, int alpha = 255);
+void Draw(Canvas& canvas, const Image& image, std::int32_t x, std::int32_t y, int alpha = 255);
+// Stretches bottom-up rows over the canvas, nearest pixel.
+void Stretch(Canvas& canvas, std::int32_t width, std::int32_t height, std::int32_t rowBytes, const std::uint8_t* bits);
+// One line, centred vertically in the rectangle. Text wider than the rectangle is set smaller. weight: 1 regular.
+void DrawText(Canvas& canvas, const Rect& rect, std::string_view text, double size, double weight, Colour colour,
+              Align align);
+// Pixels that the text advances.
+std::int32_t MeasureText(std::string_view text, double size, double weight);
+
+// Whoever owns the pictures of the Picture controls.
+struct PicturePainter
+{
+    virtual ~PicturePainter() = default;
+    virtual void PaintPicture(Canvas& canvas, const Control& control, Rect place) = 0;
+};
+
+// Paints every shown control; only what lies on the topmost frame that covers the whole canvas, where there is one.
+// hot: the control that is highlighted, -1 none.
+void PaintForm(Canvas& canvas, const Form& form, std::int16_t hot, PicturePainter& pictures);
+}
