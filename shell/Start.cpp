@@ -53,7 +53,7 @@ void Form1::Form_Load()
                           TheGame.Random.Seed(ThePlatform.ClockSeed());
                       LayoutPanels();
                       TheMenuPictures.Load(*TheWindow, ThePlatform.DataFiles());
-                      TheGame.Run.LastCommand = "\\";
+                      TheGame.Run.LastCommand.assign(1, '\\');
                       ModBitmap::LoadFont(*TheWindow, ThePlatform.DataFiles(), "data\\fonts\\Font_01",
                                           TheGame.Scene.Font);
                       modPrimitive::InitScene(TheGame.Scene);
