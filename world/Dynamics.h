@@ -38,8 +38,11 @@ void ApplyZones(Simulation& sim, std::int16_t player);
 void UserDrive(Simulation& sim);
 // Half of Speed along the heading, then rolling friction.
 void MoveCar(Simulation& sim, world::Player& player);
-// Collisions of all object pairs for one tick.
+// Collisions of all object pairs for one tick, in the order of their indices; each pair sees what the ones before it
+// moved. Only pairs that may touch are looked at.
 void Collide(Simulation& sim);
+// The same, straight from its definition: every pair. The judge of the fast one.
+void CollidePlain(Simulation& sim);
 // Smoke and fire of damaged cars, then one step of every particle.
 void DamageSmoke(Simulation& sim);
 }

@@ -4,7 +4,9 @@
 #include "base/Fields.h"
 #include "base/Numbers.h"
 #include "base/Random.h"
+#include "render/Camera.h"
 #include "render/PicArray.h"
+#include "world/NearStrips.h"
 
 #include <cstdint>
 #include <vector>
@@ -36,6 +38,23 @@ struct Map
     std::int16_t NumCheckpoints = 0, NumBoxes = 0, NumGrass = 0, NumWater = 0;
 };
 
+// A player in the running order.
+struct Standing
+{
+    std::int16_t Passed = 0, Player = 0;
+    double ToGo = 0; // ground distance to the next checkpoint
+};
+
+// Memory that the procedures of a tick use and none reads again: kept only so that no tick allocates.
+struct TickScratch
+{
+    std::vector<Standing> Standings;
+    std::vector<std::int16_t> CarOf;  // by object: the player that drives it, -1 for none
+    std::vector<std::int16_t> Bodies; // the objects that can touch
+    std::vector<Mod3D::Point3> Centres;
+    modDinamica::NearStrips Strips;
+};
+
 struct Race
 {
     std::int16_t Laps = 5;
@@ -45,6 +64,7 @@ struct Race
     std::int16_t UserPlayer = 0;
     std::vector<Player> Players;
     world::Map Map;
+    TickScratch Scratch;
 };
 
 // The keys held down; -1 while held.

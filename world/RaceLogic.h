@@ -13,11 +13,11 @@ void ComputePlaces(const Mod3D::Scene& scene, world::Race& race);
 struct FinishSink
 {
     virtual ~FinishSink() = default;
-    // message: "Sei arrivato primo" and so on, to be shown; the lap labels vanish; the camera goes to view 5.
+    // message: "Sei arrivato primo" and so on, to be shown; the lap labels vanish.
     virtual void Finished(const std::string& message) = 0;
 };
 
-// Checkpoints, laps, finish and zones for every player in index order.
+// Checkpoints, laps, finish and zones for every player in index order. The finish also switches the camera to view 5.
 void RaceStep(Simulation& sim, FinishSink& finish);
 // Every car with Control non-zero, for one tick.
 void ComputerDrive(Simulation& sim);

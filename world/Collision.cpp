@@ -1,0 +1,276 @@
+// Collisions: who touches whom, the damage, and how the two part.
+#include "base/Math.h"
+#include "world/Cars.h"
+#include "world/Dynamics.h"
+
+#include <algorithm>
+#include <cmath>
+
+namespace modDinamica
+{
+namespace
+{
+constexpr float LeastRatio = 0.2f, MostRatio = 5.0f;
+constexpr int FirstCabinSphere = 6; // a hit from here up may break the glass
+constexpr int GlassMesh = 20;
+constexpr float MostShake = 4.0f;
+
+// One of the two that touch.
+struct Body
+{
+    Mod3D::Obj& Object;
+    world::Player* Player; // null where it is no car
+    std::int32_t Index;    // of the player
+};
+
+// The first pair of spheres that touch.
+struct Contact
+{
+    std::size_t A = 0, B = 0;
+    double Distance = 0.0, Reach = 0.0;
+};
+
+struct Impact
+{
+    double V = 0.0, K = 0.0, Strength = 0.0; // Strength = V x K
+};
+
+std::size_t SphereCount(const Mod3D::Obj& object)
+{
+    return std::min(object.Sfere.size(), static_cast<std::size_t>(std::max<int>(object.NumSfere, 0)));
+}
+
+bool Collides(const Mod3D::Obj& object)
+{
+    return object.Free == 0 && SphereCount(object) > 0;
+}
+
+bool AreNear(const Mod3D::Obj& a, const Mod3D::Obj& b)
+{
+    const double reach = static_cast<double>(a.Radius) + b.Radius;
+    return Mod3D::Dist3D(a.X, a.Y, a.Z, b.X, b.Y, b.Z) < reach && std::isfinite(reach);
+}
+
+Mod3D::Point3 Centre(const Mod3D::Obj& object, const Mod3D::Rotation& rotation, const Mod3D::Sfera& sphere)
+{
+    return Mod3D::RotatePoint(rotation, object.X, object.Y, object.Z, sphere.X, sphere.Y, sphere.Z);
+}
+
+bool FindContact(const Mod3D::Obj& i, const Mod3D::Obj& j, std::vector<Mod3D::Point3>& centres, Contact& contact)
+{
+    const Mod3D::Rotation turnI = Mod3D::MakeRotation(i.AngleA, i.AngleB);
+    const Mod3D::Rotation turnJ = Mod3D::MakeRotation(j.AngleA, j.AngleB);
+    const std::size_t countJ = SphereCount(j);
+    centres.clear();
+    for (std::size_t b = 0; b < countJ; ++b)
+        centres.push_back(Centre(j, turnJ, j.Sfere[b]));
+    for (std::size_t a = 0; a < SphereCount(i); ++a)
+    {
+        const Mod3D::Point3 p = Centre(i, turnI, i.Sfere[a]);
+        for (std::size_t b = 0; b < countJ; ++b)
+        {
+            const Mod3D::Point3& q = centres[b];
+            const double distance = Mod3D::Dist3D(p.X, p.Y, p.Z, q.X, q.Y, q.Z);
+            const double reach = static_cast<double>(i.Sfere[a].R) + j.Sfere[b].R;
+            if (distance < reach && std::isfinite(reach))
+            {
+                contact = {a, b, distance, reach};
+                return true;
+            }
+        }
+    }
+    return false;
+}
+
+// Mass of j to mass of i.
+double MassRatio(const Mod3D::Obj& i, const Mod3D::Obj& j)
+{
+    const double ratio = static_cast<double>(j.Mass) / i.Mass;
+    return std::isnan(ratio) ? 1.0 : std::clamp<double>(ratio, 0.2, 5.0);
+}
+
+Impact ImpactOf(const Body& i, const Body& j, double ratio, double half)
+{
+    Impact impact;
+    if (i.Player != nullptr && j.Player != nullptr)
+    {
+        impact.K = std::fabs(base::Atan(half) / Mod3D::HalfPi);
+        impact.V = std::fabs(static_cast<double>(i.Player->Speed) + j.Player->Speed);
+    }
+    else if (i.Player != nullptr)
+    {
+        impact.K = base::Atan(ratio) / Mod3D::HalfPi;
+        impact.V = std::fabs(i.Player->Speed);
+    }
+    else if (j.Player != nullptr)
+    {
+        impact.K = base::Atan(1.0 / ratio) / Mod3D::HalfPi;
+        impact.V = std::fabs(j.Player->Speed);
+    }
+    impact.Strength = impact.V * impact.K;
+    return impact;
+}
+
+// Every point that the sphere links is pressed in, computed from where it was when the model was loaded.
+void Dent(Mod3D::Obj& object, const Mod3D::Sfera& sphere, base::Random& random)
+{
+    for (const Mod3D::SfereLink& link : sphere.Links)
+    {
+        if (link.M < 0 || static_cast<std::size_t>(link.M) >= object.Mesh.size())
+            continue;
+        Mod3D::ObjMesh& mesh = object.Mesh[static_cast<std::size_t>(link.M)];
+        if (!mesh.Pts.Has(link.I, link.J) || !mesh.Undamaged.Has(link.I, link.J))
+            continue;
+        const Mod3D::MeshPt& whole = mesh.Undamaged.At(link.I, link.J);
+        Mod3D::MeshPt& point = mesh.Pts.At(link.I, link.J);
+        point.X = Single(whole.X * (0.95 - 0.15 * random.Next()));
+        point.Y = Single(whole.Y * (0.95 - 0.15 * random.Next()));
+        point.Z = Single(whole.Z * (0.95 - 0.15 * random.Next()));
+    }
+}
+
+void BreakGlass(Mod3D::Obj& car, std::int16_t texture)
+{
+    if (texture < 0 || car.Mesh.size() <= GlassMesh)
+        return;
+    Mod3D::ObjMesh& glass = car.Mesh[GlassMesh];
+    glass.TexIndex = texture;
+    if (glass.Colour >= 0)
+        glass.Colour = -1;
+}
+
+// What the blow does to one of the two. glassForce: above 1 it breaks the glass.
+void Suffer(Simulation& sim, const Body& body, std::size_t sphere, double k, double ratio, double glassForce)
+{
+    if (body.Player == nullptr) // knocked over
+    {
+        // Deliberate: the same ratio for both.
+        body.Object.AngleB = Single(body.Object.AngleB + sim.Random.Next() * std::min(ratio, 1.0));
+        return;
+    }
+    body.Player->Speed = Single(body.Player->Speed * (1.0 - k));
+    ApplyDamage(*body.Player);
+    Dent(body.Object, body.Object.Sfere[sphere], sim.Random);
+    if (sphere >= FirstCabinSphere && glassForce > 1.0)
+        BreakGlass(body.Object, sim.Assets.BrokenGlassTexture);
+}
+
+// The lighter one is pushed farther. Two at one place part along x.
+void Separate(Mod3D::Obj& i, Mod3D::Obj& j, double push, double ratio)
+{
+    const double d = Mod3D::Dist2D(i.X, i.Z, j.X, j.Z);
+    const double dx = static_cast<double>(i.X) - j.X;
+    const double dz = static_cast<double>(i.Z) - j.Z;
+    const double px = d > 0.0 ? dx / d * push : push;
+    const double pz = d > 0.0 ? dz / d * push : 0.0;
+    i.X = Single(i.X + px * ratio);
+    i.Z = Single(i.Z + pz * ratio);
+    j.X = Single(j.X - px / ratio);
+    j.Z = Single(j.Z - pz / ratio);
+}
+
+// The lighter one turns farther.
+void TurnAside(Mod3D::Obj& i, Mod3D::Obj& j, double half, double ratio)
+{
+    i.AngleA = Single(i.AngleA - (ratio >= 1.0 ? half : ratio * half));
+    j.AngleA = Single(j.AngleA + (ratio >= 1.0 ? half / ratio : half));
+}
+
+bool IsUser(const Simulation& sim, const Body& body)
+{
+    return body.Player != nullptr && body.Index == sim.Race.UserPlayer;
+}
+
+void Shake(Simulation& sim, const Body& i, const Body& j, double strength)
+{
+    if (sim.WebcamOn && (IsUser(sim, i) || IsUser(sim, j)))
+        sim.Shake = std::min(Single(strength * 40.0), MostShake);
+}
+
+Body BodyOf(Simulation& sim, std::size_t object)
+{
+    const std::int16_t index = sim.Race.Scratch.CarOf[object];
+    return {sim.Scene.Objects.Items[object], PlayerAt(sim.Race, index), index};
+}
+
+// One ordered pair of objects with spheres. True where they touched, and so have moved.
+bool CollidePair(Simulation& sim, std::size_t first, std::size_t second)
+{
+    const Body i = BodyOf(sim, first);
+    const Body j = BodyOf(sim, second);
+    Contact contact;
+    if (!AreNear(i.Object, j.Object) || !FindContact(i.Object, j.Object, sim.Race.Scratch.Centres, contact))
+        return false;
+
+    const double ratio = MassRatio(i.Object, j.Object);
+    const double half = Mod3D::WrapAngle(static_cast<double>(i.Object.AngleA) - j.Object.AngleA) / 2.0;
+    const Impact impact = ImpactOf(i, j, ratio, half);
+    if (!std::isfinite(impact.Strength))
+        return false;
+    for (const Body* body : {&i, &j})
+        if (body->Player != nullptr)
+            body->Player->Damage = Single(body->Player->Damage + impact.Strength);
+
+    Suffer(sim, i, contact.A, impact.K, ratio, ratio * impact.Strength);
+    Suffer(sim, j, contact.B, impact.K, ratio, impact.Strength / ratio);
+    Separate(i.Object, j.Object, (contact.Reach - contact.Distance) * (impact.V + 1.0), ratio);
+    TurnAside(i.Object, j.Object, half, ratio);
+    Shake(sim, i, j, impact.Strength);
+    return true;
+}
+
+// Which player drives each object, and which objects can touch at all. Neither changes while the pairs are walked.
+void ListBodies(Simulation& sim)
+{
+    world::TickScratch& scratch = sim.Race.Scratch;
+    scratch.CarOf.assign(sim.Scene.Objects.Items.size(), -1);
+    for (std::int16_t index = sim.Race.NumPlayers; index-- > 0;)
+    {
+        const std::int16_t object = PlayerAt(sim.Race, index)->Obj;
+        if (sim.Scene.Objects.Has(object))
+            scratch.CarOf[static_cast<std::size_t>(object)] = index;
+    }
+    scratch.Bodies.clear();
+    for (std::size_t object = 0; object < sim.Scene.Objects.Items.size(); ++object)
+        if (Collides(sim.Scene.Objects.Items[object]))
+            scratch.Bodies.push_back(static_cast<std::int16_t>(object));
+}
+}
+
+void CollidePlain(Simulation& sim)
+{
+    ListBodies(sim);
+    const std::vector<std::int16_t>& bodies = sim.Race.Scratch.Bodies;
+    for (std::size_t a = 0; a < bodies.size(); ++a)
+        for (std::size_t b = a + 1; b < bodies.size(); ++b)
+            CollidePair(sim, static_cast<std::size_t>(bodies[a]), static_cast<std::size_t>(bodies[b]));
+}
+
+void Collide(Simulation& sim)
+{
+    ListBodies(sim);
+    const std::vector<std::int16_t>& bodies = sim.Race.Scratch.Bodies;
+    NearStrips& strips = sim.Race.Scratch.Strips;
+    const auto footprint = [&](std::size_t body)
+    {
+        const Mod3D::Obj& object = sim.Scene.Objects.Items[static_cast<std::size_t>(bodies[body])];
+        return FootprintOf(object.X, object.Z, object.Radius);
+    };
+
+    strips.Reset(bodies.size());
+    for (std::size_t body = 0; body < bodies.size(); ++body)
+        strips.Add(body, footprint(body));
+    for (std::size_t a = 0; a < bodies.size(); ++a)
+    {
+        Footprint here = footprint(a);
+        for (std::size_t b = strips.Next(here, a); b < bodies.size(); b = strips.Next(here, b))
+            if (CollidePair(sim, static_cast<std::size_t>(bodies[a]), static_cast<std::size_t>(bodies[b])))
+            {
+                // Both have moved: a meets the rest of its row from where it is now, b its own row later.
+                here = footprint(a);
+                strips.Add(a, here);
+                strips.Add(b, footprint(b));
+            }
+    }
+}
+}

@@ -1,0 +1,19 @@
+// world/Particles.h: what the simulation sends up: smoke, fire, water.
+#pragma once
+#include "render/Effects.h"
+#include "world/Dynamics.h"
+
+namespace modDinamica
+{
+struct Emission
+{
+    const ModBitmap::PicReference& Picture;
+    modEffects::Kind Kind;
+    double Life; // ticks, rounded, at most 32767
+    double X, Y, Z;
+    double Scale, Alpha;
+};
+
+// No particle without a picture, nor where the scene already holds a great many sprites.
+void Spawn(Simulation& sim, const Emission& emission);
+}

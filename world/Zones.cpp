@@ -1,0 +1,90 @@
+// Where a car stands: repair boxes, grass and water, and the marks that its tyres leave.
+#include "base/Math.h"
+#include "world/Cars.h"
+#include "world/Dynamics.h"
+#include "world/Particles.h"
+
+#include <algorithm>
+#include <cmath>
+
+namespace modDinamica
+{
+namespace
+{
+// Whether one of the first `count` zones contains the car.
+bool IsInsideAny(const Mod3D::Obj& car, const std::vector<world::Target>& zones, std::int16_t count)
+{
+    const auto end = zones.begin() + std::min<std::ptrdiff_t>(count, std::ssize(zones));
+    return std::any_of(zones.begin(), end, [&](const world::Target& zone) { return IsInside(car, zone); });
+}
+
+void Darken(Mod3D::Ground& ground, std::int32_t column, std::int32_t row, double strength)
+{
+    ModBitmap::PicArray2D& pixels = ground.Sharp.Pixels;
+    if (column < 0 || column >= ground.Width || row < 0 || row >= ground.Height || pixels.Empty())
+        return;
+    std::uint8_t* texel = pixels.Row(row) + static_cast<std::ptrdiff_t>(column) * 3;
+    for (int channel = 0; channel < 3; ++channel)
+        texel[channel] = base::RoundByte(texel[channel] * strength);
+}
+
+// One puff beside the car.
+void Splash(Simulation& sim, const world::Player& player, const Mod3D::Obj& car)
+{
+    const double angle = car.AngleA;
+    Spawn(sim, Emission{.Picture = sim.Assets.Water,
+                        .Kind = modEffects::Puff,
+                        .Life = 3.0 * std::fabs(player.Speed) + 5.0,
+                        .X = car.X + base::Cos(angle),
+                        .Y = car.Y + 0.2,
+                        .Z = car.Z + base::Sin(angle),
+                        .Scale = 0.03,
+                        .Alpha = 0.6});
+}
+}
+
+void TyreMarks(Simulation& sim, const world::Player& player, double strength)
+{
+    const Mod3D::Obj* car = ObjectAt(sim.Scene, player.Obj);
+    if (car == nullptr)
+        return;
+    Mod3D::Ground& ground = sim.Scene.Ground;
+    const double cosA = base::Cos(car->AngleA);
+    const double sinA = base::Sin(car->AngleA);
+    for (const int side : {1, -1})
+        Darken(ground, base::RoundEven((car->X + side * cosA) * ground.GroundScale),
+               base::RoundEven((car->Z + side * sinA) * ground.GroundScale), strength);
+}
+
+void ApplyZones(Simulation& sim, std::int16_t index)
+{
+    world::Player* player = PlayerAt(sim.Race, index);
+    const Mod3D::Obj* car = player != nullptr ? ObjectAt(sim.Scene, player->Obj) : nullptr;
+    if (car == nullptr)
+        return;
+    const world::Map& map = sim.Race.Map;
+
+    const bool repairs = player->Speed == 0.0f && IsInsideAny(*car, map.Boxes, map.NumBoxes);
+    if (index == sim.Camera.ViewPlayer)
+        sim.InBox = repairs;
+    if (repairs)
+    {
+        player->Damage = std::max(Single(player->Damage - 0.05), 0.0f);
+        ApplyDamage(*player);
+    }
+
+    // Deliberate: a car in reverse is slowed by neither grass nor water.
+    if (player->Speed > 1.0f && IsInsideAny(*car, map.Grass, map.NumGrass))
+        player->Speed = Single(player->Speed * 0.98);
+
+    if (IsInsideAny(*car, map.Water, map.NumWater))
+    {
+        if (player->Speed > 0.2)
+            player->Speed = Single(player->Speed * 0.94);
+        player->Damage = Single(player->Damage + 0.018);
+        ApplyDamage(*player);
+        if (sim.EffQuality > 0.0f && player->Speed > 0.1)
+            Splash(sim, *player, *car);
+    }
+}
+}
