@@ -55,6 +55,7 @@ double VecLen(double x, double y, double z);
 // Quadrant-correct arctangent with the constants above; 0 for (0, 0); +Pi for y = 0 and x < 0.
 double AngleOf(double y, double x);
 // -Pi … Pi in whole milliradians. Deliberate: the wrap rounds to a thousandth.
+// NaN where the angle is no number or its thousandths need more than 32 bits.
 double WrapAngle(double angle);
 
 struct Rgb

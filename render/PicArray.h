@@ -58,8 +58,9 @@ struct PicArray2D
         return Bytes.data() + static_cast<std::size_t>(row) * static_cast<std::size_t>(RowBytes);
     }
     bool Empty() const { return Bytes.empty(); }
-    // All bytes 0. RuntimeError 7 where memory does not suffice.
+    // All bytes 0. RuntimeError 9 for a size below 1, 7 for one above the largest picture.
     void Allocate(std::int32_t rows, std::int32_t rowBytes);
+    void Clear(); // gives the storage back
 };
 
 // A picture with its description, as the scene and the forms keep them.
@@ -73,8 +74,9 @@ struct Picture
 void MakePicArray2D(base::MessageSink& messages, PicHeader& header, PicArray2D& pixels);
 
 // Reads an uncompressed 24-bit ".bmp" file. Deliberate: the pixels are taken to begin right behind the 54 header bytes.
-// Width or height outside 1 … LargestPicture is error 9, fewer bytes than claimed error 62 with the missing rows black.
-// Reports its own errors; false then.
+// Width or height outside 1 … LargestPicture is error 9, fewer bytes than claimed error 62 with the missing rows black;
+// but a file that claims above 64 MB and does not have them is error 7, so that memory stays in proportion to the file.
+// Reports its own errors and returns false then; after any but error 62 info and pixels are empty.
 bool LoadPicArray2D(base::MessageSink& messages, const base::Files& files, const std::string& path, PicInfo& info,
                     PicArray2D& pixels);
 

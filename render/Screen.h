@@ -15,7 +15,19 @@ inline constexpr float FarDepth = 3.4028230607370965e38f; // an empty depth cell
 
 struct Band
 {
-    std::int32_t First = 0, Last = 0; // columns, both included
+    std::int32_t First = 0, Last = 0; // columns, both included; empty where Last < First
+};
+
+// With b = width / count in single precision, band i runs from round(b i) to round(b (i + 1) - 1). Where both are
+// rounded from a half (even counts only) the last column is the one before the next band, so none is left out or twice.
+std::vector<Band> MakeBands(std::int32_t width, std::int16_t count);
+
+// Where the anisotropic filter reads beside a texel, for one screen column.
+inline constexpr std::int32_t MostTaps = 14;
+struct ColumnTaps
+{
+    std::int32_t Offset[MostTaps] = {}; // bytes from the texel to its k-th neighbour along the ray, k from 1
+    std::int32_t HasTies = 0;           // a step lies between two texels: the offsets do not hold
 };
 
 class GroundWalkers; // the threads of the ground pass, see render/GroundWalkers.h
@@ -40,11 +52,16 @@ struct Screen
     ModBitmap::PicArray2D Frame;
     std::vector<float> Depth;                               // ScreenH rows of ScreenW
     std::vector<float> RowAngle, RowSlant, RowDist, RowAux; // one a screen row
+    std::vector<double> ColumnSlope;                        // one a screen column, and one more for pairwise reading
+    std::vector<ColumnTaps> Taps;                           // one a screen column
     std::vector<Band> Bands;
+    std::int32_t GroundLimit = 60;          // milliseconds the ground pass may take before it is cut off
     std::unique_ptr<GroundWalkers> Walkers; // made with the resolution
 };
 
-// Takes a resolution: derived fields, MinZoom and Zoom (2 x MinZoom), frame, depth buffer, row tables, bands, walkers.
+// Takes a resolution: derived fields, MinZoom and Zoom (2 x MinZoom), frame, depth buffer, row tables, bands, walkers
+// (as many as ThreadCount tells processors: it is 2 x processors + 1). A size that cannot be is reported and leaves a
+// screen of 0 x 0, on which nothing is drawn.
 void ApplyResolution(base::MessageSink& messages, Screen& screen, Camera& camera, std::int32_t width,
                      std::int32_t height);
 // "nessuno", "lineare", "anisotropico"; empty for any other filter.

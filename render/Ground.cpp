@@ -1,0 +1,318 @@
+#include "render/Ground.h"
+
+#include "base/Math.h"
+#include "base/Numbers.h"
+#include "render/Double2.h"
+
+#include <algorithm>
+#include <cmath>
+#include <cstring>
+
+namespace Mod3D
+{
+TexelField MakeTexelField(const ModBitmap::PicArray2D& pixels, std::int32_t width, std::int32_t height)
+{
+    return {pixels.Bytes.data(), pixels.RowBytes, std::clamp(width, 0, pixels.RowBytes / 3),
+            std::clamp(height, 0, pixels.Rows)};
+}
+
+GroundView MakeGroundView(const Scene& scene, const Camera& camera, Screen& screen)
+{
+    GroundView view;
+    view.CamX = camera.CamX;
+    view.CamZ = camera.CamZ;
+    view.SinYaw = camera.CamSinYaw;
+    view.CosYaw = camera.CamCosYaw;
+    view.Yaw = camera.CamYaw;
+    view.Zoom = camera.Zoom;
+    view.CenterX = screen.CenterX;
+    view.GroundScale = scene.Ground.GroundScale;
+    view.Sharp = MakeTexelField(scene.Ground.Sharp.Pixels, scene.Ground.Width, scene.Ground.Height);
+    const ModBitmap::PicArray2D& blur = scene.Ground.GroundBlur;
+    const bool same =
+        blur.Rows == scene.Ground.Sharp.Pixels.Rows && blur.RowBytes == scene.Ground.Sharp.Pixels.RowBytes;
+    view.Blurred = same ? MakeTexelField(blur, scene.Ground.Width, scene.Ground.Height) : view.Sharp;
+    view.Sky = MakeTexelField(scene.Sky.Pixels, scene.Sky.Info.Width, scene.Sky.Info.Height);
+    view.SkyOffset = (screen.SkyOffset % SkyWidth + SkyWidth) % SkyWidth;
+    view.ScreenH = screen.ScreenH;
+    view.RowAngle = screen.RowAngle.data();
+    view.RowSlant = screen.RowSlant.data();
+    view.RowDist = screen.RowDist.data();
+    view.RowAux = screen.RowAux.data();
+    for (std::int32_t x = 0; x < screen.ScreenW; ++x)
+        screen.ColumnSlope[static_cast<std::size_t>(x)] = (x - view.CenterX) / view.Zoom;
+    view.ColumnSlope = screen.ColumnSlope.data();
+    view.Taps = screen.Taps.data();
+    view.Frame = screen.Frame.Bytes.data();
+    view.FrameRowBytes = screen.Frame.RowBytes;
+    view.Depth = screen.Depth.data();
+    view.DepthRow = screen.ScreenW;
+    return view;
+}
+
+namespace
+{
+constexpr std::int32_t Chunk = 64; // columns whose texels are found before they are fetched
+constexpr std::int32_t Margin = 15;
+
+// A run of texels of one row.
+struct TexelRun
+{
+    std::int32_t U[Chunk], V[Chunk];
+};
+
+struct RowSpan
+{
+    std::int32_t Y = 0;
+    std::int32_t First = 0, Count = 0; // columns, Count at most Chunk
+    std::uint8_t* Pixels = nullptr;    // of the first column
+};
+
+void Copy(std::uint8_t* pixel, const std::uint8_t* from)
+{
+    std::memcpy(pixel, from, 3);
+}
+
+std::uint32_t Load3(const std::uint8_t* from)
+{
+    return static_cast<std::uint32_t>(from[0] | from[1] << 8 | from[2] << 16);
+}
+
+// Two columns at a time; each line is one of TexelPlain. CamX - SinYaw x RowDist and its like are the row's own.
+void FindTexels(const GroundView& view, const RowSpan& span, TexelRun& run)
+{
+    const Double2 slant = Double2::Of(view.RowSlant[span.Y]);
+    const Double2 startX = Double2::Of(view.CamX - view.SinYaw * view.RowDist[span.Y]);
+    const Double2 startZ = Double2::Of(view.CosYaw * view.RowDist[span.Y] + view.CamZ);
+    const Double2 cosYaw = Double2::Of(view.CosYaw), sinYaw = Double2::Of(view.SinYaw);
+    const Double2 scale = Double2::Of(view.GroundScale);
+    for (std::int32_t i = 0; i < span.Count; i += 2)
+    {
+        const Double2 lateral = (Double2::Load(view.ColumnSlope + span.First + i) * slant).Single();
+        ((startX + cosYaw * lateral) * scale).StoreRounded(run.U + i);
+        ((startZ + sinYaw * lateral) * scale).StoreRounded(run.V + i);
+    }
+}
+
+// Whether a texel lies in the field with that margin on every side: one comparison an axis, as negative numbers are
+// the largest of the unsigned ones.
+class Inside
+{
+public:
+    Inside(const TexelField& field, std::int32_t margin)
+        : Least(static_cast<std::uint32_t>(margin)),
+          Columns(static_cast<std::uint32_t>(std::max(field.Width - 2 * margin, 0))),
+          Rows(static_cast<std::uint32_t>(std::max(field.Height - 2 * margin, 0)))
+    {
+    }
+    bool operator()(std::int32_t u, std::int32_t v) const
+    {
+        return static_cast<std::uint32_t>(u) - Least < Columns && static_cast<std::uint32_t>(v) - Least < Rows;
+    }
+
+private:
+    std::uint32_t Least, Columns, Rows;
+};
+
+void CopySky(const GroundView& view, const Band& band, std::int32_t y)
+{
+    const std::int32_t row = SkyRow(view, y);
+    std::uint8_t* pixel = view.Frame + y * view.FrameRowBytes + band.First * 3;
+    if (view.Sky.Width < SkyWidth || row < 0 || row >= view.Sky.Height)
+    {
+        for (std::int32_t x = band.First; x <= band.Last; ++x, pixel += 3)
+            Copy(pixel, SkyPixel(view, x, row));
+        return;
+    }
+    for (std::int32_t x = band.First; x <= band.Last;)
+    {
+        const std::int32_t column = (view.SkyOffset + x) % SkyWidth;
+        const std::int32_t count = std::min(SkyWidth - column, band.Last - x + 1);
+        std::memcpy(pixel, view.Sky.At(column, row), static_cast<std::size_t>(count) * 3);
+        x += count;
+        pixel += count * 3;
+    }
+}
+
+// Calls ground(u, v, x, pixel) for every ground pixel of the span and copies the sky into the others.
+template<class GroundPixel>
+void FillSpan(const GroundView& view, const RowSpan& span, std::int32_t margin, GroundPixel&& ground)
+{
+    TexelRun run;
+    FindTexels(view, span, run);
+    const Inside inside(view.Sharp, margin);
+    const std::int32_t skyRow = SkyRow(view, span.Y);
+    std::uint8_t* pixel = span.Pixels;
+    for (std::int32_t i = 0; i < span.Count; ++i, pixel += 3)
+        if (inside(run.U[i], run.V[i]))
+            ground(run.U[i], run.V[i], span.First + i, pixel);
+        else
+            Copy(pixel, SkyPixel(view, span.First + i, skyRow));
+}
+
+// The walk that the three filters share: by rows, because rows lie together in memory. fill draws one span of a ground
+// row.
+template<class Fill> void WalkRows(const GroundView& view, const Band& band, WalkGate& gate, Fill&& fill)
+{
+    if (band.Last < band.First)
+        return;
+    for (std::int32_t y = 0; y < view.ScreenH; ++y)
+    {
+        if (!gate.MayGoOn())
+            return;
+        float* depth = view.Depth + y * view.DepthRow;
+        std::fill(depth + band.First, depth + band.Last + 1, FarDepth);
+        if (IsSkyRow(view, y))
+        {
+            CopySky(view, band, y);
+            continue;
+        }
+        for (std::int32_t x = band.First; x <= band.Last; x += Chunk)
+            fill(RowSpan{y, x, std::min(Chunk, band.Last - x + 1), view.Frame + y * view.FrameRowBytes + x * 3});
+    }
+}
+
+// Texel + k x step rounds to the texel + the rounded k x step, whatever the texel, unless the step ends exactly between
+// two texels; then the parity of the texel decides, and the column is left to the plain routine.
+bool IsTie(double step)
+{
+    return step - std::floor(step) == 0.5;
+}
+
+void FindTaps(const GroundView& view, const Band& band)
+{
+    for (std::int32_t x = band.First; x <= band.Last; ++x)
+    {
+        const double a = base::Atan(view.ColumnSlope[x]) + view.Yaw;
+        const double du = static_cast<float>(view.SinYaw * base::Sin(a));
+        const double dv = static_cast<float>(view.CosYaw * base::Cos(a));
+        ColumnTaps& taps = view.Taps[x];
+        taps.HasTies = !(du >= -1.0 && du <= 1.0 && dv >= -1.0 && dv <= 1.0);
+        for (std::int32_t k = 1; k <= MostTaps && taps.HasTies == 0; ++k)
+        {
+            const std::int32_t u = base::RoundEven(k * du), v = base::RoundEven(k * dv);
+            taps.Offset[k - 1] = static_cast<std::int32_t>(v * view.Sharp.RowBytes) + u * 3;
+            taps.HasTies = IsTie(k * du) || IsTie(k * dv);
+        }
+    }
+}
+
+// n = 0 and a weight worth blending: the texel with one neighbour on each side.
+void FillThree(const GroundView& view, const RowSpan& span)
+{
+    const std::int32_t w = base::RoundEven(view.RowAux[span.Y] / 0.03);
+    FillSpan(view, span, Margin,
+             [&](std::int32_t u, std::int32_t v, std::int32_t x, std::uint8_t* pixel)
+             {
+                 const ColumnTaps& taps = view.Taps[x];
+                 if (taps.HasTies != 0)
+                     return GroundPixelPlain(view, 2, x, span.Y, pixel);
+                 const std::uint8_t* centre = view.Sharp.At(u, v);
+                 const std::uint8_t* left = centre - taps.Offset[0];
+                 const std::uint8_t* right = centre + taps.Offset[0];
+                 for (int c = 0; c < 3; ++c)
+                     pixel[c] = static_cast<std::uint8_t>((centre[c] * (50 - w) * 2 + (left[c] + right[c]) * w) / 100);
+             });
+}
+
+// n >= 1: the tent. Blue and red are summed in the two halves of one word, which suffice: the weights add up to at most
+// 225. The division is a multiplication by 2^32 / weight, exact for these sums.
+void FillTent(const GroundView& view, const RowSpan& span, std::int32_t n)
+{
+    const std::uint64_t reciprocal = (std::uint64_t{1} << 32) / static_cast<std::uint64_t>((n + 2) * n + 1) + 1;
+    const auto mean = [reciprocal](std::uint32_t sum) { return static_cast<std::uint8_t>(sum * reciprocal >> 32); };
+    constexpr std::uint32_t blueRed = 0xFF00FF, green = 0xFF00;
+    FillSpan(view, span, Margin,
+             [&](std::int32_t u, std::int32_t v, std::int32_t x, std::uint8_t* pixel)
+             {
+                 const ColumnTaps& taps = view.Taps[x];
+                 if (taps.HasTies != 0)
+                     return GroundPixelPlain(view, 2, x, span.Y, pixel);
+                 const std::uint8_t* centre = view.Sharp.At(u, v);
+                 auto weight = static_cast<std::uint32_t>(n + 1);
+                 const std::uint32_t middle = Load3(centre);
+                 std::uint32_t sumBlueRed = (middle & blueRed) * weight;
+                 std::uint32_t sumGreen = ((middle & green) >> 8) * weight;
+                 for (std::int32_t k = 0; k < n; ++k)
+                 {
+                     --weight;
+                     const std::uint32_t left = Load3(centre - taps.Offset[k]);
+                     const std::uint32_t right = Load3(centre + taps.Offset[k]);
+                     sumBlueRed += ((left & blueRed) + (right & blueRed)) * weight;
+                     sumGreen += (((left & green) + (right & green)) >> 8) * weight;
+                 }
+                 pixel[0] = mean(sumBlueRed & 0xFFFF);
+                 pixel[1] = mean(sumGreen);
+                 pixel[2] = mean(sumBlueRed >> 16);
+             });
+}
+
+// One pixel of the blend; each channel is blurred x w + sharp x (1 - w), rounded down.
+void Blend(const std::uint8_t* sharp, const std::uint8_t* blurred, double w, double rest, std::uint8_t* pixel)
+{
+#ifdef VELKAR_SSE2
+    const __m128i zero = _mm_setzero_si128();
+    const auto spread = [zero](const std::uint8_t* from)
+    {
+        const __m128i bytes = _mm_cvtsi32_si128(static_cast<int>(Load3(from)));
+        return _mm_unpacklo_epi16(_mm_unpacklo_epi8(bytes, zero), zero);
+    };
+    const __m128i b = spread(blurred), s = spread(sharp);
+    const __m128d weight = _mm_set1_pd(w), other = _mm_set1_pd(rest);
+    const __m128d low = _mm_add_pd(_mm_mul_pd(_mm_cvtepi32_pd(b), weight), _mm_mul_pd(_mm_cvtepi32_pd(s), other));
+    const __m128d high = _mm_add_pd(_mm_mul_pd(_mm_cvtepi32_pd(_mm_unpackhi_epi64(b, b)), weight),
+                                    _mm_mul_pd(_mm_cvtepi32_pd(_mm_unpackhi_epi64(s, s)), other));
+    // No channel is negative, so cutting the fraction off is rounding down.
+    __m128i channels = _mm_unpacklo_epi64(_mm_cvttpd_epi32(low), _mm_cvttpd_epi32(high));
+    channels = _mm_packs_epi32(channels, zero);
+    channels = _mm_packus_epi16(channels, zero);
+    const auto all = static_cast<std::uint32_t>(_mm_cvtsi128_si32(channels));
+    std::memcpy(pixel, &all, 3);
+#else
+    for (int c = 0; c < 3; ++c)
+        pixel[c] = static_cast<std::uint8_t>(base::Floor(blurred[c] * w + sharp[c] * rest));
+#endif
+}
+
+void FillNearest(const GroundView& view, const RowSpan& span, std::int32_t margin)
+{
+    FillSpan(view, span, margin,
+             [&](std::int32_t u, std::int32_t v, std::int32_t, std::uint8_t* pixel)
+             { Copy(pixel, view.Sharp.At(u, v)); });
+}
+}
+
+void GroundNearest(const GroundView& view, const Band& band, WalkGate& gate)
+{
+    WalkRows(view, band, gate, [&](const RowSpan& span) { FillNearest(view, span, 0); });
+}
+
+void GroundLinear(const GroundView& view, const Band& band, WalkGate& gate)
+{
+    WalkRows(view, band, gate,
+             [&](const RowSpan& span)
+             {
+                 const double w = view.RowAux[span.Y], rest = 1.0 - w;
+                 FillSpan(view, span, 0,
+                          [&](std::int32_t u, std::int32_t v, std::int32_t, std::uint8_t* pixel)
+                          { Blend(view.Sharp.At(u, v), view.Blurred.At(u, v), w, rest, pixel); });
+             });
+}
+
+void GroundAniso(const GroundView& view, const Band& band, WalkGate& gate)
+{
+    FindTaps(view, band);
+    WalkRows(view, band, gate,
+             [&](const RowSpan& span)
+             {
+                 const float aux = view.RowAux[span.Y];
+                 const std::int32_t n = base::Floor(aux);
+                 if (n > 0)
+                     FillTent(view, span, n);
+                 else if (aux < 0.3)
+                     FillNearest(view, span, Margin);
+                 else
+                     FillThree(view, span);
+             });
+}
+}

@@ -1,0 +1,57 @@
+#include "render/GroundTexture.h"
+
+namespace Mod3D
+{
+namespace
+{
+// A neighbour's place; beyond the border, the one on the opposite side, and in a picture of one texel itself.
+std::int32_t Mirrored(std::int32_t place, std::int32_t step, std::int32_t size)
+{
+    if (place + step >= 0 && place + step < size)
+        return place + step;
+    return place - step >= 0 && place - step < size ? place - step : place;
+}
+}
+
+void LoadGround(base::MessageSink& messages, const base::Files& files, const std::string& path, float scale,
+                bool blurred, Ground& ground)
+{
+    ground.GroundScale = scale;
+    ground.Width = ground.Height = 0;
+    ground.GroundBlur.Clear();
+    if (!ModBitmap::LoadPicArray2D(messages, files, path, ground.Sharp.Info, ground.Sharp.Pixels))
+    {
+        ground.Sharp = {};
+        return;
+    }
+    ground.Width = ground.Sharp.Info.Width;
+    ground.Height = ground.Sharp.Info.Height;
+    if (blurred)
+        BlurGround(ground);
+}
+
+void BlurGround(Ground& ground)
+{
+    const ModBitmap::PicArray2D& sharp = ground.Sharp.Pixels;
+    ModBitmap::PicArray2D& blur = ground.GroundBlur;
+    blur.Allocate(sharp.Rows, sharp.RowBytes);
+    for (std::int32_t v = 0; v < ground.Height; ++v)
+    {
+        const std::uint8_t* below = sharp.Row(Mirrored(v, -1, ground.Height));
+        const std::uint8_t* same = sharp.Row(v);
+        const std::uint8_t* above = sharp.Row(Mirrored(v, 1, ground.Height));
+        std::uint8_t* texel = blur.Row(v);
+        for (std::int32_t u = 0; u < ground.Width; ++u)
+        {
+            const std::int32_t left = Mirrored(u, -1, ground.Width) * 3, right = Mirrored(u, 1, ground.Width) * 3;
+            const std::int32_t middle = u * 3;
+            // Deliberate: the texel itself is left out.
+            for (std::int32_t c = 0; c < 3; ++c)
+                *texel++ = static_cast<std::uint8_t>((below[left + c] + below[middle + c] + below[right + c] +
+                                                      same[left + c] + same[right + c] + above[left + c] +
+                                                      above[middle + c] + above[right + c]) >>
+                                                     3);
+        }
+    }
+}
+}

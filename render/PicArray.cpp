@@ -1,0 +1,125 @@
+#include "render/PicArray.h"
+
+#include "base/RuntimeError.h"
+
+#include <algorithm>
+#include <cstring>
+#include <limits>
+#include <new>
+#include <string_view>
+
+namespace ModBitmap
+{
+namespace
+{
+constexpr std::size_t HeaderBytes = 54; // the file header of 14 and the information header of 40
+constexpr std::uint64_t MostUnbacked = 64u << 20;
+
+// Little-endian, as the file has it.
+std::int32_t Int32At(std::string_view bytes, std::size_t at)
+{
+    std::uint32_t value = 0;
+    for (std::size_t i = 4; i-- > 0;)
+        value = value << 8 | static_cast<std::uint8_t>(bytes[at + i]);
+    return static_cast<std::int32_t>(value);
+}
+
+std::int16_t Int16At(std::string_view bytes, std::size_t at)
+{
+    const auto low = static_cast<std::uint8_t>(bytes[at]);
+    const auto high = static_cast<std::uint8_t>(bytes[at + 1]);
+    return static_cast<std::int16_t>(static_cast<std::uint16_t>(low | high << 8));
+}
+
+bool IsPictureSize(std::int32_t size)
+{
+    return size >= 1 && size <= LargestPicture;
+}
+
+// The row length of a size that is known to fit.
+std::int32_t RowLength(std::int32_t width)
+{
+    return (width * 3 + 3) & ~3;
+}
+}
+
+std::int32_t WidthBytes(base::MessageSink& messages, std::int32_t width)
+{
+    std::int32_t bytes = 0;
+    base::Trapped(messages, "WidthBytes",
+                  [&]
+                  {
+                      const std::int64_t wide = static_cast<std::int64_t>(width) * 3 + 3;
+                      if (wide > std::numeric_limits<std::int32_t>::max() ||
+                          wide < std::numeric_limits<std::int32_t>::min())
+                          throw base::RuntimeError(base::ErrorOverflow);
+                      bytes = static_cast<std::int32_t>(wide) & ~3;
+                  });
+    return bytes;
+}
+
+void PicArray2D::Allocate(std::int32_t rows, std::int32_t rowBytes)
+{
+    if (rows < 1 || rowBytes < 1)
+        throw base::RuntimeError(base::ErrorIndex);
+    const auto size = static_cast<std::uint64_t>(rows) * static_cast<std::uint64_t>(rowBytes);
+    if (size > static_cast<std::uint64_t>(LargestPicture) * RowLength(LargestPicture))
+        throw base::RuntimeError(base::ErrorMemory);
+    Bytes.assign(static_cast<std::size_t>(size), 0);
+    Rows = rows;
+    RowBytes = rowBytes;
+}
+
+void PicArray2D::Clear()
+{
+    Rows = RowBytes = 0;
+    Bytes = {};
+}
+
+void MakePicArray2D(base::MessageSink& messages, PicHeader& header, PicArray2D& pixels)
+{
+    base::Trapped(messages, "MakePicArray2D",
+                  [&]
+                  {
+                      header = PicHeader{40, header.biWidth, header.biHeight, 1, 24};
+                      pixels.Clear();
+                      pixels.Allocate(header.biHeight, WidthBytes(messages, header.biWidth));
+                  });
+}
+
+bool LoadPicArray2D(base::MessageSink& messages, const base::Files& files, const std::string& path, PicInfo& info,
+                    PicArray2D& pixels)
+{
+    bool loaded = false;
+    info = PicInfo{};
+    pixels.Clear();
+    base::Trapped(messages, "LoadPicArray2D",
+                  [&]
+                  {
+                      const std::string file = files.Read(path);
+                      if (file.size() < HeaderBytes)
+                          throw base::RuntimeError(base::ErrorPastEnd);
+                      const std::int32_t width = Int32At(file, 18), height = Int32At(file, 22);
+                      if (!IsPictureSize(width) || !IsPictureSize(height))
+                          throw base::RuntimeError(base::ErrorIndex);
+                      const std::int32_t rowBytes = WidthBytes(messages, width);
+                      const auto claimed = static_cast<std::uint64_t>(rowBytes) * static_cast<std::uint64_t>(height);
+                      const std::size_t present = file.size() - HeaderBytes;
+                      if (claimed > present && claimed > MostUnbacked)
+                          throw base::RuntimeError(base::ErrorMemory);
+                      pixels.Allocate(height, rowBytes);
+                      info = PicInfo{width, height, rowBytes, Int16At(file, 26), Int16At(file, 28)};
+                      std::memcpy(pixels.Bytes.data(), file.data() + HeaderBytes,
+                                  std::min<std::size_t>(present, pixels.Bytes.size()));
+                      if (claimed > present)
+                          throw base::RuntimeError(base::ErrorPastEnd);
+                      loaded = true;
+                  });
+    return loaded;
+}
+
+void PicArrayKill(PicReference& pixels)
+{
+    pixels.reset();
+}
+}

@@ -1,0 +1,31 @@
+// render/TriangleFill.h: filling a projected triangle: rows between its corners, depth-tested pixels. Corners may lie
+// anywhere in 32 bits; only rows and columns of the screen are walked.
+#pragma once
+#include "render/Ground.h"
+#include "render/Screen.h"
+
+#include <cstdint>
+
+namespace Mod3D
+{
+struct ScreenCorner
+{
+    std::int32_t X = 0, Y = 0; // pixels
+    float Z = 0;               // depth
+    double U = 0, V = 0;       // texels; not used by flat triangles
+};
+
+// Whether every corner lies on the same outer side of the screen, or all in one row: nothing to fill.
+bool IsRejected(const Screen& screen, const ScreenCorner& a, const ScreenCorner& b, const ScreenCorner& c);
+
+// A pixel is written where its depth is strictly less than the depth cell, which then takes it.
+void FillTriFlat(Screen& screen, const ScreenCorner& a, const ScreenCorner& b, const ScreenCorner& c, Rgb colour);
+// Texels of three zero bytes, and texels outside the texture, leave pixel and depth untouched.
+void FillTriTex(Screen& screen, const ScreenCorner& a, const ScreenCorner& b, const ScreenCorner& c,
+                const TexelField& texture);
+
+// The same pixel by pixel. The judges of the two above.
+void FillTriFlatPlain(Screen& screen, const ScreenCorner& a, const ScreenCorner& b, const ScreenCorner& c, Rgb colour);
+void FillTriTexPlain(Screen& screen, const ScreenCorner& a, const ScreenCorner& b, const ScreenCorner& c,
+                     const TexelField& texture);
+}

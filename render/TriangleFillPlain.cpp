@@ -1,0 +1,114 @@
+#include "base/Numbers.h"
+#include "render/TriangleFill.h"
+
+#include <algorithm>
+#include <array>
+
+namespace Mod3D
+{
+namespace
+{
+// One end of a span: the place on an edge at some row.
+struct End
+{
+    std::int32_t X = 0;
+    double Z = 0;
+    std::int32_t U = 0, V = 0;
+};
+
+double Between(double a, double b, double n, double d)
+{
+    return a + (b - a) * n / d;
+}
+
+// The edge from low to high at row y; they lie in different rows.
+End EdgeAt(const ScreenCorner& low, const ScreenCorner& high, std::int32_t y)
+{
+    const double n = static_cast<double>(y) - low.Y, d = static_cast<double>(high.Y) - low.Y;
+    return {base::RoundEven(Between(low.X, high.X, n, d)), Between(low.Z, high.Z, n, d),
+            base::RoundEven(Between(low.U, high.U, n, d)), base::RoundEven(Between(low.V, high.V, n, d))};
+}
+
+// Calls pixel(x, y, z, u, v) for every pixel of the triangle that lies on the screen.
+template<class Pixel>
+void WalkTriangle(const Screen& screen, const ScreenCorner& a, const ScreenCorner& b, const ScreenCorner& c,
+                  Pixel&& pixel)
+{
+    if (IsRejected(screen, a, b, c))
+        return;
+    std::array<ScreenCorner, 3> corner{a, b, c};
+    std::stable_sort(corner.begin(), corner.end(),
+                     [](const ScreenCorner& p, const ScreenCorner& q) { return p.Y < q.Y; });
+    const ScreenCorner &first = corner[0], &middle = corner[1], &last = corner[2];
+    const std::int32_t end = std::min(last.Y, screen.ScreenH - 1);
+    for (std::int32_t y = std::max(first.Y, 0); y <= end; ++y)
+    {
+        const End onLong = EdgeAt(first, last, y);
+        // The middle corner's row belongs to the upper part, where there is one.
+        const bool lower = y < middle.Y || middle.Y == last.Y;
+        const End onShort = lower ? EdgeAt(first, middle, y) : EdgeAt(middle, last, y);
+        const bool longIsLeft = onLong.X <= onShort.X;
+        const End& left = longIsLeft ? onLong : onShort;
+        const End& right = longIsLeft ? onShort : onLong;
+        const double width = static_cast<double>(right.X) - left.X;
+        const std::int32_t stop = std::min(right.X, screen.ScreenW - 1);
+        for (std::int32_t x = std::max(left.X, 0); x <= stop; ++x)
+        {
+            // A span of one column shows the long edge's values.
+            const double t = width == 0.0 ? 0.0 : (static_cast<double>(x) - left.X) / width;
+            const auto z = static_cast<float>(left.Z + (right.Z - left.Z) * t);
+            pixel(x, y, z, base::RoundEven((1.0 - t) * left.U + t * right.U),
+                  base::RoundEven((1.0 - t) * left.V + t * right.V));
+        }
+    }
+}
+
+std::uint8_t* PixelAt(Screen& screen, std::int32_t x, std::int32_t y)
+{
+    return screen.Frame.Row(y) + x * 3;
+}
+
+float& DepthAt(Screen& screen, std::int32_t x, std::int32_t y)
+{
+    return screen
+        .Depth[static_cast<std::size_t>(y) * static_cast<std::size_t>(screen.ScreenW) + static_cast<std::size_t>(x)];
+}
+}
+
+bool IsRejected(const Screen& screen, const ScreenCorner& a, const ScreenCorner& b, const ScreenCorner& c)
+{
+    return std::max({a.X, b.X, c.X}) < 0 || std::min({a.X, b.X, c.X}) >= screen.ScreenW ||
+           std::max({a.Y, b.Y, c.Y}) < 0 || std::min({a.Y, b.Y, c.Y}) >= screen.ScreenH || (a.Y == b.Y && b.Y == c.Y);
+}
+
+void FillTriFlatPlain(Screen& screen, const ScreenCorner& a, const ScreenCorner& b, const ScreenCorner& c, Rgb colour)
+{
+    WalkTriangle(screen, a, b, c,
+                 [&](std::int32_t x, std::int32_t y, float z, std::int32_t, std::int32_t)
+                 {
+                     if (!(z < DepthAt(screen, x, y)))
+                         return;
+                     DepthAt(screen, x, y) = z;
+                     std::uint8_t* pixel = PixelAt(screen, x, y);
+                     pixel[0] = colour.B;
+                     pixel[1] = colour.G;
+                     pixel[2] = colour.R;
+                 });
+}
+
+void FillTriTexPlain(Screen& screen, const ScreenCorner& a, const ScreenCorner& b, const ScreenCorner& c,
+                     const TexelField& texture)
+{
+    WalkTriangle(screen, a, b, c,
+                 [&](std::int32_t x, std::int32_t y, float z, std::int32_t u, std::int32_t v)
+                 {
+                     if (!texture.Has(u, v) || !(z < DepthAt(screen, x, y)))
+                         return;
+                     const std::uint8_t* texel = texture.At(u, v);
+                     if (texel[0] == 0 && texel[1] == 0 && texel[2] == 0)
+                         return;
+                     DepthAt(screen, x, y) = z;
+                     std::copy_n(texel, 3, PixelAt(screen, x, y));
+                 });
+}
+}
