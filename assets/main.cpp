@@ -1,4 +1,5 @@
 // velkar-assets ROOT [PART ...]: rebuilds data/ below ROOT. Parts: track, cars, hud; all of them when none is named.
+#include "cars/Cars.h"
 #include "hud/Hud.h"
 #include "track/Track.h"
 #include <algorithm>
@@ -16,7 +17,7 @@ struct Part
 
 static const std::vector<Part>& Parts()
 {
-    static const std::vector<Part> parts{{"track", Assets::BuildTrack}, {"hud", Assets::BuildHud}};
+    static const std::vector<Part> parts{{"track", Assets::BuildTrack}, {"cars", Assets::BuildCars}, {"hud", Assets::BuildHud}};
     return parts;
 }
 

@@ -1,0 +1,17 @@
+// cars/Fittings.h: what a car has besides its body: cabin, wheels, mirrors, wing and shadow.
+#pragma once
+#include "cars/Design.h"
+
+namespace Assets
+{
+// The flat panels of the cabin, and the dials and steering wheel (texels from the atlas). Twelve meshes.
+void AddCabin(Model& model, const Design& design, Atlas& atlas, const std::string& texture);
+
+void AddWindscreen(Model& model, const Design& design);
+
+// Four tyres, four wheel faces, the shadow on the ground, mirrors, and the wing where there is one.
+void AddOutside(Model& model, const Design& design, Atlas& atlas, const std::string& texture);
+
+// Collision spheres 0 to 5 low on the body, 6 and 7 in the cabin, each linked to the body points it dents.
+void AddSpheres(Model& model);
+}

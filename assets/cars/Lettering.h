@@ -1,0 +1,21 @@
+// cars/Lettering.h: words and numbers as areas, for painting on a body.
+#pragma once
+#include "shell/forms/Typeface.h"
+#include <string_view>
+#include <vector>
+
+namespace Assets
+{
+class Lettering
+{
+public:
+    // `height` of a capital letter; the text is centred on (0, 0), x to the right and y up, in the same unit.
+    Lettering(std::string_view text, double height, double weight, double slant = 0);
+    // Whether the point lies on the ink, fattened by `border`.
+    bool Inside(double x, double y, double border = 0) const;
+
+private:
+    std::vector<Typeface::Segment> _strokes;
+    double _scale, _centreX, _centreY;
+};
+}

@@ -1,0 +1,19 @@
+// cars/Paint.h: the painters of a car's panels: livery, number, gaps, lamps, windows, and the light on all of it.
+#pragma once
+#include "cars/Design.h"
+
+namespace Assets
+{
+// The paint's colour on a surface with this outward direction, lit from above. `gloss` 0 (cloth) to 1 (fresh paint).
+Rgb Lit(Rgb paint, Vec3 normal, double gloss);
+
+Painter FlankPainter(const Design& design, double side);
+Painter BonnetPainter(const Design& design);
+Painter DeckPainter(const Design& design);
+Painter RoofPainter(const Design& design);
+Painter NosePainter(const Design& design);
+Painter TailPainter(const Design& design);
+Painter CabinPainter(const Design& design);
+Painter RearWindowPainter(const Design& design);
+Painter WingPainter(const Design& design);
+}

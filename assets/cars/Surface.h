@@ -1,0 +1,91 @@
+// cars/Surface.h: curved body panels: each is a smooth surface over (a, b), cut into a grid and painted into a texture.
+// Texels are coloured from the smooth surface, so that a coarse grid still looks round.
+#pragma once
+#include "common/Canvas.h"
+#include "common/Model3dm.h"
+#include <functional>
+#include <string>
+#include <utility>
+#include <vector>
+
+namespace Assets
+{
+struct Vec3
+{
+    double X = 0, Y = 0, Z = 0;
+};
+
+inline Vec3 operator+(Vec3 a, Vec3 b)
+{
+    return {a.X + b.X, a.Y + b.Y, a.Z + b.Z};
+}
+inline Vec3 operator-(Vec3 a, Vec3 b)
+{
+    return {a.X - b.X, a.Y - b.Y, a.Z - b.Z};
+}
+inline Vec3 operator*(Vec3 a, double k)
+{
+    return {a.X * k, a.Y * k, a.Z * k};
+}
+double Dot(Vec3 a, Vec3 b);
+Vec3 Cross(Vec3 a, Vec3 b);
+Vec3 Unit(Vec3 a); // of a zero vector: straight up
+
+// A smooth curve through (position, value) keys; flat beyond the ends. Positions rise.
+class Curve
+{
+public:
+    Curve(std::initializer_list<std::pair<double, double>> keys) : _keys(keys) {}
+    double operator()(double at) const;
+
+private:
+    std::vector<std::pair<double, double>> _keys;
+};
+
+using Surface = std::function<Vec3(double a, double b)>; // a across the texture, b up it; both 0 to 1
+
+// What the painter is asked about.
+struct Sample
+{
+    Vec3 P, N;
+    double A = 0, B = 0;
+};
+struct Ink
+{
+    Rgb Colour;
+    bool Clear = false; // see-through
+};
+using Painter = std::function<Ink(const Sample&)>;
+
+// One texture shared by many panels, filled shelf by shelf from the bottom.
+class Atlas
+{
+public:
+    Atlas(int width, int height) : _picture(width, height) {}
+
+    struct Area
+    {
+        int X, Y, Width, Height;
+    };
+    // Throws std::runtime_error when there is no room left.
+    Area Reserve(int width, int height);
+    Canvas& Picture() { return _picture; }
+
+private:
+    Canvas _picture;
+    int _x = 0, _y = 0, _shelf = 0;
+};
+
+struct Panel
+{
+    Surface Shape;
+    std::vector<double> KnotsA, KnotsB; // where the grid is cut, rising from 0 to 1
+    int Width = 0, Height = 0;          // texels
+    Vec3 Inside;                        // a point behind the surface: normals point away from it
+};
+
+// Reserves the panel's texels, paints them and returns the grid.
+ModelMesh Build(const Panel& panel, const Painter& painter, Atlas& atlas, const std::string& texture);
+
+std::vector<double> Evenly(int cells);
+}

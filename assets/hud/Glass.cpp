@@ -1,0 +1,85 @@
+#include "hud/Glass.h"
+#include "common/Canvas.h"
+#include <cmath>
+
+namespace Assets
+{
+namespace
+{
+constexpr int Width = 128, Height = 64;
+
+// The seal all round and the shade strip along the top, both of which whole and broken glass have.
+void PaintFrame(Canvas& glass)
+{
+    for (int y = 0; y < Height; ++y)
+        for (int x = 0; x < Width; ++x)
+        {
+            const double side = std::min(x, Width - 1 - x), top = Height - 1 - y;
+            if (side < 2 || y < 2 || top < 2)
+                glass.Set(x, y, Hex(0x121316));
+            else if (top < 5) // the shade strip
+                glass.Set(x, y, Mix(Hex(0x16262C), Hex(0x24404A), (5 - top) / 3));
+        }
+}
+
+// A broad and a thin slanting reflection of the sky in every other texel, near the right edge: the driver
+// on the left does not see it.
+void PaintReflection(Canvas& glass)
+{
+    for (int y = 3; y < Height - 10; ++y)
+        for (int x = 106; x < Width - 4; ++x)
+        {
+            const double slant = x - y * 0.55;
+            const bool streak = (slant > 84 && slant < 90) || (slant > 93 && slant < 95);
+            if (streak && (x + y) % 2 == 0)
+                glass.Set(x, y, Hex(0xC4D4DC));
+        }
+}
+
+// Cracks run out from where the glass was hit, wander a little and are tied together by rings.
+void PaintCracks(Canvas& glass, Point hit, int count, double reach, std::uint32_t seed)
+{
+    Sequence random(seed);
+    std::vector<std::vector<Point>> rays;
+    for (int i = 0; i < count; ++i)
+    {
+        double angle = 2 * Pi * (i + random.Between(0.1, 0.9)) / count;
+        const double length = reach * random.Between(0.55, 1.3);
+        Point at = hit;
+        std::vector<Point> ray{at};
+        for (double gone = 0; gone < length; gone += 5)
+        {
+            angle += random.Between(-0.16, 0.16);
+            at = {at.X + 5 * std::cos(angle), at.Y + 5 * std::sin(angle)};
+            ray.push_back(at);
+        }
+        rays.push_back(ray);
+    }
+    const Rgb bright = Hex(0xE2ECEE), dim = Hex(0x9FB0B6);
+    for (std::size_t i = 0; i < rays.size(); ++i)
+    {
+        Stroke(glass, rays[i], 1.15, bright);
+        for (const std::size_t step : {1u, 2u, 4u})
+            if (const auto& next = rays[(i + 1) % rays.size()];
+                step < rays[i].size() && step < next.size() && random.Next() < 0.8)
+                Stroke(glass, std::vector<Point>{rays[i][step], next[step]}, 1.0, dim);
+    }
+    FillDisc(glass, hit, 2.2, Hex(0xF4FAFA));
+}
+}
+
+void WriteGlass(const std::string& folder)
+{
+    Canvas whole(Width, Height);
+    PaintReflection(whole);
+    PaintFrame(whole);
+    WriteBmp(folder + "/glass.bmp", whole, Black::Key);
+
+    Canvas broken(Width, Height);
+    PaintReflection(broken);
+    PaintCracks(broken, {88, 40}, 13, 40, 5);
+    PaintCracks(broken, {30, 16}, 8, 20, 11);
+    PaintFrame(broken);
+    WriteBmp(folder + "/glass_b.bmp", broken, Black::Key);
+}
+}
