@@ -1,0 +1,104 @@
+// platform/headless/Machine.h: the machine that no one looks at: a virtual clock, message boxes that are recorded and
+// answered with OK, windows that remember what they show. Tests, benchmarks and velkar-drive run on it; nothing here
+// reads a clock, a device or a screen, so the same script gives the same bytes.
+#pragma once
+#include "platform/Platform.h"
+
+#include <cstdint>
+#include <memory>
+#include <string>
+#include <vector>
+
+namespace headless
+{
+struct Box
+{
+    base::Icon Icon = base::Icon::Critical;
+    std::string Title, Text;
+};
+
+// Rows from the bottom upward, each of blue, green, red padded to 4 bytes.
+struct Image
+{
+    std::int32_t Width = 0, Height = 0;
+    std::vector<std::uint8_t> Bits;
+};
+
+class Machine;
+
+class Window final : public platform::Window
+{
+public:
+    Window(Machine& machine, platform::WindowEvents& events, platform::Size size);
+    ~Window() override;
+    Window(const Window&) = delete;
+    Window& operator=(const Window&) = delete;
+
+    void ShowMessage(base::Icon icon, const std::string& title, const std::string& text) override;
+    void Show(bool visible) override;
+    void SetTitle(const std::string& title) override { Title = title; }
+    platform::Size ClientSize() override;
+    void SetClientSize(platform::Size size) override;
+    platform::Point Position() override;
+    void Move(platform::Point position) override;
+    void SetFullScreen(bool on) override;
+    void ShowCursor(bool visible) override { CursorShown = visible; }
+    platform::Point CursorPosition() override;
+    void Present(int width, int height, std::span<const std::uint8_t> bits) override;
+    std::string ClipboardText() override;
+    void SetClipboardText(const std::string& text) override;
+
+    // The last presented picture stretched to the client area, nearest pixel; black before the first.
+    Image Screenshot() const;
+    // Hands over the resizing and painting that is due.
+    void Deliver();
+
+    std::string Title;
+    bool Visible = false, CursorShown = true, FullScreen = false;
+
+private:
+    platform::Size Client() const;
+
+    Machine& TheMachine;
+    platform::WindowEvents& Events;
+    platform::Size RestoredSize;
+    platform::Point RestoredPlace;
+    Image Shown;
+    bool ResizeDue = false, PaintDue = false;
+};
+
+// Must outlive the windows it made.
+class Machine final : public platform::Platform
+{
+public:
+    explicit Machine(base::Files files) : TheFiles(std::move(files)) {}
+
+    const base::Files& DataFiles() override { return TheFiles; }
+    std::uint32_t TickCount() override { return Clock; }
+    std::uint64_t ClockSeed() override { return Seed; }
+    int ProcessorCount() override { return Processors; }
+    bool IsFirstInstance() override { return FirstInstance; }
+    std::unique_ptr<platform::Window> MakeWindow(platform::WindowEvents& events, platform::Size size) override;
+    void PumpEvents() override;
+
+    // What the script plays the part of.
+    std::uint32_t Clock = 0; // milliseconds
+    std::uint64_t Seed = 1;
+    int Processors = 4;
+    bool FirstInstance = true;
+    std::string Clipboard;
+    platform::Point Cursor;
+    platform::Size Display{1280, 1024};
+
+    // The message boxes shown so far; beyond MostBoxes they are only counted.
+    static constexpr std::size_t MostBoxes = 1000;
+    std::vector<Box> Boxes;
+    std::size_t UnrecordedBoxes = 0;
+
+private:
+    friend class Window;
+
+    base::Files TheFiles;
+    std::vector<Window*> Windows;
+};
+}

@@ -1,0 +1,74 @@
+// Ticks and the clock.
+#include "tools/drive/Session.h"
+
+#include <algorithm>
+#include <array>
+
+namespace drive
+{
+namespace
+{
+constexpr std::uint32_t GameStep = 25; // milliseconds
+
+void AnswerGameTime(Session& session, Object& answer)
+{
+    if (shell::Form1* form = session.Form())
+        AppendNumber(answer.Field("GameTime"), form->State().Race.GameTime);
+}
+
+void Game(Session& session, Words& words, Object& answer)
+{
+    const std::uint32_t times = Times(words, session.Most.Ticks);
+    shell::Form1& form = *session.Form();
+    for (std::uint32_t i = 0; i < times && !session.Ended(); ++i)
+    {
+        session.Machine.Clock += GameStep;
+        if (form.State().Timers.GameT.Enabled != base::False)
+            form.GameT_Tick();
+    }
+    AnswerGameTime(session, answer);
+}
+
+void Render(Session& session, Words& words, Object&)
+{
+    const std::uint32_t times = Times(words, session.Most.Frames);
+    shell::Form1& form = *session.Form();
+    for (std::uint32_t i = 0; i < times && !session.Ended(); ++i)
+    {
+        const shell::TickTimer& timer = form.State().Timers.RenderT;
+        session.Machine.Clock += static_cast<std::uint32_t>(std::max(timer.interval, 0));
+        if (timer.Enabled != base::False)
+            form.RenderT_Tick();
+    }
+}
+
+void Run(Session& session, Words& words, Object& answer)
+{
+    const auto milliseconds = Number<std::uint32_t>(words, "the number of milliseconds", 0, session.Most.Milliseconds);
+    RequireEnd(words);
+    session.Pass(milliseconds);
+    AnswerGameTime(session, answer);
+}
+
+void Draw(Session& session, Words& words, Object&)
+{
+    RequireEnd(words);
+    session.Form()->Draw();
+}
+
+void Place(Session& session, Words& words, Object&)
+{
+    RequireEnd(words);
+    session.Form()->PlaceCamera();
+}
+}
+
+std::span<const Command> TimeCommands()
+{
+    static constexpr std::array commands = {
+        Command{"game", true, Game}, Command{"render", true, Render}, Command{"run", true, Run},
+        Command{"draw", true, Draw}, Command{"place", true, Place},
+    };
+    return commands;
+}
+}
