@@ -17,16 +17,12 @@ namespace
 {
 constexpr std::uint64_t Odd1 = 0x9FB21C651E98DF25u, Odd2 = 0xD6E8FEB86659FD93u;
 
-// Each step can be undone: a run that differs in one place never comes back to the same sum by itself.
+// The value is scattered over all bits before it meets the sum, so that no single change of one value looks like a
+// single change of the next. Each step can be undone: a run that differs in one place never comes back to the same sum
+// by itself.
 std::uint64_t Step(std::uint64_t sum, std::uint64_t value)
 {
-    return std::rotl((sum ^ value) * Odd1, 29);
-}
-
-// Another step for the lanes, so that a change in one is not mistaken for a change in the word that takes it up.
-std::uint64_t LaneStep(std::uint64_t lane, std::uint64_t value)
-{
-    return std::rotl((lane ^ value) * Odd2, 37);
+    return std::rotl(sum ^ (std::rotl(value * Odd1, 31) * Odd2), 27) * 5 + 0x52DCE729u;
 }
 
 std::uint64_t Load(const std::uint8_t* bytes)
@@ -115,7 +111,7 @@ void Digest::Bytes(std::span<const std::uint8_t> bytes)
     std::size_t left = bytes.size();
     for (; left >= 32; left -= 32, at += 32)
         for (std::size_t i = 0; i < 4; ++i)
-            lanes[i] = LaneStep(lanes[i], Load(at + 8 * i));
+            lanes[i] = Step(lanes[i], Load(at + 8 * i));
     for (const std::uint64_t lane : lanes)
         Word(lane);
     for (; left > 0; --left, ++at)
