@@ -2,9 +2,11 @@
 
 #include "base/Math.h"
 #include "base/Numbers.h"
+#include "render/Blend.h"
 #include "render/Double2.h"
 
 #include <algorithm>
+#include <bit>
 #include <cmath>
 #include <cstring>
 
@@ -73,9 +75,14 @@ void Copy(std::uint8_t* pixel, const std::uint8_t* from)
     std::memcpy(pixel, from, 3);
 }
 
-std::uint32_t Load3(const std::uint8_t* from)
+// Load3 where a fourth byte may be read as well.
+std::uint32_t Load3Of4(const std::uint8_t* from)
 {
-    return static_cast<std::uint32_t>(from[0] | from[1] << 8 | from[2] << 16);
+    if constexpr (std::endian::native != std::endian::little)
+        return Load3(from);
+    std::uint32_t bytes = 0;
+    std::memcpy(&bytes, from, 4);
+    return bytes;
 }
 
 // Two columns at a time; each line is one of TexelPlain. CamX - SinYaw x RowDist and its like are the row's own.
@@ -197,31 +204,23 @@ void FindTaps(const GroundView& view, const Band& band)
     }
 }
 
-// n = 0 and a weight worth blending: the texel with one neighbour on each side.
-void FillThree(const GroundView& view, const RowSpan& span)
+// A texel and its neighbours on both sides, n of them, weighted and divided by the sum of the weights. The first
+// neighbours weigh sideWeight, the next ones each one less.
+struct Tent
 {
-    const std::int32_t w = base::RoundEven(view.RowAux[span.Y] / 0.03);
-    FillSpan(view, span, Margin,
-             [&](std::int32_t u, std::int32_t v, std::int32_t x, std::uint8_t* pixel)
-             {
-                 const ColumnTaps& taps = view.Taps[x];
-                 if (taps.HasTies != 0)
-                     return GroundPixelPlain(view, 2, x, span.Y, pixel);
-                 const std::uint8_t* centre = view.Sharp.At(u, v);
-                 const std::uint8_t* left = centre - taps.Offset[0];
-                 const std::uint8_t* right = centre + taps.Offset[0];
-                 for (int c = 0; c < 3; ++c)
-                     pixel[c] = static_cast<std::uint8_t>((centre[c] * (50 - w) * 2 + (left[c] + right[c]) * w) / 100);
-             });
-}
+    std::int32_t n = 0;
+    std::uint32_t MiddleWeight = 0, SideWeight = 0;
+    std::uint32_t Divisor = 1;
+};
 
-// n >= 1: the tent. Blue and red are summed in the two halves of one word, which suffice: the weights add up to at most
-// 225. The division is a multiplication by 2^32 / weight, exact for these sums.
-void FillTent(const GroundView& view, const RowSpan& span, std::int32_t n)
+// Blue and red are summed in the two halves of one word, which suffice: no divisor is above 225. The division is a
+// multiplication by 2^32 / divisor, exact for these sums. Four bytes are read for three, which the margin allows.
+void FillTent(const GroundView& view, const RowSpan& span, const Tent& tent)
 {
-    const std::uint64_t reciprocal = (std::uint64_t{1} << 32) / static_cast<std::uint64_t>((n + 2) * n + 1) + 1;
-    const auto mean = [reciprocal](std::uint32_t sum) { return static_cast<std::uint8_t>(sum * reciprocal >> 32); };
-    constexpr std::uint32_t blueRed = 0xFF00FF, green = 0xFF00;
+    const std::uint64_t reciprocal = (std::uint64_t{1} << 32) / tent.Divisor + 1;
+    const auto mean = [reciprocal](std::uint32_t sum)
+    { return static_cast<std::uint32_t>((sum & 0xFFFF) * reciprocal >> 32); };
+    constexpr std::uint32_t blueRed = 0xFF00FF, green = 0xFF;
     FillSpan(view, span, Margin,
              [&](std::int32_t u, std::int32_t v, std::int32_t x, std::uint8_t* pixel)
              {
@@ -229,49 +228,19 @@ void FillTent(const GroundView& view, const RowSpan& span, std::int32_t n)
                  if (taps.HasTies != 0)
                      return GroundPixelPlain(view, 2, x, span.Y, pixel);
                  const std::uint8_t* centre = view.Sharp.At(u, v);
-                 auto weight = static_cast<std::uint32_t>(n + 1);
-                 const std::uint32_t middle = Load3(centre);
-                 std::uint32_t sumBlueRed = (middle & blueRed) * weight;
-                 std::uint32_t sumGreen = ((middle & green) >> 8) * weight;
-                 for (std::int32_t k = 0; k < n; ++k)
+                 const std::uint32_t middle = Load3Of4(centre);
+                 std::uint32_t sumBlueRed = (middle & blueRed) * tent.MiddleWeight;
+                 std::uint32_t sumGreen = (middle >> 8 & green) * tent.MiddleWeight;
+                 std::uint32_t weight = tent.SideWeight;
+                 for (std::int32_t k = 0; k < tent.n; ++k, --weight)
                  {
-                     --weight;
-                     const std::uint32_t left = Load3(centre - taps.Offset[k]);
-                     const std::uint32_t right = Load3(centre + taps.Offset[k]);
+                     const std::uint32_t left = Load3Of4(centre - taps.Offset[k]);
+                     const std::uint32_t right = Load3Of4(centre + taps.Offset[k]);
                      sumBlueRed += ((left & blueRed) + (right & blueRed)) * weight;
-                     sumGreen += (((left & green) + (right & green)) >> 8) * weight;
+                     sumGreen += ((left >> 8 & green) + (right >> 8 & green)) * weight;
                  }
-                 pixel[0] = mean(sumBlueRed & 0xFFFF);
-                 pixel[1] = mean(sumGreen);
-                 pixel[2] = mean(sumBlueRed >> 16);
+                 Store3(pixel, mean(sumBlueRed) | mean(sumGreen) << 8 | mean(sumBlueRed >> 16) << 16);
              });
-}
-
-// One pixel of the blend; each channel is blurred x w + sharp x (1 - w), rounded down.
-void Blend(const std::uint8_t* sharp, const std::uint8_t* blurred, double w, double rest, std::uint8_t* pixel)
-{
-#ifdef VELKAR_SSE2
-    const __m128i zero = _mm_setzero_si128();
-    const auto spread = [zero](const std::uint8_t* from)
-    {
-        const __m128i bytes = _mm_cvtsi32_si128(static_cast<int>(Load3(from)));
-        return _mm_unpacklo_epi16(_mm_unpacklo_epi8(bytes, zero), zero);
-    };
-    const __m128i b = spread(blurred), s = spread(sharp);
-    const __m128d weight = _mm_set1_pd(w), other = _mm_set1_pd(rest);
-    const __m128d low = _mm_add_pd(_mm_mul_pd(_mm_cvtepi32_pd(b), weight), _mm_mul_pd(_mm_cvtepi32_pd(s), other));
-    const __m128d high = _mm_add_pd(_mm_mul_pd(_mm_cvtepi32_pd(_mm_unpackhi_epi64(b, b)), weight),
-                                    _mm_mul_pd(_mm_cvtepi32_pd(_mm_unpackhi_epi64(s, s)), other));
-    // No channel is negative, so cutting the fraction off is rounding down.
-    __m128i channels = _mm_unpacklo_epi64(_mm_cvttpd_epi32(low), _mm_cvttpd_epi32(high));
-    channels = _mm_packs_epi32(channels, zero);
-    channels = _mm_packus_epi16(channels, zero);
-    const auto all = static_cast<std::uint32_t>(_mm_cvtsi128_si32(channels));
-    std::memcpy(pixel, &all, 3);
-#else
-    for (int c = 0; c < 3; ++c)
-        pixel[c] = static_cast<std::uint8_t>(base::Floor(blurred[c] * w + sharp[c] * rest));
-#endif
 }
 
 void FillNearest(const GroundView& view, const RowSpan& span, std::int32_t margin)
@@ -295,7 +264,7 @@ void GroundLinear(const GroundView& view, const Band& band, WalkGate& gate)
                  const double w = view.RowAux[span.Y], rest = 1.0 - w;
                  FillSpan(view, span, 0,
                           [&](std::int32_t u, std::int32_t v, std::int32_t, std::uint8_t* pixel)
-                          { Blend(view.Sharp.At(u, v), view.Blurred.At(u, v), w, rest, pixel); });
+                          { Blend<Rounding::Down>(view.Blurred.At(u, v), w, view.Sharp.At(u, v), rest, pixel); });
              });
 }
 
@@ -307,12 +276,14 @@ void GroundAniso(const GroundView& view, const Band& band, WalkGate& gate)
              {
                  const float aux = view.RowAux[span.Y];
                  const std::int32_t n = base::Floor(aux);
+                 const auto w = static_cast<std::uint32_t>(base::RoundEven(aux / 0.03));
+                 const auto width = static_cast<std::uint32_t>(n);
                  if (n > 0)
-                     FillTent(view, span, n);
+                     FillTent(view, span, {n, width + 1, width, (width + 2) * width + 1});
                  else if (aux < 0.3)
                      FillNearest(view, span, Margin);
                  else
-                     FillThree(view, span);
+                     FillTent(view, span, {1, (50 - w) * 2, w, 100});
              });
 }
 }

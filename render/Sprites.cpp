@@ -1,6 +1,7 @@
 #include "render/Sprites.h"
 
 #include "base/Numbers.h"
+#include "render/Blend.h"
 #include "render/Ground.h"
 
 #include <algorithm>
@@ -89,8 +90,42 @@ void DrawSprite3DPlain(const Camera& camera, Screen& screen, const Sprite3D& spr
         }
 }
 
+// Fast because the texel of every column is found once a sprite and that of every row once a row.
 void DrawSprite3D(const Camera& camera, Screen& screen, const Sprite3D& sprite)
 {
-    DrawSprite3DPlain(camera, screen, sprite);
+    Placed placed;
+    if (!Place(camera, screen, sprite, placed))
+        return;
+    constexpr std::size_t mostColumns = 128; // above WidestSprite
+    std::array<std::int32_t, mostColumns> texelAt;
+    const bool copies = placed.Alpha == 1.0;
+    const double rest = 1.0 - placed.Alpha;
+    const std::int32_t first = std::max(0, -placed.X);
+    const std::int32_t count = std::min(placed.Columns, screen.ScreenW - placed.X) - first;
+    if (count > static_cast<std::int32_t>(mostColumns) || !(placed.Alpha >= 0.0 && placed.Alpha <= 1.0))
+        return DrawSprite3DPlain(camera, screen, sprite);
+    for (std::int32_t i = 0; i < count; ++i)
+        texelAt[static_cast<std::size_t>(i)] =
+            std::clamp(base::Floor((first + i) / placed.Factor), 0, placed.Picture.Width - 1) * 3;
+    for (std::int32_t row = std::max(0, -placed.Y); row < placed.Rows && placed.Y + row < screen.ScreenH; ++row)
+    {
+        const std::int32_t v = base::Floor(row / placed.Factor);
+        if (v < 0 || v >= placed.Picture.Height)
+            continue;
+        const std::uint8_t* texels = placed.Picture.At(0, v);
+        const std::ptrdiff_t y = placed.Y + row, x = placed.X + first;
+        const float* depth = screen.Depth.data() + y * screen.ScreenW + x;
+        std::uint8_t* pixel = screen.Frame.Bytes.data() + y * screen.Frame.RowBytes + x * 3;
+        for (std::int32_t i = 0; i < count; ++i, pixel += 3)
+        {
+            const std::uint8_t* texel = texels + texelAt[static_cast<std::size_t>(i)];
+            if (!(placed.Depth < depth[i]) || IsTransparent(texel))
+                continue;
+            if (copies)
+                std::memcpy(pixel, texel, 3);
+            else
+                Blend<Rounding::Nearest>(pixel, rest, texel, placed.Alpha, pixel);
+        }
+    }
 }
 }

@@ -13,18 +13,23 @@ namespace
 {
 constexpr std::int32_t Chunk = 32; // pixels of a span whose values are found before they are drawn
 
-// An edge between two rows, ready to be asked for its place in any of them.
+// An edge between two rows, ready to be asked for its place in any of them: two values at a time, each
+// a + (b - a) x n / d.
 struct Edge
 {
-    double X = 0, Z = 0, U = 0, V = 0; // at its lower end
-    double StepX = 0, StepZ = 0, StepU = 0, StepV = 0;
-    double Y = 0, Rows = 0;
+    Double2 XZ, UV; // at its lower end
+    Double2 StepXZ, StepUV;
+    double Y = 0;
+    Double2 Rows;
 
     Edge(const ScreenCorner& low, const ScreenCorner& high)
-        : X(low.X), Z(low.Z), U(low.U), V(low.V), StepX(high.X - X), StepZ(high.Z - Z), StepU(high.U - U),
-          StepV(high.V - V), Y(low.Y), Rows(high.Y - Y)
+        : XZ(Double2::Of(low.X, low.Z)), UV(Double2::Of(low.U, low.V)), StepXZ(Double2::Of(high.X, high.Z) - XZ),
+          StepUV(Double2::Of(high.U, high.V) - UV), Y(low.Y), Rows(Double2::Of(high.Y - Y))
     {
     }
+    // Column, not yet rounded, and depth at row y.
+    void PlaceAt(std::int32_t y, double* xz) const { (XZ + StepXZ * Double2::Of(y - Y) / Rows).Store(xz); }
+    void TexelAt(std::int32_t y, std::int32_t* uv) const { (UV + StepUV * Double2::Of(y - Y) / Rows).StoreRounded(uv); }
 };
 
 // The part of a row between two edges. Left and right are the ends before they are clamped to the screen.
@@ -33,8 +38,8 @@ struct Span
     std::int32_t Y = 0;
     double Left = 0, Width = 0;
     double LeftZ = 0, StepZ = 0;
-    double LeftU = 0, LeftV = 0, RightU = 0, RightV = 0; // whole texels
-    std::int32_t First = 0, Last = 0;                    // columns on the screen
+    std::int32_t LeftTexel[2] = {}, RightTexel[2] = {}; // U, V
+    std::int32_t First = 0, Last = 0;                   // columns on the screen
 };
 
 // t of a chunk's pixels, two at a time, and what follows from it. One column takes the long edge's values: t is 0.
@@ -62,8 +67,8 @@ struct Chunks
     void FindTexels(const Span& span, std::int32_t count)
     {
         const Double2 one = Double2::Of(1.0);
-        const Double2 leftU = Double2::Of(span.LeftU), rightU = Double2::Of(span.RightU);
-        const Double2 leftV = Double2::Of(span.LeftV), rightV = Double2::Of(span.RightV);
+        const Double2 leftU = Double2::Of(span.LeftTexel[0]), rightU = Double2::Of(span.RightTexel[0]);
+        const Double2 leftV = Double2::Of(span.LeftTexel[1]), rightV = Double2::Of(span.RightTexel[1]);
         for (std::int32_t i = 0; i < count; i += 2)
         {
             const Double2 t = Double2::Load(T + i), rest = one - t;
@@ -93,17 +98,12 @@ void WalkSpans(const Screen& screen, const ScreenCorner& a, const ScreenCorner& 
     for (std::int32_t y = std::max(first->Y, 0); y <= end; ++y)
     {
         const Edge& part = y < middle->Y || middle->Y == last->Y ? lower : upper;
-        const double n = y - whole.Y, m = y - part.Y;
-        const Edge *left = &whole, *right = &part;
-        double leftN = n, rightN = m;
-        std::int32_t leftX = base::RoundEven(whole.X + whole.StepX * n / whole.Rows);
-        std::int32_t rightX = base::RoundEven(part.X + part.StepX * m / part.Rows);
-        if (leftX > rightX)
-        {
-            std::swap(left, right);
-            std::swap(leftN, rightN);
-            std::swap(leftX, rightX);
-        }
+        double onWhole[2], onPart[2];
+        whole.PlaceAt(y, onWhole);
+        part.PlaceAt(y, onPart);
+        const std::int32_t wholeX = base::RoundEven(onWhole[0]), partX = base::RoundEven(onPart[0]);
+        const bool wholeIsLeft = wholeX <= partX;
+        const std::int32_t leftX = wholeIsLeft ? wholeX : partX, rightX = wholeIsLeft ? partX : wholeX;
         Span span;
         span.First = std::max(leftX, 0);
         span.Last = std::min(rightX, screen.ScreenW - 1);
@@ -112,14 +112,12 @@ void WalkSpans(const Screen& screen, const ScreenCorner& a, const ScreenCorner& 
         span.Y = y;
         span.Left = leftX;
         span.Width = static_cast<double>(rightX) - leftX;
-        span.LeftZ = left->Z + left->StepZ * leftN / left->Rows;
-        span.StepZ = right->Z + right->StepZ * rightN / right->Rows - span.LeftZ;
+        span.LeftZ = wholeIsLeft ? onWhole[1] : onPart[1];
+        span.StepZ = (wholeIsLeft ? onPart[1] : onWhole[1]) - span.LeftZ;
         if constexpr (Textured)
         {
-            span.LeftU = base::RoundEven(left->U + left->StepU * leftN / left->Rows);
-            span.LeftV = base::RoundEven(left->V + left->StepV * leftN / left->Rows);
-            span.RightU = base::RoundEven(right->U + right->StepU * rightN / right->Rows);
-            span.RightV = base::RoundEven(right->V + right->StepV * rightN / right->Rows);
+            whole.TexelAt(y, wholeIsLeft ? span.LeftTexel : span.RightTexel);
+            part.TexelAt(y, wholeIsLeft ? span.RightTexel : span.LeftTexel);
         }
         draw(span);
     }

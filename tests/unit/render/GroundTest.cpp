@@ -1,7 +1,7 @@
 #include "render/Ground.h"
 
 #include "render/RenderFrame.h"
-#include "tests/unit/render/Scenes.h"
+#include "tests/support/Scenes.h"
 
 #include <gtest/gtest.h>
 

@@ -1,4 +1,4 @@
-// tests/unit/render/Scenes.h: small worlds for the tests of the renderer: pictures of noise, cameras, whole scenes.
+// tests/support/Scenes.h: small worlds for the tests of the renderer: pictures of noise, cameras, whole scenes.
 #pragma once
 #include "base/Random.h"
 #include "render/GroundTexture.h"
