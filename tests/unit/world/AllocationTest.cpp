@@ -1,0 +1,84 @@
+// A tick of the simulation takes no memory once its lists have grown.
+#include "World.h"
+
+#include <gtest/gtest.h>
+
+#include <atomic>
+#include <cstdlib>
+#include <new>
+
+namespace
+{
+std::atomic<std::size_t> Allocations{0};
+
+struct NoFinish : modDinamica::FinishSink
+{
+    void Finished(const std::string&) override {}
+};
+
+// Cars that drive, collide, are dented, smoke and splash.
+test::World BusyWorld()
+{
+    test::World world;
+    world.Random.Script.clear();
+    world.Random.Seed(5);
+    world.MakePictures();
+    world.SetGround(256, 256, 1, 200);
+    world.SetCheckpoints({{20, 0, 20, 15}, {100, 0, 20, 15}, {100, 0, 100, 15}, {20, 0, 100, 15}});
+    world.Race.Map.Water = {{100, 0, 60, 30}};
+    world.Race.Map.NumWater = 1;
+    for (int n = 0; n < 24; ++n)
+    {
+        const std::int16_t car = world.AddCar(static_cast<float>(20 + n), static_cast<float>(30 + n % 5));
+        world.Player(car).Damage = static_cast<float>(n % 10);
+    }
+    for (int n = 0; n < 200; ++n)
+        world.AddBall(static_cast<float>(n % 20 * 6), static_cast<float>(n / 20 * 12), 2, 1);
+    return world;
+}
+
+void Tick(test::World& world)
+{
+    NoFinish finish;
+    modDinamica::Simulation sim = world.Sim();
+    world.Race.GameTime += 25;
+    modDinamica::ComputePlaces(world.Scene, world.Race);
+    modDinamica::RaceStep(sim, finish);
+    modDinamica::Collide(sim);
+    modDinamica::DamageSmoke(sim);
+    modDinamica::ComputerDrive(sim);
+    modDinamica::UserDrive(sim);
+}
+}
+
+void* operator new(std::size_t size)
+{
+    ++Allocations;
+    if (void* memory = std::malloc(size == 0 ? 1 : size))
+        return memory;
+    throw std::bad_alloc();
+}
+void operator delete(void* memory) noexcept
+{
+    std::free(memory);
+}
+void operator delete(void* memory, std::size_t) noexcept
+{
+    std::free(memory);
+}
+
+TEST(Allocation, NoneInATickOnceTheListsHaveGrown)
+{
+    test::World world = BusyWorld();
+    for (int tick = 0; tick < 400; ++tick)
+        Tick(world);
+    EXPECT_GT(world.Scene.Particles.size(), 0u);
+    // The lists of particles may still find a new height: memory for them is had before.
+    world.Scene.Particles.reserve(world.Scene.Particles.size() + 1000);
+    world.Scene.Sprites.Items.reserve(world.Scene.Sprites.Items.size() + 1000);
+    const std::size_t before = Allocations;
+    for (int tick = 0; tick < 400; ++tick)
+        Tick(world);
+    EXPECT_EQ(Allocations - before, 0u);
+    EXPECT_GT(before, 0u); // the counter counts
+}

@@ -1,0 +1,95 @@
+// A small world for the tests of the simulation: everything a tick reads and writes, and cars to put into it.
+#pragma once
+#include "render/Primitives.h"
+#include "world/Dynamics.h"
+#include "world/RaceLogic.h"
+
+#include <initializer_list>
+#include <memory>
+#include <vector>
+
+namespace test
+{
+struct World
+{
+    Mod3D::Scene Scene;
+    world::Race Race;
+    Mod3D::Camera Camera;
+    world::HeldKeys Keys;
+    world::RaceAssets Assets;
+    base::Random Random;
+    float EffQuality = 1.0f;
+    bool WebcamOn = false;
+    float Shake = 0.0f;
+    bool InBox = false;
+
+    World() { Random.Script = {0.75}; }
+
+    modDinamica::Simulation Sim()
+    {
+        return {Scene, Race, Camera, Keys, Assets, Random, EffQuality, WebcamOn, Shake, InBox};
+    }
+
+    Mod3D::Obj& Object(std::int32_t index) { return Scene.Objects.At(index); }
+    world::Player& Player(std::int32_t index) { return Race.Players.at(static_cast<std::size_t>(index)); }
+
+    // An object with one sphere of that radius at its centre; its bounding radius is the same.
+    std::int16_t AddBall(float x, float z, float radius, float mass)
+    {
+        const std::int16_t object = modPrimitive::MakeObj(Scene, x, 0, z, 0, 0, 0, 1, 1, mass);
+        modPrimitive::SetObjR(Scene, object, radius);
+        modPrimitive::EditObjSfere(Scene, object, 0, 0, 0, 0, radius);
+        return object;
+    }
+
+    // A car of mass 1 on a ball of radius 1, driven by the user when it is the first. Top speed 4, in reverse 1.
+    std::int16_t AddCar(float x, float z, float angle = 0)
+    {
+        world::Player player;
+        player.Obj = AddBall(x, z, 1, 1);
+        Object(player.Obj).AngleA = angle;
+        player.MaxSpeed = player.CurMaxSpeed = 4.0f;
+        player.MaxSpeedR = player.CurMaxSpeedR = 1.0f;
+        player.WRS = player.CurWRS = 0.0625f;
+        player.Acceleration = player.CurAcceleration = 0.25f;
+        player.Brake = player.CurBrake = 0.5f;
+        player.Deceleration = player.CurDeceleration = 0.03125f;
+        player.Control = Race.NumPlayers == 0 ? 0 : 1;
+        Race.Players.push_back(player);
+        return Race.NumPlayers++;
+    }
+
+    void SetCheckpoints(std::initializer_list<world::Target> list)
+    {
+        Race.Map.Checkpoints = list;
+        Race.Map.NumCheckpoints = static_cast<std::int16_t>(list.size());
+    }
+
+    void SetGround(std::int32_t width, std::int32_t height, float scale, std::uint8_t value)
+    {
+        Scene.Ground.Width = width;
+        Scene.Ground.Height = height;
+        Scene.Ground.GroundScale = scale;
+        Scene.Ground.Sharp.Pixels.Allocate(height, (width * 3 + 3) & ~3);
+        for (std::uint8_t& byte : Scene.Ground.Sharp.Pixels.Bytes)
+            byte = value;
+    }
+    // The blue byte of a ground texel.
+    int Texel(std::int32_t column, std::int32_t row) { return Scene.Ground.Sharp.Pixels.Row(row)[column * 3]; }
+
+    static ModBitmap::PicReference MakePicture()
+    {
+        auto picture = std::make_shared<ModBitmap::Picture>();
+        picture->Info.Width = picture->Info.Height = 1;
+        picture->Pixels.Allocate(1, 4);
+        return picture;
+    }
+    void MakePictures()
+    {
+        Assets.Smoke = MakePicture();
+        Assets.Water = MakePicture();
+        Assets.FireRed = MakePicture();
+        Assets.FireYellow = MakePicture();
+    }
+};
+}
