@@ -9,7 +9,9 @@ namespace drive
 namespace
 {
 constexpr int MostProcessors = 128;
-constexpr std::uint32_t SplashTime = 1000; // milliseconds
+// On the virtual clock a frame takes no time: no ground pass is cut short, however slow the machine.
+constexpr std::int32_t NoGroundLimit = 3'600'000; // milliseconds
+constexpr std::uint32_t SplashTime = 1000;        // milliseconds
 
 void RequireBeforeLoad(const Session& session)
 {
@@ -19,7 +21,7 @@ void RequireBeforeLoad(const Session& session)
 void Processors(Session& session, Words& words, Object&)
 {
     RequireBeforeLoad(session);
-    const int number = Number(words, "the number of processors", 0, MostProcessors);
+    const int number = Number(words, "the number of processors", 1, MostProcessors);
     RequireEnd(words);
     session.Machine.Processors = number;
 }
@@ -64,8 +66,12 @@ void Load(Session& session, Words& words, Object&)
     session.Application = std::make_unique<shell::Application>(session.Machine);
     session.Application->Start();
     session.Machine.PumpEvents();
-    if (session.Form() != nullptr && !session.Draws.empty())
-        UseDraws(*session.Form(), session.Draws);
+    if (shell::Form1* form = session.Form())
+    {
+        form->State().Screen.GroundLimit = NoGroundLimit;
+        if (!session.Draws.empty())
+            UseDraws(*form, session.Draws);
+    }
     session.Pass(SplashTime);
 }
 
