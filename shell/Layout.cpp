@@ -60,7 +60,7 @@ struct Layout
         Place("imgLogoBG", -1, {0, 0, Client.Width, Client.Height}, 0);
         Place("imgLogo", -1, Centred(Part(Client.Height, 0.07), Part(Client.Width, 0.76), Part(Client.Height, 0.34)),
               0);
-        const std::int32_t size = std::clamp(Part(Client.Height, 0.072), 13, 52);
+        const std::int32_t size = std::clamp(std::min(Part(Client.Height, 0.072), Client.Width / 9), 13, 52);
         const std::int32_t step = size * 3 / 2, offset = std::max(1, size / 14);
         std::int32_t y = Part(Client.Height, 0.49);
         for (const char* entry : MenuEntries())
@@ -136,9 +136,10 @@ struct Layout
                 continue;
             const std::int32_t room = width - key - Gap;
             const std::int32_t small = Text * 17 / 20;
-            Place("lblAction", number, {0, y, room, Row}, Text);
+            const std::int32_t caption = forms::MeasureText(row.Caption, Text, 1);
+            Place("lblAction", number, {0, y, narrow ? room : std::min(room, caption), Row - inset}, Text);
             Place(row.Key, row.KeyIndex, {width - key, y + inset, key, Row - 2 * inset}, Text, Align::Centre);
-            const std::int32_t behind = forms::MeasureText(row.Caption, Text, 1) + Gap;
+            const std::int32_t behind = caption + Gap;
             if (narrow)
                 Place("lblRemark", number, {0, y + Row - inset, room, Row / 2 + inset}, small);
             else

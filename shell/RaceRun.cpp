@@ -66,7 +66,7 @@ void Form1::TogglePause()
     SetLabelVisible(TheGame.Scene, TheGame.Hud.Pause, pauses);
 }
 
-// The user's car has finished: the message is shown, the lap read-outs vanish, the side view is chosen.
+// The user's car has finished: the message is shown, the lap read-outs vanish.
 void Form1::Finished(const std::string& message)
 {
     Mod3D::Scene& scene = TheGame.Scene;
@@ -76,7 +76,6 @@ void Form1::Finished(const std::string& message)
     SetLabelVisible(scene, hud.Message, true);
     SetLabelVisible(scene, hud.LapsCaption, false);
     SetLabelVisible(scene, hud.LapCounter, false);
-    TheGame.Camera.View = 5;
 }
 
 void Form1::AdvanceTimers()
