@@ -1,6 +1,9 @@
 #include "hud/Hud.h"
 #include "hud/Font.h"
 #include "hud/Glass.h"
+#include "hud/Inside.h"
+#include "hud/Models.h"
+#include "hud/Sprites.h"
 
 namespace Assets
 {
@@ -8,5 +11,9 @@ void BuildHud(const std::string& root)
 {
     WriteFont(root + "/data/fonts/Font_01");
     WriteGlass(root + "/data/textures");
+    WriteSprites(root + "/data/sprites");
+    WriteInside(root + "/data/images/inside.bmp");
+    WriteCup(root + "/data/models");
+    WriteArrow(root + "/data/models");
 }
 }

@@ -1,0 +1,9 @@
+// hud/Inside.h: what is seen behind the driver in the webcam's inset.
+#pragma once
+#include <string>
+
+namespace Assets
+{
+// 107 x 80: the rear of the cabin, seen from the dashboard.
+void WriteInside(const std::string& path);
+}
