@@ -1,0 +1,266 @@
+#include "platform/sdl/SdlWindow.h"
+
+#include "base/RuntimeError.h"
+#include "base/Text.h"
+#include "platform/sdl/SdlKeys.h"
+#include "platform/sdl/SdlPlatform.h"
+
+#include <algorithm>
+#include <cstdio>
+
+namespace platform
+{
+namespace
+{
+constexpr std::size_t LargestClipboard = 1u << 20; // bytes taken from the clipboard
+
+int ButtonValue(std::uint8_t button)
+{
+    switch (button)
+    {
+    case SDL_BUTTON_LEFT:
+        return 1;
+    case SDL_BUTTON_RIGHT:
+        return 2;
+    case SDL_BUTTON_MIDDLE:
+        return 4;
+    default:
+        return 0;
+    }
+}
+
+int ButtonsHeld(std::uint32_t state)
+{
+    return ((state & SDL_BUTTON_LMASK) != 0 ? 1 : 0) + ((state & SDL_BUTTON_RMASK) != 0 ? 2 : 0) +
+           ((state & SDL_BUTTON_MMASK) != 0 ? 4 : 0);
+}
+
+std::uint32_t MessageFlags(base::Icon icon)
+{
+    switch (icon)
+    {
+    case base::Icon::Critical:
+        return SDL_MESSAGEBOX_ERROR;
+    case base::Icon::Exclamation:
+        return SDL_MESSAGEBOX_WARNING;
+    default:
+        return SDL_MESSAGEBOX_INFORMATION;
+    }
+}
+}
+
+SdlWindow::SdlWindow(SdlPlatform& platform, WindowEvents& events, Size size) : ThePlatform(platform), Events(events)
+{
+    TheWindow.reset(SDL_CreateWindow("Velkar", SDL_WINDOWPOS_CENTERED, SDL_WINDOWPOS_CENTERED, size.Width, size.Height,
+                                     SDL_WINDOW_BORDERLESS | SDL_WINDOW_HIDDEN));
+    if (TheWindow)
+        TheRenderer.reset(SDL_CreateRenderer(TheWindow.get(), -1, 0));
+    if (TheWindow && !TheRenderer)
+        TheRenderer.reset(SDL_CreateRenderer(TheWindow.get(), -1, SDL_RENDERER_SOFTWARE));
+    if (!TheRenderer)
+        throw base::RuntimeError(base::ErrorMemory);
+    ThePlatform.Add(*this);
+}
+
+SdlWindow::~SdlWindow()
+{
+    ThePlatform.Remove(*this);
+}
+
+std::uint32_t SdlWindow::Id() const
+{
+    return SDL_GetWindowID(TheWindow.get());
+}
+
+void SdlWindow::Dispatch(const SDL_Event& event)
+{
+    switch (event.type)
+    {
+    case SDL_WINDOWEVENT:
+        DispatchWindow(event.window);
+        break;
+    case SDL_KEYDOWN:
+        if (const std::int16_t code = VirtualKey(event.key.keysym))
+            Events.KeyDown(code);
+        if (const std::uint8_t character = ControlCharacter(event.key.keysym))
+            Events.KeyPress(character);
+        break;
+    case SDL_KEYUP:
+        if (const std::int16_t code = VirtualKey(event.key.keysym))
+            Events.KeyUp(code);
+        break;
+    case SDL_TEXTINPUT:
+        DispatchText(event.text.text);
+        break;
+    case SDL_MOUSEBUTTONDOWN:
+        // The mouse stays with the window while it is dragged, also where it leaves it.
+        SDL_CaptureMouse(SDL_TRUE);
+        if (const int button = ButtonValue(event.button.button))
+            Events.MouseDown(button, {event.button.x, event.button.y});
+        break;
+    case SDL_MOUSEBUTTONUP:
+        SDL_CaptureMouse(SDL_FALSE);
+        if (const int button = ButtonValue(event.button.button))
+            Events.MouseUp(button, {event.button.x, event.button.y});
+        break;
+    case SDL_MOUSEMOTION:
+        Events.MouseMove(ButtonsHeld(event.motion.state), {event.motion.x, event.motion.y});
+        break;
+    case SDL_QUIT:
+        Events.CloseAsked();
+        break;
+    case SDL_RENDER_DEVICE_RESET:
+        TheTexture.reset();
+        Events.Paint();
+        break;
+    case SDL_RENDER_TARGETS_RESET:
+        Events.Paint();
+        break;
+    default:
+        break;
+    }
+}
+
+void SdlWindow::DispatchWindow(const SDL_WindowEvent& event)
+{
+    switch (event.event)
+    {
+    case SDL_WINDOWEVENT_SIZE_CHANGED:
+        Events.Resized();
+        break;
+    case SDL_WINDOWEVENT_EXPOSED:
+    case SDL_WINDOWEVENT_SHOWN:
+    case SDL_WINDOWEVENT_RESTORED:
+        Events.Paint();
+        break;
+    case SDL_WINDOWEVENT_CLOSE:
+        Events.CloseAsked();
+        break;
+    default:
+        break;
+    }
+}
+
+void SdlWindow::DispatchText(const char* utf8)
+{
+    const std::string_view text(utf8);
+    for (std::size_t at = 0; at < text.size();)
+        Events.KeyPress(base::NextCode(text, at));
+}
+
+void SdlWindow::ShowMessage(base::Icon icon, const std::string& title, const std::string& text)
+{
+    const std::string lines = base::ReplaceAll(text, "\r\n", "\n");
+    SDL_ShowCursor(SDL_ENABLE);
+    if (SDL_ShowSimpleMessageBox(MessageFlags(icon), title.c_str(), lines.c_str(), TheWindow.get()) != 0)
+        std::fprintf(stderr, "%s: %s\n", title.c_str(), lines.c_str());
+    SDL_ShowCursor(CursorShown ? SDL_ENABLE : SDL_DISABLE);
+}
+
+void SdlWindow::Show(bool visible)
+{
+    if (visible)
+    {
+        SDL_ShowWindow(TheWindow.get());
+        SDL_RaiseWindow(TheWindow.get());
+    }
+    else
+        SDL_HideWindow(TheWindow.get());
+}
+
+void SdlWindow::SetTitle(const std::string& title)
+{
+    SDL_SetWindowTitle(TheWindow.get(), title.c_str());
+}
+
+Size SdlWindow::ClientSize()
+{
+    Size size;
+    SDL_GetWindowSize(TheWindow.get(), &size.Width, &size.Height);
+    return size;
+}
+
+void SdlWindow::SetClientSize(Size size)
+{
+    SDL_SetWindowSize(TheWindow.get(), size.Width, size.Height);
+}
+
+Point SdlWindow::Position()
+{
+    Point position;
+    SDL_GetWindowPosition(TheWindow.get(), &position.X, &position.Y);
+    return position;
+}
+
+void SdlWindow::Move(Point position)
+{
+    SDL_SetWindowPosition(TheWindow.get(), position.X, position.Y);
+}
+
+void SdlWindow::SetFullScreen(bool on)
+{
+    SDL_SetWindowFullscreen(TheWindow.get(), on ? std::uint32_t{SDL_WINDOW_FULLSCREEN_DESKTOP} : 0u);
+}
+
+void SdlWindow::ShowCursor(bool visible)
+{
+    CursorShown = visible;
+    SDL_ShowCursor(visible ? SDL_ENABLE : SDL_DISABLE);
+}
+
+Point SdlWindow::CursorPosition()
+{
+    Point position;
+    SDL_GetGlobalMouseState(&position.X, &position.Y);
+    return position;
+}
+
+bool SdlWindow::MakeTexture(int width, int height)
+{
+    if (TheTexture && TextureSize.Width == width && TextureSize.Height == height)
+        return true;
+    TheTexture.reset(
+        SDL_CreateTexture(TheRenderer.get(), SDL_PIXELFORMAT_ARGB8888, SDL_TEXTUREACCESS_STREAMING, width, height));
+    TextureSize = {width, height};
+    if (TheTexture)
+        SDL_SetTextureScaleMode(TheTexture.get(), SDL_ScaleModeNearest);
+    return TheTexture != nullptr;
+}
+
+void SdlWindow::Present(int width, int height, std::span<const std::uint8_t> bits)
+{
+    const std::size_t rowBytes = (static_cast<std::size_t>(width) * 3 + 3) & ~std::size_t{3};
+    if (width <= 0 || height <= 0 || bits.size() < rowBytes * static_cast<std::size_t>(height))
+        return;
+    void* pixels = nullptr;
+    int pitch = 0;
+    if (!MakeTexture(width, height) || SDL_LockTexture(TheTexture.get(), nullptr, &pixels, &pitch) != 0)
+        return;
+    for (int y = 0; y < height; ++y)
+    {
+        // The picture stands on its bottom row, the texture hangs from its top row.
+        const std::uint8_t* from = bits.data() + rowBytes * static_cast<std::size_t>(height - 1 - y);
+        auto* to = reinterpret_cast<std::uint32_t*>(static_cast<std::uint8_t*>(pixels) +
+                                                    static_cast<std::ptrdiff_t>(pitch) * y);
+        for (int x = 0; x < width; ++x, from += 3)
+            to[x] = 0xFF000000u | static_cast<std::uint32_t>(from[2]) << 16 | static_cast<std::uint32_t>(from[1]) << 8 |
+                    from[0];
+    }
+    SDL_UnlockTexture(TheTexture.get());
+    SDL_RenderCopy(TheRenderer.get(), TheTexture.get(), nullptr, nullptr);
+    SDL_RenderPresent(TheRenderer.get());
+}
+
+std::string SdlWindow::ClipboardText()
+{
+    const std::unique_ptr<char, void (*)(void*)> text(SDL_GetClipboardText(), SDL_free);
+    std::string result(text ? text.get() : "");
+    result.resize(std::min(result.size(), LargestClipboard));
+    return result;
+}
+
+void SdlWindow::SetClipboardText(const std::string& text)
+{
+    SDL_SetClipboardText(text.c_str());
+}
+}

@@ -1,0 +1,66 @@
+// platform/sdl/SdlWindow.h: one borderless window.
+#pragma once
+#include "platform/Platform.h"
+
+#include <SDL.h>
+
+#include <memory>
+
+namespace platform
+{
+class SdlPlatform;
+
+class SdlWindow final : public Window
+{
+public:
+    // Registers with the platform, which hands it its events. RuntimeError 7 where the system gives no window.
+    SdlWindow(SdlPlatform& platform, WindowEvents& events, Size size);
+    ~SdlWindow() override;
+    SdlWindow(const SdlWindow&) = delete;
+    SdlWindow& operator=(const SdlWindow&) = delete;
+
+    std::uint32_t Id() const;
+    void Dispatch(const SDL_Event& event);
+
+    void ShowMessage(base::Icon icon, const std::string& title, const std::string& text) override;
+    void Show(bool visible) override;
+    void SetTitle(const std::string& title) override;
+    Size ClientSize() override;
+    void SetClientSize(Size size) override;
+    Point Position() override;
+    void Move(Point position) override;
+    void SetFullScreen(bool on) override;
+    void ShowCursor(bool visible) override;
+    Point CursorPosition() override;
+    void Present(int width, int height, std::span<const std::uint8_t> bits) override;
+    std::string ClipboardText() override;
+    void SetClipboardText(const std::string& text) override;
+
+private:
+    struct WindowDeleter
+    {
+        void operator()(SDL_Window* window) const { SDL_DestroyWindow(window); }
+    };
+    struct RendererDeleter
+    {
+        void operator()(SDL_Renderer* renderer) const { SDL_DestroyRenderer(renderer); }
+    };
+    struct TextureDeleter
+    {
+        void operator()(SDL_Texture* texture) const { SDL_DestroyTexture(texture); }
+    };
+
+    void DispatchWindow(const SDL_WindowEvent& event);
+    void DispatchText(const char* utf8);
+    bool MakeTexture(int width, int height);
+
+    SdlPlatform& ThePlatform;
+    WindowEvents& Events;
+    // Destroyed in the order texture, renderer, window.
+    std::unique_ptr<SDL_Window, WindowDeleter> TheWindow;
+    std::unique_ptr<SDL_Renderer, RendererDeleter> TheRenderer;
+    std::unique_ptr<SDL_Texture, TextureDeleter> TheTexture;
+    Size TextureSize;
+    bool CursorShown = true;
+};
+}
