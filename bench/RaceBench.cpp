@@ -1,0 +1,25 @@
+// Game ticks of the shipped race with every car driven by the computer, and the way from program start to the menu.
+#include "bench/ShippedRace.h"
+
+#include <benchmark/benchmark.h>
+
+namespace
+{
+void GameTick(benchmark::State& state)
+{
+    bench::ShippedRace race;
+    for (int tick = 0; tick < 400; ++tick)
+        race.Step();
+    for (auto _ : state)
+        race.Step();
+}
+BENCHMARK(GameTick)->Unit(benchmark::kMicrosecond)->Repetitions(5)->ReportAggregatesOnly();
+
+// Without the second that the splash is shown at least.
+void StartToMenu(benchmark::State& state)
+{
+    for (auto _ : state)
+        bench::ShippedRace race;
+}
+BENCHMARK(StartToMenu)->Unit(benchmark::kMillisecond)->Repetitions(5)->ReportAggregatesOnly();
+}

@@ -1,0 +1,36 @@
+#include "bench/ShippedRace.h"
+
+namespace bench
+{
+ShippedRace::ShippedRace() : Machine(base::Files(VELKAR_ROOT)), Application(Machine)
+{
+    Application.Start();
+    Machine.Clock += 1000;
+    Application.RunTimers();
+    Game().Random.Seed(7);
+    Form().StartProcess();
+    for (world::Player& player : Game().Race.Players)
+        player.Control = 1;
+}
+
+void ShippedRace::Step()
+{
+    Machine.Clock += 25;
+    Form().GameT_Tick();
+}
+
+std::vector<Mod3D::Camera> ShippedRace::RecordPath(int ticks)
+{
+    constexpr int TicksAPicture = 40, PicturesAView = 8;
+    std::vector<Mod3D::Camera> path;
+    for (int tick = 0; tick < ticks; ++tick)
+    {
+        Step();
+        if (tick % TicksAPicture != 0)
+            continue;
+        path.push_back(Game().Camera);
+        Game().Camera.View = static_cast<std::int16_t>(static_cast<int>(path.size()) / PicturesAView % 3);
+    }
+    return path;
+}
+}

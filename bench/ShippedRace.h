@@ -1,0 +1,28 @@
+// bench/ShippedRace.h: the shipped race on a machine without a window, and the camera's path through it.
+#pragma once
+#include "platform/headless/Machine.h"
+#include "shell/Application.h"
+
+#include <memory>
+#include <vector>
+
+namespace bench
+{
+class ShippedRace
+{
+public:
+    // Loads the game from the source tree and starts the race, every car driven by the computer.
+    ShippedRace();
+
+    shell::Form1& Form() { return *Application.Main(); }
+    shell::Game& Game() { return Form().State(); }
+    // One step of 25 ms.
+    void Step();
+    // The camera of every 40th tick of the next `ticks`, in the views 0, 1 and 2 by turns: what a player sees.
+    std::vector<Mod3D::Camera> RecordPath(int ticks);
+
+private:
+    headless::Machine Machine;
+    shell::Application Application;
+};
+}
