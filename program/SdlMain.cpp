@@ -6,11 +6,11 @@
 
 #include <cstdio>
 
-int main()
+int main(int, char** words)
 {
     try
     {
-        platform::SdlPlatform platform(platform::FindData(std::filesystem::read_symlink("/proc/self/exe")));
+        platform::SdlPlatform platform(platform::FindData(platform::ExecutablePath(words[0])));
         shell::Application application(platform);
         application.Start();
         platform.Run(application);
