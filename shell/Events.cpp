@@ -12,7 +12,7 @@ constexpr std::int16_t KeyEnter = 13, KeyUpArrow = 38, KeyDownArrow = 40;
 
 void Form1::KeyDown(std::int16_t code)
 {
-    if (HasEnded || code == ConsumedKey)
+    if (HasEnded)
         return;
     if (RecordsKey())
     {
@@ -20,9 +20,7 @@ void Form1::KeyDown(std::int16_t code)
         txtRecKey_KeyDown(code);
         Repaint();
     }
-    else if (MenuKeyDown(code))
-        return;
-    else
+    else if (!MenuKeyDown(code))
         Form_KeyDown(code);
 }
 
@@ -32,8 +30,7 @@ void Form1::KeyUp(std::int16_t code)
         return;
     if (code == ConsumedKey)
         ConsumedKey = 0;
-    else
-        Form_KeyUp(code);
+    Form_KeyUp(code);
 }
 
 void Form1::KeyPress(std::uint8_t) {}
@@ -43,6 +40,8 @@ bool Form1::MenuKeyDown(std::int16_t code)
 {
     if (TheGame.Timers.RenderT.Enabled != base::False)
         return false;
+    if (code == ConsumedKey)
+        return true; // a repeat of the key that was bound, or of the Enter that has clicked
     if (code == KeyUpArrow || code == KeyDownArrow)
     {
         StepHot(code == KeyDownArrow ? 1 : -1);
@@ -50,9 +49,8 @@ bool Form1::MenuKeyDown(std::int16_t code)
     }
     if (code != KeyEnter || Hot < 0)
         return false;
+    ClickOn(TheForm.Controls[static_cast<std::size_t>(Hot)]);
     ConsumedKey = code;
-    const forms::Control& control = TheForm.Controls[static_cast<std::size_t>(Hot)];
-    ClickOn(control);
     return true;
 }
 

@@ -155,7 +155,7 @@ private:
     modWinDrag::Drag TheDrag;
     std::int16_t Hot = -1;        // the control under the mouse or chosen by the arrow keys
     std::int16_t Pressed = -1;    // the control on which the left button went down
-    std::int16_t ConsumedKey = 0; // taken by a box or the menu: its repeats and its release go nowhere else
+    std::int16_t ConsumedKey = 0; // held since a box or the menu took it: its repeats do nothing in the menu
     bool IsVisible = false;
     bool HasEnded = false;
 };

@@ -59,11 +59,12 @@ void Form1::PaintBackground()
     if (TheGame.Race.GameTime > 0 && !screen.Frame.Empty())
         return forms::Stretch(TheCanvas, screen.ScreenW, screen.ScreenH, screen.Frame.RowBytes,
                               screen.Frame.Bytes.data());
+    const forms::Image& background = TheMenuPictures.Background;
+    if (background.Width > 0)
+        return forms::Draw(TheCanvas, background, (TheCanvas.Width - background.Width) / 2,
+                           (TheCanvas.Height - background.Height) / 2);
     const forms::Rect all = {0, 0, TheCanvas.Width, TheCanvas.Height};
     forms::FillDownward(TheCanvas, all, {38, 30, 62}, 255, {196, 92, 40}, 255);
-    const forms::Image& background = TheMenuPictures.Background;
-    forms::Draw(TheCanvas, background, (TheCanvas.Width - background.Width) / 2,
-                (TheCanvas.Height - background.Height) / 2);
 }
 
 void Form1::Repaint()

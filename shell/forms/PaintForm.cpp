@@ -1,4 +1,5 @@
 // How each kind of control looks: dark translucent boxes, pale text, one warm accent.
+#include "base/Numbers.h"
 #include "shell/forms/Paint.h"
 
 #include <algorithm>
@@ -14,6 +15,12 @@ constexpr Colour Muted = {160, 156, 150};
 constexpr Colour Night = {13, 15, 22};
 constexpr Colour Slate = {44, 48, 60};
 constexpr double Bold = 1.45;
+
+// Pixels of a measure that is given for a window of 600 x 312.
+double Unit(const Canvas& canvas, double pixels)
+{
+    return pixels * std::clamp(std::min(canvas.Width / 600.0, canvas.Height / 312.0), 0.7, 3.0);
+}
 
 bool Covers(const Rect& place, const Canvas& canvas)
 {
@@ -55,21 +62,23 @@ void PaintFrame(Canvas& canvas, const Form& form, const Control& frame)
     Rect card = ContentsOf(form, frame);
     const std::int32_t margin = std::clamp(std::min(canvas.Width, canvas.Height) / 24, 6, 24);
     card = {card.X - margin, card.Y - margin, card.W + 2 * margin, card.H + 2 * margin};
-    FillRounded(canvas, {card.X + 2, card.Y + 4, card.W, card.H}, 10, {0, 0, 0}, 90);
-    FillRounded(canvas, card, 10, Night, 218);
-    OutlineRounded(canvas, card, 10, 1, Accent, 90);
+    const double radius = Unit(canvas, 10);
+    const std::int32_t drop = base::RoundEven(Unit(canvas, 4));
+    FillRounded(canvas, {card.X + drop / 2, card.Y + drop, card.W, card.H}, radius, {0, 0, 0}, 90);
+    FillRounded(canvas, card, radius, Night, 218);
+    OutlineRounded(canvas, card, radius, Unit(canvas, 1), Accent, 90);
 }
 
 void PaintButton(Canvas& canvas, const Control& button, const Rect& place, bool hot)
 {
-    const double radius = 6;
+    const double radius = Unit(canvas, 6);
     const bool chosen = button.Style == Look::Tab && button.Value != 0;
     if (hot)
         FillRounded(canvas, place, radius, Accent, 255);
     else
     {
         FillRounded(canvas, place, radius, chosen ? AccentDeep : Slate, chosen ? 200 : 190);
-        OutlineRounded(canvas, place, radius, 1, chosen ? Accent : Muted, chosen ? 220 : 90);
+        OutlineRounded(canvas, place, radius, Unit(canvas, 1), chosen ? Accent : Muted, chosen ? 220 : 90);
     }
     const Rect text = {place.X + 4, place.Y, place.W - 8, place.H};
     DrawText(canvas, text, button.Caption, button.TextSize, Bold, hot ? Night : Pale, Align::Centre);
@@ -85,11 +94,25 @@ void PaintHeading(Canvas& canvas, const Control& label, const Rect& place)
 void PaintKey(Canvas& canvas, const Control& label, const Rect& place, bool hot)
 {
     const bool fixed = label.Style == Look::FixedKey;
-    FillRounded(canvas, place, 4, hot && !fixed ? Accent : Slate, fixed ? 90 : hot ? 235 : 200);
+    const double radius = Unit(canvas, 4);
+    FillRounded(canvas, place, radius, hot && !fixed ? Accent : Slate, fixed ? 90 : hot ? 235 : 200);
     if (!fixed)
-        OutlineRounded(canvas, place, 4, 1, hot ? Pale : Accent, hot ? 160 : 80);
+        OutlineRounded(canvas, place, radius, Unit(canvas, 1), hot ? Pale : Accent, hot ? 160 : 80);
     const Rect text = {place.X + 4, place.Y, place.W - 8, place.H};
     DrawText(canvas, text, label.Caption, label.TextSize, 1, fixed ? Muted : hot ? Night : Pale, Align::Centre);
+}
+
+// A warm bar that fades to both sides, behind the entry under the pointer.
+void PaintGlow(Canvas& canvas, const Rect& place)
+{
+    const std::int32_t half = place.W / 2, steps = 24;
+    for (std::int32_t step = 0; step < steps; ++step)
+    {
+        const std::int32_t from = half * step / steps, to = half * (step + 1) / steps;
+        const int alpha = 80 * (steps - step) / steps;
+        Fill(canvas, {place.X + half + from, place.Y, to - from, place.H}, AccentDeep, alpha);
+        Fill(canvas, {place.X + half - to, place.Y, to - from, place.H}, AccentDeep, alpha);
+    }
 }
 
 void PaintLabel(Canvas& canvas, const Control& label, const Rect& place, bool hot)
@@ -100,6 +123,8 @@ void PaintLabel(Canvas& canvas, const Control& label, const Rect& place, bool ho
         PaintHeading(canvas, label, place);
         break;
     case Look::Entry:
+        if (hot)
+            PaintGlow(canvas, place);
         DrawText(canvas, place, label.Caption, label.TextSize, Bold, hot ? Accent : Pale, label.TextAlign);
         break;
     case Look::Shadow:

@@ -206,6 +206,18 @@ TEST_F(Keys, RebindingTakesTheNextKey)
     EXPECT_EQ(Game().Bindings.Bindings[10], 186);
 }
 
+TEST_F(Keys, AKeyActsAtOnceAfterItWasBound)
+{
+    StartRace();
+    Form.Click("cCtrKey", 6);
+    Form.KeyDown(65);
+    EXPECT_EQ(Game().Keys.KeyAccel, 0);
+    Form.KeyDown(65);
+    EXPECT_EQ(Game().Keys.KeyAccel, -1);
+    Form.KeyUp(65);
+    EXPECT_EQ(Game().Keys.KeyAccel, 0);
+}
+
 TEST_F(Keys, LeavingTheBoxKeepsTheOldKey)
 {
     Load();
@@ -234,7 +246,10 @@ TEST_F(Keys, EveryKeyCanBeTaken)
     Load();
     for (const std::int16_t code : {Esc, Up, Down, Enter, Backslash})
     {
-        Bind(6, code);
+        Form.Click("cCtrKey", 6);
+        Form.KeyDown(code);
+        Form.KeyDown(code); // repeats
+        Form.KeyUp(code);
         EXPECT_EQ(Game().Bindings.Bindings[6], code);
         EXPECT_EQ(Control("cCtrKey", 6).Caption, modUtilita::KeyName(code));
     }
