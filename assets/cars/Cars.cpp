@@ -1,79 +1,16 @@
 #include "cars/Cars.h"
-#include "cars/Fittings.h"
-#include "cars/Paint.h"
+#include "cars/Body.h"
 
 namespace Assets
 {
-namespace
-{
-const std::string Texture = "<path>body.bmp";
-constexpr Vec3 BodyMiddle{0, 0.45, 0};
-
-std::vector<double> KnotsAt(std::initializer_list<double> places, double first, double last)
-{
-    std::vector<double> knots;
-    for (const double at : places)
-        knots.push_back((at - first) / (last - first));
-    return knots;
-}
-
-// Meshes 0 to 9: bonnet, deck, roof, flanks, nose, tail, cabin sides, rear window.
-void AddBody(Model& model, const Design& design, Atlas& atlas)
-{
-    const Shape& shape = design.Shape;
-    const auto add = [&](const Surface& surface, std::vector<double> knotsA, std::vector<double> knotsB, int width,
-                         int height, const Painter& painter)
-    {
-        model.Meshes.push_back(
-            Build({surface, std::move(knotsA), std::move(knotsB), width, height, BodyMiddle}, painter, atlas, Texture));
-    };
-    const auto across = [](double a) { return 2 * a - 1; };
-
-    const auto bonnet = [&](double a, double b)
-    {
-        const double x = across(a);
-        return BonnetPoint(shape, x, Lerp(CowlZ(x) - 0.02, NoseZ + shape.NoseBulge * (1 - x * x), b));
-    };
-    add(bonnet, Evenly(4), {0, 0.15, 0.36, 0.58, 0.79, 1}, 128, 100, BonnetPainter(design));
-    add([&](double a, double b) { return DeckPoint(shape, across(a), b); }, Evenly(4), Evenly(2), 128, 48,
-        DeckPainter(design));
-    add([&](double a, double b) { return RoofPoint(shape, across(a), b); }, Evenly(4), {0, 0.35, 1}, 96, 68,
-        RoofPainter(design));
-    const std::vector<double> stations =
-        KnotsAt({TailZ, -1.72, -1.45, RearAxle, -1.05, -0.80, -0.2, 0.27, 0.50, 0.78, 0.98, FrontAxle, 1.62, NoseZ},
-                TailZ, NoseZ);
-    for (const double side : {-1.0, 1.0})
-        add([&shape, side](double a, double b) { return FlankPoint(shape, side, Lerp(TailZ, NoseZ, a), b); }, stations,
-            {0, 0.34, 0.66, 1}, 320, 52, FlankPainter(design, side));
-    add([&](double a, double b) { return NosePoint(shape, across(a), b); }, Evenly(4), {0, 0.3, 0.62, 1}, 128, 36,
-        NosePainter(design));
-    add([&](double a, double b) { return TailPoint(shape, across(a), b); }, Evenly(4), {0, 0.3, 1}, 128, 44,
-        TailPainter(design));
-    for (const double side : {-1.0, 1.0})
-        add([&shape, side](double a, double b) { return CabinSidePoint(shape, side, a, b); },
-            {0, 0.032, 0.15, 0.33, 0.53, 0.75, 1}, {0, 0.10, 0.90, 1}, 160, 34, CabinPainter(design));
-    add([&](double a, double b) { return RearWindowPoint(shape, across(a), b); }, Evenly(4), Evenly(2), 96, 64,
-        RearWindowPainter(design));
-}
-}
-
 void BuildCars(const std::string& root)
 {
     for (const Design& design : Designs())
     {
         const std::string folder = root + "/data/models/" + design.Folder;
-        Model model;
-        Atlas atlas(384, 448);
-        AddBody(model, design, atlas);           // 0 to 9
-        AddCabin(model, design, atlas, Texture); // 10 to 21, the windscreen put in as 20
-        model.Meshes.insert(model.Meshes.begin() + 20, ModelMesh(1, 1));
-        Model glass;
-        AddWindscreen(glass, design);
-        model.Meshes[20] = glass.Meshes[0];
-        AddOutside(model, design, atlas, Texture);
-        AddSpheres(model);
-        WriteModel(model, folder + "/car.3dm");
-        WriteBmp(folder + "/body.bmp", atlas.Picture(), Black::Key);
+        const Car car = BuildCar(design);
+        WriteModel(car.Form, folder + "/car.3dm");
+        WriteBmp(folder + "/body.bmp", car.Texture, Black::Key);
     }
 }
 }

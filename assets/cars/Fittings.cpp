@@ -9,6 +9,7 @@ namespace
 {
 // The eye of the player in the car is at (-0.30, 1.10, -0.05), looking ahead: nothing may stand close before it.
 constexpr double SeatX = -0.31;
+constexpr int GlassMesh = 20;
 constexpr int GlassWidth = 128, GlassHeight = 64;
 
 int Flat(Rgb colour)
@@ -273,7 +274,7 @@ void AddWindscreen(Model& model, const Design& design)
             glass.At(i, j) = {p.X, p.Y, p.Z, RoundToInt(j / 4.0 * (GlassWidth - 1)),
                               RoundToInt(i / 2.0 * (GlassHeight - 1))};
         }
-    model.Meshes.push_back(glass);
+    model.Meshes.insert(model.Meshes.begin() + GlassMesh, glass);
 }
 
 void AddOutside(Model& model, const Design& design, Atlas& atlas, const std::string& texture)
@@ -313,13 +314,13 @@ void AddSpheres(Model& model)
             model.Spheres.push_back({side * 0.48, 0.50, z, 0.56, {}});
     for (const double z : {0.05, -0.75})
         model.Spheres.push_back({0, 0.90, z, 0.40, {}});
-    constexpr int LastBody = 9, Glass = 20;
+    constexpr int LastBody = 9;
     for (std::size_t i = 0; i < model.Spheres.size(); ++i)
     {
         const bool cabin = i >= 6;
         model.LinkNear(model.Spheres[i], cabin ? 2 : 0, LastBody, cabin ? 0.34 : 0.20);
         if (cabin)
-            model.LinkNear(model.Spheres[i], Glass, Glass, 0.34);
+            model.LinkNear(model.Spheres[i], GlassMesh, GlassMesh, 0.34);
     }
 }
 }

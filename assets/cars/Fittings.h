@@ -4,9 +4,10 @@
 
 namespace Assets
 {
-// The flat panels of the cabin, and the dials and steering wheel (texels from the atlas). Twelve meshes.
+// The flat panels of the cabin, and the dials and steering wheel (texels from the atlas). Twelve meshes, 10 to 21.
 void AddCabin(Model& model, const Design& design, Atlas& atlas, const std::string& texture);
 
+// The glass, inserted as mesh 20: the game puts the broken one there.
 void AddWindscreen(Model& model, const Design& design);
 
 // Four tyres, four wheel faces, the shadow on the ground, mirrors, and the wing where there is one.

@@ -59,8 +59,6 @@ Atlas::Area Atlas::Reserve(int width, int height)
     return area;
 }
 
-namespace
-{
 Sample SampleAt(const Panel& panel, double a, double b)
 {
     constexpr double step = 0.004;
@@ -74,6 +72,8 @@ Sample SampleAt(const Panel& panel, double a, double b)
     return sample;
 }
 
+namespace
+{
 // The mean of several samples of one texel; see-through when most of them are.
 void PaintTexel(const Panel& panel, const Painter& painter, const Atlas::Area& area, int x, int y, Canvas& picture)
 {

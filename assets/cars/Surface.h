@@ -84,6 +84,9 @@ struct Panel
     Vec3 Inside;                        // a point behind the surface: normals point away from it
 };
 
+// The surface at (a, b) with its outward direction.
+Sample SampleAt(const Panel& panel, double a, double b);
+
 // Reserves the panel's texels, paints them and returns the grid.
 ModelMesh Build(const Panel& panel, const Painter& painter, Atlas& atlas, const std::string& texture);
 

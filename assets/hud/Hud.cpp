@@ -2,6 +2,7 @@
 #include "hud/Font.h"
 #include "hud/Glass.h"
 #include "hud/Inside.h"
+#include "hud/MenuPictures.h"
 #include "hud/Models.h"
 #include "hud/Sprites.h"
 
@@ -13,6 +14,7 @@ void BuildHud(const std::string& root)
     WriteGlass(root + "/data/textures");
     WriteSprites(root + "/data/sprites");
     WriteInside(root + "/data/images/inside.bmp");
+    WriteMenuPictures(root + "/data/images");
     WriteCup(root + "/data/models");
     WriteArrow(root + "/data/models");
 }

@@ -1,0 +1,25 @@
+// cars/Body.h: the outer skin of a car, as panels with their painters.
+#pragma once
+#include "cars/Design.h"
+
+namespace Assets
+{
+struct BodyPanel
+{
+    Panel Skin;
+    Painter Paint;
+};
+
+// Meshes 0 to 9 of a car: bonnet, deck, roof, left and right flank, nose, tail, left and right cabin side, rear window.
+// Keeps references to the design.
+std::vector<BodyPanel> BodyPanels(const Design& design);
+constexpr std::size_t FirstWindow = 7; // panels from here on have window panes
+
+// A whole car with its texture, as the game loads it.
+struct Car
+{
+    Model Form;
+    Canvas Texture;
+};
+Car BuildCar(const Design& design);
+}
