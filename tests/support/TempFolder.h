@@ -1,68 +1,63 @@
-// tests/support/TempFolder.h: a folder of its own for the test that runs, removed with it.
+// tests/support/TempFolder.h: a folder of a test's own, gone with it, and bitmap files to put in it.
 #pragma once
 #include "base/Files.h"
 
 #include <gtest/gtest.h>
 
+#include <cstdint>
 #include <filesystem>
 #include <fstream>
 #include <string>
-#include <string_view>
 
 namespace support
 {
-class TempFolder
+struct TempFolder
 {
-public:
+    std::filesystem::path Path;
+
     TempFolder()
     {
-        const testing::TestInfo& test = *testing::UnitTest::GetInstance()->current_test_info();
-        Root = std::filesystem::path(testing::TempDir()) /
-               (std::string("velkar-") + test.test_suite_name() + "-" + test.name());
-        std::filesystem::remove_all(Root);
-        std::filesystem::create_directories(Root);
+        const testing::TestInfo* test = testing::UnitTest::GetInstance()->current_test_info();
+        Path = std::filesystem::path(testing::TempDir()) /
+               (std::string("velkar-") + test->test_suite_name() + "-" + test->name());
+        std::filesystem::remove_all(Path);
+        std::filesystem::create_directories(Path);
     }
     ~TempFolder()
     {
         std::error_code ignored;
-        std::filesystem::remove_all(Root, ignored);
+        std::filesystem::remove_all(Path, ignored);
     }
     TempFolder(const TempFolder&) = delete;
     TempFolder& operator=(const TempFolder&) = delete;
 
-    // Writes a file, making its folders. The path is written with "/".
-    void Write(const std::string& path, std::string_view bytes) const
+    base::Files Files() const { return base::Files(Path); }
+    void Write(const std::string& name, const std::string& bytes) const
     {
-        std::filesystem::create_directories((Root / path).parent_path());
-        std::ofstream(Root / path, std::ios::binary) << bytes;
+        std::filesystem::create_directories((Path / name).parent_path());
+        std::ofstream(Path / name, std::ios::binary).write(bytes.data(), static_cast<std::streamsize>(bytes.size()));
     }
-    base::Files Files() const { return base::Files(Root); }
-
-private:
-    std::filesystem::path Root;
 };
 
-// The bytes of a 24-bit bitmap of one colour.
-inline std::string Bitmap(std::int32_t width, std::int32_t height, std::uint8_t blue, std::uint8_t green,
-                          std::uint8_t red)
+inline void AppendLittle(std::string& bytes, std::uint32_t value, int count)
 {
-    const auto number = [](std::int32_t value)
-    {
-        std::string bytes;
-        for (int shift = 0; shift < 32; shift += 8)
-            bytes += static_cast<char>((value >> shift) & 255);
-        return bytes;
-    };
-    const std::int32_t rowBytes = (width * 3 + 3) & ~3;
-    std::string row;
-    for (std::int32_t x = 0; x < width; ++x)
-        row.append({static_cast<char>(blue), static_cast<char>(green), static_cast<char>(red)});
-    row.resize(static_cast<std::size_t>(rowBytes), '\0');
-    std::string bytes = "BM" + number(54 + rowBytes * height) + number(0) + number(54);
-    bytes += number(40) + number(width) + number(height) + std::string("\1\0\30\0", 4) + number(0);
-    bytes += number(rowBytes * height) + number(0) + number(0) + number(0) + number(0);
-    for (std::int32_t y = 0; y < height; ++y)
-        bytes += row;
+    for (int i = 0; i < count; ++i)
+        bytes += static_cast<char>(value >> 8 * i & 0xFF);
+}
+
+// The 54 header bytes of an uncompressed 24-bit bitmap that claims this size.
+inline std::string BitmapHeader(std::int32_t width, std::int32_t height)
+{
+    std::string bytes = "BM";
+    AppendLittle(bytes, 0, 4); // file size, not read
+    AppendLittle(bytes, 0, 4);
+    AppendLittle(bytes, 54, 4); // data offset, not read
+    AppendLittle(bytes, 40, 4);
+    AppendLittle(bytes, static_cast<std::uint32_t>(width), 4);
+    AppendLittle(bytes, static_cast<std::uint32_t>(height), 4);
+    AppendLittle(bytes, 1, 2);
+    AppendLittle(bytes, 24, 2);
+    bytes.resize(54, '\0');
     return bytes;
 }
 }
