@@ -12,7 +12,8 @@ namespace
 std::atomic<long> Allocations{0};
 }
 
-void* operator new(std::size_t size)
+// Not inlined: the compiler would take the pair of malloc and delete for a mistake.
+[[gnu::noinline]] void* operator new(std::size_t size)
 {
     ++Allocations;
     if (void* memory = std::malloc(size != 0 ? size : 1))
@@ -20,12 +21,12 @@ void* operator new(std::size_t size)
     throw std::bad_alloc();
 }
 
-void operator delete(void* memory) noexcept
+[[gnu::noinline]] void operator delete(void* memory) noexcept
 {
     std::free(memory);
 }
 
-void operator delete(void* memory, std::size_t) noexcept
+[[gnu::noinline]] void operator delete(void* memory, std::size_t) noexcept
 {
     std::free(memory);
 }
