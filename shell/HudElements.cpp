@@ -30,13 +30,13 @@ struct Anchor
     From Place;
     std::int32_t Pixels;
 
-    // centre: half of the length, as the screen holds it.
     double In(std::int32_t length) const
     {
+        const std::int32_t centre = length / 2;
         switch (Place)
         {
         case From::Centre:
-            return length / 2 + Pixels;
+            return centre + Pixels;
         case From::ThreeQuarters:
             return 0.75 * length + Pixels;
         case From::Far:

@@ -65,9 +65,10 @@ void Canvas::Resize(std::int32_t width, std::int32_t height)
     Bytes.assign(static_cast<std::size_t>(RowBytes) * static_cast<std::size_t>(height), 0);
 }
 
-std::uint8_t* Canvas::Row(std::int32_t y)
+std::uint8_t* Canvas::At(std::int32_t x, std::int32_t y)
 {
-    return Bytes.data() + static_cast<std::size_t>(Height - 1 - y) * static_cast<std::size_t>(RowBytes);
+    return Bytes.data() + static_cast<std::size_t>(Height - 1 - y) * static_cast<std::size_t>(RowBytes) +
+           3 * static_cast<std::size_t>(x);
 }
 
 void Fill(Canvas& canvas, const Rect& rect, Colour colour, int alpha)
@@ -84,7 +85,7 @@ void FillDownward(Canvas& canvas, const Rect& rect, Colour top, int topAlpha, Co
         const int part = (y - rect.Y) * 255 / span;
         const Colour colour = {Mix(top.R, bottom.R, part), Mix(top.G, bottom.G, part), Mix(top.B, bottom.B, part)};
         const int alpha = Mix(topAlpha, bottomAlpha, part);
-        std::uint8_t* pixel = canvas.Row(y) + 3 * inside.X;
+        std::uint8_t* pixel = canvas.At(inside.X, y);
         for (std::int32_t x = 0; x < inside.W; ++x, pixel += 3)
             Blend(pixel, colour, alpha);
     }
@@ -96,7 +97,7 @@ void FillRounded(Canvas& canvas, const Rect& rect, double radius, Colour colour,
     const RoundBox box(rect, radius, 0);
     for (std::int32_t y = inside.Y; y < inside.Y + inside.H; ++y)
         for (std::int32_t x = inside.X; x < inside.X + inside.W; ++x)
-            Blend(canvas.Row(y) + 3 * x, colour, base::RoundEven(box.Coverage(x, y) * alpha));
+            Blend(canvas.At(x, y), colour, base::RoundEven(box.Coverage(x, y) * alpha));
 }
 
 void OutlineRounded(Canvas& canvas, const Rect& rect, double radius, double thickness, Colour colour, int alpha)
@@ -116,7 +117,7 @@ void OutlineRounded(Canvas& canvas, const Rect& rect, double radius, double thic
             if (x >= inside.X + inside.W)
                 break;
             const double ring = outer.Coverage(x, y) - inner.Coverage(x, y);
-            Blend(canvas.Row(y) + 3 * x, colour, base::RoundEven(std::max(ring, 0.0) * alpha));
+            Blend(canvas.At(x, y), colour, base::RoundEven(std::max(ring, 0.0) * alpha));
         }
     }
 }
@@ -129,7 +130,7 @@ void Draw(Canvas& canvas, const Image& image, std::int32_t x, std::int32_t y, in
         const Image::Pixel* from = image.Pixels.data() +
                                    static_cast<std::size_t>(row - y) * static_cast<std::size_t>(image.Width) +
                                    (inside.X - x);
-        std::uint8_t* to = canvas.Row(row) + 3 * inside.X;
+        std::uint8_t* to = canvas.At(inside.X, row);
         for (std::int32_t column = 0; column < inside.W; ++column, ++from, to += 3)
             Blend(to, {from->R, from->G, from->B}, from->A * alpha / 255);
     }
@@ -144,7 +145,7 @@ void Stretch(Canvas& canvas, std::int32_t width, std::int32_t height, std::int32
         const auto fromY = static_cast<std::int32_t>(static_cast<std::int64_t>(y) * height / canvas.Height);
         const std::uint8_t* from =
             bits + static_cast<std::size_t>(height - 1 - fromY) * static_cast<std::size_t>(rowBytes);
-        std::uint8_t* to = canvas.Row(y);
+        std::uint8_t* to = canvas.At(0, y);
         for (std::int32_t x = 0; x < canvas.Width; ++x, to += 3)
         {
             const auto fromX = static_cast<std::int32_t>(static_cast<std::int64_t>(x) * width / canvas.Width);

@@ -77,7 +77,7 @@ TEST(Form, NamesAndIndicesMustFit)
 // The three channels of a pixel, y downward.
 std::array<int, 3> At(Canvas& canvas, std::int32_t x, std::int32_t y)
 {
-    const std::uint8_t* pixel = canvas.Row(y) + 3 * x;
+    const std::uint8_t* pixel = canvas.At(x, y);
     return {pixel[2], pixel[1], pixel[0]};
 }
 
