@@ -34,8 +34,8 @@ std::vector<BodyPanel> BodyPanels(const Design& design)
         return BonnetPoint(shape, x, Lerp(CowlZ(x) - 0.02, NoseZ + shape.NoseBulge * (1 - x * x), b));
     };
     add(bonnet, Evenly(4), {0, 0.15, 0.36, 0.58, 0.79, 1}, 128, 100, BonnetPainter(design));
-    add([&shape, across](double a, double b) { return DeckPoint(shape, across(a), b); }, Evenly(4), Evenly(2), 128, 48,
-        DeckPainter(design));
+    add([&shape, across](double a, double b) { return DeckPoint(shape, across(a), b); }, {0, 0.25, 0.75, 1}, Evenly(2),
+        128, 48, DeckPainter(design));
     add([&shape, across](double a, double b) { return RoofPoint(shape, across(a), b); }, Evenly(4), {0, 0.35, 1}, 96,
         68, RoofPainter(design));
     const std::vector<double> stations =
@@ -44,13 +44,13 @@ std::vector<BodyPanel> BodyPanels(const Design& design)
     for (const double side : {-1.0, 1.0})
         add([&shape, side](double a, double b) { return FlankPoint(shape, side, Lerp(TailZ, NoseZ, a), b); }, stations,
             {0, 0.34, 0.66, 1}, 320, 52, FlankPainter(design, side));
-    add([&shape, across](double a, double b) { return NosePoint(shape, across(a), b); }, Evenly(4), {0, 0.3, 0.62, 1},
-        128, 36, NosePainter(design));
+    add([&shape, across](double a, double b) { return NosePoint(shape, across(a), b); }, Evenly(4), {0, 0.42, 1}, 128,
+        36, NosePainter(design));
     add([&shape, across](double a, double b) { return TailPoint(shape, across(a), b); }, Evenly(4), {0, 0.3, 1}, 128,
         44, TailPainter(design));
     for (const double side : {-1.0, 1.0})
         add([&shape, side](double a, double b) { return CabinSidePoint(shape, side, a, b); },
-            {0, 0.032, 0.15, 0.33, 0.53, 0.75, 1}, {0, 0.10, 0.90, 1}, 160, 34, CabinPainter(design));
+            {0, 0.032, 0.15, 0.53, 0.75, 1}, {0, 0.10, 0.90, 1}, 160, 34, CabinPainter(design));
     add([&shape, across](double a, double b) { return RearWindowPoint(shape, across(a), b); }, Evenly(4), Evenly(2), 96,
         64, RearWindowPainter(design));
     return panels;
@@ -59,7 +59,7 @@ std::vector<BodyPanel> BodyPanels(const Design& design)
 Car BuildCar(const Design& design)
 {
     Model model;
-    Atlas atlas(384, 448);
+    Atlas atlas(384, 512);
     for (const BodyPanel& panel : BodyPanels(design))
         model.Meshes.push_back(Build(panel.Skin, panel.Paint, atlas, Texture));
     AddCabin(model, design, atlas, Texture);

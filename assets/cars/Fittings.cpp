@@ -37,11 +37,13 @@ ModelMesh InnerWall(const Design& design, double side)
 {
     const Curve half{{-2.0, .68}, {-0.95, .68}, {-0.80, .79}, {0.56, .79}, {0.80, .68}, {1.70, .68}, {2.0, .62}};
     std::vector<Vec3> low, high;
-    for (const double z : {-2.0, -1.05, -0.80, -0.2, 0.27, 0.50, 0.78, 1.62, 2.0})
+    for (const double z : {-2.0, -1.05, -0.80, -0.2, 0.27, 0.50, 0.78, 1.85})
     {
         const double x = half(z);
         low.push_back({side * x, 0.16, z});
-        high.push_back({side * x, design.Shape.ShoulderY(z) - 0.03, z});
+        // Along the doors it ends above the sill, so that no outer paint is seen from the seats.
+        const double above = z > -0.9 && z < 0.55 ? 0.055 : -0.03;
+        high.push_back({side * (x + above * 0.2), design.Shape.ShoulderY(z) + above, z});
     }
     return FlatMesh(Hex(0x18181B), {low, high});
 }
@@ -60,16 +62,18 @@ ModelMesh Lining(const Design& design)
     return FlatMesh(Hex(0x3A3733), rows);
 }
 
-ModelMesh DashTop(const Design& design)
+// The trim behind a front pillar: close to its inner side, so that the driver does not see the outer paint.
+ModelMesh PillarTrim(const Design& design, double side)
 {
-    std::vector<Vec3> front, edge;
-    for (const double across : {-0.94, 0.0, 0.94})
+    std::vector<std::vector<Vec3>> rows;
+    for (const double up : {0.0, 0.45, 1.0})
     {
-        const Vec3 p = WindscreenPoint(design.Shape, across, 0.03);
-        front.push_back(p - Vec3{0, 0.02, 0.02});
-        edge.push_back({p.X, 0.765, 0.42});
+        std::vector<Vec3> row;
+        for (const double back : {0.002, 0.040})
+            row.push_back(CabinSidePoint(design.Shape, side, back, up) - Vec3{side * 0.014, 0, 0.004});
+        rows.push_back(row);
     }
-    return FlatMesh(Hex(0x2C2B2D), {front, edge});
+    return FlatMesh(Hex(0x232225), rows);
 }
 
 ModelMesh Seat(double x, Rgb colour)
@@ -119,6 +123,42 @@ Ink DialInk(const Sample& s)
     if (std::abs(x) < 0.06 && std::abs(y - 0.25) < 0.06)
         return {Hex(0x30C050)};
     return {Mix(Hex(0x232326), Hex(0x38383B), s.B)};
+}
+
+// The dashboard: b 0 to 0.4 is its face, above that its top up to the windscreen.
+Ink DashInk(const Sample& s)
+{
+    const double x = Lerp(-0.80, 0.80, s.A), b = s.B;
+    if (b > 0.40)
+    {
+        const double edge = SmoothStep(0.52, 0.42, b);
+        Rgb colour = Mix(Hex(0x242325), Hex(0x5A564F), edge * edge);
+        if (b > 0.80 && b < 0.88 && std::fmod(std::abs(x) + 0.02, 0.30) < 0.20) // warm air for the windscreen
+            colour = Hex(0x121214);
+        return {colour};
+    }
+    Rgb colour = Mix(Hex(0x151416), Hex(0x29272A), b / 0.4);
+    if (x > 0.28 && x < 0.70 && b > 0.06 && b < 0.30) // glove box
+        colour = x < 0.29 || x > 0.69 || b < 0.07 || b > 0.29 ? Hex(0x0C0C0D) : colour * 1.25;
+    for (const double centre : {-0.02, 0.10, 0.22}) // small clocks
+    {
+        const double from = std::hypot(x - centre, (b - 0.27) * 0.95) / 0.052;
+        if (from < 1)
+            colour = from > 0.82                                                   ? Hex(0x8C8F94)
+                     : std::abs(x - centre - (b - 0.25) * 0.5) < 0.006 && b > 0.25 ? Hex(0xF0561E)
+                                                                                   : Hex(0x0E0F11);
+    }
+    return {colour};
+}
+
+Ink HelmetInk(const Design& design, const Sample& s)
+{
+    const double front = std::abs(s.A - 0.5); // 0.5 looks ahead
+    const double light = Lerp(0.62, 1.08, s.B);
+    if (front < 0.23 && s.B > 0.36 && s.B < 0.68)
+        return {Mix(Hex(0x0C0E12), Hex(0x5A6A78), SmoothStep(0.50, 0.66, s.B))};
+    const bool band = s.B > 0.74 && s.B < 0.84;
+    return {(band ? design.Base : design.Helmet) * light};
 }
 
 Ink SteeringInk(const Sample& s)
@@ -189,6 +229,25 @@ ModelMesh Tyre(double outerX, double z)
     return FlatMesh(Hex(0x1D1D20), {inner, outer});
 }
 
+// The driver's head, behind the eye of the view from the seat.
+ModelMesh Helmet(const Design& design, Atlas& atlas, const std::string& texture)
+{
+    Panel panel;
+    panel.Shape = [](double a, double b)
+    {
+        const Curve radius{{0, 0.080}, {0.45, 0.118}, {0.75, 0.102}, {1, 0.036}};
+        const double angle = 2 * Pi * (a - 0.5), r = radius(b);
+        return Vec3{SeatX - 0.04 + r * std::sin(angle), 0.80 + 0.235 * b, -0.47 + 1.1 * r * std::cos(angle)};
+    };
+    panel.KnotsA = Evenly(6);
+    panel.KnotsB = {0, 0.5, 1};
+    panel.Width = 48;
+    panel.Height = 24;
+    panel.Inside = {SeatX, 0.90, -0.10};
+    return Build(
+        panel, [&design](const Sample& s) { return HelmetInk(design, s); }, atlas, texture);
+}
+
 Ink ShadowInk(const Sample& s)
 {
     // Darkest under the car, dissolving outward into single texels.
@@ -218,8 +277,7 @@ void AddWing(Model& model, const Design& design, Atlas& atlas, const std::string
         const double x = Lerp(-0.80, 0.80, a);
         return Vec3{x, 1.02 + 0.06 * b - 0.08 * b * (1 - b), Lerp(-1.80, -2.14, b)};
     };
-    panel.KnotsA = Evenly(3);
-    panel.KnotsB = Evenly(2);
+    panel.KnotsA = panel.KnotsB = Evenly(2);
     panel.Width = 128;
     panel.Height = 24;
     panel.Inside = {0, -1, 0};
@@ -242,9 +300,20 @@ void AddCabin(Model& model, const Design& design, Atlas& atlas, const std::strin
     model.Meshes.push_back(InnerWall(design, 1));
     model.Meshes.push_back(
         FlatMesh(Hex(0x0E0E10), {{{-0.84, 0.17, -2.0}, {0.84, 0.17, -2.0}}, {{-0.80, 0.17, 2.0}, {0.80, 0.17, 2.0}}}));
-    model.Meshes.push_back(DashTop(design));
-    model.Meshes.push_back(FlatMesh(
-        Hex(0x1E1E21), {{{-0.80, 0.765, 0.42}, {0.80, 0.765, 0.42}}, {{-0.80, 0.35, 0.38}, {0.80, 0.35, 0.38}}}));
+    Panel dash;
+    dash.Shape = [&design](double across, double up)
+    {
+        const Vec3 low{Lerp(-0.80, 0.80, across), 0.42, 0.385}, edge{Lerp(-0.80, 0.80, across), 0.765, 0.42};
+        const Vec3 top = WindscreenPoint(design.Shape, Lerp(-0.94, 0.94, across), 0.03) - Vec3{0, 0.02, 0.02};
+        return up < 0.4 ? low + (edge - low) * (up / 0.4) : edge + (top - edge) * ((up - 0.4) / 0.6);
+    };
+    dash.KnotsA = Evenly(2);
+    dash.KnotsB = {0, 0.4, 1};
+    dash.Width = 128;
+    dash.Height = 64;
+    model.Meshes.push_back(Build(dash, DashInk, atlas, texture));
+    model.Meshes.push_back(PillarTrim(design, -1));
+    model.Meshes.push_back(PillarTrim(design, 1));
     // Dials under a small hood, the wheel before them.
     model.Meshes.push_back(Face({SeatX - 0.21, 0.69, 0.39}, {SeatX + 0.21, 0.69, 0.39}, {SeatX - 0.21, 0.86, 0.45},
                                 {SeatX + 0.21, 0.86, 0.45}, 1, 64, 32, DialInk, atlas, texture));
@@ -255,7 +324,7 @@ void AddCabin(Model& model, const Design& design, Atlas& atlas, const std::strin
                                 1, 48, 48, SteeringInk, atlas, texture));
     model.Meshes.push_back(Lining(design));
     const double shelf = design.Shape.WindowRear + 0.03;
-    const double shelfY = BonnetPoint(design.Shape, 0, shelf).Y - 0.06;
+    const double shelfY = BonnetPoint(design.Shape, 0, shelf).Y - 0.012;
     model.Meshes.push_back(FlatMesh(Hex(0x1B1A1C), {{{-0.79, 0.20, -0.60}, {0.79, 0.20, -0.60}},
                                                     {{-0.79, 0.72, -0.66}, {0.79, 0.72, -0.66}},
                                                     {{-0.68, shelfY, shelf}, {0.68, shelfY, shelf}}}));
@@ -301,6 +370,7 @@ void AddOutside(Model& model, const Design& design, Atlas& atlas, const std::str
         }
     model.Meshes.push_back(Face({-1.22, 0.02, -2.50}, {1.22, 0.02, -2.50}, {-1.22, 0.02, 2.50}, {1.22, 0.02, 2.50}, 2,
                                 56, 112, ShadowInk, atlas, texture));
+    model.Meshes.push_back(Helmet(design, atlas, texture));
     model.Meshes.push_back(DoorMirror(design, -1));
     model.Meshes.push_back(DoorMirror(design, 1));
     if (design.Spoiler == Spoiler::Wing)

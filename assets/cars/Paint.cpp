@@ -348,9 +348,13 @@ Painter RearWindowPainter(const Design& design)
 
 Painter WingPainter(const Design& design)
 {
-    return [&design](const Sample& s) -> Ink
+    const auto word = std::make_shared<Lettering>("VELKAR", 0.17, 1.5, 0.12);
+    return [&design, word](const Sample& s) -> Ink
     {
-        Rgb lit = Lit(design.Livery(design, Part::Wing, s.P), s.N, 1);
+        Rgb colour = design.Livery(design, Part::Wing, s.P);
+        if (word->Inside(s.P.X, (0.5 - s.B) * 0.34)) // read from behind
+            colour = design.Base;
+        const Rgb lit = Lit(colour, s.N, 1);
         return {s.B < 0.06 || s.B > 0.94 ? lit * 0.5 : lit};
     };
 }
