@@ -60,4 +60,18 @@ inline std::string BitmapHeader(std::int32_t width, std::int32_t height)
     bytes.resize(54, '\0');
     return bytes;
 }
+
+// The bytes of a 24-bit bitmap of one colour.
+inline std::string Bitmap(std::int32_t width, std::int32_t height, std::uint8_t blue, std::uint8_t green,
+                          std::uint8_t red)
+{
+    std::string row;
+    for (std::int32_t x = 0; x < width; ++x)
+        row.append({static_cast<char>(blue), static_cast<char>(green), static_cast<char>(red)});
+    row.resize((row.size() + 3) / 4 * 4, '\0');
+    std::string bytes = BitmapHeader(width, height);
+    for (std::int32_t y = 0; y < height; ++y)
+        bytes += row;
+    return bytes;
+}
 }
