@@ -214,19 +214,30 @@ Painter WheelPainter(const Design& design)
     };
 }
 
-ModelMesh Tyre(double outerX, double z)
+// The tread of one tyre; the others are copies of it. Ten flat faces, one of them on the ground.
+ModelMesh Tyre(double outerX, double z, Atlas& atlas, const std::string& texture)
 {
     constexpr int Corners = 10;
-    const double innerX = outerX - std::copysign(0.24, outerX);
-    std::vector<Vec3> outer, inner;
-    for (int i = 0; i <= Corners; ++i)
+    Panel panel;
+    panel.Shape = [=](double a, double b)
     {
-        const double angle = 2 * Pi * (i % Corners + 0.5) / Corners;
-        const double y = AxleY + AxleY * std::sin(angle) * 1.01, dz = AxleY * std::cos(angle) * 1.01;
-        outer.push_back({outerX, y, z + dz});
-        inner.push_back({innerX, y, z + dz});
-    }
-    return FlatMesh(Hex(0x1D1D20), {inner, outer});
+        const double angle = 2 * Pi * (a * Corners + 0.5) / Corners - Pi / 2;
+        return Vec3{outerX - std::copysign(0.24, outerX) * (1 - b), AxleY + AxleY * std::sin(angle) * 1.01,
+                    z + AxleY * std::cos(angle) * 1.01};
+    };
+    panel.KnotsA = Evenly(Corners);
+    panel.KnotsB = Evenly(1);
+    panel.Width = 120;
+    panel.Height = 14;
+    panel.Inside = {outerX, AxleY, 0};
+    const Painter tread = [](const Sample& s) -> Ink
+    {
+        const double block = std::fmod(s.A * 40 + (s.B > 0.5 ? 0.5 : 0.0), 1.0);
+        const bool groove = std::abs(s.B - 0.5) < 0.06 || block < 0.22;
+        const double light = Lerp(0.75, 1.25, 0.5 - 0.5 * std::cos(2 * Pi * s.A));
+        return {(groove ? Hex(0x111113) : Hex(0x2B2B2E)) * light};
+    };
+    return Build(panel, tread, atlas, texture);
 }
 
 // The driver's head, behind the eye of the view from the seat.
@@ -348,16 +359,28 @@ void AddWindscreen(Model& model, const Design& design)
 
 void AddOutside(Model& model, const Design& design, Atlas& atlas, const std::string& texture)
 {
+    ModelMesh tyre;
     for (const double side : {-1.0, 1.0})
         for (const double z : {FrontAxle, RearAxle})
-            model.Meshes.push_back(Tyre(side * (design.Shape.HalfWidth(z) - 0.012), z));
+        {
+            // The four wheels share their texels.
+            const double x = side * (design.Shape.HalfWidth(z) - 0.012);
+            if (tyre.Points.empty())
+                tyre = Tyre(x, 0, atlas, texture);
+            ModelMesh tread = tyre;
+            for (ModelPoint& p : tread.Points)
+            {
+                p.X = x - std::copysign(p.V == tyre.Points[0].V ? 0.24 : 0.0, x);
+                p.Z += z;
+            }
+            model.Meshes.push_back(tread);
+        }
     ModelMesh face;
     for (const double side : {-1.0, 1.0})
         for (const double z : {FrontAxle, RearAxle})
         {
             const double x = side * (design.Shape.HalfWidth(z) - 0.010);
             const Vec3 low{x, 0, z - AxleY}, high{x, 2 * AxleY, z - AxleY}, along{0, 0, 2 * AxleY};
-            // The four faces share their texels.
             if (face.Points.empty())
                 face = Face(low, low + along, high, high + along, 2, 52, 52, WheelPainter(design), atlas, texture);
             for (int i = 0; i < 3; ++i)

@@ -98,8 +98,9 @@ Painter FlankPainter(const Design& design, double side)
     {
         const double z = s.P.Z, y = s.P.Y;
         const double arch = std::min(Ring(z, y, FrontAxle, AxleY), Ring(z, y, RearAxle, AxleY));
+        // Open, but dark around the upper half of the tyre: the inside of the bonnet must not show.
         if (arch < ArchRadius)
-            return {{}, true};
+            return {Hex(0x09090A), arch < AxleY + 0.006 || y < 0.40};
         Rgb colour = design.Livery(design, Part::Flank, s.P);
         double gloss = 1;
         // Seen from the left the nose points left, so text runs toward -z there and toward +z on the right.

@@ -74,7 +74,7 @@ Rgb GroundColour(const Dusk& dusk, const SceneView& view, const CarPose& car, do
         paint = Mix(Hex(0x4C5630), Hex(0x6E6A3C), Clamp01(0.5 + Fbm(x * 0.9, z * 0.9, 54, 3))) * tuft;
     }
     const double far = std::hypot(x, z);
-    const Rgb ambient = Mix({0.40, 0.33, 0.44}, {0.20, 0.22, 0.36}, dusk.Night);
+    const Rgb ambient = Mix({0.52, 0.43, 0.55}, {0.24, 0.26, 0.42}, dusk.Night);
     Rgb colour = paint * (ambient + LampLight(car, x, z)) * Lerp(1.0, 0.20, CarShadow(car, x, z));
     // At a flat angle asphalt mirrors the sky above the place.
     const double flat = SmoothStep(4, 45, far) * sheen * Lerp(1.0, 0.5, CarShadow(car, x, z));
