@@ -1,0 +1,157 @@
+// Road, pit lane, kerbs and gravel beds of the ground.
+#include "common/Noise.h"
+#include "track/Ground.h"
+#include <algorithm>
+
+namespace Assets
+{
+namespace
+{
+// s on the straight may be counted from the start line backward.
+double Signed(double s, double length)
+{
+    return s > length / 2 ? s - length : s;
+}
+
+// How much of a texel lies within `edge` units (positive: outside).
+double CoverOf(double edge)
+{
+    return Clamp01(0.5 - edge * TexelsPerUnit);
+}
+
+// Distance to the pit lane's edge, negative on it. The lane leaves and rejoins the road in ramps.
+double PitEdge(double s, double offset)
+{
+    if (s < PitFrom - 40 || s > PitTo + 40)
+        return FarAway;
+    const double in = SmoothStep(PitFrom - 38, PitFrom, s), out = SmoothStep(PitTo + 38, PitTo, s);
+    const double middle = Lerp(4, PitLeft, std::min(in, out));
+    double edge = std::abs(offset - middle) - PitHalfWidth;
+    const double last = BoxFirst + BoxLength * (PitBoxes - 0.5) + 4, first = BoxFirst - BoxLength / 2 - 4;
+    const double apron = std::max({offset - (BoxLeft + 4.6), PitLeft - offset, first - s, s - last});
+    edge = std::min(edge, apron);
+    return edge;
+}
+
+Rgb Asphalt(int x, int z, double s, double offset, double line, double bend)
+{
+    const Point p = TexelPlace(x, z);
+    const double fine = HashUnit(x, z, 601) - 0.5, stone = HashUnit(x, z, 602);
+    const double cloudy = Fbm(p.X / 9, p.Y / 9, 603, 4), broad = Fbm(p.X / 47, p.Y / 47, 604, 3);
+    Rgb colour = Hex(0x86817B) * (1 + 0.10 * cloudy + 0.09 * broad + 0.13 * fine);
+    if (stone > 0.985)
+        colour = colour * 1.22;
+    // Resurfaced lengths, each a little different, and mended patches.
+    const int stretch = FloorToInt((s + 7 * std::sin(offset / 11)) / 67);
+    colour = colour * (0.955 + 0.10 * HashUnit(stretch, 3, 605));
+    const int cellS = FloorToInt(s / 9), cellO = FloorToInt((offset + 20) / 3.4);
+    if (HashUnit(cellS, cellO, 606) > 0.94)
+    {
+        const double u = s / 9 - cellS, v = (offset + 20) / 3.4 - cellO;
+        const double inside = std::min({u, 1 - u, (v - 0.1) * 0.5, (0.9 - v) * 0.5});
+        if (inside > 0)
+            colour = colour * (inside < 0.014 ? 0.74 : 0.86);
+    }
+    // Joint in the middle, cracks.
+    colour = colour * (1 - 0.16 * SmoothStep(0.12, 0.03, std::abs(offset + 0.1 * cloudy)));
+    const CellDistance crack = Cells(p.X / 5.5 + 0.25 * cloudy, p.Y / 5.5, 607);
+    const double cracked = SmoothStep(0.1, 0.35, Fbm(p.X / 25, p.Y / 25, 608, 2));
+    colour = colour * (1 - 0.22 * cracked * SmoothStep(0.035, 0.01, crack.Second - crack.First));
+    // Rubber on the racing line, two wheels wide, and dust toward the edges.
+    const double away = std::abs(offset - line), wheels = std::abs(away - 0.9);
+    const double heavy = 0.55 + 0.45 * SmoothStep(0.004, 0.02, std::abs(bend));
+    const double rubber = (0.24 * SmoothStep(3.6, 0.4, away) + 0.12 * SmoothStep(0.7, 0.1, wheels)) * heavy;
+    colour = colour * (1 - rubber * (1 + 0.4 * cloudy));
+    return colour;
+}
+
+Rgb Kerb(int x, int z, double s, double across)
+{
+    // `across`: 0 at the road, 1 at the outer edge. The teeth are 2.2 units long.
+    const double tooth = s / 2.2, red = tooth - 2 * std::floor(tooth / 2) < 1 ? 1 : 0;
+    const Point p = TexelPlace(x, z);
+    Rgb colour = Mix(Hex(0xEFE9DC), Hex(0xC63A2B), red);
+    colour = colour * (0.82 + 0.24 * across + 0.07 * (HashUnit(x, z, 611) - 0.5));
+    const double scuffs = SmoothStep(0.05, 0.45, Fbm(p.X / 2.4, p.Y / 2.4, 612, 3)) * (1 - across);
+    return Mix(colour, Hex(0x5A5550), 0.45 * scuffs);
+}
+
+// 0 to 1: is there a kerb here on the left (side +1) or right (side -1)?
+bool HasKerb(const Circuit& road, double s, double side)
+{
+    const int i = RoundToInt(s / road.Length * road.Count());
+    for (int k = -12; k <= 12; k += 4)
+        if (road.At(i + k).Bend * side > 0.0095)
+            return true; // inside of the bend
+    for (int k = 6; k <= 34; k += 4)
+        if (road.At(i - k).Bend * side < -0.012 && std::abs(road.At(i).Bend) < 0.012)
+            return true; // outside of its end
+    return false;
+}
+
+constexpr double KerbWidth = 1.5;
+}
+
+Surface RoadSurface(const Plan& plan, const Terrain& terrain, int x, int z)
+{
+    const double offset = terrain.Offset.At(x, z);
+    if (std::abs(offset) > 40)
+        return {};
+    const double s = terrain.Along.At(x, z), half = terrain.HalfWidth.At(x, z);
+    const double edge = std::abs(offset) - half;
+    const double line = terrain.Line.At(x, z), bend = terrain.Bend.At(x, z);
+    const double side = offset > 0 ? 1 : -1;
+    const double straight = Signed(s, plan.Road.Length);
+    Surface surface;
+    const double pit = PitEdge(straight, offset);
+    const double paved = std::min(edge, pit);
+    if (paved > 0.3 && !(edge < KerbWidth + 0.3))
+        return surface;
+    surface.Colour = Asphalt(x, z, s, offset, line, bend);
+    if (pit < edge && pit < 0.3 && edge > -0.5) // newer, darker surface of the pit lane
+        surface.Colour = surface.Colour * Rgb{0.86, 0.87, 0.90};
+    surface.Cover = CoverOf(paved);
+    if (edge > -0.25 && edge < KerbWidth + 0.3 && pit > 0.5 && HasKerb(plan.Road, s, side))
+    {
+        const double kerb = std::min(CoverOf(-edge), CoverOf(edge - KerbWidth));
+        surface.Colour = Mix(surface.Colour, Kerb(x, z, s, Clamp01(edge / KerbWidth)), kerb);
+        surface.Cover = std::max(surface.Cover, CoverOf(edge - KerbWidth));
+    }
+    return surface;
+}
+
+Surface GravelSurface(const Plan& plan, const Terrain& terrain, int x, int z)
+{
+    const double offset = terrain.Offset.At(x, z);
+    if (std::abs(offset) > 40)
+        return {};
+    const Point p = TexelPlace(x, z);
+    const double s = terrain.Along.At(x, z);
+    Surface surface;
+    for (const Gravel& bed : plan.Gravels)
+    {
+        if (s < bed.S0 - 2 || s > bed.S1 + 2)
+            continue;
+        // The outer edge closes in toward both ends.
+        const double t = Clamp01((s - bed.S0) / (bed.S1 - bed.S0));
+        const double full = std::sqrt(Clamp01(4 * t * (1 - t) * 1.4));
+        const double near = std::min(std::abs(bed.Near), std::abs(bed.Far));
+        const double far = Lerp(near, std::max(std::abs(bed.Near), std::abs(bed.Far)), full);
+        if ((bed.Near + bed.Far) * offset < 0)
+            continue;
+        const double ragged = 0.5 * Fbm(p.X / 2.5, p.Y / 2.5, 621, 3);
+        const double edge = std::max(near - std::abs(offset), std::abs(offset) - far) + ragged;
+        const double cover = SmoothStep(0.25, -0.35, edge);
+        if (cover <= surface.Cover)
+            continue;
+        const CellDistance pebble = Cells(p.X / 0.6, p.Y / 0.6, 622);
+        const double tone = (pebble.Id & 255u) / 255.0;
+        const double raked = 0.05 * std::sin(std::abs(offset) * 2 * Pi / 1.1 + 1.5 * Noise(s / 9, 0, 623));
+        const double drifts = Fbm(p.X / 6, p.Y / 6, 624, 3);
+        Rgb colour = Mix(Hex(0xD3C4A0), Hex(0xB3A382), tone) * (1 + raked + 0.1 * drifts);
+        colour = colour * (1 + 0.16 * (HashUnit(x, z, 625) - 0.5));
+        surface = {colour, cover};
+    }
+    return surface;
+}
+}

@@ -1,0 +1,130 @@
+#include "track/MapScript.h"
+
+#include "track/Models.h"
+#include "track/Race.h"
+#include <cstdio>
+#include <filesystem>
+#include <fstream>
+#include <map>
+#include <stdexcept>
+
+namespace Assets
+{
+namespace
+{
+std::string Number(double value)
+{
+    char text[32];
+    std::snprintf(text, sizeof text, "%.4f", value);
+    std::string result = text;
+    while (result.back() == '0')
+        result.pop_back();
+    if (result.back() == '.')
+        result.pop_back();
+    return result == "-0" ? "0" : result;
+}
+
+void WriteText(const std::string& path, const std::string& text)
+{
+    std::filesystem::create_directories(std::filesystem::path(path).parent_path());
+    std::ofstream stream(path, std::ios::binary);
+    stream << text;
+    if (!stream)
+        throw std::runtime_error("cannot write " + path);
+}
+
+std::string Zones(const std::vector<Zone>& zones)
+{
+    std::string text;
+    for (const Zone& zone : zones)
+        text += Number(zone.X) + ",0," + Number(zone.Z) + "," + Number(zone.R) + "\n";
+    return text;
+}
+
+std::string Place(double x, double z, double angle, bool visible)
+{
+    return Number(x) + ",0," + Number(z) + "," + Number(angle) + ",0," + (visible ? "1" : "0") + "\n";
+}
+
+// The first of a kind is loaded, the others copy it.
+std::string Scenery(const Plan& plan)
+{
+    std::string text, last;
+    for (const Standing& item : plan.Items)
+    {
+        if (item.Name != last)
+            text += "LoadObject,\"<path>..\\..\\models\\world\\" + item.Name + ".3dm\",";
+        else
+            text += "DuplicateLastObj,";
+        text += Place(item.X, item.Z, item.Angle, true);
+        last = item.Name;
+    }
+    return text;
+}
+
+std::string GuardName(double radius)
+{
+    return "guard_" + std::to_string(RoundToInt(radius * 10));
+}
+
+std::string Guards(const Plan& plan, const std::string& folder)
+{
+    std::map<std::string, std::vector<Guard>> byName;
+    for (const Guard& guard : plan.Guards)
+        byName[GuardName(guard.R)].push_back(guard);
+    std::string text;
+    for (const auto& [name, guards] : byName)
+    {
+        Model model;
+        model.Mass = HeavyMass;
+        model.Visible = false;
+        model.Spheres.push_back(SphereAt(0, 0.5, 0, guards[0].R));
+        WriteModel(model, folder + "/" + name + ".3dm");
+        for (const Guard& guard : guards)
+        {
+            text += &guard == &guards[0] ? "LoadObject,\"<path>" + name + ".3dm\"," : "DuplicateLastObj,";
+            text += Place(guard.X, guard.Z, 0, false);
+        }
+    }
+    return text;
+}
+
+std::string Cars(const Plan& plan, const std::string& folder)
+{
+    std::string text;
+    for (std::size_t i = 0; i < Drivers().size(); ++i)
+    {
+        const Driver& d = Drivers()[i];
+        const std::string number = std::to_string(i + 1);
+        WriteText(folder + "/p" + number + ".player",
+                  Number(d.Steering) + "," + Number(d.TopSpeed) + "," + Number(d.ReverseSpeed) + "," +
+                      Number(d.Acceleration) + "," + Number(d.Brake) + "," + Number(d.Friction) + "," +
+                      (i == 0 ? "0" : "1") + "\n");
+        const Standing place = GridPlace(plan.Road, GridSlots()[i]);
+        text += "LoadPlayer,\"<path>p" + number + ".player\",\"<path>..\\..\\models\\car_" + number + "\\car.3dm\"," +
+                Place(place.X, place.Z, place.Angle, true);
+    }
+    return text;
+}
+}
+
+void WriteMap(const Plan& plan, const std::string& folder)
+{
+    std::string script = "LoadMapTexture,\"<path>ground.bmp\",4\n";
+    const std::pair<const char*, std::vector<Zone>> lists[] = {
+        {"Checkpoints", Checkpoints(plan.Road)}, {"ACheckpoints", AlternativeCheckpoints(plan.Road)},
+        {"Box", RepairBoxes(plan.Road)},         {"Grass", GrassZones(plan)},
+        {"Water", WaterZones(plan)},
+    };
+    for (const auto& [name, zones] : lists)
+    {
+        std::string file = name;
+        for (char& letter : file)
+            letter = static_cast<char>(letter >= 'A' && letter <= 'Z' ? letter - 'A' + 'a' : letter);
+        WriteText(folder + "/" + file + ".points", Zones(zones));
+        script += std::string("Load") + name + ",\"<path>" + file + ".points\"\n";
+    }
+    script += Scenery(plan) + Guards(plan, folder) + Cars(plan, folder);
+    WriteText(folder + "/map.loader", script);
+}
+}

@@ -1,0 +1,63 @@
+#include "track/Models.h"
+
+namespace Assets
+{
+static Corner3 Between(Corner3 a, Corner3 b, double t)
+{
+    return {Lerp(a.X, b.X, t), Lerp(a.Y, b.Y, t), Lerp(a.Z, b.Z, t)};
+}
+
+ModelMesh Face(const std::string& texture, const Region& region, Corner3 lowLeft, Corner3 lowRight, Corner3 upRight,
+               Corner3 upLeft, int across, int up)
+{
+    ModelMesh mesh(up + 1, across + 1);
+    mesh.Texture = ModelFolder::PathOf(texture);
+    for (int i = 0; i <= up; ++i)
+        for (int j = 0; j <= across; ++j)
+        {
+            const double u = 1.0 * j / across, v = 1.0 * i / up;
+            const Corner3 p = Between(Between(lowLeft, lowRight, u), Between(upLeft, upRight, u), v);
+            mesh.At(i, j) = {p.X, p.Y, p.Z, region.Left + RoundToInt(u * (region.Width - 1)),
+                             region.Low + RoundToInt(v * (region.Height - 1))};
+        }
+    return mesh;
+}
+
+ModelMesh FlatFace(Rgb colour, Corner3 lowLeft, Corner3 lowRight, Corner3 upRight, Corner3 upLeft)
+{
+    ModelMesh mesh(2, 2);
+    mesh.Colour =
+        FlatColour(RoundToInt(colour.R * 255), RoundToInt(colour.G * 255), RoundToInt(colour.B * 255));
+    mesh.At(0, 0) = {lowLeft.X, lowLeft.Y, lowLeft.Z};
+    mesh.At(0, 1) = {lowRight.X, lowRight.Y, lowRight.Z};
+    mesh.At(1, 1) = {upRight.X, upRight.Y, upRight.Z};
+    mesh.At(1, 0) = {upLeft.X, upLeft.Y, upLeft.Z};
+    return mesh;
+}
+
+ModelMesh Upright(const std::string& texture, const Region& region, double x0, double z0, double x1, double z1,
+                  double low, double high, int across, int up)
+{
+    return Face(texture, region, {x0, low, z0}, {x1, low, z1}, {x1, high, z1}, {x0, high, z0}, across, up);
+}
+
+ModelSphere SphereAt(double x, double y, double z, double radius)
+{
+    ModelSphere sphere;
+    sphere.X = x;
+    sphere.Y = y;
+    sphere.Z = z;
+    sphere.R = radius;
+    return sphere;
+}
+
+void ModelFolder::Texture(const std::string& name, const Canvas& picture, Black black) const
+{
+    WriteBmp(_folder + "/" + name + ".bmp", picture, black);
+}
+
+void ModelFolder::Write(const std::string& name, const Model& model) const
+{
+    WriteModel(model, _folder + "/" + name + ".3dm");
+}
+}

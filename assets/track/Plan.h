@@ -1,0 +1,108 @@
+// track/Plan.h: what stands where. The ground paints the shadows of it, the map script places it.
+// x is east, z is north, world units. A model's front is its local -z side.
+#pragma once
+#include "track/Circuit.h"
+#include <string>
+#include <vector>
+
+namespace Assets
+{
+enum class Shadow
+{
+    None,
+    Block, // a box of footprint and height
+    Cone,  // a cypress
+    Crown, // a round crown on a trunk
+    Roof   // a thin roof high up
+};
+
+// One model of the world.
+struct Kind
+{
+    std::string Name;    // file name without ".3dm"
+    double HalfX, HalfZ; // footprint around the origin
+    double Height;
+    Shadow Cast;
+    bool Solid; // its own model carries collision spheres
+};
+
+struct Standing
+{
+    std::string Name; // of its Kind
+    double X = 0, Z = 0;
+    double Angle = 0; // AngleA: the local z axis points along (-sin, cos)
+};
+
+// A ground sphere without a picture that stops cars where a building stands.
+struct Guard
+{
+    double X = 0, Z = 0, R = 1;
+};
+
+// A tilled piece of land.
+struct Field
+{
+    enum Crop
+    {
+        Vines,
+        Stubble,
+        Olives,
+        Meadow
+    };
+    Crop Grows;
+    std::vector<Point> Outline;
+    double RowAngle; // radians from the x axis
+};
+
+// A way beside the circuit.
+struct Path
+{
+    std::vector<Point> Line;
+    double Width;
+    bool Paved; // pale stone; otherwise a farm track
+};
+
+// A gravel bed along the road, from s0 to s1, between two distances from the centre line (left positive).
+struct Gravel
+{
+    double S0, S1, Near, Far;
+};
+
+// A barrier along the road.
+struct Barrier
+{
+    double S0, S1, Left;
+};
+
+struct Plan
+{
+    Circuit Road;
+    std::vector<Point> Lake; // outline; runs outside the world
+    std::vector<Point> Plaza;
+    std::vector<Field> Fields;
+    std::vector<Path> Paths;
+    std::vector<Gravel> Gravels;
+    std::vector<Standing> Items;
+    std::vector<Guard> Guards;
+};
+
+const std::vector<Kind>& Kinds();
+const Kind& KindOf(const std::string& name);
+// AngleA of a model whose front shall look along this direction.
+double AngleFacing(double dirX, double dirZ);
+bool InsideOutline(const std::vector<Point>& outline, double x, double z);
+Plan MakePlan();
+
+constexpr double WorldSize = 640;
+
+// The grid: the front of the first slot behind the start line, the step to the next, their distance from the middle.
+constexpr double GridFront = -3.4, GridStep = 11.6, GridLeft = 3.6;
+
+// The pit lane lies to the left of the main straight.
+constexpr double PitFrom = -88, PitTo = 112; // along the lap
+constexpr double PitLeft = 15.2, PitHalfWidth = 3.2;
+constexpr int PitBoxes = 8;
+constexpr double BoxLength = 9, BoxFirst = -34; // centre of the first box along the lap
+constexpr double BoxLeft = 21.4;
+constexpr double PitWallLeft = 11.2, PitWallFrom = -58, PitWallTo = 50;
+}

@@ -1,0 +1,176 @@
+#include "track/Scatter.h"
+
+#include "common/Noise.h"
+#include <algorithm>
+
+namespace Assets
+{
+namespace
+{
+double LineDistance(const std::vector<Point>& line, double x, double z)
+{
+    double least = 1e9;
+    for (std::size_t i = 0; i + 1 < line.size(); ++i)
+    {
+        const Point a = line[i], b = line[i + 1];
+        const double dx = b.X - a.X, dz = b.Y - a.Y;
+        const double t = Clamp01(((x - a.X) * dx + (z - a.Y) * dz) / (dx * dx + dz * dz));
+        least = std::min(least, std::hypot(a.X + t * dx - x, a.Y + t * dz - z));
+    }
+    return least;
+}
+
+class Grove
+{
+public:
+    explicit Grove(Plan& plan) : _plan(plan) {}
+
+    // Free ground with this much room to roads, houses and other trees.
+    bool Free(double x, double z, double room) const
+    {
+        if (x < 3 || z < 3 || x > WorldSize - 3 || z > WorldSize - 3 || InsideOutline(_plan.Lake, x, z))
+            return false;
+        const RoadPoint& road = _plan.Road.At(_plan.Road.Nearest(x, z));
+        if (std::hypot(road.X - x, road.Z - z) < road.HalfWidth + 8 + room)
+            return false;
+        if (OnGravelOrPits(x, z) || InsideOutline(_plan.Plaza, x, z))
+            return false;
+        for (const Path& path : _plan.Paths)
+            if (LineDistance(path.Line, x, z) < path.Width / 2 + 0.6 + room * 0.3)
+                return false;
+        for (const Standing& item : _plan.Items)
+        {
+            const Kind& kind = KindOf(item.Name);
+            if (std::hypot(item.X - x, item.Z - z) < std::max(kind.HalfX, kind.HalfZ) + room)
+                return false;
+        }
+        for (const Guard& guard : _plan.Guards)
+            if (std::hypot(guard.X - x, guard.Z - z) < guard.R + room)
+                return false;
+        return true;
+    }
+    bool InField(double x, double z) const
+    {
+        return std::any_of(_plan.Fields.begin(), _plan.Fields.end(),
+                           [&](const Field& field) { return InsideOutline(field.Outline, x, z); });
+    }
+    bool Try(const std::string& name, double x, double z, double room)
+    {
+        if (!Free(x, z, room))
+            return false;
+        _plan.Items.push_back({name, x, z, 0});
+        return true;
+    }
+    // A tree near the road, with a trunk that stops cars.
+    void Roadside(const std::string& name, double s, double left)
+    {
+        const Point p = _plan.Road.Place(s, left);
+        if (!InsideOutline(_plan.Lake, p.X, p.Y))
+            _plan.Items.push_back({name, p.X, p.Y, 0});
+    }
+
+private:
+    bool OnGravelOrPits(double x, double z) const
+    {
+        const int nearest = _plan.Road.Nearest(x, z);
+        const double offset = _plan.Road.Offset(x, z);
+        const double s = nearest * _plan.Road.Length / _plan.Road.Count();
+        if ((s < PitTo || s > _plan.Road.Length + PitFrom) && offset > 0 && offset < 40)
+            return true;
+        if ((s < 30 || s > _plan.Road.Length - 104) && offset < 0 && offset > -30)
+            return true; // the stands
+        for (const Gravel& bed : _plan.Gravels)
+            if (s > bed.S0 - 6 && s < bed.S1 + 6 && offset > bed.Near - 4 && offset < bed.Far + 4)
+                return true;
+        return false;
+    }
+    Plan& _plan;
+};
+
+void Avenues(Grove& grove)
+{
+    // Cypresses in file: up to the villa, along the lake road, round the village, along the east wall.
+    for (int i = 0; i < 11; ++i)
+        grove.Try("cypress", 112 + 1.2 * i, 352 + 11.0 * i, 1.0);
+    for (int i = 0; i < 9; ++i)
+        grove.Try("cypress", 566 - 0.5 * i, 180 + 12.0 * i, 1.2);
+    for (int i = 0; i < 12; ++i)
+        grove.Try("cypress", 300 + 16.0 * i, 250 - 1.1 * i, 1.2);
+    for (int i = 0; i < 10; ++i)
+        grove.Try("cypress", 240 + 14.0 * i, 187 - 1.3 * i, 1.4);
+    for (int i = 0; i < 12; ++i)
+        grove.Roadside("cypress_r", 990 + 13.0 * i, i % 2 == 0 ? 17.5 : 18.0);
+    for (int i = 0; i < 8; ++i)
+        grove.Roadside("cypress_r", 1380 + 13.0 * i, -15.0);
+    for (int i = 0; i < 9; ++i)
+        grove.Roadside("cypress_r", 1620 + 34.0 * i, 15.5);
+    for (int i = 0; i < 6; ++i)
+        grove.Roadside("pine_r", 464 + 58.0 * i, 16.5);
+    for (int i = 0; i < 5; ++i)
+        grove.Roadside("pine_r", 1230 + 30.0 * i, 16.5);
+    for (int i = 0; i < 4; ++i)
+        grove.Roadside("pine_r", 150 + 34.0 * i, -19.0);
+}
+
+void Olives(Grove& grove, const Plan& plan, Sequence& dice)
+{
+    for (const Field& field : plan.Fields)
+    {
+        if (field.Grows != Field::Olives)
+            continue;
+        const double c = std::cos(field.RowAngle), s = std::sin(field.RowAngle);
+        for (int row = -14; row <= 14; ++row)
+            for (int place = -14; place <= 14; ++place)
+            {
+                const double a = row * 17.0 + dice.Between(-2, 2), b = place * 15.0 + dice.Between(-2, 2);
+                const double x = 260 + a * c - b * s, z = 260 + a * s + b * c;
+                if (InsideOutline(field.Outline, x, z))
+                    grove.Try("olive", x, z, 1.5);
+            }
+    }
+}
+
+void Bales(Grove& grove, const Plan& plan, Sequence& dice)
+{
+    for (const Field& field : plan.Fields)
+        if (field.Grows == Field::Stubble)
+            for (int i = 0; i < 40; ++i)
+            {
+                const double x = dice.Between(140, 460), z = dice.Between(240, 634);
+                if (InsideOutline(field.Outline, x, z) && dice.Next() < 0.9)
+                    grove.Try("bale", x, z, 7);
+            }
+}
+
+void Wild(Grove& grove, Sequence& dice)
+{
+    for (int i = 0; i < 2600; ++i)
+    {
+        const double x = dice.Between(4, WorldSize - 4), z = dice.Between(4, WorldSize - 4);
+        const double rim = std::min({WorldSize - x, WorldSize - z, z}); // thicker toward the rim
+        const double thick = Fbm(x / 55, z / 55, 301, 3) + SmoothStep(60, 8, rim) * 0.9;
+        const double pick = dice.Next(), luck = dice.Next();
+        if (grove.InField(x, z) || thick < 0.12 || luck > 0.25 + thick)
+            continue;
+        if (pick < 0.42)
+            grove.Try("oak", x, z, 3.2);
+        else if (pick < 0.6)
+            grove.Try("pine", x, z, 4.5);
+        else if (pick < 0.78)
+            grove.Try("cypress", x, z, 2.4);
+        else
+            grove.Try("bush", x, z, 1.6);
+    }
+}
+}
+
+void ScatterTrees(Plan& plan)
+{
+    Grove grove(plan);
+    Sequence dice(4711);
+    Avenues(grove);
+    Olives(grove, plan, dice);
+    Bales(grove, plan, dice);
+    Wild(grove, dice);
+}
+}

@@ -1,0 +1,9 @@
+// track/Scatter.h: the trees, bushes and bales of the plan.
+#pragma once
+#include "track/Plan.h"
+
+namespace Assets
+{
+// Adds what grows where there is room: never on the road, in the water, on a path or in a building.
+void ScatterTrees(Plan& plan);
+}
