@@ -137,9 +137,11 @@ double LengthOf(const std::vector<Point>& line)
 
 void RotateToStart(std::vector<Point>& line)
 {
-    const auto nearest = std::min_element(line.begin(), line.end(), [](Point a, Point b) {
-        return std::hypot(a.X - StartLine.X, a.Y - StartLine.Y) < std::hypot(b.X - StartLine.X, b.Y - StartLine.Y);
-    });
+    const auto nearest = std::min_element(line.begin(), line.end(),
+                                          [](Point a, Point b) {
+                                              return std::hypot(a.X - StartLine.X, a.Y - StartLine.Y) <
+                                                     std::hypot(b.X - StartLine.X, b.Y - StartLine.Y);
+                                          });
     std::rotate(line.begin(), nearest, line.end());
 }
 

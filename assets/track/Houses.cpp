@@ -114,7 +114,8 @@ void Tiles(Canvas& sheet, const Region& r, Rgb light, std::uint32_t seed)
         for (int x = 0; x < r.Width; ++x)
         {
             const int course = y / 5, tile = (x + (course % 2) * 2) / 4;
-            const double tone = HashUnit(tile, course, seed), arc = std::sin(Pi * ((x + (course % 2) * 2) % 4 + 0.5) / 4);
+            const double tone = HashUnit(tile, course, seed),
+                         arc = std::sin(Pi * ((x + (course % 2) * 2) % 4 + 0.5) / 4);
             const double lip = y % 5 == 0 ? 0.72 : 1;
             Rgb c = Mix(Hex(0xB5573A), Hex(0xD98A5A), tone);
             if (tone > 0.93)
@@ -152,8 +153,8 @@ Canvas HouseSheet(const House& house)
         Tiles(sheet, RoofRegion(slope), RoofLights[slope], house.Seed * 17u);
     // Plain plaster for the gables, lit from the west and unlit in the east.
     for (int gable = 0; gable < 2; ++gable)
-        Plaster(sheet, {2 * RoofWidth + gable * 64, 0, 64, RoofHeight}, house.Plaster, WallLight(gable == 0 ? 1 : -1, 0),
-                house.Seed * 13u);
+        Plaster(sheet, {2 * RoofWidth + gable * 64, 0, 64, RoofHeight}, house.Plaster,
+                WallLight(gable == 0 ? 1 : -1, 0), house.Seed * 13u);
     return sheet;
 }
 
@@ -171,7 +172,8 @@ void AddRoof(Model& model, const std::string& texture, double hx, double hz, dou
     const double over = 0.55, low = eaves - 0.25, x = hx + 0.35, z = hz + over;
     model.Meshes.push_back(
         Face(texture, RoofRegion(0), {-x, low, -z}, {x, low, -z}, {x, ridge, 0}, {-x, ridge, 0}, 3, 2));
-    model.Meshes.push_back(Face(texture, RoofRegion(1), {x, low, z}, {-x, low, z}, {-x, ridge, 0}, {x, ridge, 0}, 3, 2));
+    model.Meshes.push_back(
+        Face(texture, RoofRegion(1), {x, low, z}, {-x, low, z}, {-x, ridge, 0}, {x, ridge, 0}, 3, 2));
     const Region east{2 * RoofWidth, 0, 64, RoofHeight - 14}, west{2 * RoofWidth + 64, 0, 64, RoofHeight - 14};
     model.Meshes.push_back(
         Face(texture, east, {hx, eaves, -hz}, {hx, eaves, hz}, {hx, ridge - 0.1, 0}, {hx, ridge - 0.1, 0}));
@@ -183,10 +185,14 @@ void AddChimney(Model& model, double x, double z, double low, double high)
 {
     const double r = 0.4;
     const Rgb brick = Hex(0xB5714F);
-    model.Meshes.push_back(FlatFace(brick * ShadeLight, {x - r, low, z - r}, {x + r, low, z - r}, {x + r, high, z - r}, {x - r, high, z - r}));
-    model.Meshes.push_back(FlatFace(brick, {x - r, low, z + r}, {x + r, low, z + r}, {x + r, high, z + r}, {x - r, high, z + r}));
-    model.Meshes.push_back(FlatFace(brick, {x - r, low, z - r}, {x - r, low, z + r}, {x - r, high, z + r}, {x - r, high, z - r}));
-    model.Meshes.push_back(FlatFace(brick * ShadeLight, {x + r, low, z - r}, {x + r, low, z + r}, {x + r, high, z + r}, {x + r, high, z - r}));
+    model.Meshes.push_back(FlatFace(brick * ShadeLight, {x - r, low, z - r}, {x + r, low, z - r}, {x + r, high, z - r},
+                                    {x - r, high, z - r}));
+    model.Meshes.push_back(
+        FlatFace(brick, {x - r, low, z + r}, {x + r, low, z + r}, {x + r, high, z + r}, {x - r, high, z + r}));
+    model.Meshes.push_back(
+        FlatFace(brick, {x - r, low, z - r}, {x - r, low, z + r}, {x - r, high, z + r}, {x - r, high, z - r}));
+    model.Meshes.push_back(FlatFace(brick * ShadeLight, {x + r, low, z - r}, {x + r, low, z + r}, {x + r, high, z + r},
+                                    {x + r, high, z - r}));
 }
 
 void WriteHouse(const ModelFolder& folder, const House& house)

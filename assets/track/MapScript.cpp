@@ -96,10 +96,10 @@ std::string Cars(const Plan& plan, const std::string& folder)
     {
         const Driver& d = Drivers()[i];
         const std::string number = std::to_string(i + 1);
-        WriteText(folder + "/p" + number + ".player",
-                  Number(d.Steering) + "," + Number(d.TopSpeed) + "," + Number(d.ReverseSpeed) + "," +
-                      Number(d.Acceleration) + "," + Number(d.Brake) + "," + Number(d.Friction) + "," +
-                      (i == 0 ? "0" : "1") + "\n");
+        WriteText(folder + "/p" + number + ".player", Number(d.Steering) + "," + Number(d.TopSpeed) + "," +
+                                                          Number(d.ReverseSpeed) + "," + Number(d.Acceleration) + "," +
+                                                          Number(d.Brake) + "," + Number(d.Friction) + "," +
+                                                          (i == 0 ? "0" : "1") + "\n");
         const Standing place = GridPlace(plan.Road, GridSlots()[i]);
         text += "LoadPlayer,\"<path>p" + number + ".player\",\"<path>..\\..\\models\\car_" + number + "\\car.3dm\"," +
                 Place(place.X, place.Z, place.Angle, true);
@@ -112,8 +112,10 @@ void WriteMap(const Plan& plan, const std::string& folder)
 {
     std::string script = "LoadMapTexture,\"<path>ground.bmp\",4\n";
     const std::pair<const char*, std::vector<Zone>> lists[] = {
-        {"Checkpoints", Checkpoints(plan.Road)}, {"ACheckpoints", AlternativeCheckpoints(plan.Road)},
-        {"Box", RepairBoxes(plan.Road)},         {"Grass", GrassZones(plan)},
+        {"Checkpoints", Checkpoints(plan.Road)},
+        {"ACheckpoints", AlternativeCheckpoints(plan.Road)},
+        {"Box", RepairBoxes(plan.Road)},
+        {"Grass", GrassZones(plan)},
         {"Water", WaterZones(plan)},
     };
     for (const auto& [name, zones] : lists)

@@ -34,17 +34,19 @@ public:
     }
     void Worn(const std::vector<Point>& line, double width, Rgb colour, double opacity)
     {
-        CoverStroke(_ground.Width, _ground.Height, line, width * TexelsPerUnit, false, [&](int x, int y, double c) {
-            const double wear = 0.8 + 0.35 * Fbm(x / 14.0, y / 14.0, 701, 3) - 0.15 * HashUnit(x, y, 702);
-            _ground.Blend(x, y, colour, c * opacity * Clamp01(wear));
-        });
+        CoverStroke(_ground.Width, _ground.Height, line, width * TexelsPerUnit, false,
+                    [&](int x, int y, double c)
+                    {
+                        const double wear = 0.8 + 0.35 * Fbm(x / 14.0, y / 14.0, 701, 3) - 0.15 * HashUnit(x, y, 702);
+                        _ground.Blend(x, y, colour, c * opacity * Clamp01(wear));
+                    });
     }
     void Patch(double s0, double s1, double left0, double left1, Rgb colour, double opacity)
     {
         const Point corners[] = {Texel(s0, left0), Texel(s1, left0), Texel(s1, left1), Texel(s0, left1)};
-        CoverPolygon(_ground.Width, _ground.Height, corners, [&](int x, int y, double c) {
-            _ground.Blend(x, y, colour, c * opacity * (0.85 + 0.15 * HashUnit(x, y, 703)));
-        });
+        CoverPolygon(_ground.Width, _ground.Height, corners,
+                     [&](int x, int y, double c)
+                     { _ground.Blend(x, y, colour, c * opacity * (0.85 + 0.15 * HashUnit(x, y, 703))); });
     }
     // Letters `tall` units long along `up` (+1: read along the lap, -1: against it, 0: from the left side).
     void Text(std::string_view text, double s, double left, double tall, double stretch, int up, Rgb colour,
@@ -77,7 +79,9 @@ public:
                 const Point a = Texel(s - 0.8, left + wheel), b = Texel(s + 0.8, left + wheel);
                 const Point piece[] = {a, b};
                 CoverStroke(_ground.Width, _ground.Height, piece, 0.32 * TexelsPerUnit, false,
-                            [&](int x, int y, double c) { _ground.Shade(x, y, {0.72, 0.72, 0.73}, c * fade * strength); });
+                            [&](int x, int y, double c) {
+                                _ground.Shade(x, y, {0.72, 0.72, 0.73}, c * fade * strength);
+                            });
             }
         }
     }
@@ -159,7 +163,8 @@ void TyreMarks(Brush& brush, const Circuit& road)
             brush.Skid(s, s + run, a, b, dice.Between(0.25, 0.8), seed++);
         }
     for (int slot = 0; slot < 8; ++slot) // wheel spin from the grid
-        brush.Skid(GridFront - 5 - GridStep * slot, GridFront + 8 - GridStep * slot, slot % 2 == 0 ? GridLeft : -GridLeft, slot % 2 == 0 ? GridLeft - 0.3 : 0.3 - GridLeft, 0.9, seed++);
+        brush.Skid(GridFront - 5 - GridStep * slot, GridFront + 8 - GridStep * slot,
+                   slot % 2 == 0 ? GridLeft : -GridLeft, slot % 2 == 0 ? GridLeft - 0.3 : 0.3 - GridLeft, 0.9, seed++);
     for (int i = 0; i < 12; ++i) // off into the gravel and back
     {
         const double s = i < 6 ? 182 + 4.0 * i : 1078 + 4.0 * (i - 6);
@@ -175,7 +180,8 @@ void Drains(Brush& brush, double length)
         const double side = number % 2 == 0 ? 1 : -1, left = side * (brush.HalfWidth(s) - 1.5);
         brush.Patch(s, s + 1.5, left - 0.5, left + 0.5, {0.30, 0.29, 0.28}, 0.95);
         for (int bar = 0; bar < 3; ++bar)
-            brush.Patch(s + 0.15 + bar * 0.48, s + 0.39 + bar * 0.48, left - 0.38, left + 0.38, {0.12, 0.12, 0.12}, 0.95);
+            brush.Patch(s + 0.15 + bar * 0.48, s + 0.39 + bar * 0.48, left - 0.38, left + 0.38, {0.12, 0.12, 0.12},
+                        0.95);
     }
 }
 

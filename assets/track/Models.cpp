@@ -26,8 +26,7 @@ ModelMesh Face(const std::string& texture, const Region& region, Corner3 lowLeft
 ModelMesh FlatFace(Rgb colour, Corner3 lowLeft, Corner3 lowRight, Corner3 upRight, Corner3 upLeft)
 {
     ModelMesh mesh(2, 2);
-    mesh.Colour =
-        FlatColour(RoundToInt(colour.R * 255), RoundToInt(colour.G * 255), RoundToInt(colour.B * 255));
+    mesh.Colour = FlatColour(RoundToInt(colour.R * 255), RoundToInt(colour.G * 255), RoundToInt(colour.B * 255));
     mesh.At(0, 0) = {lowLeft.X, lowLeft.Y, lowLeft.Z};
     mesh.At(0, 1) = {lowRight.X, lowRight.Y, lowRight.Z};
     mesh.At(1, 1) = {upRight.X, upRight.Y, upRight.Z};

@@ -9,26 +9,26 @@ namespace Assets
 const std::vector<Kind>& Kinds()
 {
     static const std::vector<Kind> kinds{
-        {"house_a", 5.0, 4.0, 6.5, Shadow::Block, false},   {"house_b", 4.0, 4.5, 8.5, Shadow::Block, false},
-        {"house_c", 6.5, 4.0, 6.0, Shadow::Block, false},   {"house_d", 3.6, 3.6, 9.5, Shadow::Block, false},
-        {"villa", 8.0, 5.0, 8.0, Shadow::Block, false},     {"church", 5.0, 9.0, 9.0, Shadow::Block, false},
-        {"tower", 2.3, 2.3, 27.0, Shadow::Block, false},    {"stand", 13.0, 5.5, 9.5, Shadow::Block, false},
-        {"pits", 38.0, 4.5, 6.5, Shadow::Block, false},     {"gantry", 1.0, 11.6, 8.5, Shadow::None, false},
-        {"cypress", 1.2, 1.2, 11.0, Shadow::Cone, false},   {"cypress_r", 1.2, 1.2, 11.0, Shadow::Cone, true},
-        {"pine", 4.2, 4.2, 11.5, Shadow::Crown, false},     {"pine_r", 4.2, 4.2, 11.5, Shadow::Crown, true},
-        {"oak", 3.4, 3.4, 7.5, Shadow::Crown, false},       {"olive", 2.2, 2.2, 4.4, Shadow::Crown, false},
-        {"bush", 1.5, 1.5, 1.8, Shadow::Crown, false},      {"stonewall", 6.0, 0.35, 1.3, Shadow::Block, false},
-        {"pitwall", 6.0, 0.25, 1.0, Shadow::Block, false},  {"fence", 6.0, 0.1, 2.6, Shadow::None, false},
-        {"tyres", 0.75, 0.75, 1.1, Shadow::Block, true},    {"cone", 0.3, 0.3, 0.75, Shadow::Block, true},
-        {"bollard", 0.2, 0.2, 1.0, Shadow::Block, true},    {"bale", 1.0, 0.8, 1.9, Shadow::Block, false},
-        {"board_1", 4.0, 0.1, 1.6, Shadow::Block, false},   {"board_2", 4.0, 0.1, 1.6, Shadow::Block, false},
-        {"board_3", 4.0, 0.1, 1.6, Shadow::Block, false},   {"board_4", 4.0, 0.1, 1.6, Shadow::Block, false},
-        {"board_5", 4.0, 0.1, 1.6, Shadow::Block, false},   {"board_6", 4.0, 0.1, 1.6, Shadow::Block, false},
-        {"sign_100", 0.9, 0.1, 2.2, Shadow::None, true},    {"sign_50", 0.9, 0.1, 2.2, Shadow::None, true},
-        {"arrows", 3.0, 0.1, 1.8, Shadow::Block, false},    {"arrows_r", 3.0, 0.1, 1.8, Shadow::Block, false},    {"pier", 1.5, 12.0, 1.2, Shadow::None, false},
-        {"sailboat", 1.3, 3.2, 9.0, Shadow::None, false},   {"rowboat", 0.8, 2.0, 0.8, Shadow::None, false},
-        {"parasol", 1.5, 1.5, 2.4, Shadow::Roof, false},    {"flag", 0.2, 0.2, 8.0, Shadow::None, false},
-        {"marshal", 1.2, 1.2, 3.0, Shadow::Block, false},
+        {"house_a", 5.0, 4.0, 6.5, Shadow::Block, false},  {"house_b", 4.0, 4.5, 8.5, Shadow::Block, false},
+        {"house_c", 6.5, 4.0, 6.0, Shadow::Block, false},  {"house_d", 3.6, 3.6, 9.5, Shadow::Block, false},
+        {"villa", 8.0, 5.0, 8.0, Shadow::Block, false},    {"church", 5.0, 9.0, 9.0, Shadow::Block, false},
+        {"tower", 2.3, 2.3, 27.0, Shadow::Block, false},   {"stand", 13.0, 5.5, 9.5, Shadow::Block, false},
+        {"pits", 38.0, 4.5, 6.5, Shadow::Block, false},    {"gantry", 1.0, 11.6, 8.5, Shadow::None, false},
+        {"cypress", 1.2, 1.2, 11.0, Shadow::Cone, false},  {"cypress_r", 1.2, 1.2, 11.0, Shadow::Cone, true},
+        {"pine", 4.2, 4.2, 11.5, Shadow::Crown, false},    {"pine_r", 4.2, 4.2, 11.5, Shadow::Crown, true},
+        {"oak", 3.4, 3.4, 7.5, Shadow::Crown, false},      {"olive", 2.2, 2.2, 4.4, Shadow::Crown, false},
+        {"bush", 1.5, 1.5, 1.8, Shadow::Crown, false},     {"stonewall", 6.0, 0.35, 1.3, Shadow::Block, false},
+        {"pitwall", 6.0, 0.25, 1.0, Shadow::Block, false}, {"fence", 6.0, 0.1, 2.6, Shadow::None, false},
+        {"tyres", 0.75, 0.75, 1.1, Shadow::Block, true},   {"cone", 0.3, 0.3, 0.75, Shadow::Block, true},
+        {"bollard", 0.2, 0.2, 1.0, Shadow::Block, true},   {"bale", 1.0, 0.8, 1.9, Shadow::Block, false},
+        {"board_1", 4.0, 0.1, 1.6, Shadow::Block, false},  {"board_2", 4.0, 0.1, 1.6, Shadow::Block, false},
+        {"board_3", 4.0, 0.1, 1.6, Shadow::Block, false},  {"board_4", 4.0, 0.1, 1.6, Shadow::Block, false},
+        {"board_5", 4.0, 0.1, 1.6, Shadow::Block, false},  {"board_6", 4.0, 0.1, 1.6, Shadow::Block, false},
+        {"sign_100", 0.9, 0.1, 2.2, Shadow::None, true},   {"sign_50", 0.9, 0.1, 2.2, Shadow::None, true},
+        {"arrows", 3.0, 0.1, 1.8, Shadow::Block, false},   {"arrows_r", 3.0, 0.1, 1.8, Shadow::Block, false},
+        {"pier", 1.5, 12.0, 1.2, Shadow::None, false},     {"sailboat", 1.3, 3.2, 9.0, Shadow::None, false},
+        {"rowboat", 0.8, 2.0, 0.8, Shadow::None, false},   {"parasol", 1.5, 1.5, 2.4, Shadow::Roof, false},
+        {"flag", 0.2, 0.2, 8.0, Shadow::None, false},      {"marshal", 1.2, 1.2, 3.0, Shadow::Block, false},
     };
     return kinds;
 }
@@ -154,7 +154,8 @@ void PutStraight(Builder& put, Plan& plan)
 
 void PutCorners(Builder& put)
 {
-    const auto boards = [&](double s0, double s1, double left, int first) {
+    const auto boards = [&](double s0, double s1, double left, int first)
+    {
         for (double s = s0; s <= s1; s += 9)
             put.Beside("board_" + std::to_string(1 + first++ % 6), s, left);
     };
@@ -166,7 +167,8 @@ void PutCorners(Builder& put)
     boards(1290, 1310, -15, 5);
     boards(1630, 1660, 14, 2);
     boards(2020, 2038, 16, 0);
-    const auto tyres = [&](double s0, double s1, double step, double left) {
+    const auto tyres = [&](double s0, double s1, double step, double left)
+    {
         for (double s = s0; s <= s1; s += step)
             put.Beside("tyres", s, left);
     };
@@ -203,17 +205,17 @@ void PutVillage(Builder& put)
         double X, Z, Angle;
     };
     const House houses[] = {
-        {"tower", 543, 232, 0},        {"church", 553, 243, 0},       {"house_a", 512, 248, 0.08},
-        {"house_b", 511, 233, 0.0},    {"house_c", 521, 263, -0.05},  {"house_d", 541, 265, 0.05},
-        {"house_b", 533, 206, 0.1},    {"house_a", 551, 212, -0.06},  {"house_c", 522, 190, 0.15},
-        {"house_d", 510, 214, 0.05},   {"house_a", 540, 287, 0.03},   {"house_b", 556, 282, 0},
-        {"house_c", 558, 300, 0.06},   {"house_d", 536, 304, 0},      {"house_a", 519, 290, -0.12},
-        {"house_b", 548, 322, 0.08},   {"house_d", 554, 186, 0.02},   {"house_a", 545, 166, 0.05},
-        {"villa", 152, 488, 0.1},      {"house_a", 196, 512, -0.1},   {"house_c", 206, 474, 0.05},
-        {"house_d", 186, 492, 0},      {"house_b", 342, 330, 0.06},   {"house_c", 360, 322, 0.06},
-        {"house_a", 430, 560, 0.1},    {"house_d", 446, 570, 0.05},   {"house_c", 420, 540, 0.1},
-        {"house_a", 312, 590, 0.05},   {"villa", 470, 40, -0.1},      {"house_b", 82, 372, 0.05},
-        {"house_d", 90, 384, 0.0},     {"house_a", 86, 356, 0.1},
+        {"tower", 543, 232, 0},      {"church", 553, 243, 0},      {"house_a", 512, 248, 0.08},
+        {"house_b", 511, 233, 0.0},  {"house_c", 521, 263, -0.05}, {"house_d", 541, 265, 0.05},
+        {"house_b", 533, 206, 0.1},  {"house_a", 551, 212, -0.06}, {"house_c", 522, 190, 0.15},
+        {"house_d", 510, 214, 0.05}, {"house_a", 540, 287, 0.03},  {"house_b", 556, 282, 0},
+        {"house_c", 558, 300, 0.06}, {"house_d", 536, 304, 0},     {"house_a", 519, 290, -0.12},
+        {"house_b", 548, 322, 0.08}, {"house_d", 554, 186, 0.02},  {"house_a", 545, 166, 0.05},
+        {"villa", 152, 488, 0.1},    {"house_a", 196, 512, -0.1},  {"house_c", 206, 474, 0.05},
+        {"house_d", 186, 492, 0},    {"house_b", 342, 330, 0.06},  {"house_c", 360, 322, 0.06},
+        {"house_a", 430, 560, 0.1},  {"house_d", 446, 570, 0.05},  {"house_c", 420, 540, 0.1},
+        {"house_a", 312, 590, 0.05}, {"villa", 470, 40, -0.1},     {"house_b", 82, 372, 0.05},
+        {"house_d", 90, 384, 0.0},   {"house_a", 86, 356, 0.1},
     };
     for (const House& house : houses)
     {
@@ -260,10 +262,10 @@ Plan MakePlan()
 {
     Plan plan;
     plan.Road = MakeCircuit();
-    plan.Lake = {{128, 660}, {120, 640}, {110, 612}, {97, 588}, {76, 562}, {57, 532},  {44, 500},  {35, 466},
-                 {29, 426},  {27, 385},  {31, 345},  {38, 305}, {45, 272}, {57, 238},  {76, 210},  {102, 188},
-                 {136, 170}, {180, 158}, {232, 148}, {280, 128}, {318, 100}, {346, 64}, {360, 24}, {364, -30},
-                 {-30, -30}, {-30, 660}};
+    plan.Lake = {{128, 660}, {120, 640}, {110, 612}, {97, 588},  {76, 562},  {57, 532},  {44, 500},
+                 {35, 466},  {29, 426},  {27, 385},  {31, 345},  {38, 305},  {45, 272},  {57, 238},
+                 {76, 210},  {102, 188}, {136, 170}, {180, 158}, {232, 148}, {280, 128}, {318, 100},
+                 {346, 64},  {360, 24},  {364, -30}, {-30, -30}, {-30, 660}};
     plan.Plaza = {{516, 218}, {537, 220}, {547, 226}, {548, 252}, {538, 256}, {518, 254}, {515, 236}};
     plan.Fields = {
         {Field::Vines, {{118, 262}, {262, 262}, {262, 342}, {118, 336}}, 1.45},
@@ -287,8 +289,8 @@ Plan MakePlan()
         {{{440, 160}, {430, 90}, {458, 50}, {500, 30}, {560, 26}, {634, 30}}, 3.4, false},
         {{{310, 150}, {250, 178}, {190, 178}, {150, 186}, {120, 204}}, 3.4, false},
     };
-    plan.Gravels = {{176, 256, 10.5, 26}, {856, 954, -22.5, -10.5}, {1072, 1132, 10.5, 24}, {352, 418, -17, -10.5},
-                    {1336, 1380, 10.5, 22}, {1990, 2040, -18, -10.5}};
+    plan.Gravels = {{176, 256, 10.5, 26},   {856, 954, -22.5, -10.5}, {1072, 1132, 10.5, 24},
+                    {352, 418, -17, -10.5}, {1336, 1380, 10.5, 22},   {1990, 2040, -18, -10.5}};
     Builder put(plan);
     PutStraight(put, plan);
     PutCorners(put);

@@ -13,43 +13,14 @@ struct Gate
     double S, Left, R;
 };
 const Gate Gates[] = {
-    {149.0, 2.43, 8.7},
-    {184.7, 3.34, 9.6},
-    {223.1, -4.18, 9.2},
-    {269.4, -0.14, 8.0},
-    {319.3, 6.00, 8.6},
-    {350.9, -6.00, 16.0},
-    {392.4, 2.18, 8.0},
-    {417.3, -2.35, 15.9},
-    {647.5, -4.46, 12.0},
-    {706.7, -1.11, 9.1},
-    {857.5, -3.45, 8.0},
-    {887.1, -3.69, 16.0},
-    {910.4, -3.37, 16.0},
-    {934.4, -6.00, 16.0},
-    {1062.7, -3.32, 8.3},
-    {1087.8, -0.39, 13.8},
-    {1112.4, -2.02, 16.0},
-    {1145.2, 2.11, 12.3},
-    {1214.9, -6.00, 8.0},
-    {1238.5, -0.85, 12.8},
-    {1310.2, -4.56, 14.2},
-    {1337.0, 0.60, 16.0},
-    {1359.2, 0.26, 14.0},
-    {1449.5, 1.92, 8.0},
-    {1506.5, 5.78, 8.0},
-    {1529.6, 1.10, 10.4},
-    {1592.4, -0.05, 15.5},
-    {1666.2, -1.53, 10.6},
-    {1725.2, -0.66, 16.0},
-    {1790.1, 1.41, 13.1},
-    {1866.5, 1.00, 16.0},
-    {1947.8, 6.00, 8.0},
-    {1974.2, 3.04, 8.3},
-    {2001.5, 1.81, 14.4},
-    {2041.1, -1.11, 15.2},
-    {2096.5, -2.46, 16.0},
-    {2120.0, -1.38, 13.2},
+    {149.0, 2.43, 8.7},    {184.7, 3.34, 9.6},    {223.1, -4.18, 9.2},   {269.4, -0.14, 8.0},   {319.3, 6.00, 8.6},
+    {350.9, -6.00, 16.0},  {392.4, 2.18, 8.0},    {417.3, -2.35, 15.9},  {647.5, -4.46, 12.0},  {706.7, -1.11, 9.1},
+    {857.5, -3.45, 8.0},   {887.1, -3.69, 16.0},  {910.4, -3.37, 16.0},  {934.4, -6.00, 16.0},  {1062.7, -3.32, 8.3},
+    {1087.8, -0.39, 13.8}, {1112.4, -2.02, 16.0}, {1145.2, 2.11, 12.3},  {1214.9, -6.00, 8.0},  {1238.5, -0.85, 12.8},
+    {1310.2, -4.56, 14.2}, {1337.0, 0.60, 16.0},  {1359.2, 0.26, 14.0},  {1449.5, 1.92, 8.0},   {1506.5, 5.78, 8.0},
+    {1529.6, 1.10, 10.4},  {1592.4, -0.05, 15.5}, {1666.2, -1.53, 10.6}, {1725.2, -0.66, 16.0}, {1790.1, 1.41, 13.1},
+    {1866.5, 1.00, 16.0},  {1947.8, 6.00, 8.0},   {1974.2, 3.04, 8.3},   {2001.5, 1.81, 14.4},  {2041.1, -1.11, 15.2},
+    {2096.5, -2.46, 16.0}, {2120.0, -1.38, 13.2},
 };
 
 double Tenth(double value)
@@ -110,7 +81,7 @@ double GrassRoom(const Plan& plan, double x, double z)
 }
 
 // Covers the cells where `room` is positive with circles no larger than their room, large ones first.
-template <class Room> std::vector<Zone> FillWithZones(double cell, double least, double most, const Room& room)
+template<class Room> std::vector<Zone> FillWithZones(double cell, double least, double most, const Room& room)
 {
     const int count = RoundToInt(WorldSize / cell);
     struct Place
@@ -129,9 +100,10 @@ template <class Room> std::vector<Zone> FillWithZones(double cell, double least,
     std::vector<Zone> zones;
     for (const Place& place : places)
     {
-        const bool covered = std::any_of(zones.begin(), zones.end(), [&](const Zone& zone) {
-            return std::hypot(zone.X - place.X, zone.Z - place.Z) < zone.R - 0.4 * std::min(place.R, 2.5);
-        });
+        const bool covered = std::any_of(
+            zones.begin(), zones.end(),
+            [&](const Zone& zone)
+            { return std::hypot(zone.X - place.X, zone.Z - place.Z) < zone.R - 0.4 * std::min(place.R, 2.5); });
         if (!covered)
             zones.push_back({place.X, place.Z, Tenth(place.R)});
     }
@@ -141,14 +113,14 @@ template <class Room> std::vector<Zone> FillWithZones(double cell, double least,
 
 std::vector<Zone> GrassZones(const Plan& plan)
 {
-    return FillWithZones(2.5, 2.2, 40, [&](double x, double z) {
-        return InsideOutline(plan.Lake, x, z) ? -1 : GrassRoom(plan, x, z);
-    });
+    return FillWithZones(
+        2.5, 2.2, 40, [&](double x, double z) { return InsideOutline(plan.Lake, x, z) ? -1 : GrassRoom(plan, x, z); });
 }
 
 std::vector<Zone> WaterZones(const Plan& plan)
 {
-    const auto shore = [&](double x, double z) {
+    const auto shore = [&](double x, double z)
+    {
         if (!InsideOutline(plan.Lake, x, z))
             return -1.0;
         double least = 60;
@@ -167,14 +139,10 @@ std::vector<Zone> WaterZones(const Plan& plan)
 const std::vector<Driver>& Drivers()
 {
     static const std::vector<Driver> drivers{
-        {0.0640, 5.25, 1.3, 0.0420, 0.060, 0.0025},
-        {0.0620, 5.30, 1.2, 0.0390, 0.055, 0.0025},
-        {0.0640, 5.15, 1.2, 0.0400, 0.055, 0.0025},
-        {0.0620, 5.18, 1.2, 0.0385, 0.055, 0.0025},
-        {0.0630, 5.10, 1.2, 0.0380, 0.055, 0.0025},
-        {0.0610, 5.10, 1.2, 0.0370, 0.055, 0.0025},
-        {0.0600, 5.00, 1.2, 0.0360, 0.053, 0.0025},
-        {0.0600, 4.95, 1.2, 0.0350, 0.052, 0.0025},
+        {0.0640, 5.25, 1.3, 0.0420, 0.060, 0.0025}, {0.0620, 5.30, 1.2, 0.0390, 0.055, 0.0025},
+        {0.0640, 5.15, 1.2, 0.0400, 0.055, 0.0025}, {0.0620, 5.18, 1.2, 0.0385, 0.055, 0.0025},
+        {0.0630, 5.10, 1.2, 0.0380, 0.055, 0.0025}, {0.0610, 5.10, 1.2, 0.0370, 0.055, 0.0025},
+        {0.0600, 5.00, 1.2, 0.0360, 0.053, 0.0025}, {0.0600, 4.95, 1.2, 0.0350, 0.052, 0.0025},
     };
     return drivers;
 }

@@ -29,7 +29,8 @@ void WriteStoneWall(const ModelFolder& folder)
     constexpr double X = 6, Z = 0.35, High = 1.3;
     model.Meshes.push_back(Upright("stonewall", {0, 0, 192, 24}, -X, -Z, X, -Z, 0, High, 3, 1));
     model.Meshes.push_back(Upright("stonewall", {0, 0, 192, 24}, X, Z, -X, Z, 0, High, 3, 1));
-    model.Meshes.push_back(Face("stonewall", {0, 24, 192, 8}, {-X, High, -Z}, {X, High, -Z}, {X, High, Z}, {-X, High, Z}, 3, 1));
+    model.Meshes.push_back(
+        Face("stonewall", {0, 24, 192, 8}, {-X, High, -Z}, {X, High, -Z}, {X, High, Z}, {-X, High, Z}, 3, 1));
     folder.Write("stonewall", model);
 }
 
@@ -51,7 +52,8 @@ void WritePitWall(const ModelFolder& folder)
     constexpr double X = 6, Z = 0.25, High = 1.0;
     model.Meshes.push_back(Upright("pitwall", {0, 0, 192, 18}, -X, -Z, X, -Z, 0, High, 3, 1));
     model.Meshes.push_back(Upright("pitwall", {0, 0, 192, 18}, X, Z, -X, Z, 0, High, 3, 1));
-    model.Meshes.push_back(Face("pitwall", {0, 18, 192, 2}, {-X, High, -Z}, {X, High, -Z}, {X, High, Z}, {-X, High, Z}));
+    model.Meshes.push_back(
+        Face("pitwall", {0, 18, 192, 2}, {-X, High, -Z}, {X, High, -Z}, {X, High, Z}, {-X, High, Z}));
     folder.Write("pitwall", model);
 }
 
@@ -163,8 +165,8 @@ void WriteBale(const ModelFolder& folder)
         for (int i = 0; i < 90; ++i)
         {
             const double angle = 2 * Pi * i / 90;
-            picture.Blend(RoundToInt(16 + r * std::cos(angle)), RoundToInt(48 + (r + i / 30.0) * std::sin(angle) * 0.95),
-                          Hex(0x8A6F3A), 0.6);
+            picture.Blend(RoundToInt(16 + r * std::cos(angle)),
+                          RoundToInt(48 + (r + i / 30.0) * std::sin(angle) * 0.95), Hex(0x8A6F3A), 0.6);
         }
     folder.Texture("bale", picture);
     Model model;
@@ -189,8 +191,8 @@ void WriteBale(const ModelFolder& folder)
         for (int j = 0; j <= Sides; ++j)
         {
             const double angle = 2 * Pi * j / Sides;
-            end.At(0, j) = {side * Half, R + R * std::sin(angle), R * std::cos(angle), RoundToInt(16 + 15 * std::cos(angle)),
-                            RoundToInt(48 + 15 * std::sin(angle))};
+            end.At(0, j) = {side * Half, R + R * std::sin(angle), R * std::cos(angle),
+                            RoundToInt(16 + 15 * std::cos(angle)), RoundToInt(48 + 15 * std::sin(angle))};
             end.At(1, j) = {side * Half, R, 0, 16, 48};
         }
         model.Meshes.push_back(end);
@@ -224,14 +226,17 @@ void WriteBoards(const ModelFolder& folder)
         PaintText(picture, advert.Text, {120, 28}, 27, 4.6, advert.Ink, 1, 226 / (LettersWidth(advert.Text) * 27));
         for (int y = 0; y < 56; ++y)
             for (int x = 0; x < 240; ++x)
-                picture.Set(x, y, picture.Colour(x, y) * (0.94 + 0.05 * HashUnit(x, y, 1141)) *
-                                      (1 - 0.12 * SmoothStep(12, 0, y)));
+                picture.Set(x, y,
+                            picture.Colour(x, y) * (0.94 + 0.05 * HashUnit(x, y, 1141)) *
+                                (1 - 0.12 * SmoothStep(12, 0, y)));
         folder.Texture(name, picture);
         Model model;
         model.Mass = HeavyMass;
         model.Meshes.push_back(Upright(name, {0, 0, 240, 56}, -4, -0.1, 4, -0.1, 0.15, 1.75, 5, 1));
-        model.Meshes.push_back(FlatFace(Hex(0x8C8A86), {-4, 0.15, 0.1}, {4, 0.15, 0.1}, {4, 1.75, 0.1}, {-4, 1.75, 0.1}));
-        model.Meshes.push_back(FlatFace(Hex(0xB4B2AC), {-4, 1.75, -0.1}, {4, 1.75, -0.1}, {4, 1.75, 0.1}, {-4, 1.75, 0.1}));
+        model.Meshes.push_back(
+            FlatFace(Hex(0x8C8A86), {-4, 0.15, 0.1}, {4, 0.15, 0.1}, {4, 1.75, 0.1}, {-4, 1.75, 0.1}));
+        model.Meshes.push_back(
+            FlatFace(Hex(0xB4B2AC), {-4, 1.75, -0.1}, {4, 1.75, -0.1}, {4, 1.75, 0.1}, {-4, 1.75, 0.1}));
         folder.Write(name, model);
     }
 }
@@ -252,7 +257,8 @@ void WriteSigns(const ModelFolder& folder)
         Model model;
         model.Mass = LightMass;
         model.Meshes.push_back(Upright(name, {0, 0, 64, 80}, -0.9, 0, 0.9, 0, 0, 2.3, 2, 1));
-        model.Meshes.push_back(FlatFace(Hex(0x8C8A86), {-0.88, 1.0, 0.06}, {0.88, 1.0, 0.06}, {0.88, 2.28, 0.06}, {-0.88, 2.28, 0.06}));
+        model.Meshes.push_back(
+            FlatFace(Hex(0x8C8A86), {-0.88, 1.0, 0.06}, {0.88, 1.0, 0.06}, {0.88, 2.28, 0.06}, {-0.88, 2.28, 0.06}));
         model.Spheres.push_back(SphereAt(0, 0.6, 0, 0.7));
         folder.Write(name, model);
     }
@@ -283,8 +289,8 @@ void WriteMarshal(const ModelFolder& folder)
         constexpr Point Normals[] = {{0, -1}, {1, 0}, {0, 1}, {-1, 0}};
         for (int y = 0; y < 64; ++y)
             for (int x = 0; x < 32; ++x)
-                picture.Set(side * 32 + x, y, (x % 6 == 0 ? Hex(0xC9863C) : Hex(0xE8A850)) *
-                                                  WallLight(Normals[side].X, Normals[side].Y));
+                picture.Set(side * 32 + x, y,
+                            (x % 6 == 0 ? Hex(0xC9863C) : Hex(0xE8A850)) * WallLight(Normals[side].X, Normals[side].Y));
         FillRect(picture, side * 32 + 4, 28, 24, 24, Hex(0x3A3A40));
         FillRect(picture, side * 32 + 4, 26, 24, 2, Hex(0xF2E8D0));
     }
@@ -299,7 +305,8 @@ void WriteMarshal(const ModelFolder& folder)
         const Point a = corners[side], b = corners[(side + 1) % 4];
         model.Meshes.push_back(Upright("marshal", {side * 32, 0, 32, 64}, a.X, a.Y, b.X, b.Y, 0, 2.6));
     }
-    model.Meshes.push_back(FlatFace(Hex(0xB5573A), {-1.5, 2.6, -1.5}, {1.5, 2.6, -1.5}, {1.5, 3.0, 1.5}, {-1.5, 3.0, 1.5}));
+    model.Meshes.push_back(
+        FlatFace(Hex(0xB5573A), {-1.5, 2.6, -1.5}, {1.5, 2.6, -1.5}, {1.5, 3.0, 1.5}, {-1.5, 3.0, 1.5}));
     folder.Write("marshal", model);
 }
 }

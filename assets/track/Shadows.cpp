@@ -13,8 +13,10 @@ std::vector<Point> Hull(std::vector<Point> points)
 {
     std::sort(points.begin(), points.end(), [](Point a, Point b) { return a.X < b.X || (a.X == b.X && a.Y < b.Y); });
     std::vector<Point> hull;
-    const auto add = [&](Point p, std::size_t keep) {
-        const auto right = [&] {
+    const auto add = [&](Point p, std::size_t keep)
+    {
+        const auto right = [&]
+        {
             const Point a = hull[hull.size() - 2], b = hull.back();
             return (b.X - a.X) * (p.Y - a.Y) - (b.Y - a.Y) * (p.X - a.X) <= 0;
         };
@@ -79,7 +81,8 @@ void CastCone(const Caster& to, const Standing& item, const Kind& kind)
     const Point foot{item.X, item.Z};
     std::vector<Point> outline;
     const double sideX = -SunZ * kind.HalfX, sideZ = SunX * kind.HalfX;
-    constexpr double Profile[][2] = {{0.0, 0.35}, {0.08, 0.8}, {0.25, 1.0}, {0.5, 0.9}, {0.75, 0.62}, {0.92, 0.28}, {1, 0}};
+    constexpr double Profile[][2] = {{0.0, 0.35},  {0.08, 0.8},  {0.25, 1.0}, {0.5, 0.9},
+                                     {0.75, 0.62}, {0.92, 0.28}, {1, 0}};
     for (const auto& [height, width] : Profile)
     {
         const Point p = Shifted(foot, height * kind.Height);
@@ -107,7 +110,8 @@ void CastCrown(const Caster& to, const Standing& item, const Kind& kind)
         const int key = RoundToInt(item.X * 7 + item.Z * 131);
         const double angle = 2 * Pi * HashUnit(key, i, 901), away = std::sqrt(HashUnit(key, i, 902)) * 0.62;
         const double high = kind.Height * Lerp(low + 0.12, 0.9, HashUnit(key, i, 903));
-        const Point p = Shifted({foot.X + std::cos(angle) * away * kind.HalfX, foot.Y + std::sin(angle) * away * kind.HalfX}, high);
+        const Point p =
+            Shifted({foot.X + std::cos(angle) * away * kind.HalfX, foot.Y + std::sin(angle) * away * kind.HalfX}, high);
         FillDisc(to.Leaves, {p.X * TexelsPerUnit, p.Y * TexelsPerUnit}, kind.HalfX * TexelsPerUnit * 0.48, 1, 3);
     }
     FillDisc(to.Contact, {foot.X * TexelsPerUnit, foot.Y * TexelsPerUnit}, kind.HalfX * TexelsPerUnit * 0.4, 0.7);
@@ -145,11 +149,20 @@ void PaintShadows(Canvas& ground, const Plan& plan)
         const Kind& kind = KindOf(item.Name);
         switch (kind.Cast)
         {
-        case Shadow::Block: CastBlock(caster, item, kind); break;
-        case Shadow::Cone: CastCone(caster, item, kind); break;
-        case Shadow::Crown: CastCrown(caster, item, kind); break;
-        case Shadow::Roof: CastRoof(caster, item, kind); break;
-        case Shadow::None: break;
+        case Shadow::Block:
+            CastBlock(caster, item, kind);
+            break;
+        case Shadow::Cone:
+            CastCone(caster, item, kind);
+            break;
+        case Shadow::Crown:
+            CastCrown(caster, item, kind);
+            break;
+        case Shadow::Roof:
+            CastRoof(caster, item, kind);
+            break;
+        case Shadow::None:
+            break;
         }
         if (kind.Name == "gantry")
             CastGantry(caster, item, kind);

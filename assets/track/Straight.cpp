@@ -36,9 +36,11 @@ Canvas CrowdPicture()
             const double lift = HashUnit(seat, row, 1003) * 1.6;
             FillEllipse(picture, {x, y + 6.4 + lift}, 2.3, 3.6, shirt);
             FillRect(picture, x + 0.6, y + 3.6, 1.6, 5, shirt * 0.7, 0.6);
-            FillDisc(picture, {x - 0.1, y + 11 + lift}, 1.7, Mix(Hex(0xE6B48C), Hex(0xB07A50), HashUnit(seat, row, 1004)));
+            FillDisc(picture, {x - 0.1, y + 11 + lift}, 1.7,
+                     Mix(Hex(0xE6B48C), Hex(0xB07A50), HashUnit(seat, row, 1004)));
             FillRect(picture, x - 1.7, y + 11.6 + lift, 3.4, 1.4,
-                     HashUnit(seat, row, 1005) > 0.5 ? Hex(0x3A2A20) : Clothes[Hash(row, seat, 1006) % std::size(Clothes)]);
+                     HashUnit(seat, row, 1005) > 0.5 ? Hex(0x3A2A20)
+                                                     : Clothes[Hash(row, seat, 1006) % std::size(Clothes)]);
             if (luck < 0.05) // a flag held up
                 FillRect(picture, x + 1, y + 12, 5, 3.4, Clothes[Hash(seat, row, 1007) % 5]);
         }
@@ -66,7 +68,8 @@ Canvas StandPicture()
             picture.Set(x, y, Hex(0x7E8C96) * (0.88 + 0.12 * ((x / 3) % 2)) * ShadeLight * 1.15);
     for (int y = 64; y < 96; ++y)
         for (int x = 0; x < 256; ++x)
-            picture.Set(x, y, Hex(0xD9D3C4) * (0.93 + 0.07 * ((x / 4) % 2)) * (1 - 0.05 * Fbm(x / 30.0, y / 30.0, 1012, 3)));
+            picture.Set(x, y,
+                        Hex(0xD9D3C4) * (0.93 + 0.07 * ((x / 4) % 2)) * (1 - 0.05 * Fbm(x / 30.0, y / 30.0, 1012, 3)));
     FillRect(picture, 0, 64, 256, 5, Hex(0xC63A2B)); // edge of the roof
     return picture;
 }
@@ -79,8 +82,8 @@ void WriteStand(const ModelFolder& folder)
     model.Mass = HeavyMass;
     constexpr double X = 13, Front = -5.5, Back = 5.5;
     model.Meshes.push_back(Upright("stand", {0, 0, 256, 24}, -X, Front, X, Front, 0, 1.9, 4, 1));
-    model.Meshes.push_back(Face("crowd", {0, 0, 312, 104}, {-X, 1.5, Front}, {X, 1.5, Front}, {X, 7.2, Back},
-                                {-X, 7.2, Back}, 6, 3));
+    model.Meshes.push_back(
+        Face("crowd", {0, 0, 312, 104}, {-X, 1.5, Front}, {X, 1.5, Front}, {X, 7.2, Back}, {-X, 7.2, Back}, 6, 3));
     model.Meshes.push_back(Upright("stand", {0, 24, 256, 40}, X, Back, -X, Back, 0, 8.7, 3, 2));
     for (const double side : {-1.0, 1.0})
     {
@@ -91,7 +94,8 @@ void WriteStand(const ModelFolder& folder)
     }
     model.Meshes.push_back(Face("stand", {0, 64, 256, 32}, {-X - 0.4, 9.7, Front + 0.2}, {X + 0.4, 9.7, Front + 0.2},
                                 {X + 0.4, 8.7, Back}, {-X - 0.4, 8.7, Back}, 4, 2));
-    model.Meshes.push_back(Upright("stand", {0, 64, 256, 5}, -X - 0.4, Front + 0.19, X + 0.4, Front + 0.19, 9.3, 9.72, 2, 1));
+    model.Meshes.push_back(
+        Upright("stand", {0, 64, 256, 5}, -X - 0.4, Front + 0.19, X + 0.4, Front + 0.19, 9.3, 9.72, 2, 1));
     for (const double x : {-12.6, -4.2, 4.2, 12.6})
         model.Meshes.push_back(FlatFace(Hex(0xE8E4DA), {x - 0.12, 1.8, Front + 0.5}, {x + 0.12, 1.8, Front + 0.5},
                                         {x + 0.12, 9.6, Front + 0.5}, {x - 0.12, 9.6, Front + 0.5}));
@@ -130,8 +134,9 @@ Canvas PitsPicture()
     FillRect(picture, 0, 59, 608, 5, Hex(0xC63A2B) * shade);
     for (int y = 64; y < 128; ++y)
         for (int x = 0; x < 608; ++x)
-            picture.Set(x, y, Hex(0xE9DFC8) * WallLight(0, 1) * (1 + 0.06 * Fbm(x / 40.0, y / 20.0, 1022, 3)) *
-                                  (y < 70 ? 0.8 : 1.0));
+            picture.Set(x, y,
+                        Hex(0xE9DFC8) * WallLight(0, 1) * (1 + 0.06 * Fbm(x / 40.0, y / 20.0, 1022, 3)) *
+                            (y < 70 ? 0.8 : 1.0));
     for (int window = 0; window < 24; ++window)
     {
         FillRect(picture, 8 + window * 25.2, 104, 14, 12, Hex(0x5C7488));
@@ -142,7 +147,9 @@ Canvas PitsPicture()
     FillRect(picture, 0, 123, 608, 5, Hex(0xC63A2B));
     for (int y = 128; y < 160; ++y)
         for (int x = 0; x < 608; ++x)
-            picture.Set(x, y, Hex(0xBFB6A2) * SunLight * (0.93 + 0.1 * HashUnit(x, y, 1023) + 0.08 * Fbm(x / 18.0, y / 9.0, 1024, 3)));
+            picture.Set(x, y,
+                        Hex(0xBFB6A2) * SunLight *
+                            (0.93 + 0.1 * HashUnit(x, y, 1023) + 0.08 * Fbm(x / 18.0, y / 9.0, 1024, 3)));
     for (int box = 0; box < 6; ++box)
         FillRect(picture, 40 + box * 96, 138, 22, 10, Hex(0xE6E2D8));
     FillRect(picture, 0, 128, 608, 2, Hex(0xF2ECDE));
@@ -160,8 +167,8 @@ void WritePits(const ModelFolder& folder)
     model.Meshes.push_back(Upright("pits", {0, 64, 608, 64}, X, Z, -X, Z, 0, High, 10, 2));
     model.Meshes.push_back(Upright("pits", {0, 64, 70, 64}, -X, Z, -X, -Z, 0, High, 2, 2));
     model.Meshes.push_back(Upright("pits", {200, 64, 70, 64}, X, -Z, X, Z, 0, High, 2, 2));
-    model.Meshes.push_back(Face("pits", {0, 128, 608, 32}, {-X, High, -Z - 1.6}, {X, High, -Z - 1.6}, {X, High, Z},
-                                {-X, High, Z}, 12, 2));
+    model.Meshes.push_back(
+        Face("pits", {0, 128, 608, 32}, {-X, High, -Z - 1.6}, {X, High, -Z - 1.6}, {X, High, Z}, {-X, High, Z}, 12, 2));
     model.Meshes.push_back(Upright("pits", {0, 58, 608, 6}, -X, -Z - 1.6, X, -Z - 1.6, High - 0.5, High + 0.15, 6, 1));
     folder.Write("pits", model);
 }
@@ -188,16 +195,20 @@ void WriteGantry(const ModelFolder& folder)
     model.Meshes.push_back(Upright("gantry", whole, Deep, -Reach, Deep, Reach, Low, High, 8, 1));
     model.Meshes.push_back(FlatFace(Hex(0xD8D2C4), {-Deep, High, -Reach}, {Deep, High, -Reach}, {Deep, High, Reach},
                                     {-Deep, High, Reach}));
-    model.Meshes.push_back(FlatFace(Hex(0x4A4E56), {-Deep, Low, -Reach}, {Deep, Low, -Reach}, {Deep, Low, Reach},
-                                    {-Deep, Low, Reach}));
+    model.Meshes.push_back(
+        FlatFace(Hex(0x4A4E56), {-Deep, Low, -Reach}, {Deep, Low, -Reach}, {Deep, Low, Reach}, {-Deep, Low, Reach}));
     for (const double side : {-1.0, 1.0})
     {
         const double inner = side * (Reach - 0.9), outer = side * Reach;
         const Rgb lit = Hex(0xE8E2D4), dim = Hex(0x9AA0AC);
-        model.Meshes.push_back(FlatFace(dim, {-Deep, 0, inner}, {-Deep, 0, outer}, {-Deep, High, outer}, {-Deep, High, inner}));
-        model.Meshes.push_back(FlatFace(dim, {Deep, 0, inner}, {Deep, 0, outer}, {Deep, High, outer}, {Deep, High, inner}));
-        model.Meshes.push_back(FlatFace(side > 0 ? lit : dim, {-Deep, 0, outer}, {Deep, 0, outer}, {Deep, High, outer}, {-Deep, High, outer}));
-        model.Meshes.push_back(FlatFace(side < 0 ? lit : dim, {-Deep, 0, inner}, {Deep, 0, inner}, {Deep, Low, inner}, {-Deep, Low, inner}));
+        model.Meshes.push_back(
+            FlatFace(dim, {-Deep, 0, inner}, {-Deep, 0, outer}, {-Deep, High, outer}, {-Deep, High, inner}));
+        model.Meshes.push_back(
+            FlatFace(dim, {Deep, 0, inner}, {Deep, 0, outer}, {Deep, High, outer}, {Deep, High, inner}));
+        model.Meshes.push_back(FlatFace(side > 0 ? lit : dim, {-Deep, 0, outer}, {Deep, 0, outer}, {Deep, High, outer},
+                                        {-Deep, High, outer}));
+        model.Meshes.push_back(FlatFace(side < 0 ? lit : dim, {-Deep, 0, inner}, {Deep, 0, inner}, {Deep, Low, inner},
+                                        {-Deep, Low, inner}));
     }
     folder.Write("gantry", model);
 }

@@ -110,10 +110,12 @@ void SurveyShore(const Plan& plan, Terrain& terrain)
     std::vector<Point> outline;
     for (const Point& p : shore)
         outline.push_back({p.X * TexelsPerUnit, p.Y * TexelsPerUnit});
-    CoverPolygon(GroundSize, GroundSize, outline, [&](int x, int z, double cover) {
-        if (cover >= 0.5)
-            terrain.Shore.At(x, z) = -terrain.Shore.At(x, z);
-    });
+    CoverPolygon(GroundSize, GroundSize, outline,
+                 [&](int x, int z, double cover)
+                 {
+                     if (cover >= 0.5)
+                         terrain.Shore.At(x, z) = -terrain.Shore.At(x, z);
+                 });
 }
 
 void SurveyPaths(const Plan& plan, Terrain& terrain)
@@ -125,10 +127,12 @@ void SurveyPaths(const Plan& plan, Terrain& terrain)
     std::vector<Point> plaza;
     for (const Point& p : plan.Plaza)
         plaza.push_back({p.X * TexelsPerUnit, p.Y * TexelsPerUnit});
-    CoverPolygon(GroundSize, GroundSize, plaza, [&](int x, int z, double cover) {
-        if (cover >= 0.5)
-            terrain.Street.At(x, z) = std::min(-0.5f, -terrain.Street.At(x, z));
-    });
+    CoverPolygon(GroundSize, GroundSize, plaza,
+                 [&](int x, int z, double cover)
+                 {
+                     if (cover >= 0.5)
+                         terrain.Street.At(x, z) = std::min(-0.5f, -terrain.Street.At(x, z));
+                 });
 }
 }
 

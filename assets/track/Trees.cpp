@@ -17,17 +17,22 @@ struct Leafage
 // A tuft of leaves: dark below and behind, lit toward the left and the top.
 void Tuft(Canvas& picture, Point centre, double radius, const Leafage& leaves, double brightness)
 {
-    CoverDisc(picture.Width, picture.Height, centre, radius * 1.15, 1, [&](int x, int y, double cover) {
-        const double dx = (x + 0.5 - centre.X) / radius, dy = (y + 0.5 - centre.Y) / radius;
-        const double ragged = Fbm(x / 2.6, y / 2.6, leaves.Seed, 3) * 0.5 + HashUnit(x, y, leaves.Seed + 1) * 0.28 - 0.1;
-        if (dx * dx + dy * dy + ragged > 1 || cover < 0.5)
-            return;
-        const double light = Clamp01(0.5 - 0.42 * dx + 0.42 * dy + 0.4 * Fbm(x / 2.0, y / 2.0, leaves.Seed + 2, 2)) *
-                             brightness;
-        Rgb colour = light < 0.5 ? Mix(leaves.Dark, leaves.Middle, light * 2) : Mix(leaves.Middle, leaves.Lit, light * 2 - 1);
-        colour = colour * (0.9 + 0.2 * HashUnit(x, y, leaves.Seed + 3));
-        picture.Set(x, y, colour);
-    });
+    CoverDisc(picture.Width, picture.Height, centre, radius * 1.15, 1,
+              [&](int x, int y, double cover)
+              {
+                  const double dx = (x + 0.5 - centre.X) / radius, dy = (y + 0.5 - centre.Y) / radius;
+                  const double ragged =
+                      Fbm(x / 2.6, y / 2.6, leaves.Seed, 3) * 0.5 + HashUnit(x, y, leaves.Seed + 1) * 0.28 - 0.1;
+                  if (dx * dx + dy * dy + ragged > 1 || cover < 0.5)
+                      return;
+                  const double light =
+                      Clamp01(0.5 - 0.42 * dx + 0.42 * dy + 0.4 * Fbm(x / 2.0, y / 2.0, leaves.Seed + 2, 2)) *
+                      brightness;
+                  Rgb colour = light < 0.5 ? Mix(leaves.Dark, leaves.Middle, light * 2)
+                                           : Mix(leaves.Middle, leaves.Lit, light * 2 - 1);
+                  colour = colour * (0.9 + 0.2 * HashUnit(x, y, leaves.Seed + 3));
+                  picture.Set(x, y, colour);
+              });
 }
 
 void Trunk(Canvas& picture, Point foot, Point top, double thick, double thin)
@@ -38,14 +43,16 @@ void Trunk(Canvas& picture, Point foot, Point top, double thick, double thin)
                              {foot.X - nx * thick / 2, foot.Y - ny * thick / 2},
                              {top.X - nx * thin / 2, top.Y - ny * thin / 2},
                              {top.X + nx * thin / 2, top.Y + ny * thin / 2}};
-    CoverPolygon(picture.Width, picture.Height, outline, [&](int x, int y, double cover) {
-        if (cover < 0.5)
-            return;
-        const double t = Clamp01((y - foot.Y) / std::max(1.0, top.Y - foot.Y));
-        const double across = (x + 0.5 - Lerp(foot.X, top.X, t)) / (Lerp(thick, thin, t) / 2);
-        const Rgb bark = Mix(Hex(0xA67C55), Hex(0x4E3A2C), Clamp01(0.5 + 0.5 * across));
-        picture.Set(x, y, bark * (0.85 + 0.3 * HashUnit(x / 2, y / 3, 77)));
-    });
+    CoverPolygon(picture.Width, picture.Height, outline,
+                 [&](int x, int y, double cover)
+                 {
+                     if (cover < 0.5)
+                         return;
+                     const double t = Clamp01((y - foot.Y) / std::max(1.0, top.Y - foot.Y));
+                     const double across = (x + 0.5 - Lerp(foot.X, top.X, t)) / (Lerp(thick, thin, t) / 2);
+                     const Rgb bark = Mix(Hex(0xA67C55), Hex(0x4E3A2C), Clamp01(0.5 + 0.5 * across));
+                     picture.Set(x, y, bark * (0.85 + 0.3 * HashUnit(x / 2, y / 3, 77)));
+                 });
 }
 
 Canvas CypressPicture()
@@ -57,7 +64,8 @@ Canvas CypressPicture()
         for (int i = 0; i < 62; ++i)
         {
             const double t = (i + 0.5) / 62, high = 8 + t * 146;
-            const double wide = 15.5 * std::pow(std::sin(Pi * std::pow(0.06 + 0.94 * (1 - t), 0.75) * 0.62 + 0.02), 0.9);
+            const double wide =
+                15.5 * std::pow(std::sin(Pi * std::pow(0.06 + 0.94 * (1 - t), 0.75) * 0.62 + 0.02), 0.9);
             const double x = 20 + (HashUnit(i, layer, 22) - 0.5) * wide * 1.15;
             Tuft(picture, {x, high}, 3 + wide * 0.34, leaves, layer == 0 ? 0.7 : 1.0);
         }
@@ -77,7 +85,8 @@ Canvas PinePicture()
             const double u = HashUnit(i, layer, 32) * 2 - 1;
             const double dome = std::sqrt(std::max(0.0, 1 - u * u));
             const double high = 96 + dome * (8 + 24 * HashUnit(i, layer, 33)) - 3 * layer;
-            Tuft(picture, {64 + u * 52, high}, 6 + 6 * HashUnit(i, layer, 34), leaves, layer == 0 ? 0.62 : 0.75 + 0.15 * layer);
+            Tuft(picture, {64 + u * 52, high}, 6 + 6 * HashUnit(i, layer, 34), leaves,
+                 layer == 0 ? 0.62 : 0.75 + 0.15 * layer);
         }
     return picture;
 }
@@ -85,15 +94,18 @@ Canvas PinePicture()
 Canvas RoundTreePicture(int width, int height, double crownLow, const Leafage& leaves)
 {
     Canvas picture(width, height);
-    const double middle = width / 2.0, crown = (height + crownLow) / 2, tall = (height - crownLow) / 2 - 4, wide = middle - 5;
+    const double middle = width / 2.0, crown = (height + crownLow) / 2, tall = (height - crownLow) / 2 - 4,
+                 wide = middle - 5;
     Trunk(picture, {middle, 0}, {middle + 1, crownLow + 12}, width * 0.085, width * 0.06);
     Trunk(picture, {middle, crownLow * 0.7}, {middle - wide * 0.5, crown}, width * 0.05, 1.5);
     Trunk(picture, {middle, crownLow * 0.7}, {middle + wide * 0.5, crown}, width * 0.05, 1.5);
     for (int layer = 0; layer < 3; ++layer)
         for (int i = 0; i < 26; ++i)
         {
-            const double angle = 2 * Pi * HashUnit(i, layer, leaves.Seed + 5), away = std::sqrt(HashUnit(i, layer, leaves.Seed + 6));
-            const Point place{middle + std::cos(angle) * away * wide * 0.8, crown + std::sin(angle) * away * tall * 0.8};
+            const double angle = 2 * Pi * HashUnit(i, layer, leaves.Seed + 5),
+                         away = std::sqrt(HashUnit(i, layer, leaves.Seed + 6));
+            const Point place{middle + std::cos(angle) * away * wide * 0.8,
+                              crown + std::sin(angle) * away * tall * 0.8};
             Tuft(picture, place, (0.16 + 0.1 * HashUnit(i, layer, leaves.Seed + 7)) * width, leaves, 0.6 + 0.2 * layer);
         }
     return picture;

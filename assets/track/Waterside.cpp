@@ -26,9 +26,11 @@ void WritePier(const ModelFolder& folder)
     const Rgb wood = Hex(0x7A5F42);
     for (const double side : {-X, X})
     {
-        model.Meshes.push_back(FlatFace(wood * 0.8, {side, Y - 0.35, -Z}, {side, Y - 0.35, Z}, {side, Y, Z}, {side, Y, -Z}));
+        model.Meshes.push_back(
+            FlatFace(wood * 0.8, {side, Y - 0.35, -Z}, {side, Y - 0.35, Z}, {side, Y, Z}, {side, Y, -Z}));
         for (double z = -Z + 0.3; z <= Z; z += 4.7)
-            model.Meshes.push_back(FlatFace(wood, {side - 0.15, 0, z}, {side + 0.15, 0, z}, {side + 0.15, Y + 0.7, z}, {side - 0.15, Y + 0.7, z}));
+            model.Meshes.push_back(FlatFace(wood, {side - 0.15, 0, z}, {side + 0.15, 0, z}, {side + 0.15, Y + 0.7, z},
+                                            {side - 0.15, Y + 0.7, z}));
     }
     folder.Write("pier", model);
 }
@@ -79,17 +81,20 @@ void WriteBoats(const ModelFolder& folder)
     model.Mass = HeavyMass;
     AddHull(model, 1.2, 3.4, 0.9, Hex(0xF4F0E6), Hex(0xB98F5E));
     model.Meshes.push_back(FlatFace(Hex(0x8A6A48), {0, 0.7, 0.35}, {0, 0.7, 0.5}, {0, 9.6, 0.5}, {0, 9.6, 0.35}));
-    ModelMesh mainSail = Face("sail", {0, 0, 64, 96}, {0, 1.5, 0.3}, {0.5, 1.5, -3.2}, {0.05, 9.3, 0.2}, {0, 9.3, 0.3}, 2, 3);
+    ModelMesh mainSail =
+        Face("sail", {0, 0, 64, 96}, {0, 1.5, 0.3}, {0.5, 1.5, -3.2}, {0.05, 9.3, 0.2}, {0, 9.3, 0.3}, 2, 3);
     mainSail.At(1, 1).X += 0.35;
     mainSail.At(2, 1).X += 0.25;
     model.Meshes.push_back(mainSail);
-    model.Meshes.push_back(Face("sail", {0, 0, 40, 70}, {0, 1.2, 3.2}, {0.3, 1.4, 0.7}, {0.05, 8.0, 0.5}, {0.0, 8.0, 0.55}, 1, 2));
+    model.Meshes.push_back(
+        Face("sail", {0, 0, 40, 70}, {0, 1.2, 3.2}, {0.3, 1.4, 0.7}, {0.05, 8.0, 0.5}, {0.0, 8.0, 0.55}, 1, 2));
     folder.Write("sailboat", model);
     Model rowing;
     rowing.Mass = HeavyMass;
     AddHull(rowing, 0.75, 2.0, 0.6, Hex(0x3F7FA8), Hex(0xA87F50));
     for (const double z : {-0.8, 0.5})
-        rowing.Meshes.push_back(FlatFace(Hex(0xC9A06A), {-0.7, 0.56, z}, {0.7, 0.56, z}, {0.7, 0.56, z + 0.35}, {-0.7, 0.56, z + 0.35}));
+        rowing.Meshes.push_back(
+            FlatFace(Hex(0xC9A06A), {-0.7, 0.56, z}, {0.7, 0.56, z}, {0.7, 0.56, z + 0.35}, {-0.7, 0.56, z + 0.35}));
     folder.Write("rowboat", rowing);
 }
 
