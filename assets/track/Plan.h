@@ -96,7 +96,7 @@ Plan MakePlan();
 constexpr double WorldSize = 640;
 
 // The grid: the front of the first slot behind the start line, the step to the next, their distance from the middle.
-constexpr double GridFront = -3.4, GridStep = 11.6, GridLeft = 3.6;
+constexpr double GridFront = -3.4, GridStep = 15, GridLeft = 3.6;
 
 // The pit lane lies to the left of the main straight.
 constexpr double PitFrom = -88, PitTo = 112; // along the lap

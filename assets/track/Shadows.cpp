@@ -134,7 +134,7 @@ void CastGantry(const Caster& to, const Standing& item, const Kind& kind)
         const std::vector<Point> leg = InTexels({foot, Shifted(foot, kind.Height)});
         Stroke(to.Sun, leg, 0.9 * TexelsPerUnit);
         beam.push_back(Shifted(foot, kind.Height));
-        beam.push_back(Shifted(foot, kind.Height - 2));
+        beam.push_back(Shifted(foot, kind.Height - 2.6));
     }
     FillPolygon(to.Sun, InTexels(Hull(beam)));
 }

@@ -188,7 +188,7 @@ void WriteGantry(const ModelFolder& folder)
     folder.Texture("gantry", picture);
     Model model;
     model.Mass = HeavyMass;
-    constexpr double Low = 6.2, High = 8.6, Reach = 11.6, Deep = 0.7;
+    constexpr double Low = 9.4, High = 12.0, Reach = 11.6, Deep = 0.7;
     const Region whole{0, 0, 320, 48};
     // Cars come from -x; the other face is read from ahead.
     model.Meshes.push_back(Upright("gantry", whole, -Deep, Reach, -Deep, -Reach, Low, High, 8, 1));
