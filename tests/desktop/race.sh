@@ -2,7 +2,7 @@
 # Plays the real program under a virtual display with a real mouse and real keys, and reads its picture back.
 #   race.sh VELKAR VELKAR-DRIVE ROOT WORK
 set -euo pipefail
-game=$1 drive=$2 root=$3 work=$4
+game=$(realpath "$1") drive=$(realpath "$2") root=$(realpath "$3") work=$(realpath -m "$4")
 for tool in Xvfb openbox xdotool import convert compare; do
     if ! command -v "$tool" >/dev/null; then
         echo "skipped: $tool is not installed"
@@ -14,7 +14,7 @@ export XDG_RUNTIME_DIR=$work # a lock file of its own: a game that somebody play
 
 fail() {
     echo "FAILED: $*"
-    shot failure || true
+    import -window root failure.png 2>/dev/null || true
     echo "the screen at that moment: $work/failure.png"
     exit 1
 }
@@ -73,6 +73,18 @@ await_picture() {
     done
     compare -metric AE "$1.png" "$2" "$1-difference.png" || true
     fail "the window does not show $2 but $1.png"
+}
+# Waits until the menu's entries read as in the bitmap: its bright letters alone, for the race shows through behind them.
+entries() { convert "$1" -crop 240x140+180+155 +repage -colorspace Gray -threshold 88% "$2.png"; }
+await_entries() {
+    entries "$2" expected-entries
+    for _ in $(seq 60); do
+        shot "$1"
+        entries "$1.png" "$1-entries"
+        [ "$(compare -metric AE "$1-entries.png" expected-entries.png null: 2>&1 || true)" -lt 60 ] && return
+        sleep 0.1
+    done
+    fail "the menu's entries in $1.png do not read as in $2"
 }
 click() {
     place
@@ -156,14 +168,14 @@ place
 # The menu over the suspended race, back, and out.
 xdotool mousemove 5 5
 xdotool key Escape
-await_picture suspended suspended.bmp
+await_entries suspended suspended.bmp
 click 300 169
 sleep 0.5
 shot continued
-[ "$(compare -metric AE continued.png suspended.bmp null: 2>&1 || true)" -gt 50000 ] || fail "Continua does not resume the race"
+[ "$(compare -metric AE continued.png suspended.png null: 2>&1 || true)" -gt 50000 ] || fail "Continua does not resume the race"
 xdotool mousemove 5 5
 xdotool key Escape
-await_picture suspended2 suspended.bmp
+await_entries suspended2 suspended.bmp
 click 300 268
 for _ in $(seq 50); do kill -0 $player 2>/dev/null || break; sleep 0.1; done
 kill -0 $player 2>/dev/null && fail "Esci does not end the game"
