@@ -2,6 +2,7 @@
 
 #include "base/RuntimeError.h"
 #include "base/Text.h"
+#include "platform/sdl/ScreenPointer.h"
 #include "platform/sdl/SdlKeys.h"
 #include "platform/sdl/SdlPlatform.h"
 
@@ -210,9 +211,7 @@ void SdlWindow::ShowCursor(bool visible)
 
 Point SdlWindow::CursorPosition()
 {
-    Point position;
-    SDL_GetGlobalMouseState(&position.X, &position.Y);
-    return position;
+    return ScreenPointer(TheWindow.get());
 }
 
 bool SdlWindow::MakeTexture(int width, int height)

@@ -28,7 +28,7 @@ for _ in $(seq 100); do [ -s display ] && break || sleep 0.1; done
 [ -s display ] || { echo "skipped: Xvfb does not start here"; exit 77; }
 DISPLAY=:$(cat display)
 export DISPLAY
-openbox 2>openbox.log &
+openbox >openbox.log 2>&1 &
 pids+=($!)
 
 # What the window should show, from the same game without a window.
@@ -46,23 +46,24 @@ S
 "$game" >game.log 2>&1 &
 player=$!
 pids+=($player)
-# The splash is a window too: the game's is the one that is as large as the frame.
+# The first window is the splash; the game's is the one that stands alone after it.
 window=""
-for _ in $(seq 200); do
-    for id in $(xdotool search --onlyvisible --name '^Velkar$' 2>/dev/null || true); do
-        eval "$(xdotool getwindowgeometry --shell "$id" 2>/dev/null || true)"
-        [ "${WIDTH:-0}x${HEIGHT:-0}" = 600x312 ] && window=$id
-    done
-    [ -n "$window" ] && [ "$(xdotool search --onlyvisible --name '^Velkar$' | wc -l)" = 1 ] && break
-    sleep 0.1
+splash=""
+for _ in $(seq 300); do
+    ids=$(xdotool search --onlyvisible --name '^Velkar$' 2>>xdotool.log || true)
+    if [ "$(wc -w <<<"$ids")" = 1 ]; then
+        splash=${splash:-$ids}
+        [ "$ids" != "$splash" ] && window=$ids && break
+    fi
+    sleep 0.05
 done
 [ -n "$window" ] || { cat game.log; fail "the game's window does not appear"; }
 xdotool windowfocus --sync "$window"
 
-place() { eval "$(xdotool getwindowgeometry --shell "$window")"; }
+place() { eval "$(xdotool getwindowgeometry --shell "$window" 2>>xdotool.log)"; }
 shot() {
     place
-    import -window root -crop "600x312+$X+$Y" +repage "$1.png"
+    import -window root -crop "600x312+$X+$Y" +repage "$1.png" 2>>import.log
 }
 # Waits until the window shows what the bitmap holds, to the pixel.
 await_picture() {
@@ -119,11 +120,12 @@ xdotool keyup Up
 letters driving $gauge moving
 same rest moving && fail "the accelerator does nothing"
 xdotool keydown space
-sleep 3.5
+for _ in $(seq 100); do
+    shot stopped
+    letters stopped $gauge again
+    same rest again && break || sleep 0.1
+done
 xdotool keyup space
-sleep 0.3
-shot stopped
-letters stopped $gauge again
 same rest again || fail "the handbrake does not stop the car"
 
 # Pause: red letters over a picture that stands still but for the frame rate.
