@@ -1,0 +1,120 @@
+// What the game counts on in the pictures and letters that ship with it.
+#include "base/Text.h"
+#include "render/Font.h"
+#include "render/PicArray.h"
+#include "tests/support/Messages.h"
+
+#include <gtest/gtest.h>
+
+namespace
+{
+const base::Files Tree{VELKAR_ROOT};
+
+ModBitmap::Picture Load(const std::string& path)
+{
+    support::Messages messages;
+    ModBitmap::Picture picture;
+    EXPECT_TRUE(ModBitmap::LoadPicArray2D(messages, Tree, path, picture.Info, picture.Pixels)) << path;
+    return picture;
+}
+
+bool IsClear(const ModBitmap::Picture& picture, int x, int y)
+{
+    const std::uint8_t* p = picture.Pixels.Bytes.data() + y * picture.Info.RowBytes + x * 3;
+    return p[0] == 0 && p[1] == 0 && p[2] == 0;
+}
+
+double ClearShare(const ModBitmap::Picture& picture)
+{
+    int clear = 0;
+    for (int y = 0; y < picture.Info.Height; ++y)
+        for (int x = 0; x < picture.Info.Width; ++x)
+            clear += IsClear(picture, x, y);
+    return static_cast<double>(clear) / (picture.Info.Width * picture.Info.Height);
+}
+
+struct ShippedFont : testing::Test
+{
+    support::Messages Messages;
+    ModBitmap::Font Font;
+
+    ShippedFont() { ModBitmap::LoadFont(Messages, Tree, "data\\fonts\\Font_01", Font); }
+    const ModBitmap::Glyph& Glyph(int code) const
+    {
+        return Font.Glyphs.at(static_cast<std::size_t>(code - ModBitmap::FirstCode));
+    }
+};
+}
+
+TEST_F(ShippedFont, HasEveryCharacterOfTheCodePage)
+{
+    EXPECT_TRUE(Messages.Boxes.empty());
+    for (int code = 32; code < 256; ++code)
+        if (code != 127 && code != 129 && code != 141 && code != 143 && code != 144 && code != 157)
+        {
+            EXPECT_EQ(Glyph(code).Present, 1) << code;
+            EXPECT_EQ(Glyph(code).GlyphH, 30) << code;
+        }
+}
+
+TEST_F(ShippedFont, DigitsAreOfOneWidth)
+{
+    for (int code = '0'; code <= '9'; ++code)
+        EXPECT_EQ(Glyph(code).GlyphW, Glyph('0').GlyphW) << code;
+}
+
+TEST_F(ShippedFont, LettersKeepTheirInkAtTheSmallestScale)
+{
+    // At 0.4 every fifth pair of rows and columns is left: no letter may lose more than half of what it should keep.
+    for (int code = 33; code < 127; ++code)
+    {
+        const ModBitmap::Glyph& glyph = Glyph(code);
+        double all = 0, kept = 0;
+        for (int y = 0; y < glyph.GlyphH; ++y)
+            for (int x = 0; x < glyph.GlyphW; ++x)
+                all += glyph.Mask[static_cast<std::size_t>(y * glyph.GlyphW + x)] != 0;
+        for (int j = 0; j * 5 / 2 < glyph.GlyphH; ++j)
+            for (int i = 0; i * 5 / 2 < glyph.GlyphW; ++i)
+                kept += glyph.Mask[static_cast<std::size_t>(j * 5 / 2 * glyph.GlyphW + i * 5 / 2)] != 0;
+        EXPECT_GT(all, 0) << code;
+        EXPECT_GT(kept, 0.5 * 0.16 * all) << code;
+    }
+}
+
+TEST(ShippedPictures, BothGlassesHaveOneSizeAndLetTheDriverSee)
+{
+    const ModBitmap::Picture whole = Load("data\\textures\\glass.bmp"), broken = Load("data\\textures\\glass_b.bmp");
+    EXPECT_EQ(whole.Info.Width, broken.Info.Width);
+    EXPECT_EQ(whole.Info.Height, broken.Info.Height);
+    EXPECT_GT(ClearShare(whole), 0.8);
+    EXPECT_GT(ClearShare(broken), 0.6);
+    EXPECT_LT(ClearShare(broken), ClearShare(whole));
+}
+
+TEST(ShippedPictures, PuffsAreRound)
+{
+    for (const char* name : {"smoke", "water", "fireR", "fireY"})
+    {
+        const ModBitmap::Picture puff = Load("data\\sprites\\" + std::string(name) + ".bmp");
+        const int right = puff.Info.Width - 1, top = puff.Info.Height - 1;
+        for (const auto& [x, y] : {std::pair{0, 0}, {right, 0}, {0, top}, {right, top}})
+            EXPECT_TRUE(IsClear(puff, x, y)) << name;
+        EXPECT_FALSE(IsClear(puff, right / 2, top / 2)) << name;
+    }
+}
+
+TEST(ShippedPictures, TheBackdropFitsTheWebcam)
+{
+    const ModBitmap::Picture inside = Load("data\\images\\inside.bmp");
+    EXPECT_EQ(inside.Info.Width, 107);
+    EXPECT_EQ(inside.Info.Height, 80);
+}
+
+TEST(ShippedPictures, TheMenuFillsAndTheTitleStandsOnNothing)
+{
+    EXPECT_EQ(ClearShare(Load("data\\images\\menu.bmp")), 0);
+    EXPECT_EQ(ClearShare(Load("data\\images\\splash.bmp")), 0);
+    const ModBitmap::Picture logo = Load("data\\images\\logo.bmp");
+    EXPECT_GT(ClearShare(logo), 0.25);
+    EXPECT_TRUE(IsClear(logo, 0, 0));
+}
