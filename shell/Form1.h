@@ -55,6 +55,14 @@ public:
     void ShowMenu();
     void ReadKeyBinding(std::int16_t index);
 
+    // How a setting that has passed its checks takes effect.
+    void ApplyLaps(std::int16_t laps);
+    void ApplyFrameRate(std::int16_t fps); // 5 to 30
+    // Nothing where the resolution is in force already. Otherwise everything that depends on it is made anew and, once
+    // the race has begun, a frame is shown at once.
+    void ApplyResolution(std::int32_t width, std::int32_t height);
+    void ApplyFullScreen(bool on); // off: the client area is as large as the frame
+
     // platform::WindowEvents
     void KeyDown(std::int16_t code) override;
     void KeyUp(std::int16_t code) override;
@@ -75,12 +83,6 @@ private:
     void EndFailed(const char* module); // the box that ends the program
     void FreeResources();
     void CloseAudio(bool& cancel);
-
-    // Settings.cpp: how a validated setting takes effect
-    void ApplyLaps(std::int16_t laps);
-    void ApplyFrameRate(std::int16_t fps);
-    void ApplyResolution(std::int32_t width, std::int32_t height);
-    void ApplyFullScreen(bool on);
 
     // RaceRun.cpp
     void AdvanceTimers();

@@ -168,6 +168,17 @@ TEST_F(HudTest, TheFrameRateIsMeasuredEveryHalfSecond)
     EXPECT_EQ(Label(&Hud::FrameRate).ColR, 0);
 }
 
+TEST_F(HudTest, TheNextMeasurementComesFiveHundredMillisecondsLater)
+{
+    StartRace();
+    Pass(50); // the first frame measures itself
+    EXPECT_EQ(Game().Timers.RenderT.Ticks, 0);
+    Pass(450);
+    EXPECT_EQ(Game().Timers.RenderT.Ticks, 9);
+    Pass(50);
+    EXPECT_EQ(Game().Timers.RenderT.Ticks, 0);
+}
+
 TEST_F(HudTest, TwoBelowTheTargetIsStillGreen)
 {
     StartRace();

@@ -132,6 +132,25 @@ TEST_F(Picture, TheBlackOfTheTitleIsSeenThrough)
     EXPECT_EQ(Machine.Boxes.size(), 0u);
 }
 
+TEST_F(Picture, TheMenuStandsOnItsOwnPictureAndThenOnTheRace)
+{
+    World.Write("data/images/menu.bmp", support::Bitmap(600, 312, 200, 0, 0));
+    Load();
+    const auto topLeft = [this]
+    {
+        const headless::Image shown = Window().Screenshot();
+        const std::size_t at = static_cast<std::size_t>(shown.Width * 3) * static_cast<std::size_t>(shown.Height - 1);
+        return std::array<int, 3>{shown.Bits[at], shown.Bits[at + 1], shown.Bits[at + 2]};
+    };
+    EXPECT_GT(topLeft()[0], 150);
+    EXPECT_LT(topLeft()[1], 30);
+    Form.Click("cSTART");
+    Pass(500);
+    PressAndRelease(27);
+    EXPECT_GT(topLeft()[1], 30); // the sky of the race, darkened
+    EXPECT_LT(topLeft()[1], 140);
+}
+
 TEST_F(Picture, ABrokenTitleIsReportedAndPaintedOtherwise)
 {
     World.Write("data/images/logo.bmp", "BM");
