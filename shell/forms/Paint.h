@@ -22,7 +22,7 @@ struct Canvas
     std::vector<std::uint8_t> Bytes;
 
     void Resize(std::int32_t width, std::int32_t height); // keeps the memory where the size stays
-    std::uint8_t* At(std::int32_t x, std::int32_t y); // y downward; the pixel must lie on the canvas
+    std::uint8_t* At(std::int32_t x, std::int32_t y);     // y downward; the pixel must lie on the canvas
 };
 
 // A picture scaled once for many paintings: rows from the top, colour and coverage a pixel.
