@@ -1,4 +1,4 @@
-#include "Typeface.h"
+#include "shell/forms/Typeface.h"
 #include "base/Numbers.h"
 #include "shell/forms/TypefaceShape.h"
 #include <algorithm>

@@ -1,4 +1,4 @@
-#include "TypefaceGlyphs.h"
+#include "shell/forms/TypefaceGlyphs.h"
 #include <algorithm>
 #include <array>
 #include <iterator>

@@ -1,4 +1,4 @@
-#include "TypefaceShape.h"
+#include "shell/forms/TypefaceShape.h"
 #include "base/Numbers.h"
 #include <cmath>
 
