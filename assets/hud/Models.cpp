@@ -77,8 +77,8 @@ void PaintShine(Canvas& picture)
             const Rgb dark = Hex(0x4A3E34), bright = Hex(0xFFFDF2);
             if (rim ? t < 0.30 : (t < 0.07 || (t > 0.12 && t < 0.145 && bowl)))
                 picture.Set(x, y, bright);
-            else if (!rim && t > 0.52 && t < (bowl ? 0.66 : 0.78))
-                picture.Set(x, y, Mix(dark, Hex(0x7A6A58), SmoothStep(0.50, 0.66, t)));
+            else if (!rim && t > 0.46 && t < (bowl ? 0.70 : 0.80))
+                picture.Set(x, y, Mix(dark, Hex(0x9A8C78), SmoothStep(0.09, 0.13, std::abs(t - 0.58))));
             else if (std::abs(row - 11.1) < 0.10 || std::abs(row - 10.75) < 0.07 || std::abs(row - 5.5) < 0.12)
                 picture.Set(x, y, dark);
         }
@@ -158,6 +158,10 @@ void WriteCup(const std::string& folder)
     cup.Meshes.push_back(Handles());                                    // 7 handles
     cup.Meshes.push_back(FlatQuad(FlatColour(52, 60, 62), 0.40, Top));
     cup.Meshes.push_back(FlatQuad(FlatColour(24, 28, 30), 0.40, Floor));
+    // The camera flies toward the trophy while it is shown: it hangs below its origin, where that keeps it in sight.
+    for (ModelMesh& mesh : cup.Meshes)
+        for (ModelPoint& p : mesh.Points)
+            p = {p.X * 0.86, p.Y * 0.86 - 0.34, p.Z * 0.86, p.U, p.V};
     WriteModel(cup, folder + "/cup.3dm");
 }
 
