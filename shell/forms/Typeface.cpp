@@ -18,6 +18,12 @@ double Whole(double value)
     return std::floor(value + 0.5);
 }
 
+// Within the limits; the lower one for what is not a number.
+double Limited(double value, double low, double high)
+{
+    return value > low ? std::min(value, high) : low;
+}
+
 struct Metrics
 {
     double Scale;   // pixels of a glyph unit
@@ -27,9 +33,9 @@ struct Metrics
     bool Fitted;
 
     explicit Metrics(const Style& style)
-        : Scale(std::clamp(style.Size, 1.0, 1000.0) * UnitsPerSize),
-          Stroke(StrokeUnits * Scale * std::clamp(style.Weight, 0.1, 4.0)), Slot(Stroke),
-          Bearing(StrokeUnits * Scale / 2), Fitted(style.Size <= FitLimit && style.Slant == 0)
+        : Scale(Limited(style.Size, 1, 1000) * UnitsPerSize),
+          Stroke(StrokeUnits * Scale * Limited(style.Weight, 0.1, 4)), Slot(Stroke), Bearing(StrokeUnits * Scale / 2),
+          Fitted(style.Size <= FitLimit && style.Slant == 0)
     {
         if (!Fitted)
             return;
@@ -108,7 +114,7 @@ void Shape(const Glyph& glyph, const Style& style, const Metrics& metrics, Shape
         const double y = up(p.Y) + lift;
         return Point{across(p.X) + shift + y * style.Slant, y};
     };
-    const int steps = std::clamp(base::RoundEven(style.Size / 6), 5, 10);
+    const int steps = base::RoundEven(Limited(style.Size / 6, 5, 10));
     for (Piece piece : pieces.Items())
     {
         piece = {piece.Shape, place(piece.A), place(piece.B), place(piece.C), place(piece.D)};
@@ -169,7 +175,7 @@ void Paint(const Surface& surface, const Shaped& shaped, double x, double base, 
         low = std::min({low, s.Y1 - s.Radius, s.Y2 - s.Radius});
         high = std::max({high, s.Y1 + s.Radius, s.Y2 + s.Radius});
     }
-    const auto pixel = [](double v) { return base::RoundEven(std::clamp(v, -1e6, 1e6)); };
+    const auto pixel = [](double v) { return base::RoundEven(Limited(v, -1e6, 1e6)); };
     const Box box{std::max({pixel(x + left) - 1, clip.Left, 0}), std::max({pixel(base - high) - 1, clip.Top, 0}),
                   std::min({pixel(x + right) + 2, clip.Right, surface.Width}),
                   std::min({pixel(base - low) + 2, clip.Bottom, surface.Height})};
@@ -179,7 +185,7 @@ void Paint(const Surface& surface, const Shaped& shaped, double x, double base, 
             double outside = 1e9;
             for (const Segment& s : strokes)
                 outside = std::min(outside, Outside(s, column + 0.5 - x, base - (row + 0.5)));
-            const int weight = base::RoundEven(std::clamp(0.5 - outside, 0.0, 1.0) * 256);
+            const int weight = base::RoundEven(Limited(0.5 - outside, 0, 1) * 256);
             if (weight == 0)
                 continue;
             const auto at =

@@ -2,6 +2,7 @@
 #include "base/Text.h"
 #include "shell/forms/TypefaceGlyphs.h"
 #include <gtest/gtest.h>
+#include <limits>
 #include <numeric>
 #include <string>
 #include <vector>
@@ -145,6 +146,21 @@ TEST(Typeface, TooFewBytesDrawNothing)
     surface.Height = 21;
     EXPECT_EQ(Typeface::Draw(surface, 0, 0, {18, 1, 0}, "W", White), Typeface::Width("W", 18));
     EXPECT_EQ(paper.Sum(), 0);
+}
+
+TEST(Typeface, NumbersThatAreNoneDrawNothingOutside)
+{
+    const double none = std::numeric_limits<double>::quiet_NaN(), endless = std::numeric_limits<double>::infinity();
+    Paper paper(20, 20);
+    for (const double odd : {none, endless, -endless})
+    {
+        Typeface::Draw(paper.Surface(), odd, 0, {14, 1, 0}, "W\u20AC", White);
+        Typeface::Draw(paper.Surface(), 0, odd, {14, 1, 0}, "W\u20AC", White);
+        Typeface::Draw(paper.Surface(), 0, 0, {odd, 1, 0}, "W\u20AC", White);
+        Typeface::Draw(paper.Surface(), 0, 0, {14, odd, 0}, "W\u20AC", White);
+        Typeface::Draw(paper.Surface(), 0, 0, {14, 1, odd}, "W\u20AC", White);
+    }
+    EXPECT_GT(Typeface::Width("W", none), 0);
 }
 
 TEST(Typeface, BoldIsHeavierAndWider)
