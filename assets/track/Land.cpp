@@ -158,11 +158,14 @@ Rgb Water(double depth, int x, int z)
     return Mix(Hex(0xB9AE86), water, SmoothStep(-0.4, 1.8, depth));
 }
 
-// The rim of the world fades into the colours of the panorama's foot.
+// The rim of the world fades into the haze of the panorama's foot.
 Rgb TowardHaze(Rgb colour, Point p, bool lake)
 {
     const double rim = std::min({p.X, p.Y, WorldSize - p.X, WorldSize - p.Y});
-    return Mix(colour, lake ? Hex(0x8FB2BC) : Hex(0xB4B77C), 0.6 * SmoothStep(34, 2, rim));
+    const double ragged = rim + 5 * Fbm(p.X / 30, p.Y / 30, 595, 3);
+    if (lake)
+        return Mix(colour, Hex(0xB9CCD5), 0.9 * SmoothStep(60, 3, ragged));
+    return Mix(colour, Hex(0xBCC49A), 0.75 * SmoothStep(32, 2, ragged));
 }
 }
 

@@ -127,7 +127,7 @@ void PutStraight(Builder& put, Plan& plan)
         }
     }
     put.Row("fence", {-88, 8, -12.6}, 0);
-    put.GuardRow({-88, 8, -12.6}, 1.6);
+    put.GuardRow({-88, 8, -12.6}, 2.4);
     put.Beside("pits", BoxFirst + BoxLength * 3.5, 30.5);
     for (int i = 0; i < 8; ++i)
     {
@@ -142,8 +142,8 @@ void PutStraight(Builder& put, Plan& plan)
     }
     const RoadPoint start = plan.Road.At(0);
     put.Put("gantry", start.X, start.Z, AngleFacing(-start.DirX, -start.DirZ) + Pi / 2);
-    for (const double left : {-10.9, 10.9})
-        put.GuardAt(plan.Road.Place(0, left).X, plan.Road.Place(0, left).Y, left > 0 ? 0.5 : 0.7);
+    // The left leg stands over the pit wall, whose guards are enough.
+    put.GuardAt(plan.Road.Place(0, -10.9).X, plan.Road.Place(0, -10.9).Y, 0.7);
     for (int i = 0; i < 7; ++i)
         put.Beside("flag", -92 + 15.5 * i, -28.5);
     for (const double s : {78.0, 90.0, 120.0, 132.0})
@@ -197,7 +197,7 @@ void PutCorners(Builder& put)
         put.Beside("marshal", s, s == 910.0 ? -30 : s == 1100.0 ? 31 : -19);
 }
 
-void PutVillage(Builder& put)
+void PutVillage(Builder& put, const Plan& plan)
 {
     struct House
     {
@@ -221,7 +221,9 @@ void PutVillage(Builder& put)
     {
         put.Put(house.Name, house.X, house.Z, house.Angle);
         const Kind& kind = KindOf(house.Name);
-        put.GuardAt(house.X, house.Z, std::min(kind.HalfX, kind.HalfZ) + 0.8);
+        const RoadPoint& road = plan.Road.At(plan.Road.Nearest(house.X, house.Z));
+        if (std::hypot(road.X - house.X, road.Z - house.Z) < 75) // no car gets farther
+            put.GuardAt(house.X, house.Z, std::min(kind.HalfX, kind.HalfZ) + 0.8);
     }
     const Point parasols[] = {{527, 228}, {531, 236}, {524, 238}, {532, 224}, {528, 244}};
     for (const Point& p : parasols)
@@ -245,8 +247,8 @@ void PutShore(Builder& put)
     const Point parasols[] = {{120, 186}, {127, 181}, {133, 179}, {140, 174}, {112, 190}, {104, 196}, {147, 172}};
     for (const Point& p : parasols)
         put.Put("parasol", p.X, p.Y);
-    put.Row("stonewall", {1600, 1720, -12.6}, 1.9);
-    put.Row("stonewall", {1786, 1910, -12.4}, 1.9);
+    put.Row("stonewall", {1600, 1720, -12.6}, 2.8);
+    put.Row("stonewall", {1786, 1910, -12.4}, 2.8);
 }
 
 void PutWalls(Builder& put)
@@ -255,6 +257,29 @@ void PutWalls(Builder& put)
     put.Row("stonewall", {970, 1045, 15}, 0);
     put.Row("stonewall", {1365, 1450, 15.5}, 0);
     put.Row("stonewall", {1220, 1290, -17}, 0);
+}
+
+// Things that touch at the start would push each other over: a guard gives way to what stands there before it.
+void DropTouchingGuards(Plan& plan)
+{
+    constexpr double SolidRadius = 0.85, Gap = 0.05;
+    std::vector<Guard> kept;
+    for (const Guard& guard : plan.Guards)
+    {
+        const bool meetsGuard =
+            std::any_of(kept.begin(), kept.end(),
+                        [&](const Guard& other)
+                        { return std::hypot(other.X - guard.X, other.Z - guard.Z) < other.R + guard.R + Gap; });
+        const bool meetsItem =
+            std::any_of(plan.Items.begin(), plan.Items.end(),
+                        [&](const Standing& item) {
+                            return KindOf(item.Name).Solid &&
+                                   std::hypot(item.X - guard.X, item.Z - guard.Z) < SolidRadius + guard.R + Gap;
+                        });
+        if (!meetsGuard && !meetsItem)
+            kept.push_back(guard);
+    }
+    plan.Guards = kept;
 }
 }
 
@@ -294,10 +319,11 @@ Plan MakePlan()
     Builder put(plan);
     PutStraight(put, plan);
     PutCorners(put);
-    PutVillage(put);
+    PutVillage(put, plan);
     PutShore(put);
     PutWalls(put);
     ScatterTrees(plan);
+    DropTouchingGuards(plan);
     std::stable_sort(plan.Items.begin(), plan.Items.end(),
                      [](const Standing& a, const Standing& b) { return a.Name < b.Name; });
     return plan;

@@ -27,10 +27,10 @@ void WriteStoneWall(const ModelFolder& folder)
     Model model;
     model.Mass = HeavyMass;
     constexpr double X = 6, Z = 0.35, High = 1.3;
-    model.Meshes.push_back(Upright("stonewall", {0, 0, 192, 24}, -X, -Z, X, -Z, 0, High, 3, 1));
-    model.Meshes.push_back(Upright("stonewall", {0, 0, 192, 24}, X, Z, -X, Z, 0, High, 3, 1));
+    model.Meshes.push_back(Upright("stonewall", {0, 0, 192, 24}, -X, -Z, X, -Z, 0, High, 2, 1));
+    model.Meshes.push_back(Upright("stonewall", {0, 0, 192, 24}, X, Z, -X, Z, 0, High, 2, 1));
     model.Meshes.push_back(
-        Face("stonewall", {0, 24, 192, 8}, {-X, High, -Z}, {X, High, -Z}, {X, High, Z}, {-X, High, Z}, 3, 1));
+        Face("stonewall", {0, 24, 192, 8}, {-X, High, -Z}, {X, High, -Z}, {X, High, Z}, {-X, High, Z}, 2, 1));
     folder.Write("stonewall", model);
 }
 
@@ -93,8 +93,8 @@ void WriteTyres(const ModelFolder& folder)
     folder.Texture("tyres", picture);
     Model model;
     model.Mass = LightMass;
-    constexpr int Sides = 8;
-    constexpr double R = 0.78, High = 1.15;
+    constexpr int Sides = 6;
+    constexpr double R = 0.8, High = 1.15;
     ModelMesh wall(2, Sides + 1), top(2, Sides + 1);
     wall.Texture = top.Texture = ModelFolder::PathOf("tyres");
     for (int j = 0; j <= Sides; ++j)

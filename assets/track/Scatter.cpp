@@ -99,9 +99,9 @@ void Avenues(Grove& grove)
     for (int i = 0; i < 10; ++i)
         grove.Try("cypress", 240 + 14.0 * i, 187 - 1.3 * i, 1.4);
     for (int i = 0; i < 12; ++i)
-        grove.Roadside("cypress_r", 990 + 13.0 * i, i % 2 == 0 ? 17.5 : 18.0);
+        grove.Roadside(i % 2 == 0 ? "cypress_r" : "cypress", 990 + 13.0 * i, i % 2 == 0 ? 17.5 : 18.0);
     for (int i = 0; i < 8; ++i)
-        grove.Roadside("cypress_r", 1380 + 13.0 * i, -15.0);
+        grove.Roadside(i % 2 == 0 ? "cypress_r" : "cypress", 1380 + 13.0 * i, -15.0);
     for (int i = 0; i < 9; ++i)
         grove.Roadside("cypress_r", 1620 + 34.0 * i, 15.5);
     for (int i = 0; i < 6; ++i)
@@ -144,7 +144,7 @@ void Bales(Grove& grove, const Plan& plan, Sequence& dice)
 
 void Wild(Grove& grove, Sequence& dice)
 {
-    for (int i = 0; i < 2600; ++i)
+    for (int i = 0; i < 2100; ++i)
     {
         const double x = dice.Between(4, WorldSize - 4), z = dice.Between(4, WorldSize - 4);
         const double rim = std::min({WorldSize - x, WorldSize - z, z}); // thicker toward the rim

@@ -149,8 +149,8 @@ Rgb Below(double column, double row)
     const double down = Horizon - row;
     const double near = Clamp01(down / Horizon);
     const double patches = Turning(column, std::sqrt(down + 1) * 0.9, 28, 61, 4);
-    const Rgb fields = Mix(Mix(Hex(0x8C9A5A), Hex(0xB9AA66), SmoothStep(-0.3, 0.4, patches)), Hex(0x5E7A3E),
-                           0.75 * SmoothStep(0.1, 0.35, Turning(column, std::sqrt(down + 1) * 1.6, 60, 62, 3)));
+    const Rgb fields = Mix(Mix(Hex(0x8C9A5A), Hex(0xB9AA66), SmoothStep(-0.6, 0.7, patches)), Hex(0x6E8A4A),
+                           0.4 * SmoothStep(0.0, 0.5, Turning(column, std::sqrt(down + 1) * 1.6, 60, 62, 3)));
     const double ripple = Turning(column, down * (0.9 - 0.5 * near), 60, 63, 3);
     Rgb water = Mix(Hex(0x9FBCC8), Hex(0x4F8296), SmoothStep(0, 0.9, near)) + Rgb{0.03, 0.035, 0.035} * ripple;
     const double glitter = SunSide(column, 26 + 40 * near) * SmoothStep(-0.1, 0.5, ripple + 0.25 * (1 - near));

@@ -202,11 +202,11 @@ void WriteGantry(const ModelFolder& folder)
         const double inner = side * (Reach - 0.9), outer = side * Reach;
         const Rgb lit = Hex(0xE8E2D4), dim = Hex(0x9AA0AC);
         model.Meshes.push_back(
-            FlatFace(dim, {-Deep, 0, inner}, {-Deep, 0, outer}, {-Deep, High, outer}, {-Deep, High, inner}));
+            FlatFace(dim, {-Deep, 0, inner}, {-Deep, 0, outer}, {-Deep, Low, outer}, {-Deep, Low, inner}));
         model.Meshes.push_back(
-            FlatFace(dim, {Deep, 0, inner}, {Deep, 0, outer}, {Deep, High, outer}, {Deep, High, inner}));
-        model.Meshes.push_back(FlatFace(side > 0 ? lit : dim, {-Deep, 0, outer}, {Deep, 0, outer}, {Deep, High, outer},
-                                        {-Deep, High, outer}));
+            FlatFace(dim, {Deep, 0, inner}, {Deep, 0, outer}, {Deep, Low, outer}, {Deep, Low, inner}));
+        model.Meshes.push_back(FlatFace(side > 0 ? lit : dim, {-Deep, 0, outer}, {Deep, 0, outer}, {Deep, Low, outer},
+                                        {-Deep, Low, outer}));
         model.Meshes.push_back(FlatFace(side < 0 ? lit : dim, {-Deep, 0, inner}, {Deep, 0, inner}, {Deep, Low, inner},
                                         {-Deep, Low, inner}));
     }

@@ -126,13 +126,13 @@ Canvas CrownPicture(int size, const Leafage& leaves)
     return picture;
 }
 
-Model CrossedModel(const std::string& texture, const Canvas& picture, double half, double height)
+Model CrossedModel(const std::string& texture, const Canvas& picture, double half, double height, int cells = 2)
 {
     Model model;
     model.Mass = HeavyMass;
     const Region whole{0, 0, picture.Width, picture.Height};
-    model.Meshes.push_back(Upright(texture, whole, -half, 0, half, 0, 0, height, 1, 2));
-    model.Meshes.push_back(Upright(texture, whole, 0, half, 0, -half, 0, height, 1, 2));
+    model.Meshes.push_back(Upright(texture, whole, -half, 0, half, 0, 0, height, 1, cells));
+    model.Meshes.push_back(Upright(texture, whole, 0, half, 0, -half, 0, height, 1, cells));
     return model;
 }
 
@@ -172,7 +172,7 @@ void WriteTrees(const ModelFolder& folder)
     model = CrossedModel("oak", oak, 3.7, 7.8);
     AddCrown(model, "oak_crown", oakCrown, 3.4, 5.2);
     folder.Write("oak", model);
-    folder.Write("olive", CrossedModel("olive", olive, 2.3, 4.6));
-    folder.Write("bush", CrossedModel("bush", bush, 1.7, 2.0));
+    folder.Write("olive", CrossedModel("olive", olive, 2.3, 4.6, 1));
+    folder.Write("bush", CrossedModel("bush", bush, 1.7, 2.0, 1));
 }
 }
