@@ -269,7 +269,7 @@ Ink ShadowInk(const Sample& s)
     constexpr int Order[4][4] = {{0, 8, 2, 10}, {12, 4, 14, 6}, {3, 11, 1, 9}, {15, 7, 13, 5}};
     if (density <= (Order[row & 3][column & 3] + 0.5) / 16)
         return {{}, true};
-    return {Mix(Hex(0x2A2B2E), Hex(0x0B0B0D), density)};
+    return {Mix(Hex(0x4A494A), Hex(0x0E0E10), density * density)};
 }
 
 // Two quads, one a side.
@@ -391,7 +391,7 @@ void AddOutside(Model& model, const Design& design, Atlas& atlas, const std::str
                 }
             model.Meshes.push_back(face);
         }
-    model.Meshes.push_back(Face({-1.22, 0.02, -2.50}, {1.22, 0.02, -2.50}, {-1.22, 0.02, 2.50}, {1.22, 0.02, 2.50}, 2,
+    model.Meshes.push_back(Face({-1.14, 0.02, -2.44}, {1.14, 0.02, -2.44}, {-1.14, 0.02, 2.44}, {1.14, 0.02, 2.44}, 2,
                                 56, 112, ShadowInk, atlas, texture));
     model.Meshes.push_back(Helmet(design, atlas, texture));
     model.Meshes.push_back(DoorMirror(design, -1));

@@ -27,7 +27,7 @@ void WritePuff(const std::string& path, double lumps, std::uint32_t seed, const 
             Spot spot{(x + 0.5) / Size * 2 - 1, (y + 0.5) / Size * 2 - 1, 0};
             spot.From = std::hypot(spot.X, spot.Y);
             const double edge = spot.From + lumps * Fbm(spot.X * 2.2 + 9, spot.Y * 2.2 + 9, seed, 3);
-            const double density = SmoothStep(0.98, 0.48, edge) * SmoothStep(1.0, 0.86, spot.From);
+            const double density = SmoothStep(0.96, 0.64, edge) * SmoothStep(1.0, 0.86, spot.From);
             if (density > 0.06 + 0.88 * HashUnit(x, y, seed + 7))
                 picture.Set(x, y, paint(spot));
         }
