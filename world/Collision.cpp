@@ -4,6 +4,7 @@
 #include "world/Dynamics.h"
 
 #include <algorithm>
+#include <bit>
 #include <cmath>
 
 namespace modDinamica
@@ -56,10 +57,20 @@ Mod3D::Point3 Centre(const Mod3D::Obj& object, const Mod3D::Rotation& rotation, 
     return Mod3D::RotatePoint(rotation, object.X, object.Y, object.Z, sphere.X, sphere.Y, sphere.Z);
 }
 
-bool FindContact(const Mod3D::Obj& i, const Mod3D::Obj& j, std::vector<Mod3D::Point3>& centres, Contact& contact)
+// The object's rotation. Most objects never turn: their sines and cosines are found once.
+Mod3D::Rotation RotationOf(const Mod3D::Obj& object, world::KnownRotation& known)
 {
-    const Mod3D::Rotation turnI = Mod3D::MakeRotation(i.AngleA, i.AngleB);
-    const Mod3D::Rotation turnJ = Mod3D::MakeRotation(j.AngleA, j.AngleB);
+    // By their bits: -0 is not 0 here, and what is no number is itself.
+    const auto same = [](float a, float b)
+    { return std::bit_cast<std::uint32_t>(a) == std::bit_cast<std::uint32_t>(b); };
+    if (!same(object.AngleA, known.AngleA) || !same(object.AngleB, known.AngleB))
+        known = {object.AngleA, object.AngleB, Mod3D::MakeRotation(object.AngleA, object.AngleB)};
+    return known.Rotation;
+}
+
+bool FindContact(const Mod3D::Obj& i, const Mod3D::Rotation& turnI, const Mod3D::Obj& j, const Mod3D::Rotation& turnJ,
+                 std::vector<Mod3D::Point3>& centres, Contact& contact)
+{
     const std::size_t countJ = SphereCount(j);
     centres.clear();
     for (std::size_t b = 0; b < countJ; ++b)
@@ -196,12 +207,18 @@ Body BodyOf(Simulation& sim, std::size_t object)
 // One ordered pair of objects with spheres. True where they touched, and so have moved.
 bool CollidePair(Simulation& sim, std::size_t first, std::size_t second)
 {
-    const Body i = BodyOf(sim, first);
-    const Body j = BodyOf(sim, second);
+    const Mod3D::Obj& a = sim.Scene.Objects.Items[first];
+    const Mod3D::Obj& b = sim.Scene.Objects.Items[second];
+    if (!AreNear(a, b))
+        return false;
+    world::TickScratch& scratch = sim.Race.Scratch;
     Contact contact;
-    if (!AreNear(i.Object, j.Object) || !FindContact(i.Object, j.Object, sim.Race.Scratch.Centres, contact))
+    if (!FindContact(a, RotationOf(a, scratch.Rotations[first]), b, RotationOf(b, scratch.Rotations[second]),
+                     scratch.Centres, contact))
         return false;
 
+    const Body i = BodyOf(sim, first);
+    const Body j = BodyOf(sim, second);
     const double ratio = MassRatio(i.Object, j.Object);
     const double half = Mod3D::WrapAngle(static_cast<double>(i.Object.AngleA) - j.Object.AngleA) / 2.0;
     const Impact impact = ImpactOf(i, j, ratio, half);
@@ -230,6 +247,7 @@ void ListBodies(Simulation& sim)
         if (sim.Scene.Objects.Has(object))
             scratch.CarOf[static_cast<std::size_t>(object)] = index;
     }
+    scratch.Rotations.resize(sim.Scene.Objects.Items.size());
     scratch.Bodies.clear();
     for (std::size_t object = 0; object < sim.Scene.Objects.Items.size(); ++object)
         if (Collides(sim.Scene.Objects.Items[object]))
@@ -250,26 +268,30 @@ void Collide(Simulation& sim)
 {
     ListBodies(sim);
     const std::vector<std::int16_t>& bodies = sim.Race.Scratch.Bodies;
+    std::vector<Footprint>& footprints = sim.Race.Scratch.Footprints;
     NearStrips& strips = sim.Race.Scratch.Strips;
-    const auto footprint = [&](std::size_t body)
+    const auto object = [&](std::size_t body) { return static_cast<std::size_t>(bodies[body]); };
+    const auto place = [&](std::size_t body)
     {
-        const Mod3D::Obj& object = sim.Scene.Objects.Items[static_cast<std::size_t>(bodies[body])];
-        return FootprintOf(object.X, object.Z, object.Radius);
+        const Mod3D::Obj& placed = sim.Scene.Objects.Items[object(body)];
+        footprints[body] = FootprintOf(placed.X, placed.Z, placed.Radius);
+        strips.Add(body, footprints[body]);
     };
 
     strips.Reset(bodies.size());
+    footprints.resize(bodies.size());
     for (std::size_t body = 0; body < bodies.size(); ++body)
-        strips.Add(body, footprint(body));
+        place(body);
     for (std::size_t a = 0; a < bodies.size(); ++a)
     {
-        Footprint here = footprint(a);
-        for (std::size_t b = strips.Next(here, a); b < bodies.size(); b = strips.Next(here, b))
-            if (CollidePair(sim, static_cast<std::size_t>(bodies[a]), static_cast<std::size_t>(bodies[b])))
+        strips.Look(footprints[a], a);
+        for (std::size_t b = strips.Next(a); b < bodies.size(); b = strips.Next(b))
+            if (CollidePair(sim, object(a), object(b)))
             {
                 // Both have moved: a meets the rest of its row from where it is now, b its own row later.
-                here = footprint(a);
-                strips.Add(a, here);
-                strips.Add(b, footprint(b));
+                place(a);
+                place(b);
+                strips.Look(footprints[a], b);
             }
     }
 }

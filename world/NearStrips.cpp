@@ -10,23 +10,15 @@ namespace modDinamica
 {
 namespace
 {
-constexpr double StripWidth = 12.0; // world units: 64 strips hold the usual world once
-constexpr double Farthest = 1e6;    // beyond it, the slack below would not cover the rounding
+constexpr double StripsAUnit = 1.0 / 12.0; // 64 strips hold the usual world once
+constexpr double Farthest = 1e6;           // beyond it, the slack below would not cover the rounding
 constexpr double Slack = 0.01;
 
 constexpr int All = NearStrips::StripCount;
 
-int Strip(int number)
+std::size_t StripNumber(int number)
 {
-    return number & (All - 1);
-}
-
-std::uint64_t Gather(const std::uint64_t* strips, int first, int count)
-{
-    std::uint64_t bits = 0;
-    for (int n = 0; n < count; ++n)
-        bits |= strips[Strip(first + n)];
-    return bits;
+    return static_cast<std::size_t>(number & (All - 1));
 }
 
 struct Stretch
@@ -36,8 +28,8 @@ struct Stretch
 
 Stretch StretchOf(double middle, double reach)
 {
-    const int first = base::Floor((middle - reach) / StripWidth);
-    const int last = base::Floor((middle + reach) / StripWidth);
+    const int first = base::Floor((middle - reach) * StripsAUnit);
+    const int last = base::Floor((middle + reach) * StripsAUnit);
     return {first, std::min(last - first + 1, All)};
 }
 }
@@ -55,29 +47,59 @@ Footprint FootprintOf(double x, double z, double radius)
 void NearStrips::Reset(std::size_t bodies)
 {
     Bodies = bodies;
-    Blocks.assign((bodies + 63) / 64, Block{});
+    Words = (bodies + 63) / 64;
+    AlongX.assign(Words * StripCount, 0);
+    AlongZ.assign(Words * StripCount, 0);
+    Seen.resize(Words);
+    SeenZ.resize(Words);
 }
 
 void NearStrips::Add(std::size_t body, const Footprint& at)
 {
-    Block& block = Blocks[body / 64];
-    const std::uint64_t bit = std::uint64_t{1} << (body % 64);
+    const Bits bit = Bits{1} << (body % 64);
     for (int n = 0; n < at.CountX; ++n)
-        block.X[Strip(at.FirstX + n)] |= bit;
+        AlongX[StripNumber(at.FirstX + n) * Words + body / 64] |= bit;
     for (int n = 0; n < at.CountZ; ++n)
-        block.Z[Strip(at.FirstZ + n)] |= bit;
+        AlongZ[StripNumber(at.FirstZ + n) * Words + body / 64] |= bit;
 }
 
-std::size_t NearStrips::Next(const Footprint& at, std::size_t after) const
+// Whole strips are joined word by word: long runs of the same simple step, whatever the bodies are.
+void NearStrips::Gather(const std::vector<Bits>& strips, int first, int count, std::size_t from,
+                        std::vector<Bits>& into) const
+{
+    const std::size_t words = Words; // a copy, and plain pointers: no aliasing in the loop
+    Bits* const found = into.data();
+    std::fill(found + from, found + words, Bits{0});
+    for (int n = 0; n < count; ++n)
+    {
+        const Bits* const strip = strips.data() + StripNumber(first + n) * words;
+        for (std::size_t word = from; word < words; ++word)
+            found[word] |= strip[word];
+    }
+}
+
+void NearStrips::Look(const Footprint& at, std::size_t after)
+{
+    const std::size_t words = Words;
+    const std::size_t from = (after + 1) / 64;
+    if (from >= words)
+        return;
+    Gather(AlongX, at.FirstX, at.CountX, from, Seen);
+    Gather(AlongZ, at.FirstZ, at.CountZ, from, SeenZ);
+    Bits* const seen = Seen.data();
+    const Bits* const seenZ = SeenZ.data();
+    for (std::size_t word = from; word < words; ++word)
+        seen[word] &= seenZ[word];
+}
+
+std::size_t NearStrips::Next(std::size_t after) const
 {
     std::size_t body = after + 1;
-    for (std::size_t index = body / 64; index < Blocks.size(); ++index, body = index * 64)
+    for (std::size_t word = body / 64; word < Words; ++word, body = word * 64)
     {
-        const Block& block = Blocks[index];
-        const std::uint64_t shared = Gather(block.X, at.FirstX, at.CountX) & Gather(block.Z, at.FirstZ, at.CountZ) &
-                                     (~std::uint64_t{0} << (body % 64));
-        if (shared != 0)
-            return index * 64 + static_cast<std::size_t>(std::countr_zero(shared));
+        const Bits left = Seen[word] & (~Bits{0} << (body % 64));
+        if (left != 0)
+            return word * 64 + static_cast<std::size_t>(std::countr_zero(left));
     }
     return Bodies;
 }

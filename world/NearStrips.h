@@ -20,22 +20,23 @@ Footprint FootprintOf(double x, double z, double radius);
 class NearStrips
 {
 public:
+    static constexpr int StripCount = 64;
+
     // Takes away all bodies and makes room. No allocation for a number had before.
     void Reset(std::size_t bodies);
     // Also after a move: a body stays where it was as well, which only gives candidates more.
     void Add(std::size_t body, const Footprint& at);
-    // The first body above `after` that shares strips with the footprint; the number of bodies when there is none.
-    std::size_t Next(const Footprint& at, std::size_t after) const;
-
-    static constexpr int StripCount = 64;
+    // Looks for the bodies above `after` that share strips with the footprint; Next names them.
+    void Look(const Footprint& at, std::size_t after);
+    // The first body above `after` that the last Look found; the number of bodies when there is none.
+    std::size_t Next(std::size_t after) const;
 
 private:
-    // For 64 bodies a word: their bits in the strips along x, then in those along z.
-    struct Block
-    {
-        std::uint64_t X[StripCount], Z[StripCount];
-    };
-    std::size_t Bodies = 0;
-    std::vector<Block> Blocks;
+    using Bits = std::uint64_t; // one bit a body
+    std::size_t Bodies = 0, Words = 0;
+    std::vector<Bits> AlongX, AlongZ; // Words of every strip in turn
+    std::vector<Bits> Seen, SeenZ;    // what Look found
+
+    void Gather(const std::vector<Bits>& strips, int first, int count, std::size_t from, std::vector<Bits>& into) const;
 };
 }

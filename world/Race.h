@@ -45,14 +45,23 @@ struct Standing
     double ToGo = 0; // ground distance to the next checkpoint
 };
 
-// Memory that the procedures of a tick use and none reads again: kept only so that no tick allocates.
+// The rotation of two angles, computed anew only when they have changed.
+struct KnownRotation
+{
+    float AngleA = 0, AngleB = 0;
+    Mod3D::Rotation Rotation; // of the angles above
+};
+
+// What the procedures of a tick derive, kept so that no tick allocates. Nothing here needs to be reset or saved.
 struct TickScratch
 {
     std::vector<Standing> Standings;
-    std::vector<std::int16_t> CarOf;  // by object: the player that drives it, -1 for none
-    std::vector<std::int16_t> Bodies; // the objects that can touch
-    std::vector<Mod3D::Point3> Centres;
+    std::vector<std::int16_t> CarOf;                // by object: the player that drives it, -1 for none
+    std::vector<KnownRotation> Rotations;           // by object
+    std::vector<std::int16_t> Bodies;               // the objects that can touch
+    std::vector<modDinamica::Footprint> Footprints; // by body, as it stands
     modDinamica::NearStrips Strips;
+    std::vector<Mod3D::Point3> Centres; // of the spheres of the second of a pair
 };
 
 struct Race

@@ -46,8 +46,8 @@ TEST(NearStrips, EveryPairThatIsNearIsACandidateInAscendingOrder)
         for (std::size_t a = 0; a < discs.size(); ++a)
         {
             std::vector<std::size_t> list;
-            const Footprint at = FootprintOf(discs[a].X, discs[a].Z, discs[a].R);
-            for (std::size_t b = strips.Next(at, a); b < discs.size(); b = strips.Next(at, b))
+            strips.Look(FootprintOf(discs[a].X, discs[a].Z, discs[a].R), a);
+            for (std::size_t b = strips.Next(a); b < discs.size(); b = strips.Next(b))
                 list.push_back(b);
             EXPECT_TRUE(std::is_sorted(list.begin(), list.end()));
             candidates += list.size();
@@ -70,10 +70,12 @@ TEST(NearStrips, FarBodiesAreNoCandidates)
     strips.Add(0, FootprintOf(10, 10, 2));
     strips.Add(1, FootprintOf(100, 10, 2));
     strips.Add(2, FootprintOf(12, 11, 2));
-    EXPECT_EQ(strips.Next(FootprintOf(10, 10, 2), 0), 2u);
-    EXPECT_EQ(strips.Next(FootprintOf(10, 10, 2), 2), 3u);
+    strips.Look(FootprintOf(10, 10, 2), 0);
+    EXPECT_EQ(strips.Next(0), 2u);
+    EXPECT_EQ(strips.Next(2), 3u);
     strips.Add(1, FootprintOf(12, 9, 2)); // it has moved
-    EXPECT_EQ(strips.Next(FootprintOf(10, 10, 2), 0), 1u);
+    strips.Look(FootprintOf(10, 10, 2), 0);
+    EXPECT_EQ(strips.Next(0), 1u);
 }
 
 TEST(NearStrips, NumbersOffEveryScaleReachEverywhere)
@@ -96,11 +98,20 @@ TEST(NearStrips, BodiesBeyondOneWordOfBits)
     for (const std::size_t body : {0u, 63u, 64u, 127u, 199u})
         strips.Add(body, FootprintOf(0, 0, 1));
     const Footprint at = FootprintOf(0.5, 0.5, 1);
-    EXPECT_EQ(strips.Next(at, 0), 63u);
-    EXPECT_EQ(strips.Next(at, 63), 64u);
-    EXPECT_EQ(strips.Next(at, 64), 127u);
-    EXPECT_EQ(strips.Next(at, 127), 199u);
-    EXPECT_EQ(strips.Next(at, 199), 200u);
+    strips.Look(at, 0);
+    EXPECT_EQ(strips.Next(0), 63u);
+    EXPECT_EQ(strips.Next(63), 64u);
+    EXPECT_EQ(strips.Next(64), 127u);
+    EXPECT_EQ(strips.Next(127), 199u);
+    EXPECT_EQ(strips.Next(199), 200u);
+    strips.Look(at, 127);
+    EXPECT_EQ(strips.Next(127), 199u);
+    strips.Look(at, 199);
+    EXPECT_EQ(strips.Next(199), 200u);
     strips.Reset(200);
-    EXPECT_EQ(strips.Next(at, 0), 200u);
+    strips.Look(at, 0);
+    EXPECT_EQ(strips.Next(0), 200u);
+    strips.Reset(0);
+    strips.Look(at, 0);
+    EXPECT_EQ(strips.Next(0), 0u);
 }

@@ -1,0 +1,158 @@
+// The simulation of one game tick, and its collisions against the plain walk over all pairs. Scenes are made here:
+// cars on a round course, objects with spheres all over the world.
+#include "render/Primitives.h"
+#include "world/RaceLogic.h"
+
+#include <benchmark/benchmark.h>
+
+#include <cmath>
+#include <memory>
+
+namespace
+{
+constexpr float WorldSize = 700.0f;
+constexpr int GateCount = 24;
+constexpr int CarSpheres = 10;
+
+struct NoFinish final : modDinamica::FinishSink
+{
+    void Finished(const std::string&) override {}
+};
+
+struct World
+{
+    Mod3D::Scene Scene;
+    world::Race Race;
+    Mod3D::Camera Camera;
+    world::HeldKeys Keys;
+    world::RaceAssets Assets;
+    base::Random Random;
+    float Shake = 0;
+    bool InBox = false;
+
+    modDinamica::Simulation Sim() { return {Scene, Race, Camera, Keys, Assets, Random, 1.0f, true, Shake, InBox}; }
+};
+
+float Between(base::Random& random, double low, double high)
+{
+    return static_cast<float>(low + (high - low) * random.Next());
+}
+
+void AddObject(World& world)
+{
+    base::Random& random = world.Random;
+    const float radius = Between(random, 1, 6);
+    const auto spheres = static_cast<std::int16_t>(1 + base::Floor(random.Next() * 4));
+    const std::int16_t object =
+        modPrimitive::MakeObj(world.Scene, Between(random, 0, WorldSize), 0, Between(random, 0, WorldSize),
+                              Between(random, -3, 3), 0, 0, spheres, 1, 20);
+    modPrimitive::SetObjR(world.Scene, object, radius);
+    for (std::int16_t sphere = 0; sphere < spheres; ++sphere)
+        modPrimitive::EditObjSfere(world.Scene, object, sphere, Between(random, -radius, radius) / 2, 1,
+                                   Between(random, -radius, radius) / 2, radius / 3);
+}
+
+// On the course, in rows of four.
+void AddCar(World& world, int number)
+{
+    const float angle = static_cast<float>(number / 4) * 0.03f;
+    const float distance = 250.0f + static_cast<float>(number % 4) * 4.0f;
+    const std::int16_t object =
+        modPrimitive::MakeObj(world.Scene, WorldSize / 2 - std::cos(angle) * distance, 0,
+                              WorldSize / 2 + std::sin(angle) * distance, -angle, 0, 21, CarSpheres, 1, 1);
+    modPrimitive::SetObjR(world.Scene, object, 2.6f);
+    for (std::int16_t mesh = 0; mesh < 21; ++mesh)
+        modPrimitive::EditObjMesh(world.Scene, object, mesh, 4, 4, 255, 0);
+    for (std::int16_t sphere = 0; sphere < CarSpheres; ++sphere)
+    {
+        modPrimitive::EditObjSfere(world.Scene, object, sphere, static_cast<float>(sphere % 2) - 0.5f, 0.6f,
+                                   static_cast<float>(sphere / 2) * 0.8f - 1.6f, 0.6f);
+        for (std::int16_t link = 0; link < 8; ++link)
+            modPrimitive::AddSfereLink(world.Scene, object, sphere, link, 1, 1);
+    }
+    modPrimitive::KeepUndamaged(world.Scene, object);
+
+    world::Player player;
+    player.Obj = object;
+    player.MaxSpeed = player.CurMaxSpeed = Between(world.Random, 3.5, 5.5);
+    player.MaxSpeedR = player.CurMaxSpeedR = 1.0f;
+    player.WRS = player.CurWRS = 0.06f;
+    player.Acceleration = player.CurAcceleration = 0.05f;
+    player.Brake = player.CurBrake = 0.1f;
+    player.Deceleration = player.CurDeceleration = 0.01f;
+    player.Control = number == 0 ? 0 : 1;
+    world.Race.Players.push_back(player);
+    ++world.Race.NumPlayers;
+}
+
+std::unique_ptr<World> MakeWorld(int cars, int objects)
+{
+    auto made = std::make_unique<World>();
+    World& world = *made;
+    world.Random.Seed(11);
+    for (int n = 0; n < cars; ++n)
+        AddCar(world, n);
+    for (int n = 0; n < objects; ++n)
+        AddObject(world);
+    for (int gate = 1; gate <= GateCount; ++gate)
+    {
+        const float angle = static_cast<float>(gate) * 6.2831853f / GateCount;
+        world.Race.Map.Checkpoints.push_back(
+            {WorldSize / 2 - std::cos(angle) * 256, 0, WorldSize / 2 + std::sin(angle) * 256, 16});
+        world.Race.Map.Grass.push_back({WorldSize / 2, 0, WorldSize / 2, 10.0f * static_cast<float>(gate)});
+    }
+    world.Race.Map.ACheckpoints = world.Race.Map.Checkpoints;
+    world.Race.Map.NumCheckpoints = world.Race.Map.NumGrass = GateCount;
+    auto picture = std::make_shared<ModBitmap::Picture>();
+    picture->Info = {1, 1, 4, 1, 24};
+    picture->Pixels.Allocate(1, 4);
+    world.Assets.Smoke = world.Assets.FireRed = world.Assets.FireYellow = world.Assets.Water = picture;
+    world.Keys.KeyAccel = base::True;
+    return made;
+}
+
+void Tick(World& world)
+{
+    NoFinish finish;
+    modDinamica::Simulation sim = world.Sim();
+    world.Race.GameTime += 25;
+    modDinamica::ComputePlaces(world.Scene, world.Race);
+    modDinamica::RaceStep(sim, finish);
+    modDinamica::Collide(sim);
+    modDinamica::DamageSmoke(sim);
+    modDinamica::ComputerDrive(sim);
+    modDinamica::UserDrive(sim);
+}
+
+// Cars, objects. The race goes on from tick to tick, and begins anew after a minute.
+void GameTick(benchmark::State& state)
+{
+    constexpr int minute = 2400;
+    std::unique_ptr<World> world;
+    int tick = 0;
+    for (auto _ : state)
+    {
+        if (tick++ % minute == 0)
+        {
+            state.PauseTiming();
+            world = MakeWorld(static_cast<int>(state.range(0)), static_cast<int>(state.range(1)));
+            state.ResumeTiming();
+        }
+        Tick(*world);
+    }
+}
+
+template<void (*Walk)(modDinamica::Simulation&)> void Collisions(benchmark::State& state)
+{
+    const std::unique_ptr<World> world = MakeWorld(static_cast<int>(state.range(0)), static_cast<int>(state.range(1)));
+    for (int tick = 0; tick < 40; ++tick)
+        Tick(*world);
+    modDinamica::Simulation sim = world->Sim();
+    for (auto _ : state)
+        Walk(sim);
+}
+
+BENCHMARK(GameTick)->Args({8, 0})->Args({8, 250})->Args({64, 2000})->Unit(benchmark::kMicrosecond);
+BENCHMARK(Collisions<modDinamica::Collide>)->Args({8, 250})->Args({64, 2000})->Unit(benchmark::kMicrosecond);
+BENCHMARK(Collisions<modDinamica::CollidePlain>)->Args({8, 250})->Args({64, 2000})->Unit(benchmark::kMicrosecond);
+}
