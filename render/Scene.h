@@ -27,8 +27,12 @@ struct PointGrid
     std::vector<MeshPt> Points;
 
     bool Has(std::int32_t i, std::int32_t j) const { return i >= 0 && i < Rows && j >= 0 && j < Cols; }
-    MeshPt& At(std::int32_t i, std::int32_t j) { return Points[static_cast<std::size_t>(i * Cols + j)]; }
-    const MeshPt& At(std::int32_t i, std::int32_t j) const { return Points[static_cast<std::size_t>(i * Cols + j)]; }
+    MeshPt& At(std::int32_t i, std::int32_t j) { return Points[IndexOf(i, j)]; }
+    const MeshPt& At(std::int32_t i, std::int32_t j) const { return Points[IndexOf(i, j)]; }
+    std::size_t IndexOf(std::int32_t i, std::int32_t j) const
+    {
+        return static_cast<std::size_t>(i) * static_cast<std::size_t>(Cols) + static_cast<std::size_t>(j);
+    }
 };
 
 struct ObjMesh

@@ -7,6 +7,7 @@
 #include <cstdint>
 #include <filesystem>
 #include <fstream>
+#include <random>
 #include <string>
 
 namespace support
@@ -19,7 +20,8 @@ struct TempFolder
     {
         const testing::TestInfo* test = testing::UnitTest::GetInstance()->current_test_info();
         Path = std::filesystem::path(testing::TempDir()) /
-               (std::string("velkar-") + test->test_suite_name() + "-" + test->name());
+               (std::string("velkar-") + test->test_suite_name() + "-" + test->name() + "-" +
+                std::to_string(std::random_device{}())); // other builds may run the same test
         std::filesystem::remove_all(Path);
         std::filesystem::create_directories(Path);
     }
