@@ -33,6 +33,7 @@ void Form1::KeyUp(std::int16_t code)
     Form_KeyUp(code);
 }
 
+// Everything here is driven by key codes: typed characters mean nothing to menu and race.
 void Form1::KeyPress(std::uint8_t) {}
 
 // While the menu or a panel shows: up and down walk over what can be clicked, Enter clicks it.
