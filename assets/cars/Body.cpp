@@ -64,8 +64,8 @@ Car BuildCar(const Design& design)
         model.Meshes.push_back(Build(panel.Skin, panel.Paint, atlas, Texture));
     AddCabin(model, design, atlas, Texture);
     AddWindscreen(model, design); // as mesh 20
-    AddOutside(model, design, atlas, Texture);
+    const std::size_t shadow = AddOutside(model, design, atlas, Texture);
     AddSpheres(model);
-    return {model, atlas.Picture()};
+    return {model, atlas.Picture(), shadow};
 }
 }

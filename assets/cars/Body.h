@@ -20,6 +20,7 @@ struct Car
 {
     Model Form;
     Canvas Texture;
+    std::size_t Shadow; // the mesh on the ground
 };
 Car BuildCar(const Design& design);
 }

@@ -157,9 +157,8 @@ void DrawCar(Canvas& canvas, const Design& design, const SceneView& view, const 
     for (std::size_t k = panels.size(); k < car.Form.Meshes.size(); ++k)
     {
         const ModelMesh& mesh = car.Form.Meshes[k];
-        const bool glass = mesh.Texture.find("glass") != std::string::npos,
-                   shadow = mesh.Points[0].Y < 0.05 && mesh.Colour < 0 && mesh.Points[0].X < -1.1;
-        if (shadow)
+        const bool glass = mesh.Texture.find("glass") != std::string::npos;
+        if (k == car.Shadow)
             continue;
         const auto place = [&](int i, int j)
         {
