@@ -125,9 +125,10 @@ std::uint64_t Digest::Value() const
     return value ^ (value >> 29);
 }
 
-std::uint64_t Checksum(const shell::Game& game)
+namespace
 {
-    Digest digest;
+void AddState(Digest& digest, const shell::Game& game)
+{
     Add(digest, game.Race);
     Add(digest, game.Race.Players);
     for (const auto* zones : {&game.Race.Map.Checkpoints, &game.Race.Map.ACheckpoints, &game.Race.Map.Boxes,
@@ -137,7 +138,6 @@ std::uint64_t Checksum(const shell::Game& game)
     Add(digest, game.Scene.Particles);
     Add(digest, game.Scene.Sprites);
     Add(digest, game.Scene.Ground);
-    AddTexels(digest, game.Scene.Ground);
     Add(digest, game.Camera);
     Add(digest, game.Keys);
     Add(digest, game.Settings.EffQuality);
@@ -147,6 +147,21 @@ std::uint64_t Checksum(const shell::Game& game)
     Add(digest, game.Random.State);
     Add(digest, game.Random.Script);
     Add(digest, game.Random.ScriptNext);
+}
+}
+
+std::uint64_t Checksum(const shell::Game& game)
+{
+    Digest digest;
+    AddState(digest, game);
+    AddTexels(digest, game.Scene.Ground);
+    return digest.Value();
+}
+
+std::uint64_t TickChecksum(const shell::Game& game)
+{
+    Digest digest;
+    AddState(digest, game);
     return digest.Value();
 }
 }

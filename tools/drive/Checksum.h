@@ -22,4 +22,6 @@ private:
 };
 
 std::uint64_t Checksum(const shell::Game& game);
+// The same but for the ground texels, which are most of the bytes: for a sum after every tick of a race.
+std::uint64_t TickChecksum(const shell::Game& game);
 }
