@@ -63,7 +63,7 @@ Rgb ClearSky(double column, double row)
     const double d = std::sqrt(dx * dx + dy * dy);
     sky = Mix(sky, Hex(0xFFE9B8), 0.62 * std::exp(-d / 62));
     sky = Mix(sky, Hex(0xFFF4D2), 0.85 * std::exp(-d * d / 700));
-    return Mix(sky, Hex(0xFFFDF0), SmoothStep(15, 11, d));
+    return Mix(sky, Hex(0xFFFDF0), SmoothStep(17, 5, d));
 }
 
 double CloudDensity(double column, double row)
