@@ -1,0 +1,92 @@
+// A frame takes no memory once its lists have grown.
+#include "render/Effects.h"
+#include "render/Primitives.h"
+#include "render/RenderFrame.h"
+#include "tests/support/Scenes.h"
+
+#include <gtest/gtest.h>
+
+#include <atomic>
+#include <cstdlib>
+#include <memory>
+#include <new>
+#include <string>
+
+namespace
+{
+std::atomic<std::size_t> Allocations{0};
+
+struct NoSink : Mod3D::FrameSink
+{
+    void Present(int, int, std::span<const std::uint8_t>) override {}
+};
+}
+
+void* operator new(std::size_t size)
+{
+    ++Allocations;
+    if (void* memory = std::malloc(size == 0 ? 1 : size))
+        return memory;
+    throw std::bad_alloc();
+}
+void operator delete(void* memory) noexcept
+{
+    std::free(memory);
+}
+void operator delete(void* memory, std::size_t) noexcept
+{
+    std::free(memory);
+}
+
+TEST(Allocation, NoneInAFrameWithTextSpritesAndParticles)
+{
+    base::Random random;
+    random.Seed(6);
+    Mod3D::Scene scene;
+    scene.Sky = scenes::Noise(random, Mod3D::SkyWidth, 60);
+    scenes::SetGround(scene, scenes::Noise(random, 200, 200));
+    for (int code = 'A'; code <= 'Z'; ++code)
+        scene.Font.Glyphs[static_cast<std::size_t>(code - ModBitmap::FirstCode)] = {1, 6, 8,
+                                                                                    std::vector<std::uint8_t>(48, 255)};
+    scene.Font.LineHeight = 8;
+    scene.Font.WidestGlyph = 6;
+    const auto smoke = std::make_shared<const ModBitmap::Picture>(scenes::Noise(random, 20, 20, 0.3));
+    const std::int16_t object = modPrimitive::MakeObj(scene, 100, 0, 110, 1, 0, 1, 0, 1, 1);
+    modPrimitive::SetObjR(scene, object, 9);
+    modPrimitive::EditObjMesh(scene, object, 0, 5, 5, 0x445566, 0);
+    for (int i = 0; i < 5; ++i)
+        for (int j = 0; j < 5; ++j)
+            modPrimitive::EditObjMeshPt(scene, object, 0, i, j, static_cast<float>(i), static_cast<float>(j), 1, 0, 0);
+    modPrimitive::MakePoly(scene, 2, 0x223344, 1);
+    modPrimitive::EditPolyPt(scene, 0, 0, 95, 1, 110);
+    modPrimitive::EditPolyPt(scene, 0, 1, 105, 1, 110);
+    modPrimitive::MakeSprite3D(scene, smoke, 100, 1, 105, 0.03f, 0.5f, 1);
+    support::Messages messages;
+    modPrimitive::MakePic2D(scene, messages, 5, 5, 20, 20, 1);
+    modPrimitive::MakeRect2D(scene, 5, 5, 20, 20, 0, {1, 2, 3}, 1);
+    for (std::int16_t style = 0; style < 3; ++style)
+        modPrimitive::MakeLabel2D(scene, 120, 100, style, 1.5f, 4, {9, 9, 9}, 1, "PRIMA\tRIGA\r\nSECONDA RIGA");
+    scenes::View view(600, 312, 0, 5);
+    view.Look(100, 3, 100, 0.1f, -0.1f);
+    NoSink sink;
+    std::string text;
+    const auto frame = [&](int number)
+    {
+        view.Screen.TxtFilter = static_cast<std::int16_t>(number % 3);
+        // As the game does between frames: particles come and go, read-outs change.
+        modEffects::AddParticle(scene, 5, modEffects::Smoke, smoke, 100, 1, 108, 0.03f, 0.9f);
+        modEffects::AdvanceParticles(scene, random);
+        text.assign(static_cast<std::size_t>(number % 30), 'X');
+        modPrimitive::SetLabelText(scene, 0, text);
+        RenderFrame(scene, view.Camera, view.Screen, &sink);
+    };
+    for (int number = 0; number < 60; ++number)
+        frame(number);
+    const std::size_t before = Allocations;
+    for (int number = 0; number < 60; ++number)
+        frame(number);
+    EXPECT_EQ(Allocations, before);
+    // The counter counts at all.
+    const auto some = std::make_unique<int>(1);
+    EXPECT_EQ(Allocations, before + 1);
+}

@@ -1,0 +1,541 @@
+#include "render/RenderFrame.h"
+
+#include "render/Draw2D.h"
+#include "render/Ground.h"
+#include "render/Lines.h"
+#include "render/Sprites.h"
+#include "render/Triangles.h"
+#include "tests/support/Scenes.h"
+
+#include <gtest/gtest.h>
+
+#include <algorithm>
+#include <cmath>
+#include <limits>
+#include <memory>
+#include <vector>
+
+using Mod3D::Obj;
+using Mod3D::Scene;
+
+namespace
+{
+constexpr unsigned Red = 0x0000FF, Green = 0x00FF00, Blue = 0xFF0000; // as Bytes() gives them
+
+struct Shown : Mod3D::FrameSink
+{
+    int Times = 0, Width = 0, Height = 0;
+    std::span<const std::uint8_t> Bits;
+    void Present(int width, int height, std::span<const std::uint8_t> bits) override
+    {
+        ++Times;
+        Width = width;
+        Height = height;
+        Bits = bits;
+    }
+};
+
+// 240 x 200, zoom 200, centre (120, 100), the eye in the origin: at depth 200 a unit is a pixel.
+struct Eye : scenes::View
+{
+    Mod3D::Scene Scene;
+    explicit Eye(int threads = 1) : View(240, 200, 0, threads) { Look(0, 0, 0, 0, 0); }
+    unsigned At(int x, int y)
+    {
+        RenderFrame(Scene, Camera, Screen, nullptr);
+        return scenes::Bytes(Pixel(x, y));
+    }
+    // Whether anything but the black sky is in the frame.
+    bool Draws()
+    {
+        RenderFrame(Scene, Camera, Screen, nullptr);
+        return std::any_of(Screen.Frame.Bytes.begin(), Screen.Frame.Bytes.end(), [](int byte) { return byte != 0; });
+    }
+};
+
+// A level square of 2 x 2 points from (x, y, z) on, `side` wide and deep: a level face keeps its colour.
+Mod3D::ObjMesh Square(float x, float y, float z, float side, std::int32_t colour)
+{
+    Mod3D::ObjMesh mesh;
+    mesh.Colour = colour;
+    const Mod3D::Rgb split = Mod3D::SplitRGB(colour);
+    mesh.ColR = split.R;
+    mesh.ColG = split.G;
+    mesh.ColB = split.B;
+    mesh.Rows = mesh.Cols = mesh.Pts.Rows = mesh.Pts.Cols = 2;
+    for (int i = 0; i < 2; ++i)
+        for (int j = 0; j < 2; ++j)
+            mesh.Pts.Points.push_back(
+                {x + side * static_cast<float>(j), y, z + side * static_cast<float>(i), j * 8, i * 8});
+    return mesh;
+}
+
+// An object at the place whose one mesh stands below the eye wherever the object is: only culling can hide it.
+Obj Visible(float x, float y, float z, float radius)
+{
+    Obj object;
+    object.Visible = 1;
+    object.X = x;
+    object.Y = y;
+    object.Z = z;
+    object.Radius = radius;
+    object.NumMesh = 1;
+    object.Mesh.push_back(Square(-20 - x, -20 - y, 180 - z, 40, 0x0000FF));
+    return object;
+}
+
+void Add(Scene& scene, Obj object)
+{
+    const std::int16_t slot = scene.Objects.Take();
+    scene.Objects.At(slot) = std::move(object);
+}
+}
+
+TEST(RenderFrame, PresentsTheFrameOnceWithItsPaddedRows)
+{
+    scenes::View view(241, 201);
+    Shown shown;
+    Scene scene;
+    RenderFrame(scene, view.Camera, view.Screen, &shown);
+    EXPECT_EQ(shown.Times, 1);
+    EXPECT_EQ(shown.Width, 241);
+    EXPECT_EQ(shown.Height, 201);
+    EXPECT_EQ(shown.Bits.data(), view.Screen.Frame.Bytes.data()); // not a copy
+    EXPECT_EQ(shown.Bits.size(), 724u * 201u);
+    RenderFrame(scene, view.Camera, view.Screen, nullptr);
+    EXPECT_EQ(shown.Times, 1);
+}
+
+TEST(RenderFrame, WithoutAResolutionNothingHappens)
+{
+    Mod3D::Screen screen;
+    Shown shown;
+    RenderFrame(Scene(), Mod3D::Camera(), screen, &shown);
+    EXPECT_EQ(shown.Times, 0);
+}
+
+// The time is over before the pass begins: what was in the frame stays, everything after the ground is drawn, and the
+// frame is shown.
+TEST(RenderFrame, AGroundPassOutOfTimeIsCutOffAndTheFrameIsShown)
+{
+    for (const int threads : {1, 3, 5, 16})
+    {
+        Eye view(threads);
+        modPrimitive::MakeRect2D(view.Scene, 10, 10, 5, 5, 0, {255, 0, 0}, 1);
+        std::fill(view.Screen.Frame.Bytes.begin(), view.Screen.Frame.Bytes.end(), std::uint8_t{77});
+        view.Screen.GroundLimit = 0;
+        Shown shown;
+        RenderFrame(view.Scene, view.Camera, view.Screen, &shown);
+        EXPECT_EQ(shown.Times, 1);
+        EXPECT_EQ(scenes::Bytes(view.Pixel(200, 100)), 0x4D4D4Du);
+        EXPECT_EQ(scenes::Bytes(view.Pixel(12, 12)), Red);
+        view.Screen.GroundLimit = 600000;
+        RenderFrame(view.Scene, view.Camera, view.Screen, &shown);
+        EXPECT_EQ(shown.Times, 2);
+        EXPECT_EQ(scenes::Bytes(view.Pixel(200, 100)), 0u); // whole again
+    }
+}
+
+// A pass that is truly too slow: two walkers cannot draw a million pixels in a millisecond.
+TEST(RenderFrame, ASlowGroundPassLeavesItsLastRowsAsTheyWere)
+{
+    scenes::View view(1200, 900, 2, 5);
+    base::Random random;
+    random.Seed(1);
+    Scene scene;
+    scene.Sky = scenes::Noise(random, Mod3D::SkyWidth, 50);
+    scenes::SetGround(scene, scenes::Noise(random, 500, 500));
+    view.Look(250, 40, 250, 0.5f, -1.5f);
+    std::fill(view.Screen.Depth.begin(), view.Screen.Depth.end(), 1.0f);
+    view.Screen.GroundLimit = 1;
+    Shown shown;
+    RenderFrame(scene, view.Camera, view.Screen, &shown);
+    EXPECT_EQ(shown.Times, 1);
+    EXPECT_GT(std::count(view.Screen.Depth.begin(), view.Screen.Depth.end(), 1.0f), 0);
+}
+
+TEST(RenderFrame, TheLimitIs60Milliseconds)
+{
+    EXPECT_EQ(Mod3D::Screen().GroundLimit, 60);
+}
+
+TEST(DrawObjects, VisibleAndFreeDecide)
+{
+    for (const int visible : {0, 1, 255})
+        for (const int free : {0, 1})
+        {
+            Eye view;
+            Obj object = Visible(0, 0, 200, 30);
+            object.Visible = static_cast<std::uint8_t>(visible);
+            object.Free = static_cast<std::uint8_t>(free);
+            Add(view.Scene, std::move(object));
+            EXPECT_EQ(view.Draws(), visible != 0 && free == 0) << visible << " " << free;
+        }
+}
+
+// Of a mesh only Free is asked.
+TEST(DrawObjects, MeshesAreHiddenByFreeAlone)
+{
+    Eye view;
+    Add(view.Scene, Visible(0, 0, 200, 30));
+    Mod3D::ObjMesh& mesh = view.Scene.Objects.At(0).Mesh[0];
+    mesh.Visible = 0;
+    EXPECT_TRUE(view.Draws());
+    mesh.Free = 1;
+    mesh.Visible = 1;
+    EXPECT_FALSE(view.Draws());
+}
+
+// Without a radius the centre alone counts; with depth 200 its column is 120 + x, its row 100 + y.
+TEST(DrawObjects, CullingIsStrictAtTheUpperBorderOnly)
+{
+    const auto drawn = [](float x, float y)
+    {
+        Eye view;
+        Add(view.Scene, Visible(x, y, 200, 0));
+        return view.Draws();
+    };
+    EXPECT_TRUE(drawn(0, 0));
+    EXPECT_TRUE(drawn(-120, 0));  // column 0
+    EXPECT_FALSE(drawn(-121, 0)); // -1
+    EXPECT_TRUE(drawn(120, 0));   // column 240, which is no pixel any more
+    EXPECT_FALSE(drawn(121, 0));
+    EXPECT_TRUE(drawn(0, -100)); // row 0
+    EXPECT_FALSE(drawn(0, -101));
+    EXPECT_TRUE(drawn(0, 99));
+    EXPECT_FALSE(drawn(0, 100)); // row 200: here the border itself is out
+}
+
+// The radius counts at the depth of the far side: z + radius, not z.
+TEST(DrawObjects, TheFarSideOfTheSphereIsProjected)
+{
+    const auto drawn = [](float x, float z, float radius)
+    {
+        Eye view;
+        Add(view.Scene, Visible(x, 0, z, radius));
+        return view.Draws();
+    };
+    // d = 200: column 120 + x, radius 100 pixels. At the centre's depth of 100 the column would be 120 + 2 x.
+    EXPECT_TRUE(drawn(220, 100, 100));
+    EXPECT_FALSE(drawn(221, 100, 100));
+    EXPECT_TRUE(drawn(-220, 100, 100));
+    EXPECT_FALSE(drawn(-221, 100, 100));
+    // A centre behind the eye is no reason to skip, a far side behind it is.
+    EXPECT_TRUE(drawn(0, -50, 60));
+    EXPECT_FALSE(drawn(0, -50, 50));
+    EXPECT_TRUE(drawn(0, -50, 50.02f));
+}
+
+TEST(DrawObjects, RotationAndPlaceBringTheMeshIntoTheWorld)
+{
+    Eye view;
+    Obj object;
+    object.Visible = 1;
+    object.Z = 200;
+    object.Radius = 50;
+    object.AngleA = 1.57079637f; // local +z becomes world -x
+    object.Mesh.push_back(Square(-2, -80, 20, 10, 0x00FF00));
+    Add(view.Scene, std::move(object));
+    EXPECT_EQ(view.At(95, 21), Green);
+    EXPECT_EQ(view.At(145, 21), 0u);
+}
+
+TEST(DrawObjects, TexturesThatAreNotThereDrawNothing)
+{
+    for (const std::int16_t slot : {std::int16_t{-1}, std::int16_t{1}, std::int16_t{32767}})
+    {
+        Eye view;
+        Mod3D::Texture& texture = view.Scene.Textures.At(view.Scene.Textures.Take());
+        texture.Width = texture.Height = 16;
+        texture.Pic = scenes::Blank(16, 16);
+        std::fill(texture.Pic.Pixels.Bytes.begin(), texture.Pic.Pixels.Bytes.end(), std::uint8_t{200});
+        Add(view.Scene, Visible(0, 0, 200, 30));
+        Mod3D::ObjMesh& mesh = view.Scene.Objects.At(0).Mesh[0];
+        mesh.Colour = -1;
+        mesh.TexIndex = 0;
+        EXPECT_TRUE(view.Draws());
+        mesh.TexIndex = slot;
+        EXPECT_FALSE(view.Draws());
+        mesh.TexIndex = 0;
+        texture.Free = 1;
+        EXPECT_FALSE(view.Draws());
+        texture.Free = 0;
+        texture.Width = 0;
+        EXPECT_FALSE(view.Draws());
+        texture.Width = 30000; // more than its bytes: only what is there is read
+        EXPECT_TRUE(view.Draws());
+    }
+}
+
+TEST(RenderFrame, WorldMeshesAreFlatAndInWorldCoordinates)
+{
+    Eye view;
+    view.Scene.WorldMeshes.push_back(Square(-20, -20, 180, 40, 0x00FF00));
+    view.Scene.WorldMeshes[0].Colour = -1; // never textured
+    EXPECT_EQ(view.At(120, 80), Green);
+    view.Scene.WorldMeshes[0].Visible = 0;
+    EXPECT_FALSE(view.Draws());
+    view.Scene.WorldMeshes[0].Visible = 1;
+    view.Scene.WorldMeshes[0].Free = 1;
+    EXPECT_FALSE(view.Draws());
+}
+
+TEST(RenderFrame, PolylinesJoinConsecutivePoints)
+{
+    Eye view;
+    modPrimitive::MakePoly(view.Scene, 3, 0x0000FF, 1);
+    modPrimitive::EditPolyPt(view.Scene, 0, 0, -10, 0, 200);
+    modPrimitive::EditPolyPt(view.Scene, 0, 1, 10, 0, 200);
+    modPrimitive::EditPolyPt(view.Scene, 0, 2, 10, 20, 200);
+    EXPECT_EQ(view.At(120, 100), Red);
+    EXPECT_EQ(view.At(130, 115), Red);
+    EXPECT_EQ(view.At(120, 110), 0u); // not closed
+    view.Scene.Polys.At(0).Visible = 0;
+    EXPECT_FALSE(view.Draws());
+}
+
+// Pictures, then rectangles, then texts, each list in its order, over everything in the world however near.
+TEST(RenderFrame, TheDisplayIsDrawnOverTheWorldInItsOrder)
+{
+    Eye view;
+    view.Scene.WorldMeshes.push_back(Square(-2, -0.5f, 1, 4, 0x0000FF));
+    EXPECT_EQ(view.At(120, 20), Red);
+    support::Messages messages;
+    const std::int16_t pic = modPrimitive::MakePic2D(view.Scene, messages, 99.5f, 0.0f, 40, 40, 1);
+    auto& pixels = view.Scene.Pics.At(pic).Pic.Pixels;
+    std::fill(pixels.Bytes.begin(), pixels.Bytes.end(), std::uint8_t{40});
+    EXPECT_EQ(view.At(120, 20), 0x282828u);
+    EXPECT_EQ(view.At(99, 20), Red); // 99.5 is column 100, ties to even
+    modPrimitive::MakeRect2D(view.Scene, 110, 10, 20, 20, 0, {0, 255, 0}, 1);
+    EXPECT_EQ(view.At(120, 20), Green);
+    modPrimitive::MakeRect2D(view.Scene, 115, 15, 10, 10, 0, {0, 0, 255}, 1);
+    EXPECT_EQ(view.At(120, 20), Blue);
+    view.Scene.Rects.At(1).Hidden = 1;
+    EXPECT_EQ(view.At(120, 20), Green);
+    view.Scene.Rects.At(1).Hidden = 0;
+    view.Scene.Rects.At(1).Visible = 0;
+    EXPECT_EQ(view.At(120, 20), Green);
+    Mod3D::Scene& scene = view.Scene;
+    ModBitmap::Glyph& glyph = scene.Font.Glyphs['A' - ModBitmap::FirstCode];
+    glyph = {1, 1, 1, {255}};
+    scene.Font.LineHeight = scene.Font.WidestGlyph = 1;
+    modPrimitive::MakeLabel2D(scene, 120, 20, 0, 1, 4, {9, 8, 7}, 1, "A");
+    EXPECT_EQ(view.At(120, 20), 0x070809u);
+    scene.Labels.At(0).Fade = 0.5f;
+    EXPECT_EQ(view.At(120, 20), 0x030404u);
+}
+
+TEST(RenderFrame, LabelsGoByTheirStyle)
+{
+    Eye view;
+    view.Scene.Font.Glyphs['A' - ModBitmap::FirstCode] = {1, 3, 1, {255, 255, 255}};
+    view.Scene.Font.LineHeight = 1;
+    view.Scene.Font.WidestGlyph = 3;
+    modPrimitive::MakeLabel2D(view.Scene, 120, 20, 0, 1, 2, {0, 255, 0}, 1, "A\tA");
+    Mod3D::Label2D& label = view.Scene.Labels.At(0);
+    EXPECT_EQ(view.At(122, 20), Green); // from x on: 120 … 122
+    EXPECT_EQ(view.At(128, 20), Green); // and from the tab stop at 2 x 4
+    EXPECT_EQ(view.At(124, 20), 0u);
+    EXPECT_EQ(view.At(119, 20), 0u);
+    label.Style = 1;
+    EXPECT_EQ(view.At(118, 20), Green); // ends at x, a space before it: 112 … 114 and 116 … 118
+    EXPECT_EQ(view.At(114, 20), Green);
+    EXPECT_EQ(view.At(120, 20), 0u);
+    label.Style = 2;
+    EXPECT_EQ(view.At(114, 20), Green); // 12 wide: from 114
+    EXPECT_EQ(view.At(113, 20), 0u);
+    for (const int style : {3, -1})
+    {
+        label.Style = style;
+        EXPECT_FALSE(view.Draws());
+    }
+}
+
+namespace
+{
+// A world with something of everything, much of it across the borders of the screen and the near plane.
+Scene CrowdedScene(base::Random& random)
+{
+    Scene scene;
+    const auto draw = [&](double least, double most) { return static_cast<float>(scenes::Draw(random, least, most)); };
+    scene.Sky = scenes::Noise(random, Mod3D::SkyWidth, 60);
+    scenes::SetGround(scene, scenes::Noise(random, 120, 90));
+    Mod3D::Texture& texture = scene.Textures.At(scene.Textures.Take());
+    texture.Pic = scenes::Noise(random, 30, 20, 0.1);
+    texture.Width = 30;
+    texture.Height = 20;
+    for (int n = 0; n < 25; ++n)
+    {
+        const std::int16_t object =
+            modPrimitive::MakeObj(scene, draw(0, 120), draw(0, 3), draw(0, 90), draw(-4, 4), draw(-1, 1), 2, 0, 1, 1);
+        modPrimitive::SetObjR(scene, object, 5);
+        for (int m = 0; m < 2; ++m)
+        {
+            const auto rows = static_cast<std::int16_t>(scenes::DrawWhole(random, 1, 4));
+            const auto cols = static_cast<std::int16_t>(scenes::DrawWhole(random, 1, 4));
+            modPrimitive::EditObjMesh(scene, object, m, rows, cols,
+                                      n % 3 == m ? -1 : scenes::DrawWhole(random, 1, 1 << 23), 0);
+            for (int i = 0; i < rows; ++i)
+                for (int j = 0; j < cols; ++j)
+                    modPrimitive::EditObjMeshPt(scene, object, m, i, j, draw(-4, 4), draw(-1, 4), draw(-4, 4),
+                                                scenes::DrawWhole(random, -2, 31), scenes::DrawWhole(random, -2, 21));
+        }
+        scene.Objects.At(object).Mesh[0].Free = n % 8 == 0;
+    }
+    scene.WorldMeshes.push_back(Square(20, 1, 20, 30, 0x334455));
+    for (int n = 0; n < 10; ++n)
+    {
+        modPrimitive::MakePoly(scene, 3, scenes::DrawWhole(random, 1, 1 << 23), 1);
+        for (int i = 0; i < 3; ++i)
+            modPrimitive::EditPolyPt(scene, n, i, draw(0, 120), draw(0, 5), draw(0, 90));
+    }
+    const auto smoke = std::make_shared<const ModBitmap::Picture>(scenes::Noise(random, 20, 20, 0.3));
+    for (int n = 0; n < 10; ++n)
+        modPrimitive::MakeSprite3D(scene, smoke, draw(0, 120), draw(0, 4), draw(0, 90), 0.05f, n % 2 == 0 ? 1 : 0.4f,
+                                   1);
+    return scene;
+}
+
+// The whole world part of a frame from the plain routines, triangle by triangle, in the order of the lists.
+void DrawPlain(const Scene& scene, const Mod3D::Camera& camera, Mod3D::Screen& screen)
+{
+    UpdateSkyOffset(camera, screen);
+    UpdateRowTables(camera, screen);
+    GroundPlain(MakeGroundView(scene, camera, screen), {0, screen.ScreenMaxX}, screen.TxtFilter);
+    for (const Obj& object : scene.Objects.Items)
+    {
+        const Mod3D::Point3 c = WorldToCamera(camera, object.X, object.Y, object.Z);
+        const double d = static_cast<double>(c.Z) + object.Radius, r = object.Radius / d * camera.Zoom;
+        if (d < screen.NearZ)
+            continue;
+        const double sx = base::RoundEven(c.X / d * camera.Zoom + screen.CenterX);
+        const double sy = base::RoundEven(c.Y / d * camera.Zoom + screen.CenterY);
+        if (sx + r < 0 || sx - r > screen.ScreenW || sy + r < 0 || sy - r >= screen.ScreenH)
+            continue;
+        const Mod3D::Rotation rotation = Mod3D::MakeRotation(object.AngleA, object.AngleB);
+        for (const Mod3D::ObjMesh& mesh : object.Mesh)
+        {
+            const auto corner = [&](int i, int j)
+            {
+                const Mod3D::MeshPt& p = mesh.Pts.At(i, j);
+                return SeeCorner(camera, RotatePoint(rotation, object.X, object.Y, object.Z, p.X, p.Y, p.Z), p.U, p.V);
+            };
+            const auto triangle = [&](const Mod3D::Corner& p, const Mod3D::Corner& q, const Mod3D::Corner& s)
+            {
+                if (mesh.Colour < 0)
+                    DrawTriTex(camera, screen, p, q, s,
+                               Mod3D::MakeTexelField(scene.Textures.At(mesh.TexIndex).Pic.Pixels, 30, 20));
+                else
+                    DrawTriFlat(scene, camera, screen, p.World, q.World, s.World, {mesh.ColR, mesh.ColG, mesh.ColB});
+            };
+            for (int i = 0; i <= mesh.Rows - 2 && mesh.Free == 0; ++i)
+                for (int j = 0; j <= mesh.Cols - 2; ++j)
+                {
+                    triangle(corner(i, j), corner(i + 1, j), corner(i, j + 1));
+                    triangle(corner(i + 1, j + 1), corner(i + 1, j), corner(i, j + 1));
+                }
+        }
+    }
+    for (const Mod3D::ObjMesh& mesh : scene.WorldMeshes)
+    {
+        const auto world = [&](int i, int j) {
+            return Mod3D::Point3{mesh.Pts.At(i, j).X, mesh.Pts.At(i, j).Y, mesh.Pts.At(i, j).Z};
+        };
+        const Mod3D::Rgb colour{mesh.ColR, mesh.ColG, mesh.ColB};
+        DrawTriFlat(scene, camera, screen, world(0, 0), world(1, 0), world(0, 1), colour);
+        DrawTriFlat(scene, camera, screen, world(1, 1), world(1, 0), world(0, 1), colour);
+    }
+    for (const Mod3D::Poly& poly : scene.Polys.Items)
+        for (std::size_t i = 0; i + 1 < poly.Pts.size(); ++i)
+        {
+            const Mod3D::PolyPt &a = poly.Pts[i], &b = poly.Pts[i + 1];
+            DrawLine3D(scene, camera, screen, {a.X, a.Y, a.Z}, {b.X, b.Y, b.Z}, {poly.ColR, poly.ColG, poly.ColB});
+        }
+    for (const Mod3D::Sprite3D& sprite : scene.Sprites.Items)
+        DrawSprite3DPlain(camera, screen, sprite);
+}
+}
+
+TEST(RenderFrame, IsThePlainFrameForRandomWorlds)
+{
+    base::Random random;
+    random.Seed(77);
+    const int sizes[][2] = {{240, 200}, {333, 257}, {600, 312}};
+    for (int round = 0; round < 40; ++round)
+    {
+        const Scene scene = CrowdedScene(random);
+        const int* size = sizes[round % 3];
+        const int threads[] = {1, 3, 5, 16};
+        scenes::View fast(size[0], size[1], round / 3 % 3, threads[round % 4]), plain(size[0], size[1], round / 3 % 3);
+        for (scenes::View* view : {&fast, &plain})
+        {
+            base::Random place;
+            place.Seed(static_cast<std::uint64_t>(round));
+            const auto draw = [&](double least, double most)
+            { return static_cast<float>(scenes::Draw(place, least, most)); };
+            view->Look(draw(0, 120), draw(0.5, 12), draw(0, 90), draw(-4, 4), draw(-0.9, 0.3));
+        }
+        RenderFrame(scene, fast.Camera, fast.Screen, nullptr);
+        DrawPlain(scene, plain.Camera, plain.Screen);
+        ASSERT_EQ(fast.Screen.Frame.Bytes, plain.Screen.Frame.Bytes) << round;
+        ASSERT_EQ(fast.Screen.Depth, plain.Screen.Depth) << round;
+    }
+}
+
+// Every number of a crowded world in turn becomes none, endless or huge. Nothing crashes, hangs or leaves the frame.
+TEST(RenderFrame, NumbersThatAreNoneDoNoHarm)
+{
+    base::Random random;
+    random.Seed(99);
+    const float odd[] = {std::numeric_limits<float>::quiet_NaN(),
+                         std::numeric_limits<float>::infinity(),
+                         -std::numeric_limits<float>::infinity(),
+                         3.4e38f,
+                         -3.4e38f,
+                         1e20f,
+                         1e-45f,
+                         0.0f,
+                         2e9f};
+    for (int round = 0; round < 120; ++round)
+    {
+        Scene scene = CrowdedScene(random);
+        const auto spoil = [&](float& field)
+        {
+            if (scenes::DrawWhole(random, 0, 3) == 0)
+                field = odd[scenes::DrawWhole(random, 0, 8)];
+        };
+        for (Obj& object : scene.Objects.Items)
+        {
+            for (float* field : {&object.X, &object.Y, &object.Z, &object.AngleA, &object.AngleB, &object.Radius})
+                spoil(*field);
+            for (Mod3D::ObjMesh& mesh : object.Mesh)
+                for (Mod3D::MeshPt& point : mesh.Pts.Points)
+                {
+                    for (float* field : {&point.X, &point.Y, &point.Z})
+                        spoil(*field);
+                    point.U = scenes::DrawWhole(random, 0, 1) == 0 ? std::numeric_limits<std::int32_t>::min()
+                                                                   : std::numeric_limits<std::int32_t>::max();
+                }
+        }
+        for (Mod3D::Poly& poly : scene.Polys.Items)
+            for (Mod3D::PolyPt& point : poly.Pts)
+                for (float* field : {&point.X, &point.Y, &point.Z})
+                    spoil(*field);
+        for (Mod3D::Sprite3D& sprite : scene.Sprites.Items)
+            for (float* field : {&sprite.X, &sprite.Y, &sprite.Z, &sprite.Scale, &sprite.Alpha})
+                spoil(*field);
+        for (float* field : {&scene.LightR, &scene.LightG, &scene.LightB, &scene.Ground.GroundScale})
+            spoil(*field);
+        scenes::View view(240, 200, round % 3);
+        view.Look(60, 3, 40, 0.5f, -0.2f);
+        if (round % 2 == 0)
+        {
+            for (float* field : {&view.Camera.CamX, &view.Camera.CamY, &view.Camera.CamZ, &view.Camera.CamYaw,
+                                 &view.Camera.CamPitch, &view.Camera.Zoom, &view.Screen.NearZ, &view.Screen.FarZ})
+                spoil(*field);
+            if (round % 4 == 0)
+                UpdateCameraTrig(view.Camera);
+        }
+        RenderFrame(scene, view.Camera, view.Screen, nullptr);
+    }
+}
