@@ -17,7 +17,8 @@ struct Part
 
 static const std::vector<Part>& Parts()
 {
-    static const std::vector<Part> parts{{"track", Assets::BuildTrack}, {"cars", Assets::BuildCars}, {"hud", Assets::BuildHud}};
+    static const std::vector<Part> parts{
+        {"track", Assets::BuildTrack}, {"cars", Assets::BuildCars}, {"hud", Assets::BuildHud}};
     return parts;
 }
 

@@ -1,6 +1,6 @@
 // Whole frames of the shipped map along a recorded camera path; one iteration is one frame, the path over and over.
-#include "bench/ShippedRace.h"
 #include "render/RenderFrame.h"
+#include "tests/support/ShippedRace.h"
 
 #include <benchmark/benchmark.h>
 
@@ -8,7 +8,7 @@ namespace
 {
 struct Path
 {
-    bench::ShippedRace Race;
+    support::ShippedRace Race;
     std::vector<Mod3D::Camera> Cameras;
     Path() { Cameras = Race.RecordPath(1600); }
 };

@@ -1,5 +1,5 @@
 // Game ticks of the shipped race with every car driven by the computer, and the way from program start to the menu.
-#include "bench/ShippedRace.h"
+#include "tests/support/ShippedRace.h"
 
 #include <benchmark/benchmark.h>
 
@@ -7,7 +7,7 @@ namespace
 {
 void GameTick(benchmark::State& state)
 {
-    bench::ShippedRace race;
+    support::ShippedRace race;
     for (int tick = 0; tick < 400; ++tick)
         race.Step();
     for (auto _ : state)
@@ -19,7 +19,7 @@ BENCHMARK(GameTick)->Unit(benchmark::kMicrosecond)->Repetitions(5)->ReportAggreg
 void StartToMenu(benchmark::State& state)
 {
     for (auto _ : state)
-        bench::ShippedRace race;
+        support::ShippedRace race;
 }
 BENCHMARK(StartToMenu)->Unit(benchmark::kMillisecond)->Repetitions(5)->ReportAggregatesOnly();
 }

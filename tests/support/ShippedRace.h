@@ -1,19 +1,21 @@
-// bench/ShippedRace.h: the shipped race on a machine without a window, and the camera's path through it.
+// tests/support/ShippedRace.h: the shipped race on a machine without a window, and the camera's path through it.
+// VELKAR_ROOT is the folder that holds data/.
 #pragma once
 #include "platform/headless/Machine.h"
 #include "shell/Application.h"
 
-#include <memory>
+#include <cstdint>
 #include <vector>
 
-namespace bench
+namespace support
 {
 class ShippedRace
 {
 public:
     // Loads the game from the source tree and starts the race, every car driven by the computer.
-    ShippedRace();
+    explicit ShippedRace(std::uint64_t seed = 7);
 
+    const std::vector<headless::Box>& Boxes() const { return Machine.Boxes; } // shown since the start
     shell::Form1& Form() { return *Application.Main(); }
     shell::Game& Game() { return Form().State(); }
     // One step of 25 ms.
@@ -22,7 +24,7 @@ public:
     std::vector<Mod3D::Camera> RecordPath(int ticks);
 
 private:
-    headless::Machine Machine;
+    headless::Machine Machine{base::Files(VELKAR_ROOT)};
     shell::Application Application;
 };
 }

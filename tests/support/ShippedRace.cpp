@@ -1,13 +1,13 @@
-#include "bench/ShippedRace.h"
+#include "tests/support/ShippedRace.h"
 
-namespace bench
+namespace support
 {
-ShippedRace::ShippedRace() : Machine(base::Files(VELKAR_ROOT)), Application(Machine)
+ShippedRace::ShippedRace(std::uint64_t seed) : Application(Machine)
 {
     Application.Start();
     Machine.Clock += 1000;
     Application.RunTimers();
-    Game().Random.Seed(7);
+    Game().Random.Seed(seed);
     Form().StartProcess();
     for (world::Player& player : Game().Race.Players)
         player.Control = 1;
