@@ -16,3 +16,9 @@ if(VELKAR_SANITIZE)
         -fsanitize=address,undefined -fno-sanitize-recover=all -fno-omit-frame-pointer)
     target_link_options(velkar_flags INTERFACE -fsanitize=address,undefined)
 endif()
+if(VELKAR_FUZZ)
+    target_compile_options(velkar_flags INTERFACE
+        -fsanitize=fuzzer-no-link,address,undefined -fno-sanitize-recover=all -fno-omit-frame-pointer
+        -Wno-sign-conversion) # with clang, part of -Wconversion
+    target_link_options(velkar_flags INTERFACE -fsanitize=address,undefined)
+endif()

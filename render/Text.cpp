@@ -9,7 +9,7 @@ namespace ModBitmap
 {
 namespace
 {
-constexpr int Tab = 9, LineFeed = 10, Return = 13;
+constexpr int Tab = 9, Return = 13; // 10 has no glyph
 
 // What a glyph takes of its line: its drawn width and one pixel of space, not yet a whole number.
 double Advance(const Glyph& glyph, float scale)

@@ -11,7 +11,7 @@ namespace modDinamica
 {
 namespace
 {
-constexpr float LeastRatio = 0.2f, MostRatio = 5.0f;
+constexpr double LeastRatio = 0.2, MostRatio = 5.0; // of two masses
 constexpr int FirstCabinSphere = 6; // a hit from here up may break the glass
 constexpr int GlassMesh = 20;
 constexpr float MostShake = 4.0f;
@@ -97,7 +97,7 @@ bool FindContact(const Mod3D::Obj& i, const Mod3D::Rotation& turnI, const Mod3D:
 double MassRatio(const Mod3D::Obj& i, const Mod3D::Obj& j)
 {
     const double ratio = static_cast<double>(j.Mass) / i.Mass;
-    return std::isnan(ratio) ? 1.0 : std::clamp<double>(ratio, 0.2, 5.0);
+    return std::isnan(ratio) ? 1.0 : std::clamp(ratio, LeastRatio, MostRatio);
 }
 
 Impact ImpactOf(const Body& i, const Body& j, double ratio, double half)
