@@ -47,7 +47,7 @@ double Billow(const Spot& s, double scale, std::uint32_t seed)
 void WriteSprites(const std::string& folder)
 {
     WritePuff(folder + "/smoke.bmp", 0.30, 21,
-              [](const Spot& s) { return Mix(Hex(0x3E3D40), Hex(0xB9B6B2), Billow(s, 2.4, 31)); });
+              [](const Spot& s) { return Mix(Hex(0x777679), Hex(0xE4E1DC), Billow(s, 2.4, 31)); });
     WritePuff(
         folder + "/water.bmp", 0.36, 22,
         [](const Spot& s)

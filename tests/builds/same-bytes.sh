@@ -1,0 +1,56 @@
+#!/usr/bin/env bash
+# The same script gives the same answers and the same frames in every kind of build.
+#   same-bytes.sh ROOT WORK VELKAR-DRIVE…
+set -euo pipefail
+root=$1 work=$2
+shift 2
+rm -rf "$work" && mkdir -p "$work"
+cat >"$work/race.drive" <<'S'
+random seed 2026
+load
+window menu.bmp
+click cSTART
+poke players[0].Control 1
+run 9000
+checksum
+frame chase.bmp
+depth chase.depth
+poke players[0].Damage 4
+poke players[1].Damage 8
+poke camera.View 4
+poke screen.TxtFilter 1
+run 4000
+checksum
+peek players
+frame smoke.bmp
+poke players[0].Control 0
+poke objects[5].X 300
+key down 38
+key down 37
+run 3000
+poke screen.TxtFilter 0
+poke camera.View 1
+run 1000
+checksum
+frame driver.bmp
+S
+first=""
+seen=0
+for drive in "$@"; do
+    if [ ! -x "$drive" ]; then
+        echo "not built: $drive"
+        continue
+    fi
+    seen=$((seen + 1))
+    mkdir "$work/$seen"
+    (cd "$work/$seen" && "$drive" --root "$root" ../race.drive >answers.txt) || { echo "failed: $drive"; exit 1; }
+    first=${first:-$work/$seen}
+    for file in "$first"/*; do
+        cmp "$file" "$work/$seen/${file##*/}" || { echo "$drive gives other bytes"; exit 1; }
+    done
+done
+if [ "$seen" -lt 2 ]; then
+    echo "skipped: only one kind of build is here; scripts/test builds all of them"
+    exit 77
+fi
+echo "$seen builds agree"
