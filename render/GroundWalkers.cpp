@@ -35,6 +35,7 @@ bool GroundWalkers::Run(const BandWalk& walk, std::span<const Band> bands, std::
         const std::lock_guard lock(Mutex);
         Work = &walk;
         Bands = bands;
+        Deadline = deadline;
         NextBand.store(0, std::memory_order_relaxed);
         Stop.store(limit.count() <= 0, std::memory_order_relaxed);
         Open = true;
@@ -42,7 +43,7 @@ bool GroundWalkers::Run(const BandWalk& walk, std::span<const Band> bands, std::
     }
     if (!Helpers.empty())
         Wake.notify_all();
-    WalkBands(WalkGate(Stop, deadline));
+    WalkBands();
 
     std::unique_lock lock(Mutex);
     Open = false; // a helper that has not woken by now is not needed
@@ -67,15 +68,16 @@ void GroundWalkers::Help()
         seen = Round;
         ++Active;
         lock.unlock();
-        WalkBands(WalkGate(Stop));
+        WalkBands();
         lock.lock();
         if (--Active == 0)
             Done.notify_one();
     }
 }
 
-void GroundWalkers::WalkBands(WalkGate gate)
+void GroundWalkers::WalkBands()
 {
+    WalkGate gate(Stop, Deadline);
     for (std::size_t i = NextBand.fetch_add(1, std::memory_order_relaxed); i < Bands.size();
          i = NextBand.fetch_add(1, std::memory_order_relaxed))
         Work->Walk(Bands[i], gate);

@@ -6,6 +6,7 @@
 #include <atomic>
 #include <chrono>
 #include <condition_variable>
+#include <cstdint>
 #include <mutex>
 #include <span>
 #include <thread>
@@ -13,25 +14,30 @@
 
 namespace Mod3D
 {
-// Asked before every row: whether the pass may still draw. The calling thread's gate also keeps the time.
+// Asked before every row: whether the pass may still draw. Every walker has its own and all share the wish to stop.
+// Each also keeps the time, because the system may leave the calling thread waiting; the clock is read now and then.
 class WalkGate
 {
 public:
     using Clock = std::chrono::steady_clock;
-    explicit WalkGate(std::atomic<bool>& stop) : Stop(stop) {}
-    WalkGate(std::atomic<bool>& stop, Clock::time_point deadline) : Stop(stop), Deadline(deadline), KeepsTime(true) {}
+    // Without a deadline only the wish to stop counts.
+    explicit WalkGate(std::atomic<bool>& stop, Clock::time_point deadline = Clock::time_point::max())
+        : Stop(stop), Deadline(deadline)
+    {
+    }
 
     bool MayGoOn()
     {
-        if (KeepsTime && Clock::now() >= Deadline)
+        if (Asked++ % RowsPerLook == 0 && Clock::now() >= Deadline)
             Stop.store(true, std::memory_order_relaxed);
         return !Stop.load(std::memory_order_relaxed);
     }
 
 private:
+    static constexpr std::uint32_t RowsPerLook = 16;
     std::atomic<bool>& Stop;
     Clock::time_point Deadline;
-    bool KeepsTime = false;
+    std::uint32_t Asked = 0;
 };
 
 // The work of one band; called from several threads at once, each with another band.
@@ -55,13 +61,14 @@ public:
 
 private:
     void Help();
-    void WalkBands(WalkGate gate);
+    void WalkBands();
 
     // The frame's work; written only while no helper is active.
     const BandWalk* Work = nullptr;
     std::span<const Band> Bands;
     std::atomic<std::size_t> NextBand{0};
     std::atomic<bool> Stop{false};
+    WalkGate::Clock::time_point Deadline;
 
     // The hand-over.
     std::mutex Mutex;

@@ -136,10 +136,10 @@ TEST(RenderFrame, AGroundPassOutOfTimeIsCutOffAndTheFrameIsShown)
     }
 }
 
-// A pass that is truly too slow: two walkers cannot draw a million pixels in a millisecond.
+// A pass that is truly too slow: two walkers cannot draw twelve million pixels in a millisecond.
 TEST(RenderFrame, ASlowGroundPassLeavesItsLastRowsAsTheyWere)
 {
-    scenes::View view(1200, 900, 2, 5);
+    scenes::View view(4000, 3000, 2, 5);
     base::Random random;
     random.Seed(1);
     Scene scene;
