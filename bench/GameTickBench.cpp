@@ -55,7 +55,8 @@ void AddObject(World& world)
 // On the course, in rows of four.
 void AddCar(World& world, int number)
 {
-    const float angle = static_cast<float>(number / 4) * 0.03f;
+    const int row = number / 4;
+    const float angle = static_cast<float>(row) * 0.03f;
     const float distance = 250.0f + static_cast<float>(number % 4) * 4.0f;
     const std::int16_t object =
         modPrimitive::MakeObj(world.Scene, WorldSize / 2 - std::cos(angle) * distance, 0,
@@ -66,7 +67,7 @@ void AddCar(World& world, int number)
     for (std::int16_t sphere = 0; sphere < CarSpheres; ++sphere)
     {
         modPrimitive::EditObjSfere(world.Scene, object, sphere, static_cast<float>(sphere % 2) - 0.5f, 0.6f,
-                                   static_cast<float>(sphere / 2) * 0.8f - 1.6f, 0.6f);
+                                   std::floor(static_cast<float>(sphere) / 2) * 0.8f - 1.6f, 0.6f);
         for (std::int16_t link = 0; link < 8; ++link)
             modPrimitive::AddSfereLink(world.Scene, object, sphere, link, 1, 1);
     }

@@ -12,7 +12,7 @@ namespace modDinamica
 namespace
 {
 constexpr double LeastRatio = 0.2, MostRatio = 5.0; // of two masses
-constexpr int FirstCabinSphere = 6; // a hit from here up may break the glass
+constexpr int FirstCabinSphere = 6;                 // a hit from here up may break the glass
 constexpr int GlassMesh = 20;
 constexpr float MostShake = 4.0f;
 

@@ -4,6 +4,7 @@
 #include <gtest/gtest.h>
 
 #include <atomic>
+#include <cmath>
 #include <cstdlib>
 #include <new>
 
@@ -33,7 +34,7 @@ test::World BusyWorld()
         world.Player(car).Damage = static_cast<float>(n % 10);
     }
     for (int n = 0; n < 200; ++n)
-        world.AddBall(static_cast<float>(n % 20 * 6), static_cast<float>(n / 20 * 12), 2, 1);
+        world.AddBall(static_cast<float>(n % 20 * 6), std::floor(static_cast<float>(n) / 20) * 12, 2, 1);
     return world;
 }
 

@@ -32,11 +32,11 @@ TEST(NearStrips, EveryPairThatIsNearIsACandidateInAscendingOrder)
     random.Seed(7);
     for (const double world : {100.0, 768.0, 3000.0})
     {
-        std::vector<Disc> discs;
-        for (int n = 0; n < 300; ++n)
-            discs.push_back({static_cast<float>((random.Next() - 0.5) * world),
-                             static_cast<float>((random.Next() - 0.5) * world),
-                             static_cast<float>(random.Next() * 20.0 * (n % 5 == 0 ? -4.0 : 1.0))});
+        std::vector<Disc> discs(300);
+        for (std::size_t n = 0; n < discs.size(); ++n)
+            discs[n] = {static_cast<float>((random.Next() - 0.5) * world),
+                        static_cast<float>((random.Next() - 0.5) * world),
+                        static_cast<float>(random.Next() * 20.0 * (n % 5 == 0 ? -4.0 : 1.0))};
         NearStrips strips;
         strips.Reset(discs.size());
         for (std::size_t n = 0; n < discs.size(); ++n)

@@ -75,7 +75,11 @@ struct World
             byte = value;
     }
     // The blue byte of a ground texel.
-    int Texel(std::int32_t column, std::int32_t row) { return Scene.Ground.Sharp.Pixels.Row(row)[column * 3]; }
+    int Texel(std::int32_t column, std::int32_t row) { return *TexelAt(column, row); }
+    const std::uint8_t* TexelAt(std::ptrdiff_t column, std::int32_t row)
+    {
+        return Scene.Ground.Sharp.Pixels.Row(row) + column * 3;
+    }
 
     static ModBitmap::PicReference MakePicture()
     {

@@ -198,7 +198,7 @@ TEST(TyreMarks, DarkenTheTexelsUnderBothSides)
     modDinamica::TyreMarks(sim, world.Player(0), 0.7);
     EXPECT_EQ(world.Texel(10, 11), 71); // 70.7
     EXPECT_EQ(world.Texel(10, 9), 71);
-    const std::uint8_t* texel = world.Scene.Ground.Sharp.Pixels.Row(11) + 10 * 3;
+    const std::uint8_t* texel = world.TexelAt(10, 11);
     EXPECT_EQ(texel[1], 71);
     EXPECT_EQ(texel[2], 71);
     modDinamica::TyreMarks(sim, world.Player(0), 0.9);
