@@ -2,40 +2,20 @@
 #include "render/Effects.h"
 #include "render/Primitives.h"
 #include "render/RenderFrame.h"
+#include "tests/support/Allocations.h"
 #include "tests/support/Scenes.h"
 
 #include <gtest/gtest.h>
 
-#include <atomic>
-#include <cstdlib>
 #include <memory>
-#include <new>
 #include <string>
 
 namespace
 {
-std::atomic<std::size_t> Allocations{0};
-
 struct NoSink : Mod3D::FrameSink
 {
     void Present(int, int, std::span<const std::uint8_t>) override {}
 };
-}
-
-void* operator new(std::size_t size)
-{
-    ++Allocations;
-    if (void* memory = std::malloc(size == 0 ? 1 : size))
-        return memory;
-    throw std::bad_alloc();
-}
-void operator delete(void* memory) noexcept
-{
-    std::free(memory);
-}
-void operator delete(void* memory, std::size_t) noexcept
-{
-    std::free(memory);
 }
 
 TEST(Allocation, NoneInAFrameWithTextSpritesAndParticles)
@@ -82,11 +62,11 @@ TEST(Allocation, NoneInAFrameWithTextSpritesAndParticles)
     };
     for (int number = 0; number < 60; ++number)
         frame(number);
-    const std::size_t before = Allocations;
+    const std::size_t before = support::Allocations();
     for (int number = 0; number < 60; ++number)
         frame(number);
-    EXPECT_EQ(Allocations, before);
+    EXPECT_EQ(support::Allocations(), before);
     // The counter counts at all.
     const auto some = std::make_unique<int>(1);
-    EXPECT_EQ(Allocations, before + 1);
+    EXPECT_EQ(support::Allocations(), before + 1);
 }

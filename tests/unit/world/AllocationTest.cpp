@@ -1,17 +1,13 @@
 // A tick of the simulation takes no memory once its lists have grown.
+#include "tests/support/Allocations.h"
 #include "World.h"
 
 #include <gtest/gtest.h>
 
-#include <atomic>
 #include <cmath>
-#include <cstdlib>
-#include <new>
 
 namespace
 {
-std::atomic<std::size_t> Allocations{0};
-
 struct NoFinish : modDinamica::FinishSink
 {
     void Finished(const std::string&) override {}
@@ -52,23 +48,6 @@ void Tick(test::World& world)
 }
 }
 
-// Not inlined: the compiler would take the pair of malloc and delete for a mistake.
-[[gnu::noinline]] void* operator new(std::size_t size)
-{
-    ++Allocations;
-    if (void* memory = std::malloc(size == 0 ? 1 : size))
-        return memory;
-    throw std::bad_alloc();
-}
-[[gnu::noinline]] void operator delete(void* memory) noexcept
-{
-    std::free(memory);
-}
-[[gnu::noinline]] void operator delete(void* memory, std::size_t) noexcept
-{
-    std::free(memory);
-}
-
 TEST(Allocation, NoneInATickOnceTheListsHaveGrown)
 {
     test::World world = BusyWorld();
@@ -78,9 +57,9 @@ TEST(Allocation, NoneInATickOnceTheListsHaveGrown)
     // The lists of particles may still find a new height: memory for them is had before.
     world.Scene.Particles.reserve(world.Scene.Particles.size() + 1000);
     world.Scene.Sprites.Items.reserve(world.Scene.Sprites.Items.size() + 1000);
-    const std::size_t before = Allocations;
+    const std::size_t before = support::Allocations();
     for (int tick = 0; tick < 400; ++tick)
         Tick(world);
-    EXPECT_EQ(Allocations - before, 0u);
+    EXPECT_EQ(support::Allocations() - before, 0u);
     EXPECT_GT(before, 0u); // the counter counts
 }

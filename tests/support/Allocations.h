@@ -1,0 +1,8 @@
+// tests/support/Allocations.h: counts the memory that a test program asks for. Link Allocations.cpp into the program.
+#pragma once
+#include <cstddef>
+
+namespace support
+{
+std::size_t Allocations(); // calls of operator new since the program began, on every thread
+}
