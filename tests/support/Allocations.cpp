@@ -22,11 +22,20 @@ void* operator new(std::size_t size)
         return memory;
     throw std::bad_alloc();
 }
+void* operator new(std::size_t size, const std::nothrow_t&) noexcept
+{
+    ++Count;
+    return std::malloc(size == 0 ? 1 : size);
+}
 void operator delete(void* memory) noexcept
 {
     std::free(memory);
 }
 void operator delete(void* memory, std::size_t) noexcept
+{
+    std::free(memory);
+}
+void operator delete(void* memory, const std::nothrow_t&) noexcept
 {
     std::free(memory);
 }
