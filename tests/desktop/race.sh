@@ -166,11 +166,11 @@ place
 x=$X y=$Y
 xdotool mousemove $((X + 200)) $((Y + 200)) mousedown 1
 for step in 1 2 3 4; do xdotool mousemove $((x + 200 + 10 * step)) $((y + 200 - 5 * step)); sleep 0.1; done
+xdotool mouseup 1
 for _ in $(seq 50); do
     place
     [ "$X,$Y" = "$((x + 40)),$((y - 20))" ] && break || sleep 0.1
 done
-xdotool mouseup 1
 [ "$X,$Y" = "$((x + 40)),$((y - 20))" ] || fail "the window was dragged to $X,$Y from $x,$y, not by 40,-20"
 
 # The menu over the suspended race, back, and out.
