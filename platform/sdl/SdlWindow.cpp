@@ -94,19 +94,12 @@ void SdlWindow::Dispatch(const SDL_Event& event)
         DispatchText(event.text.text);
         break;
     case SDL_MOUSEBUTTONDOWN:
-        // The mouse stays with the window while it is dragged, also where it leaves it.
-        SDL_CaptureMouse(SDL_TRUE);
         if (const int button = ButtonValue(event.button.button))
             Events.MouseDown(button, {event.button.x, event.button.y});
         break;
     case SDL_MOUSEBUTTONUP:
-        SDL_CaptureMouse(SDL_FALSE);
         if (const int button = ButtonValue(event.button.button))
-        {
-            // SDL keeps a motion to itself that ends where the window has meanwhile moved to: the place is told again.
-            Events.MouseMove(button, {event.button.x, event.button.y});
             Events.MouseUp(button, {event.button.x, event.button.y});
-        }
         break;
     case SDL_MOUSEMOTION:
         Events.MouseMove(ButtonsHeld(event.motion.state), {event.motion.x, event.motion.y});

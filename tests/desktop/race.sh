@@ -166,11 +166,18 @@ place
 x=$X y=$Y
 xdotool mousemove $((X + 200)) $((Y + 200)) mousedown 1
 for step in 1 2 3 4; do xdotool mousemove $((x + 200 + 10 * step)) $((y + 200 - 5 * step)); sleep 0.1; done
-xdotool mouseup 1
+# A slow machine may still be moving the window; the hand trembles meanwhile.
 for _ in $(seq 50); do
     place
-    [ "$X,$Y" = "$((x + 40)),$((y - 20))" ] && break || sleep 0.1
+    [ "$X,$Y" = "$((x + 40)),$((y - 20))" ] && break
+    xdotool mousemove $((x + 241)) $((y + 181))
+    sleep 0.1
+    xdotool mousemove $((x + 240)) $((y + 180))
+    sleep 0.2
 done
+xdotool mouseup 1
+sleep 0.5
+place
 [ "$X,$Y" = "$((x + 40)),$((y - 20))" ] || fail "the window was dragged to $X,$Y from $x,$y, not by 40,-20"
 
 # The menu over the suspended race, back, and out.
