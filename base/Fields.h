@@ -12,39 +12,39 @@
 
 namespace base
 {
-template<class Record> struct FieldsOf; // specialised beside each record
+template <class Record> struct FieldsOf; // specialised beside each record
 
-template<class Record, class Member> struct Field
+template <class Record, class Member> struct Field
 {
     std::string_view Name;
     Member Record::*Pointer;
     static constexpr bool Writable = true;
 };
-template<class Record, class Member> Field(const char*, Member Record::*) -> Field<Record, Member>;
+template <class Record, class Member> Field(const char*, Member Record::*) -> Field<Record, Member>;
 
-template<class Record, class Member> struct Fixed
+template <class Record, class Member> struct Fixed
 {
     std::string_view Name;
     Member Record::*Pointer;
     static constexpr bool Writable = false;
 };
-template<class Record, class Member> Fixed(const char*, Member Record::*) -> Fixed<Record, Member>;
+template <class Record, class Member> Fixed(const char*, Member Record::*) -> Fixed<Record, Member>;
 
-template<class Record>
+template <class Record>
 concept Described = requires
 {
     FieldsOf<std::remove_const_t<Record>>::Table;
 };
 
 // Calls visit(field, member) for every field in table order.
-template<Described Record, class Visit> void ForEachField(Record& record, Visit&& visit)
+template <Described Record, class Visit> void ForEachField(Record& record, Visit&& visit)
 {
     std::apply([&](const auto&... field) { (visit(field, record.*(field.Pointer)), ...); },
                FieldsOf<std::remove_const_t<Record>>::Table);
 }
 
 // Calls visit(field, member) for the field of that name; false when there is none.
-template<Described Record, class Visit> bool VisitField(Record& record, std::string_view name, Visit&& visit)
+template <Described Record, class Visit> bool VisitField(Record& record, std::string_view name, Visit&& visit)
 {
     bool found = false;
     ForEachField(record,

@@ -6,7 +6,7 @@ namespace base
 {
 namespace
 {
-template<class Whole> Whole Checked(double value)
+template <class Whole> Whole Checked(double value)
 {
     const std::int32_t whole = RoundEven(value);
     // OutOfRange is also a true 32-bit value: only there the real number itself must be looked at.

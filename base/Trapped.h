@@ -28,7 +28,7 @@ struct MessageSink
 void ReportError(MessageSink& messages, std::string_view procedure);
 
 // Runs body. A thrown error is shown and swallowed: what body built so far stays.
-template<class Body> void Trapped(MessageSink& messages, std::string_view procedure, Body&& body)
+template <class Body> void Trapped(MessageSink& messages, std::string_view procedure, Body&& body)
 {
     try
     {

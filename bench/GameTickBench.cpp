@@ -143,7 +143,7 @@ void GameTick(benchmark::State& state)
     }
 }
 
-template<void (*Walk)(modDinamica::Simulation&)> void Collisions(benchmark::State& state)
+template <void (*Walk)(modDinamica::Simulation&)> void Collisions(benchmark::State& state)
 {
     const std::unique_ptr<World> world = MakeWorld(static_cast<int>(state.range(0)), static_cast<int>(state.range(1)));
     for (int tick = 0; tick < 40; ++tick)

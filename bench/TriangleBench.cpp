@@ -35,7 +35,7 @@ struct Triangles
     }
 };
 
-template<bool Textured, bool Fast> void Fill(benchmark::State& state)
+template <bool Textured, bool Fast> void Fill(benchmark::State& state)
 {
     Triangles world(static_cast<int>(state.range(0)), static_cast<int>(state.range(1)));
     Mod3D::Screen& screen = world.View.Screen;

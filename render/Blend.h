@@ -26,7 +26,7 @@ enum class Rounding
 };
 
 // Each channel a x weightA + b x weightB, for weights of 0 and above whose sum is 1 (as far as doubles go).
-template<Rounding How>
+template <Rounding How>
 void Blend(const std::uint8_t* a, double weightA, const std::uint8_t* b, double weightB, std::uint8_t* pixel)
 {
 #ifdef VELKAR_SSE2

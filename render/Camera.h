@@ -66,7 +66,7 @@ struct Rgb
 Rgb SplitRGB(std::int32_t colour);
 }
 
-template<> struct base::FieldsOf<Mod3D::Camera>
+template <> struct base::FieldsOf<Mod3D::Camera>
 {
     using C = Mod3D::Camera;
     static constexpr auto Table =

@@ -142,7 +142,7 @@ void CopySky(const GroundView& view, const Band& band, std::int32_t y)
 }
 
 // Calls ground(u, v, x, pixel) for every ground pixel of the span and copies the sky into the others.
-template<class GroundPixel>
+template <class GroundPixel>
 void FillSpan(const GroundView& view, const RowSpan& span, std::int32_t margin, GroundPixel&& ground)
 {
     TexelRun run;
@@ -159,7 +159,7 @@ void FillSpan(const GroundView& view, const RowSpan& span, std::int32_t margin, 
 
 // The walk that the three filters share: by rows, because rows lie together in memory. fill draws one span of a ground
 // row.
-template<class Fill> void WalkRows(const GroundView& view, const Band& band, WalkGate& gate, Fill&& fill)
+template <class Fill> void WalkRows(const GroundView& view, const Band& band, WalkGate& gate, Fill&& fill)
 {
     if (band.Last < band.First)
         return;

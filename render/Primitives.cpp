@@ -21,7 +21,7 @@ using Mod3D::Texture;
 
 namespace
 {
-template<class Item> std::uint64_t BytesOf(const std::vector<Item>& items)
+template <class Item> std::uint64_t BytesOf(const std::vector<Item>& items)
 {
     return items.size() * sizeof(Item);
 }
@@ -48,7 +48,7 @@ void CheckRoom(const Scene& scene, std::uint64_t bytes)
         throw base::RuntimeError(base::ErrorMemory);
 }
 
-template<class Item> Item& Checked(std::vector<Item>& items, std::int32_t index)
+template <class Item> Item& Checked(std::vector<Item>& items, std::int32_t index)
 {
     if (index < 0 || static_cast<std::size_t>(index) >= items.size())
         throw base::RuntimeError(base::ErrorIndex);
@@ -66,7 +66,7 @@ Sfera& SphereAt(Scene& scene, std::int32_t object, std::int32_t sphere)
 }
 
 // Releases a record of a list whose bytes are counted.
-template<class List> void ReleaseCounted(Scene& scene, List& list, std::int32_t index, std::uint64_t bytes)
+template <class List> void ReleaseCounted(Scene& scene, List& list, std::int32_t index, std::uint64_t bytes)
 {
     if (list.At(index).Free != 0)
         return;

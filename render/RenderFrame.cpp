@@ -46,7 +46,7 @@ bool IsInView(const Camera& camera, const Screen& screen, const Obj& object)
 
 // Calls draw(a, b, c) for the two triangles of every cell, (i, j), (i + 1, j), (i, j + 1) and (i + 1, j + 1),
 // (i + 1, j), (i, j + 1). see(point) brings a point before the camera; neighbouring cells share what it gives.
-template<class See, class Draw> void ForEachTriangle(const PointGrid& grid, See&& see, Draw&& draw)
+template <class See, class Draw> void ForEachTriangle(const PointGrid& grid, See&& see, Draw&& draw)
 {
     if (grid.Cols < 2)
         return;

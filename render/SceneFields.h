@@ -3,20 +3,20 @@
 #include "base/Fields.h"
 #include "render/Scene.h"
 
-template<> struct base::FieldsOf<Mod3D::MeshPt>
+template <> struct base::FieldsOf<Mod3D::MeshPt>
 {
     using R = Mod3D::MeshPt;
     static constexpr auto Table =
         std::make_tuple(Field{"X", &R::X}, Field{"Y", &R::Y}, Field{"Z", &R::Z}, Field{"U", &R::U}, Field{"V", &R::V});
 };
 
-template<> struct base::FieldsOf<Mod3D::PolyPt>
+template <> struct base::FieldsOf<Mod3D::PolyPt>
 {
     using R = Mod3D::PolyPt;
     static constexpr auto Table = std::make_tuple(Field{"X", &R::X}, Field{"Y", &R::Y}, Field{"Z", &R::Z});
 };
 
-template<> struct base::FieldsOf<Mod3D::ObjMesh>
+template <> struct base::FieldsOf<Mod3D::ObjMesh>
 {
     using R = Mod3D::ObjMesh;
     static constexpr auto Table = std::make_tuple(
@@ -25,13 +25,13 @@ template<> struct base::FieldsOf<Mod3D::ObjMesh>
         Field{"TexIndex", &R::TexIndex}, Field{"Pts", &R::Pts});
 };
 
-template<> struct base::FieldsOf<Mod3D::SfereLink>
+template <> struct base::FieldsOf<Mod3D::SfereLink>
 {
     using R = Mod3D::SfereLink;
     static constexpr auto Table = std::make_tuple(Field{"M", &R::M}, Field{"I", &R::I}, Field{"J", &R::J});
 };
 
-template<> struct base::FieldsOf<Mod3D::Sfera>
+template <> struct base::FieldsOf<Mod3D::Sfera>
 {
     using R = Mod3D::Sfera;
     static constexpr auto Table =
@@ -39,7 +39,7 @@ template<> struct base::FieldsOf<Mod3D::Sfera>
                         Fixed{"NumLinks", &R::NumLinks}, Field{"Links", &R::Links});
 };
 
-template<> struct base::FieldsOf<Mod3D::Obj>
+template <> struct base::FieldsOf<Mod3D::Obj>
 {
     using R = Mod3D::Obj;
     static constexpr auto Table =
@@ -49,7 +49,7 @@ template<> struct base::FieldsOf<Mod3D::Obj>
                         Fixed{"NumMesh", &R::NumMesh}, Field{"Sfere", &R::Sfere}, Field{"Mesh", &R::Mesh});
 };
 
-template<> struct base::FieldsOf<Mod3D::Poly>
+template <> struct base::FieldsOf<Mod3D::Poly>
 {
     using R = Mod3D::Poly;
     static constexpr auto Table =
@@ -57,7 +57,7 @@ template<> struct base::FieldsOf<Mod3D::Poly>
                         Field{"ColG", &R::ColG}, Field{"ColB", &R::ColB}, Field{"Pts", &R::Pts});
 };
 
-template<> struct base::FieldsOf<Mod3D::Sprite3D>
+template <> struct base::FieldsOf<Mod3D::Sprite3D>
 {
     using R = Mod3D::Sprite3D;
     static constexpr auto Table = std::make_tuple(
@@ -65,14 +65,14 @@ template<> struct base::FieldsOf<Mod3D::Sprite3D>
         Field{"Scale", &R::Scale}, Field{"Alpha", &R::Alpha}, Fixed{"Width", &R::Width}, Fixed{"Height", &R::Height});
 };
 
-template<> struct base::FieldsOf<Mod3D::Particle>
+template <> struct base::FieldsOf<Mod3D::Particle>
 {
     using R = Mod3D::Particle;
     static constexpr auto Table =
         std::make_tuple(Field{"Life", &R::Life}, Field{"Sprite", &R::Sprite}, Field{"Kind", &R::Kind});
 };
 
-template<> struct base::FieldsOf<Mod3D::Pic2D>
+template <> struct base::FieldsOf<Mod3D::Pic2D>
 {
     using R = Mod3D::Pic2D;
     static constexpr auto Table =
@@ -80,7 +80,7 @@ template<> struct base::FieldsOf<Mod3D::Pic2D>
                         Fixed{"Width", &R::Width}, Fixed{"Height", &R::Height});
 };
 
-template<> struct base::FieldsOf<Mod3D::Rect2D>
+template <> struct base::FieldsOf<Mod3D::Rect2D>
 {
     using R = Mod3D::Rect2D;
     static constexpr auto Table =
@@ -89,7 +89,7 @@ template<> struct base::FieldsOf<Mod3D::Rect2D>
                         Field{"ColG", &R::ColG}, Field{"ColB", &R::ColB});
 };
 
-template<> struct base::FieldsOf<Mod3D::Label2D>
+template <> struct base::FieldsOf<Mod3D::Label2D>
 {
     using R = Mod3D::Label2D;
     static constexpr auto Table = std::make_tuple(
@@ -98,14 +98,14 @@ template<> struct base::FieldsOf<Mod3D::Label2D>
         Field{"ColR", &R::ColR}, Field{"ColG", &R::ColG}, Field{"ColB", &R::ColB}, Field{"Fade", &R::Fade});
 };
 
-template<> struct base::FieldsOf<Mod3D::Texture>
+template <> struct base::FieldsOf<Mod3D::Texture>
 {
     using R = Mod3D::Texture;
     static constexpr auto Table = std::make_tuple(Field{"Free", &R::Free}, Field{"Path", &R::Path},
                                                   Fixed{"Width", &R::Width}, Fixed{"Height", &R::Height});
 };
 
-template<> struct base::FieldsOf<Mod3D::Ground>
+template <> struct base::FieldsOf<Mod3D::Ground>
 {
     using R = Mod3D::Ground;
     static constexpr auto Table =

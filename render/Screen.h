@@ -68,7 +68,7 @@ void ApplyResolution(base::MessageSink& messages, Screen& screen, Camera& camera
 const char* FilterName(std::int16_t filter);
 }
 
-template<> struct base::FieldsOf<Mod3D::Screen>
+template <> struct base::FieldsOf<Mod3D::Screen>
 {
     using S = Mod3D::Screen;
     static constexpr auto Table = std::make_tuple(

@@ -10,7 +10,7 @@
 
 namespace Mod3D
 {
-template<class Record> struct SlotList
+template <class Record> struct SlotList
 {
     std::vector<Record> Items;
     std::int16_t Count = 0; // live records
@@ -62,7 +62,7 @@ template<class Record> struct SlotList
 };
 
 // Drawn when Visible is set and Free is clear.
-template<class Record> bool IsDrawn(const Record& record)
+template <class Record> bool IsDrawn(const Record& record)
 {
     return record.Visible != 0 && record.Free == 0;
 }

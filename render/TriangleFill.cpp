@@ -80,7 +80,7 @@ struct Chunks
 
 // Calls draw(span) for every row of the triangle on the screen that has columns on it. Rounding and order of every line
 // are those of the plain routine.
-template<bool Textured, class Draw>
+template <bool Textured, class Draw>
 void WalkSpans(const Screen& screen, const ScreenCorner& a, const ScreenCorner& b, const ScreenCorner& c, Draw&& draw)
 {
     const ScreenCorner *first = &a, *middle = &b, *last = &c;

@@ -30,7 +30,7 @@ End EdgeAt(const ScreenCorner& low, const ScreenCorner& high, std::int32_t y)
 }
 
 // Calls pixel(x, y, z, u, v) for every pixel of the triangle that lies on the screen.
-template<class Pixel>
+template <class Pixel>
 void WalkTriangle(const Screen& screen, const ScreenCorner& a, const ScreenCorner& b, const ScreenCorner& c,
                   Pixel&& pixel)
 {

@@ -81,7 +81,7 @@ bool ToScreen(const Camera& camera, const Screen& screen, const ClipCorner& from
 }
 
 // Clips, projects, and calls fill(a, b, c) for each piece that may show.
-template<class Fill>
+template <class Fill>
 void ForEachPiece(const Camera& camera, const Screen& screen, const Corner& a, const Corner& b, const Corner& c,
                   Fill&& fill)
 {

@@ -90,7 +90,7 @@ struct Game
 };
 }
 
-template<> struct base::FieldsOf<shell::Settings>
+template <> struct base::FieldsOf<shell::Settings>
 {
     using S = shell::Settings;
     static constexpr auto Table =
@@ -98,7 +98,7 @@ template<> struct base::FieldsOf<shell::Settings>
                         Field{"WebcamOn", &S::WebcamOn}, Field{"FullScreen", &S::FullScreen});
 };
 
-template<> struct base::FieldsOf<shell::KeyBindings>
+template <> struct base::FieldsOf<shell::KeyBindings>
 {
     using K = shell::KeyBindings;
     static constexpr auto Table = std::make_tuple(Field{"Bindings", &K::Bindings});

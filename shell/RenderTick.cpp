@@ -10,7 +10,7 @@ namespace
 {
 // Deliberate: a statement of this tick that fails is passed over without a word, so that one bad read-out never stops
 // the picture.
-template<class Body> void CarryOn(Body&& body)
+template <class Body> void CarryOn(Body&& body)
 {
     try
     {

@@ -35,14 +35,14 @@ struct Timers
 };
 }
 
-template<> struct base::FieldsOf<shell::TickTimer>
+template <> struct base::FieldsOf<shell::TickTimer>
 {
     using T = shell::TickTimer;
     static constexpr auto Table = std::make_tuple(Field{"Enabled", &T::Enabled}, Field{"interval", &T::interval},
                                                   Field{"Ticks", &T::Ticks}, Field{"Elapsed", &T::Elapsed});
 };
 
-template<> struct base::FieldsOf<shell::Timers>
+template <> struct base::FieldsOf<shell::Timers>
 {
     using T = shell::Timers;
     static constexpr auto Table =

@@ -22,7 +22,7 @@ ModelFile RunModelFile(Mod3D::Scene& scene, base::MessageSink& messages, const b
                        const std::string& path);
 
 // The entry of a table of commands; RuntimeError 514 for a keyword that is not in it.
-template<class Table> const auto& FindCommand(const Table& commands, const std::string& keyword)
+template <class Table> const auto& FindCommand(const Table& commands, const std::string& keyword)
 {
     for (const auto& command : commands)
         if (command.Keyword == keyword)

@@ -91,14 +91,14 @@ struct RaceAssets
 };
 }
 
-template<> struct base::FieldsOf<world::Target>
+template <> struct base::FieldsOf<world::Target>
 {
     using R = world::Target;
     static constexpr auto Table =
         std::make_tuple(Field{"X", &R::X}, Field{"Y", &R::Y}, Field{"Z", &R::Z}, Field{"R", &R::R});
 };
 
-template<> struct base::FieldsOf<world::Player>
+template <> struct base::FieldsOf<world::Player>
 {
     using P = world::Player;
     static constexpr auto Table = std::make_tuple(
@@ -112,7 +112,7 @@ template<> struct base::FieldsOf<world::Player>
         Field{"Control", &P::Control}, Field{"NextSmoke", &P::NextSmoke});
 };
 
-template<> struct base::FieldsOf<world::Race>
+template <> struct base::FieldsOf<world::Race>
 {
     using R = world::Race;
     static constexpr auto Table =
@@ -120,7 +120,7 @@ template<> struct base::FieldsOf<world::Race>
                         Fixed{"NumPlayers", &R::NumPlayers}, Field{"UserPlayer", &R::UserPlayer});
 };
 
-template<> struct base::FieldsOf<world::HeldKeys>
+template <> struct base::FieldsOf<world::HeldKeys>
 {
     using K = world::HeldKeys;
     static constexpr auto Table =

@@ -14,7 +14,7 @@ struct Stop
     Rgb Colour;
 };
 
-template<std::size_t Count> Rgb Gradient(const std::array<Stop, Count>& stops, double at)
+template <std::size_t Count> Rgb Gradient(const std::array<Stop, Count>& stops, double at)
 {
     for (std::size_t i = 1; i < Count; ++i)
         if (at < stops[i].At)

@@ -97,7 +97,7 @@ std::optional<double> SharedLevel(double unit, bool accented)
 
 // Rising places for the anchors of one axis: `ideal` says where they would like to be, strokes that lie apart keep two
 // pixels of air.
-template<class Ideal> void Place(Typeface::AxisMap& map, Ideal&& ideal)
+template <class Ideal> void Place(Typeface::AxisMap& map, Ideal&& ideal)
 {
     double last = -1e9, pixel = -1e9;
     map.Fit(

@@ -21,7 +21,7 @@ constexpr Profile Inside[] = {{0.55, 0.29}, {0.48, 0.17}, {0.40, -0.21}, {0.0, -
 constexpr int Around = 14;
 constexpr int ShineWidth = 112, ShineHeight = 96;
 
-template<std::size_t Rows> ModelMesh Turned(const Profile (&profile)[Rows], double swell, int colour)
+template <std::size_t Rows> ModelMesh Turned(const Profile (&profile)[Rows], double swell, int colour)
 {
     ModelMesh mesh(static_cast<int>(Rows), Around + 1);
     mesh.Colour = colour;

@@ -114,7 +114,7 @@ private:
 };
 
 // The corners of a grid, drawn as two triangles a cell.
-template<class CornerAt> void DrawGrid(Raster& raster, int rows, int cols, CornerAt&& corner, const Shader& shader)
+template <class CornerAt> void DrawGrid(Raster& raster, int rows, int cols, CornerAt&& corner, const Shader& shader)
 {
     for (int i = 0; i + 1 < rows; ++i)
         for (int j = 0; j + 1 < cols; ++j)

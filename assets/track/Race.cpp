@@ -82,7 +82,7 @@ double GrassRoom(const Plan& plan, double x, double z)
 }
 
 // Covers the cells where `room` is positive with circles no larger than their room, large ones first.
-template<class Room> std::vector<Zone> FillWithZones(double cell, double least, double most, const Room& room)
+template <class Room> std::vector<Zone> FillWithZones(double cell, double least, double most, const Room& room)
 {
     const int count = RoundToInt(WorldSize / cell);
     struct Place

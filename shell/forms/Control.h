@@ -88,7 +88,7 @@ struct Form
 };
 }
 
-template<> struct base::FieldsOf<forms::Control>
+template <> struct base::FieldsOf<forms::Control>
 {
     using C = forms::Control;
     static constexpr auto Table =

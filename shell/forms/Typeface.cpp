@@ -123,7 +123,7 @@ void Shape(const Glyph& glyph, const Style& style, const Metrics& metrics, Shape
 }
 
 // Calls use(glyph, pen) for each letter, pen being the x where its box begins; returns the x behind the text.
-template<class Use> double Walk(std::string_view text, const Style& style, double pen, Use&& use)
+template <class Use> double Walk(std::string_view text, const Style& style, double pen, Use&& use)
 {
     const Metrics metrics(style);
     char32_t last = 0;

@@ -31,7 +31,7 @@ struct Piece
     Point A, B, C, D;
 };
 
-template<class T, std::size_t Limit> class FixedList
+template <class T, std::size_t Limit> class FixedList
 {
 public:
     void Add(const T& value)
@@ -66,7 +66,7 @@ public:
     void Anchor(double unit) { units.Add(unit); }
 
     // Asks pixel(unit) for the place of every anchor, in rising order, equal ones again.
-    template<class Pixel> void Fit(Pixel&& pixel)
+    template <class Pixel> void Fit(Pixel&& pixel)
     {
         std::sort(units.Items().begin(), units.Items().end());
         for (const double unit : units.Items())

@@ -34,14 +34,14 @@ std::uint64_t Load(const std::uint8_t* bytes)
 
 // A record without padding whose table names every field: lists of it are summed as plain memory, which is what makes
 // a sum a tick affordable.
-template<class Record> constexpr bool IsDense()
+template <class Record> constexpr bool IsDense()
 {
     constexpr auto bytes = [](const auto&... field)
     { return (sizeof(std::declval<Record&>().*(field.Pointer)) + ... + 0u); };
     return std::is_trivially_copyable_v<Record> && std::apply(bytes, base::FieldsOf<Record>::Table) == sizeof(Record);
 }
 
-template<class Element> std::span<const std::uint8_t> Memory(const std::vector<Element>& list)
+template <class Element> std::span<const std::uint8_t> Memory(const std::vector<Element>& list)
 {
     return {reinterpret_cast<const std::uint8_t*>(list.data()), list.size() * sizeof(Element)};
 }
@@ -52,7 +52,7 @@ void Add(Digest& digest, const Mod3D::PointGrid& grid)
     digest.Bytes(Memory(grid.Points));
 }
 
-template<std::integral T> void Add(Digest& digest, T value)
+template <std::integral T> void Add(Digest& digest, T value)
 {
     digest.Word(static_cast<std::uint64_t>(value));
 }
@@ -68,21 +68,21 @@ void Add(Digest& digest, double value)
     digest.Word(std::bit_cast<std::uint64_t>(value));
 }
 
-template<base::Described Record> void Add(Digest& digest, const Record& record);
+template <base::Described Record> void Add(Digest& digest, const Record& record);
 
-template<class T> void Add(Digest& digest, const std::vector<T>& list)
+template <class T> void Add(Digest& digest, const std::vector<T>& list)
 {
     digest.Word(list.size());
     for (const T& element : list)
         Add(digest, element);
 }
 
-template<class T> void Add(Digest& digest, const Mod3D::SlotList<T>& list)
+template <class T> void Add(Digest& digest, const Mod3D::SlotList<T>& list)
 {
     Add(digest, list.Items);
 }
 
-template<base::Described Record> void Add(Digest& digest, const Record& record)
+template <base::Described Record> void Add(Digest& digest, const Record& record)
 {
     base::ForEachField(record, [&](const auto&, const auto& member) { Add(digest, member); });
 }

@@ -13,7 +13,7 @@ void AppendText(std::string& json, std::string_view text);
 // The shortest decimal that reads back to the same value; "NaN", "Infinity" and "-Infinity" as texts.
 void AppendNumber(std::string& json, float value);
 
-template<std::integral Whole> void AppendNumber(std::string& json, Whole value)
+template <std::integral Whole> void AppendNumber(std::string& json, Whole value)
 {
     char digits[24];
     const std::to_chars_result end = std::to_chars(digits, digits + sizeof digits, value);

@@ -44,7 +44,8 @@ auto RootsOf(shell::Form1& form, headless::Machine& machine)
                   Named{"clipboard", machine.Clipboard});
 }
 
-template<class Use> Outcome FollowFromRoots(shell::Form1& form, headless::Machine& machine, Steps steps, const Use& use)
+template <class Use>
+Outcome FollowFromRoots(shell::Form1& form, headless::Machine& machine, Steps steps, const Use& use)
 {
     shell::Game& game = form.State();
     if (steps[0].Name == "console" && game.Scene.Labels.Has(game.Hud.Console))

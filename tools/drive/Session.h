@@ -71,7 +71,7 @@ void Require(bool condition, std::string_view why);
 void RequireEnd(Words& words);
 std::string_view Word(Words& words, std::string_view what); // a word that must be there
 
-template<std::integral Whole> Whole Number(Words& words, std::string_view what, Whole least, Whole most)
+template <std::integral Whole> Whole Number(Words& words, std::string_view what, Whole least, Whole most)
 {
     const std::optional<Whole> number = ParseWhole<Whole>(Word(words, what));
     Require(number && *number >= least && *number <= most, std::string(what) + " must be a whole number from " +

@@ -45,24 +45,24 @@ enum class Outcome
 // ---- Views: records that exist only for the paths ----
 
 // A value under a name that it has nowhere else. Value is a reference for what lives elsewhere.
-template<class T> struct Named
+template <class T> struct Named
 {
     std::string_view Name;
     T Value;
     bool Writable = true;
 };
-template<class T> Named(const char*, T&&) -> Named<T>;
-template<class T> Named(const char*, T&&, bool) -> Named<T>;
+template <class T> Named(const char*, T&&) -> Named<T>;
+template <class T> Named(const char*, T&&, bool) -> Named<T>;
 
 // All fields of a record.
-template<class Record> struct All
+template <class Record> struct All
 {
     Record& Fields;
 };
-template<class Record> All(Record&) -> All<Record>;
+template <class Record> All(Record&) -> All<Record>;
 
 // Several of the above as one record.
-template<class... Parts> struct Merged
+template <class... Parts> struct Merged
 {
     std::tuple<Parts...> Of;
     explicit Merged(Parts... parts) : Of(std::move(parts)...) {}
@@ -76,31 +76,31 @@ struct ControlsView
 
 // ---- What kind of thing a value is ----
 
-template<class T> inline constexpr bool IsMerged = false;
-template<class... Parts> inline constexpr bool IsMerged<Merged<Parts...>> = true;
-template<class T> inline constexpr bool IsNamed = false;
-template<class T> inline constexpr bool IsNamed<Named<T>> = true;
+template <class T> inline constexpr bool IsMerged = false;
+template <class... Parts> inline constexpr bool IsMerged<Merged<Parts...>> = true;
+template <class T> inline constexpr bool IsNamed = false;
+template <class T> inline constexpr bool IsNamed<Named<T>> = true;
 
-template<class T>
+template <class T>
 concept Scalar = std::is_arithmetic_v<T> || std::same_as<T, std::string>;
 
 // Records that are shown as an array of their fields.
-template<class T> inline constexpr bool IsTuple = std::same_as<T, Mod3D::SfereLink>;
+template <class T> inline constexpr bool IsTuple = std::same_as<T, Mod3D::SfereLink>;
 
 // The elements of a list; overloads say what a list is.
-template<class T> std::span<T> Elements(std::vector<T>& list)
+template <class T> std::span<T> Elements(std::vector<T>& list)
 {
     return list;
 }
-template<class T> std::span<T> Elements(Mod3D::SlotList<T>& list)
+template <class T> std::span<T> Elements(Mod3D::SlotList<T>& list)
 {
     return list.Items;
 }
-template<class T, std::size_t N> std::span<T> Elements(std::array<T, N>& list)
+template <class T, std::size_t N> std::span<T> Elements(std::array<T, N>& list)
 {
     return list;
 }
-template<class T> std::span<T> Elements(std::span<T>& list)
+template <class T> std::span<T> Elements(std::span<T>& list)
 {
     return list;
 }
@@ -112,14 +112,14 @@ inline std::vector<std::span<Mod3D::MeshPt>> Elements(Mod3D::PointGrid& grid)
         rows.push_back(std::span(grid.Points).subspan(i * cols, cols));
     return rows;
 }
-template<class T>
+template <class T>
 concept Listed = requires(T& list)
 {
     Elements(list);
 };
 
 // Whether a record has a field of its table at all: a control has what its kind has.
-template<class T> bool HasField(const T&, std::string_view)
+template <class T> bool HasField(const T&, std::string_view)
 {
     return true;
 }
@@ -132,7 +132,7 @@ inline bool HasField(const forms::Control& control, std::string_view name)
 }
 
 // Calls visit(name, value, writable) for each field.
-template<class T, class Visit> void ForEachMember(T& record, Visit&& visit)
+template <class T, class Visit> void ForEachMember(T& record, Visit&& visit)
 {
     if constexpr (IsMerged<T>)
     {
@@ -160,9 +160,9 @@ template<class T, class Visit> void ForEachMember(T& record, Visit&& visit)
 using ControlArray = std::vector<forms::Control*>;
 ControlArray ControlArrayOf(forms::Form& form, std::string_view name);
 
-template<class T> void AppendValue(std::string& json, T& value);
+template <class T> void AppendValue(std::string& json, T& value);
 
-template<class List> void AppendArray(std::string& json, List&& elements)
+template <class List> void AppendArray(std::string& json, List&& elements)
 {
     json += '[';
     bool first = true;
@@ -177,7 +177,7 @@ template<class List> void AppendArray(std::string& json, List&& elements)
 
 void AppendControls(std::string& json, ControlsView& controls);
 
-template<class T> void AppendValue(std::string& json, T& value)
+template <class T> void AppendValue(std::string& json, T& value)
 {
     if constexpr (std::same_as<T, std::string>)
         AppendText(json, value);
@@ -218,7 +218,7 @@ struct Reader
 {
     std::string& Json;
 
-    template<class T> Outcome operator()(T& value, bool) const
+    template <class T> Outcome operator()(T& value, bool) const
     {
         AppendValue(Json, value);
         return Outcome::Done;
@@ -231,7 +231,7 @@ struct Writer
 {
     std::string_view Text; // as written behind the path
 
-    template<class T> Outcome operator()(T& value, bool writable) const
+    template <class T> Outcome operator()(T& value, bool writable) const
     {
         if constexpr (!Scalar<T>)
             return Outcome::NotOneValue;
@@ -247,7 +247,7 @@ struct Writer
     }
 
 private:
-    template<class T> Outcome SetNumber(T& value) const
+    template <class T> Outcome SetNumber(T& value) const
     {
         Words words(Text);
         const std::string_view word = words.Next();
@@ -265,9 +265,9 @@ private:
 
 // ---- Following a path ----
 
-template<class T, class Use> Outcome Follow(T& value, bool writable, Steps rest, const Use& use);
+template <class T, class Use> Outcome Follow(T& value, bool writable, Steps rest, const Use& use);
 
-template<class T, class Use> Outcome FollowIndex(T& value, bool writable, Steps rest, const Use& use)
+template <class T, class Use> Outcome FollowIndex(T& value, bool writable, Steps rest, const Use& use)
 {
     const std::size_t index = rest[0].Index;
     if constexpr (IsTuple<T>)
@@ -291,7 +291,7 @@ template<class T, class Use> Outcome FollowIndex(T& value, bool writable, Steps 
         return Outcome::NoSuchPath;
 }
 
-template<class Use> Outcome FollowControl(ControlsView& controls, Steps rest, const Use& use)
+template <class Use> Outcome FollowControl(ControlsView& controls, Steps rest, const Use& use)
 {
     if (forms::Control* alone = controls.Form.Find(rest[0].Name))
         return Follow(*alone, true, rest.subspan(1), use);
@@ -299,7 +299,7 @@ template<class Use> Outcome FollowControl(ControlsView& controls, Steps rest, co
     return array.empty() ? Outcome::NoSuchPath : Follow(array, true, rest.subspan(1), use);
 }
 
-template<class T, class Use> Outcome FollowName(T& value, bool writable, Steps rest, const Use& use)
+template <class T, class Use> Outcome FollowName(T& value, bool writable, Steps rest, const Use& use)
 {
     if constexpr (std::same_as<T, ControlsView>)
         return FollowControl(value, rest, use);
@@ -322,7 +322,7 @@ template<class T, class Use> Outcome FollowName(T& value, bool writable, Steps r
 }
 
 // Hands the value at the end of the path to use(value, writable).
-template<class T, class Use> Outcome Follow(T& value, bool writable, Steps rest, const Use& use)
+template <class T, class Use> Outcome Follow(T& value, bool writable, Steps rest, const Use& use)
 {
     if constexpr (std::is_pointer_v<T>)
         return value == nullptr ? Outcome::NoSuchPath : Follow(*value, writable, rest, use);

@@ -9,7 +9,7 @@ namespace
 {
 constexpr std::string_view Blanks = " \t";
 
-template<class Real> bool ParseWholeWord(std::string_view word, Real& value, std::errc& error)
+template <class Real> bool ParseWholeWord(std::string_view word, Real& value, std::errc& error)
 {
     const std::from_chars_result end = std::from_chars(word.data(), word.data() + word.size(), value);
     error = end.ec;

@@ -24,7 +24,7 @@ private:
 };
 
 // A word that is a whole number of the type and nothing else.
-template<std::integral Whole> std::optional<Whole> ParseWhole(std::string_view word)
+template <std::integral Whole> std::optional<Whole> ParseWhole(std::string_view word)
 {
     Whole value{};
     const std::from_chars_result end = std::from_chars(word.data(), word.data() + word.size(), value);

@@ -14,7 +14,7 @@ using namespace modPrimitive;
 namespace
 {
 // The number of the error that body throws; 0 for none.
-template<class Body> int ErrorOf(Body&& body)
+template <class Body> int ErrorOf(Body&& body)
 {
     try
     {

@@ -13,7 +13,7 @@ std::string Text(std::string_view text)
     return json;
 }
 
-template<class T> std::string Number(T value)
+template <class T> std::string Number(T value)
 {
     std::string json;
     drive::AppendNumber(json, value);

@@ -30,7 +30,7 @@ struct Walk : testing::Test
         object.Mesh[0].Pts.At(1, 2).U = 77;
     }
 
-    template<class Use> Outcome Follow(std::string_view path, const Use& use)
+    template <class Use> Outcome Follow(std::string_view path, const Use& use)
     {
         const auto steps = drive::ParsePath(path);
         if (!steps)

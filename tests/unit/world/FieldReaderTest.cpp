@@ -20,7 +20,7 @@ std::vector<std::string> Texts(const std::string& bytes)
     return texts;
 }
 
-template<class Read> int ErrorOf(const std::string& bytes, Read&& read)
+template <class Read> int ErrorOf(const std::string& bytes, Read&& read)
 {
     try
     {
