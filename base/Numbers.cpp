@@ -2,6 +2,8 @@
 
 #include "base/RuntimeError.h"
 
+#include <cmath>
+
 namespace base
 {
 namespace
@@ -29,5 +31,14 @@ std::int32_t ToInt32(double value)
 std::uint8_t ToByte(double value)
 {
     return Checked<std::uint8_t>(value);
+}
+
+float ToSingle(double value)
+{
+    // From here on a number is nearer to 2^128 than to the largest single.
+    constexpr double tooLarge = 0x1.ffffffp127;
+    if (std::fabs(value) >= tooLarge)
+        throw RuntimeError(ErrorOverflow);
+    return static_cast<float>(value);
 }
 }

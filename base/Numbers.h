@@ -45,6 +45,8 @@ inline int Sign(double value)
 std::int16_t ToInt16(double value);
 std::int32_t ToInt32(double value);
 std::uint8_t ToByte(double value);
+// The nearest single; NaN stays what it is.
+float ToSingle(double value);
 
 // 16-bit signed arithmetic that keeps the low 16 bits.
 inline std::int16_t Wrap16(std::int32_t value)
