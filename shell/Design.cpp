@@ -56,6 +56,8 @@ struct Designer
         return made;
     }
 
+    void AddOk(const char* name, std::int16_t parent) { At(Add(Kind::Button, name, parent, "OK")).IsDefault = true; }
+
     Control& At(std::int16_t index) { return Form.Controls[static_cast<std::size_t>(index)]; }
 
     void Menu()
@@ -76,7 +78,7 @@ struct Designer
         const std::int16_t panel = AddHidden(Kind::Frame, "panelOption", -1);
         Add(Kind::Label, "lblOption", panel, "Opzioni", Look::Heading);
         Add(Kind::Button, "cCtrOpt", panel, "Controlli");
-        Add(Kind::Button, "cOptOK", panel, "OK");
+        AddOk("cOptOK", panel);
         // No capture device: the box stays off, whatever the panel around it shows.
         const std::int16_t video = AddHidden(Kind::Frame, "panelVidOpt", -1);
         At(Add(Kind::CheckBox, "chkWebcam", video, "Abilita webcam")).Value = 1;
@@ -89,7 +91,7 @@ struct Designer
         Add(Kind::Label, "lblProduct", panel, "Velkar", Look::Entry);
         Add(Kind::Label, "lblMadeBy", panel, "Realizzato da", Look::Note);
         Add(Kind::Label, "lblAuthors", panel, "Velkar Team");
-        Add(Kind::Button, "cCreditOK", panel, "OK");
+        AddOk("cCreditOK", panel);
     }
 
     void Controls()
@@ -106,7 +108,7 @@ struct Designer
         for (std::size_t i = 0; i < std::size(Actions); ++i)
             Row(Actions[i], static_cast<std::int16_t>(i));
         Add(Kind::TextBox, "txtRecKey", panel, ""); // takes the next key; has no place of its own
-        Add(Kind::Button, "cCtrOptOK", panel, "OK");
+        AddOk("cCtrOptOK", panel);
     }
 
     void Row(const ActionRow& row, std::int16_t number)

@@ -100,6 +100,14 @@ private:
         void (Form1::*Run)(std::int16_t index);
     };
     static const Handler* FindHandler(std::string_view name);
+    // Picture boxes that the mouse acts on: the left button is held over one, x pixels from its left edge (beyond it
+    // while the button stays down), of so many pixels' width.
+    struct PictureHandler
+    {
+        std::string_view Name;
+        void (Form1::*Run)(std::int32_t x, std::int32_t width);
+    };
+    static const PictureHandler* FindPictureHandler(std::string_view name);
     void SetMenuVisible(bool visible);
     void TwinsFollow();
     void cSTART_Click(std::int16_t index);

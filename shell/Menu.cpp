@@ -3,6 +3,7 @@
 #include "shell/Form1.h"
 
 #include <algorithm>
+#include <array>
 #include <iterator>
 
 namespace shell
@@ -19,6 +20,14 @@ const Form1::Handler* Form1::FindHandler(std::string_view name)
     const auto* found =
         std::find_if(std::begin(Handlers), std::end(Handlers), [name](const Handler& h) { return h.Name == name; });
     return found == std::end(Handlers) ? nullptr : found;
+}
+
+const Form1::PictureHandler* Form1::FindPictureHandler(std::string_view name)
+{
+    static constexpr std::array<PictureHandler, 0> Handlers = {};
+    const auto* found =
+        std::find_if(Handlers.begin(), Handlers.end(), [name](const PictureHandler& h) { return h.Name == name; });
+    return found == Handlers.end() ? nullptr : found;
 }
 
 bool Form1::Click(std::string_view name, std::int16_t index)

@@ -31,8 +31,9 @@ enum class Look
     Shadow,  // its dark twin underneath
     Key,     // a key binding that a click changes
     FixedKey,
-    Note, // small and pale
-    Tab   // a button that chooses between sub-frames
+    Note,  // small and pale
+    Tab,   // a button that chooses between sub-frames
+    Choice // a setting that each click steps on
 };
 
 enum class Align
@@ -58,7 +59,9 @@ struct Control
     std::string Caption; // labels, buttons, frames, check boxes
     std::string Text;    // text and combo boxes
     std::string Tag;
-    std::int16_t Value = 0; // check boxes: 1 ticked
+    std::int16_t Value = 0;         // check boxes: 1 ticked
+    std::vector<std::string> Items; // combo boxes: what the list offers
+    bool IsDefault = false;         // the OK of its frame: Enter in a text box clicks it, and so does Esc
     Look Style = Look::Plain;
     Align TextAlign = Align::Left;
     std::int32_t TextSize = 14; // pixels

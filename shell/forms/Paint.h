@@ -53,6 +53,9 @@ void DrawText(Canvas& canvas, const Rect& rect, std::string_view text, double si
 // Pixels that the text advances.
 std::int32_t MeasureText(std::string_view text, double size, double weight);
 
+// A bar filled from the left to a share of 0 to 1, with its grip: for the picture boxes that are levels.
+void DrawLevel(Canvas& canvas, const Rect& rect, double share, bool enabled);
+
 // Whoever owns the pictures of the Picture controls.
 struct PicturePainter
 {

@@ -132,6 +132,7 @@ void PaintLabel(Canvas& canvas, const Control& label, const Rect& place, bool ho
         break;
     case Look::Key:
     case Look::FixedKey:
+    case Look::Choice:
         PaintKey(canvas, label, place, hot);
         break;
     case Look::Note:
@@ -154,6 +155,19 @@ const Control* CoveringFrame(const Canvas& canvas, const Form& form)
             found = &control;
     return found;
 }
+}
+
+void DrawLevel(Canvas& canvas, const Rect& rect, double share, bool enabled)
+{
+    const double level = share > 0 ? std::min(share, 1.0) : 0.0; // no number counts as nothing
+    const double radius = rect.H / 2.0;
+    FillRounded(canvas, rect, radius, Slate, enabled ? 200 : 90);
+    const std::int32_t filled = base::RoundEven(level * std::max(0, rect.W - rect.H)) + rect.H;
+    const Rect bar = {rect.X, rect.Y, std::min(filled, rect.W), rect.H};
+    FillRounded(canvas, bar, radius, enabled ? AccentDeep : Muted, enabled ? 230 : 90);
+    if (enabled)
+        FillRounded(canvas, {bar.X + bar.W - rect.H, rect.Y, rect.H, rect.H}, radius, Pale, 255);
+    OutlineRounded(canvas, rect, radius, Unit(canvas, 1), enabled ? Accent : Muted, 90);
 }
 
 void PaintForm(Canvas& canvas, const Form& form, std::int16_t hot, PicturePainter& pictures)
