@@ -33,8 +33,12 @@ void Form1::KeyUp(std::int16_t code)
     Form_KeyUp(code);
 }
 
-// Everything here is driven by key codes: typed characters mean nothing to menu and race.
-void Form1::KeyPress(std::uint8_t) {}
+// Menu and race are driven by key codes: typed characters are for the console alone.
+void Form1::KeyPress(std::uint8_t code)
+{
+    if (!HasEnded)
+        Form_KeyPress(code);
+}
 
 // While the menu or a panel shows: up and down walk over what can be clicked, Enter clicks it.
 bool Form1::MenuKeyDown(std::int16_t code)

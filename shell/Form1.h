@@ -1,6 +1,7 @@
 // shell/Form1.h: the main window: start-up, menu, race run, both ticks, keys. Handlers are named control_Event.
 // Everything runs on the window's thread.
 #pragma once
+#include "console/Console.h"
 #include "platform/Platform.h"
 #include "shell/forms/Control.h"
 #include "shell/forms/Paint.h"
@@ -15,7 +16,10 @@
 
 namespace shell
 {
-class Form1 final : public platform::WindowEvents, private modDinamica::FinishSink, private forms::PicturePainter
+class Form1 final : public platform::WindowEvents,
+                    private modDinamica::FinishSink,
+                    private forms::PicturePainter,
+                    private console::Host
 {
 public:
     explicit Form1(platform::Platform& platform);
@@ -131,13 +135,20 @@ private:
     // Keys.cpp: keys during a race, by code
     void Form_KeyDown(std::int16_t code);
     void Form_KeyUp(std::int16_t code);
-    bool IsConsoleOpen() const;
-    void ConsoleKeyUp(std::int16_t code);
     bool SetHeldKey(std::int16_t code, base::Flag held);
     bool BoundKeyUp(std::int16_t code);
     void FixedKeyUp(std::int16_t code);
     void TogglePause();
     void StepViewPlayer(int step);
+
+    // Console.cpp: the typed line of the race
+    console::Console MakeConsole();
+    bool IsConsoleOpen() { return console::IsOpen(MakeConsole()); }
+    void Form_KeyPress(std::uint8_t code);
+    void ConsoleKeyUp(std::int16_t code);
+    std::string ClipboardText() override;
+    void SetClipboardText(const std::string& text) override;
+    void SetElapsed(std::int32_t milliseconds) override;
 
     // Events.cpp: mouse, and keys while the menu shows
     bool MenuKeyDown(std::int16_t code);

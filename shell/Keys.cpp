@@ -1,6 +1,5 @@
 // Keys during a race: held flags, the rebindable one-shot actions, the fixed keys. The rebindable ones are asked first,
 // in a fixed order: one that is bound to a fixed key takes that key over.
-#include "render/Primitives.h"
 #include "shell/Form1.h"
 
 namespace shell
@@ -9,7 +8,7 @@ namespace
 {
 using Action = KeyBindings::Action;
 
-constexpr std::int16_t KeyEsc = 27, KeyUpArrow = 38, KeyP = 80, KeyBackslash = 220;
+constexpr std::int16_t KeyEsc = 27, KeyP = 80;
 constexpr std::int16_t FirstViewKey = 49, LastViewKey = 55; // "1" to "7"
 
 struct HeldAction
@@ -23,12 +22,6 @@ constexpr HeldAction HeldActions[] = {
     {Action::Left, &world::HeldKeys::KeyLeft},           {Action::Right, &world::HeldKeys::KeyRight},
     {Action::Handbrake, &world::HeldKeys::KeyHandbrake}, {Action::LookBack, &world::HeldKeys::KeyLookBack},
 };
-}
-
-bool Form1::IsConsoleOpen() const
-{
-    const std::int16_t console = TheGame.Hud.Console;
-    return TheGame.Scene.Labels.Has(console) && TheGame.Scene.Labels.At(console).Visible != 0;
 }
 
 void Form1::Form_KeyDown(std::int16_t code)
@@ -46,15 +39,6 @@ void Form1::Form_KeyUp(std::int16_t code)
         return ConsoleKeyUp(code);
     if (!SetHeldKey(code, base::False) && !BoundKeyUp(code))
         FixedKeyUp(code);
-}
-
-void Form1::ConsoleKeyUp(std::int16_t code)
-{
-    const std::int16_t console = TheGame.Hud.Console;
-    if (code == KeyEsc)
-        TheGame.Scene.Labels.At(console).Visible = 0;
-    else if (code == KeyUpArrow)
-        modPrimitive::SetLabelText(TheGame.Scene, console, TheGame.Run.LastCommand);
 }
 
 bool Form1::SetHeldKey(std::int16_t code, base::Flag held)
@@ -115,10 +99,7 @@ void Form1::FixedKeyUp(std::int16_t code)
     }
     else if (code == KeyP)
         TogglePause();
-    else if (code == KeyBackslash && TheGame.Scene.Labels.Has(TheGame.Hud.Console))
-    {
-        modPrimitive::SetLabelText(TheGame.Scene, TheGame.Hud.Console, "\\");
-        TheGame.Scene.Labels.At(TheGame.Hud.Console).Visible = 1;
-    }
+    else
+        ConsoleKeyUp(code);
 }
 }

@@ -1,0 +1,100 @@
+// Running a line, and the commands that touch no property.
+#include "console/Commands.h"
+
+#include "base/Numbers.h"
+#include "base/RuntimeError.h"
+#include "console/Texts.h"
+
+#include <iterator>
+
+namespace console
+{
+namespace
+{
+void ShowTopic(Console& console, const Topic* topic, const char* unknown)
+{
+    if (topic == nullptr)
+        Fail(unknown);
+    // Deliberate: the tab width stays for the answers that follow.
+    if (topic->TabWidth != 0)
+        console.Scene.Labels.At(console.Line).TabWidth = topic->TabWidth;
+    Answer(console, topic->Text);
+}
+
+void List(Console& console, const Words& words)
+{
+    if (words.Has(1))
+        ShowTopic(console, FindObject(words.At(1, NoObject)), BadObject);
+    else
+        Answer(console, AllObjects);
+}
+
+void Help(Console& console, const Words& words)
+{
+    if (words.Has(1))
+        ShowTopic(console, FindCommand(words.At(1, NoSuchCommand)), NoSuchCommand);
+    else
+        Answer(console, AllCommands);
+}
+
+void ToggleInformation(Console& console, const Words&)
+{
+    std::uint8_t& visible = console.Scene.Labels.At(console.Information).Visible;
+    visible = visible == 0 ? 1 : 0;
+    Close(console);
+}
+
+struct Command
+{
+    std::string_view Name;
+    void (*Run)(Console& console, const Words& words);
+};
+
+constexpr Command CommandsByName[] = {
+    {"\\set", Set}, {"\\get", Get}, {"\\lst", List}, {"\\inf", ToggleInformation}, {"\\help", Help},
+};
+
+void Run(Console& console, const Words& words)
+{
+    const std::string_view name = words.At(0, BadCommand);
+    for (const Command& command : CommandsByName)
+        if (command.Name == name)
+            return command.Run(console, words);
+    Fail(BadCommand);
+}
+}
+
+void Answer(Console& console, std::string_view text)
+{
+    Mod3D::Label2D& label = console.Scene.Labels.At(console.Line);
+    label.Text = text;
+    label.Visible = 1;
+}
+
+void Close(Console& console)
+{
+    console.Scene.Labels.At(console.Line).Visible = 0;
+}
+
+std::int16_t PlayerIndex(const world::Race& race, double number)
+{
+    const std::int16_t index = base::ToInt16(number);
+    if (index < 0 || index >= race.NumPlayers || index >= std::ssize(race.Players))
+        Fail(BadIndex);
+    return index;
+}
+
+void ExecConsoleCommand(Console& console, std::string_view line)
+{
+    if (!console.Scene.Labels.Has(console.Line))
+        return; // the display was never made: there is nothing to type into
+    try
+    {
+        Run(console, Words(line));
+    }
+    catch (const base::RuntimeError& error)
+    {
+        Answer(console, error.Description);
+    }
+}
+}
