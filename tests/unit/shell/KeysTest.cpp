@@ -97,6 +97,57 @@ TEST_F(Keys, TheConsoleTakesAllKeysAndRecalls)
     EXPECT_EQ(Label(&shell::Hud::Console).Text, "\\get game time");
 }
 
+TEST_F(Keys, CharactersReachTheConsoleOfAShownRaceAlone)
+{
+    const auto type = [this](std::string_view text)
+    {
+        for (const char c : text)
+            Form.KeyPress(static_cast<std::uint8_t>(c));
+    };
+    StartRace();
+    std::string& line = Label(&shell::Hud::Console).Text;
+    type("abc\r"); // closed
+    EXPECT_EQ(line, "\\");
+    Form.KeyDown(Backslash);
+    type("\\"); // the key that opens types its own character first
+    Form.KeyUp(Backslash);
+    type("abc");
+    EXPECT_EQ(line, "\\abc");
+    Game().Timers.RenderT.Enabled = base::False;
+    type("d");
+    EXPECT_EQ(line, "\\abc");
+    Game().Timers.RenderT.Enabled = base::True;
+    type("d");
+    EXPECT_EQ(line, "\\abcd");
+    EXPECT_TRUE(Form.CloseAsked());
+    EXPECT_NO_THROW(type("e")); // everything is released
+}
+
+TEST_F(Keys, TheConsoleHasTheWindowsClipboardAndTheClock)
+{
+    StartRace();
+    PressAndRelease(Backslash);
+    Machine.Clipboard = "set game time 7000";
+    Form.KeyPress(22);
+    Form.KeyPress(3);
+    EXPECT_EQ(Machine.Clipboard, "\\set game time 7000");
+    Machine.Clock += 10;
+    Form.KeyPress(13);
+    EXPECT_EQ(Game().Timers.GameT.Elapsed, 7000);
+    Machine.Clock += 15;
+    Form.RunTimers();
+    EXPECT_EQ(Game().Race.GameTime, 7015); // only what passed since it was set
+}
+
+TEST_F(Keys, AKeyHeldWhenTheConsoleOpensStaysHeld)
+{
+    StartRace();
+    Form.KeyDown(Up);
+    PressAndRelease(Backslash);
+    Form.KeyUp(Up);
+    EXPECT_EQ(Game().Keys.KeyAccel, -1);
+}
+
 TEST_F(Keys, PlayersAreSteppedThroughBothWaysRound)
 {
     StartRace();

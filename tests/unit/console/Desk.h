@@ -1,0 +1,52 @@
+// A console over a few records, a clipboard and a timer that only remember.
+#pragma once
+#include "base/Text.h"
+#include "console/Console.h"
+#include "tests/unit/world/World.h"
+
+#include <gtest/gtest.h>
+
+#include <optional>
+#include <string>
+
+namespace test
+{
+struct Desk : testing::Test, private console::Host
+{
+    World TheWorld;
+    Mod3D::Screen Screen;
+    std::string LastCommand = "\\";
+    std::string Clipboard;
+    std::optional<std::int32_t> Elapsed; // as last set
+    console::Console Console{TheWorld.Scene,  Label("\\"), Label(""),   TheWorld.Race,
+                             TheWorld.Camera, Screen,      LastCommand, *this};
+
+    Mod3D::Label2D& Line() { return TheWorld.Scene.Labels.At(Console.Line); }
+    Mod3D::Label2D& Information() { return TheWorld.Scene.Labels.At(Console.Information); }
+    bool IsOpen() { return Line().Visible != 0; }
+
+    void KeyUp(int code) { console::ConsoleKeyUp(Console, static_cast<std::int16_t>(code)); }
+    void Press(int code) { console::ConsoleKeyPress(Console, static_cast<std::uint8_t>(code)); }
+    void Type(std::string_view text)
+    {
+        for (std::size_t at = 0; at < text.size();)
+            Press(base::NextCode(text, at));
+    }
+    // The text of the label after the line was run.
+    const std::string& Run(std::string_view line)
+    {
+        Line().Visible = 1;
+        console::ExecConsoleCommand(Console, line);
+        return Line().Text;
+    }
+
+private:
+    std::int16_t Label(std::string_view text)
+    {
+        return modPrimitive::MakeLabel2D(TheWorld.Scene, 1, 1, 0, 0.5f, 4, {255, 255, 255}, 0, text);
+    }
+    std::string ClipboardText() override { return Clipboard; }
+    void SetClipboardText(const std::string& text) override { Clipboard = text; }
+    void SetElapsed(std::int32_t milliseconds) override { Elapsed = milliseconds; }
+};
+}
