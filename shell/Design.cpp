@@ -58,6 +58,13 @@ struct Designer
 
     void AddOk(const char* name, std::int16_t parent) { At(Add(Kind::Button, name, parent, "OK")).IsDefault = true; }
 
+    Control& AddBox(Kind kind, const char* name, std::int16_t parent, std::string text)
+    {
+        Control& box = At(Add(kind, name, parent, ""));
+        box.Text = std::move(text);
+        return box;
+    }
+
     Control& At(std::int16_t index) { return Form.Controls[static_cast<std::size_t>(index)]; }
 
     void Menu()
@@ -77,11 +84,64 @@ struct Designer
     {
         const std::int16_t panel = AddHidden(Kind::Frame, "panelOption", -1);
         Add(Kind::Label, "lblOption", panel, "Opzioni", Look::Heading);
+        Add(Kind::Button, "cGameOpt", panel, "Opzioni di gioco");
+        Add(Kind::Button, "cVidOpt", panel, "Opzioni video");
+        Add(Kind::Button, "cAudOpt", panel, "Opzioni audio");
         Add(Kind::Button, "cCtrOpt", panel, "Controlli");
-        AddOk("cOptOK", panel);
-        // No capture device: the box stays off, whatever the panel around it shows.
-        const std::int16_t video = AddHidden(Kind::Frame, "panelVidOpt", -1);
-        At(Add(Kind::CheckBox, "chkWebcam", video, "Abilita webcam")).Value = 1;
+        Add(Kind::Button, "cOptOK", panel, "OK");
+    }
+
+    void GameOptions()
+    {
+        const std::int16_t panel = AddHidden(Kind::Frame, "panelGameOpt", -1);
+        Add(Kind::Label, "lblGameOpt", panel, "Opzioni di gioco", Look::Heading);
+        Add(Kind::Label, "lblLap", panel, "Numero giri:");
+        AddBox(Kind::TextBox, "txtLap", panel, "5");
+        Add(Kind::Button, "cGameOptOK", panel, "OK");
+    }
+
+    void VideoOptions()
+    {
+        const std::int16_t panel = AddHidden(Kind::Frame, "panelVidOpt", -1);
+        Add(Kind::Label, "lblVidOpt", panel, "Opzioni video", Look::Heading);
+        Add(Kind::Label, "lblFreq", panel, "Frequenza fotogrammi:");
+        AddBox(Kind::TextBox, "txtFreq", panel, "20");
+        Add(Kind::Label, "lblRes", panel, "Risoluzione:");
+        Control& resolution = AddBox(Kind::ComboBox, "txtRes", panel, "600x312");
+        resolution.Items = {"320x240", "640x480", "600x312", "800x600", "1024x768"};
+        Add(Kind::Label, "lblFilter", panel, "Filtro texture:");
+        Add(Kind::Label, "lblTxtFilter", panel, "anisotropico", Look::Key);
+        Add(Kind::Label, "lblEffects", panel, "Qualità effetti:");
+        Add(Kind::Label, "lblEffQ", panel, "alta", Look::Key);
+        Add(Kind::CheckBox, "chkFS", panel, "Schermo intero");
+        At(Add(Kind::CheckBox, "chkWebcam", panel, "Abilita webcam")).Value = 1;
+        Add(Kind::Button, "cCamConfig", panel, "configura...");
+        Add(Kind::Button, "cVidOptOK", panel, "OK");
+    }
+
+    void AudioOptions()
+    {
+        const std::int16_t panel = AddHidden(Kind::Frame, "panelAudOpt", -1);
+        Add(Kind::Label, "lblAudOpt", panel, "Opzioni audio", Look::Heading);
+        At(Add(Kind::CheckBox, "chkMusic", panel, "Musica")).Value = 1;
+        Add(Kind::Label, "lblMusVol", panel, "Volume musica:");
+        Add(Kind::Picture, "picMusVol", panel, "");
+        Add(Kind::Label, "lblEffVol", panel, "Volume effetti:");
+        Add(Kind::Picture, "picEffVol", panel, "");
+        Add(Kind::Button, "cAudOptOK", panel, "OK");
+    }
+
+    void WebcamOptions()
+    {
+        const std::int16_t panel = AddHidden(Kind::Frame, "panelWebcam", -1);
+        Add(Kind::Label, "lblWebcam", panel, "Webcam", Look::Heading);
+        Add(Kind::Picture, "picWebcam", panel, "");
+        Add(Kind::Label, "lblCamClick", panel, "Fai clic");
+        Add(Kind::Label, "cStartCamConf", panel, "qui", Look::Link);
+        Add(Kind::Label, "lblCamLeave", panel, ", poi esci dal");
+        Add(Kind::Label, "lblCamWait", panel,
+            "campo visivo per qualche secondo per portare a termine la configurazione", Look::Paragraph);
+        Add(Kind::Button, "cWebcamOK", panel, "OK");
     }
 
     void Credits()
@@ -140,6 +200,10 @@ void MakeControls(forms::Form& form)
     Designer designer{form};
     designer.Menu();
     designer.Options();
+    designer.GameOptions();
+    designer.VideoOptions();
+    designer.AudioOptions();
+    designer.WebcamOptions();
     designer.Credits();
     designer.Controls();
 }

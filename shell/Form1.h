@@ -59,14 +59,6 @@ public:
     void ShowMenu();
     void ReadKeyBinding(std::int16_t index);
 
-    // How a setting that has passed its checks takes effect.
-    void ApplyLaps(std::int16_t laps);
-    void ApplyFrameRate(std::int16_t fps); // 5 to 30
-    // Nothing where the resolution is in force already. Otherwise everything that depends on it is made anew and, once
-    // the race has begun, a frame is shown at once.
-    void ApplyResolution(std::int32_t width, std::int32_t height);
-    void ApplyFullScreen(bool on); // off: the client area is as large as the frame
-
     // platform::WindowEvents
     void KeyDown(std::int16_t code) override;
     void KeyUp(std::int16_t code) override;
@@ -120,6 +112,8 @@ private:
     void cCREDIT_Click(std::int16_t index);
     void cCreditOK_Click(std::int16_t index);
     void cEXIT_Click(std::int16_t index);
+    void cAudOpt_Click(std::int16_t index);
+    void cAudOptOK_Click(std::int16_t index);
     void cCtrOpt_Click(std::int16_t index);
     void cCtrOptOK_Click(std::int16_t index);
     void cCtrMov_Click(std::int16_t index);
@@ -131,6 +125,20 @@ private:
     bool RecordsKey() const; // the rebinding box has the focus
     void txtRecKey_KeyDown(std::int16_t code);
     void txtRecKey_LostFocus();
+
+    // Options.cpp: the option panels, and how a setting that has passed its checks takes effect
+    void cGameOpt_Click(std::int16_t index);
+    void cGameOptOK_Click(std::int16_t index);
+    void cVidOpt_Click(std::int16_t index);
+    void cVidOptOK_Click(std::int16_t index);
+    void lblTxtFilter_Click(std::int16_t index);
+    void lblEffQ_Click(std::int16_t index);
+    bool TakeFrameRate(); // false: refused
+    bool TakeResolution();
+    void ApplyResolution(std::int32_t width, std::int32_t height);
+    void ApplyFullScreen(bool on); // off: the client area is as large as the frame
+    void Refuse(const char* text);
+    void ShowPanel(std::string_view name, bool visible);
 
     // Keys.cpp: keys during a race, by code
     void Form_KeyDown(std::int16_t code);

@@ -11,10 +11,16 @@ namespace shell
 const Form1::Handler* Form1::FindHandler(std::string_view name)
 {
     static constexpr Handler Handlers[] = {
-        {"cSTART", &Form1::cSTART_Click},   {"cOPZIONI", &Form1::cOPZIONI_Click},   {"cOptOK", &Form1::cOptOK_Click},
-        {"cCREDIT", &Form1::cCREDIT_Click}, {"cCreditOK", &Form1::cCreditOK_Click}, {"cEXIT", &Form1::cEXIT_Click},
-        {"cCtrOpt", &Form1::cCtrOpt_Click}, {"cCtrOptOK", &Form1::cCtrOptOK_Click}, {"cCtrMov", &Form1::cCtrMov_Click},
-        {"cCtrCam", &Form1::cCtrCam_Click}, {"cCtrOth", &Form1::cCtrOth_Click},     {"cCtrKey", &Form1::cCtrKey_Click},
+        {"cSTART", &Form1::cSTART_Click},         {"cOPZIONI", &Form1::cOPZIONI_Click},
+        {"cCREDIT", &Form1::cCREDIT_Click},       {"cCreditOK", &Form1::cCreditOK_Click},
+        {"cEXIT", &Form1::cEXIT_Click},           {"cGameOpt", &Form1::cGameOpt_Click},
+        {"cGameOptOK", &Form1::cGameOptOK_Click}, {"cVidOpt", &Form1::cVidOpt_Click},
+        {"cVidOptOK", &Form1::cVidOptOK_Click},   {"lblTxtFilter", &Form1::lblTxtFilter_Click},
+        {"lblEffQ", &Form1::lblEffQ_Click},       {"cAudOpt", &Form1::cAudOpt_Click},
+        {"cAudOptOK", &Form1::cAudOptOK_Click},   {"cOptOK", &Form1::cOptOK_Click},
+        {"cCtrOpt", &Form1::cCtrOpt_Click},       {"cCtrOptOK", &Form1::cCtrOptOK_Click},
+        {"cCtrMov", &Form1::cCtrMov_Click},       {"cCtrCam", &Form1::cCtrCam_Click},
+        {"cCtrOth", &Form1::cCtrOth_Click},       {"cCtrKey", &Form1::cCtrKey_Click},
         {"dCtrKey", &Form1::dCtrKey_Click},
     };
     const auto* found =
@@ -100,22 +106,22 @@ void Form1::cSTART_Click(std::int16_t)
 
 void Form1::cOPZIONI_Click(std::int16_t)
 {
-    base::Trapped(*TheWindow, "cOPZIONI_Click", [this] { TheForm.Get("panelOption").Visible = base::True; });
+    base::Trapped(*TheWindow, "cOPZIONI_Click", [this] { ShowPanel("panelOption", true); });
 }
 
 void Form1::cOptOK_Click(std::int16_t)
 {
-    base::Trapped(*TheWindow, "cOptOK_Click", [this] { TheForm.Get("panelOption").Visible = base::False; });
+    base::Trapped(*TheWindow, "cOptOK_Click", [this] { ShowPanel("panelOption", false); });
 }
 
 void Form1::cCREDIT_Click(std::int16_t)
 {
-    base::Trapped(*TheWindow, "cCREDIT_Click", [this] { TheForm.Get("panelCredits").Visible = base::True; });
+    base::Trapped(*TheWindow, "cCREDIT_Click", [this] { ShowPanel("panelCredits", true); });
 }
 
 void Form1::cCreditOK_Click(std::int16_t)
 {
-    base::Trapped(*TheWindow, "cCreditOK_Click", [this] { TheForm.Get("panelCredits").Visible = base::False; });
+    base::Trapped(*TheWindow, "cCreditOK_Click", [this] { ShowPanel("panelCredits", false); });
 }
 
 void Form1::cEXIT_Click(std::int16_t)
@@ -123,15 +129,25 @@ void Form1::cEXIT_Click(std::int16_t)
     base::Trapped(*TheWindow, "cEXIT_Click", [this] { Form_Unload(); });
 }
 
+void Form1::cAudOpt_Click(std::int16_t)
+{
+    ShowPanel("panelAudOpt", true);
+}
+
+void Form1::cAudOptOK_Click(std::int16_t)
+{
+    ShowPanel("panelAudOpt", false);
+}
+
 void Form1::cCtrOpt_Click(std::int16_t)
 {
     ShowSubFrame("panelCtrMov");
-    TheForm.Get("panelCtrOpt").Visible = base::True;
+    ShowPanel("panelCtrOpt", true);
 }
 
 void Form1::cCtrOptOK_Click(std::int16_t)
 {
-    TheForm.Get("panelCtrOpt").Visible = base::False;
+    ShowPanel("panelCtrOpt", false);
 }
 
 void Form1::cCtrMov_Click(std::int16_t)

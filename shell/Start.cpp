@@ -13,6 +13,7 @@ namespace shell
 namespace
 {
 constexpr platform::Size DesignSize = {600, 312};
+constexpr int SingleThreadFps = 6;
 
 ModBitmap::PicReference LoadShared(base::MessageSink& messages, const base::Files& files, const char* path)
 {
@@ -21,11 +22,6 @@ ModBitmap::PicReference LoadShared(base::MessageSink& messages, const base::File
         return nullptr;
     return picture;
 }
-
-// What the option panels hold as designed.
-constexpr std::int16_t DesignLaps = 5;
-constexpr std::int16_t DesignFps = 20, SingleThreadFps = 6;
-constexpr bool DesignFullScreen = false;
 }
 
 Form1::Form1(platform::Platform& platform) : ThePlatform(platform), TheWindow(platform.MakeWindow(*this, DesignSize))
@@ -61,11 +57,10 @@ void Form1::Form_Load()
                           return EndFailed("video");
                       InitAudio();
                       Inizializza();
-                      ApplyLaps(DesignLaps);
-                      ApplyFrameRate(TheGame.Screen.SingleThread != 0 ? SingleThreadFps : DesignFps);
-                      ApplyResolution(DesignSize.Width, DesignSize.Height);
-                      ApplyFullScreen(DesignFullScreen);
-                      TheGame.Settings.WebcamOn = base::ToFlag(TheForm.Get("chkWebcam").Value != 0);
+                      // What the panels hold as designed are the defaults.
+                      cGameOptOK_Click(-1);
+                      cVidOptOK_Click(-1);
+                      cAudOptOK_Click(-1);
                       for (std::int16_t index = 0; TheForm.Find("cCtrKey", index) != nullptr; ++index)
                           ReadKeyBinding(index);
                   });
@@ -80,6 +75,7 @@ void Form1::SetProcessorDefaults()
         screen.ThreadCount = 1;
         screen.TxtFilter = 1;
         settings.EffQuality = 0;
+        TheForm.Get("txtFreq").Text = std::to_string(SingleThreadFps);
         return;
     }
     const int processors = std::clamp(ThePlatform.ProcessorCount(), 1, 1024);
@@ -108,6 +104,7 @@ bool Form1::InitVideo()
         forms::Control& webcam = TheForm.Get("chkWebcam");
         webcam.Enabled = base::False; // there is no capture device
         webcam.Value = 0;
+        TheForm.Get("cCamConfig").Enabled = base::False;
         return true;
     }
     catch (...)

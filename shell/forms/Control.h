@@ -31,9 +31,11 @@ enum class Look
     Shadow,  // its dark twin underneath
     Key,     // a key binding that a click changes
     FixedKey,
-    Note,  // small and pale
-    Tab,   // a button that chooses between sub-frames
-    Choice // a setting that each click steps on
+    Link,      // a word in a text that a click acts on
+    Paragraph, // broken into lines
+    Note,      // small and pale
+    Tab,       // a button that chooses between sub-frames
+    Choice     // a setting that each click steps on
 };
 
 enum class Align

@@ -172,4 +172,36 @@ void DrawText(Canvas& canvas, const Rect& rect, std::string_view text, double si
     const Typeface::Surface surface = {canvas.Bytes, canvas.Width, canvas.Height, canvas.RowBytes};
     Typeface::Draw(surface, x, y, {size, weight, 0}, text, {colour.R, colour.G, colour.B});
 }
+
+std::vector<std::string_view> BreakLines(std::string_view text, double size, double weight, std::int32_t width)
+{
+    std::vector<std::string_view> lines;
+    while (!text.empty())
+    {
+        std::size_t end = std::min(text.find(' '), text.size());
+        while (end < text.size())
+        {
+            const std::size_t next = std::min(text.find(' ', end + 1), text.size());
+            if (MeasureText(text.substr(0, next), size, weight) > width)
+                break;
+            end = next;
+        }
+        lines.push_back(text.substr(0, end));
+        text.remove_prefix(std::min(end + 1, text.size()));
+    }
+    return lines;
+}
+
+void DrawParagraph(Canvas& canvas, const Rect& rect, std::string_view text, double size, double weight, Colour colour,
+                   Align align)
+{
+    const std::vector<std::string_view> lines = BreakLines(text, size, weight, rect.W);
+    const std::int32_t height = base::RoundEven(Typeface::LineHeight(size));
+    std::int32_t y = rect.Y + (rect.H - height * static_cast<std::int32_t>(lines.size())) / 2;
+    for (const std::string_view line : lines)
+    {
+        DrawText(canvas, {rect.X, y, rect.W, height}, line, size, weight, colour, align);
+        y += height;
+    }
+}
 }

@@ -50,6 +50,11 @@ void Stretch(Canvas& canvas, std::int32_t width, std::int32_t height, std::int32
 // One line, centred vertically in the rectangle. Text wider than the rectangle is set smaller. weight: 1 regular.
 void DrawText(Canvas& canvas, const Rect& rect, std::string_view text, double size, double weight, Colour colour,
               Align align);
+// The same over as many lines as the text needs, broken at blanks; together centred vertically.
+void DrawParagraph(Canvas& canvas, const Rect& rect, std::string_view text, double size, double weight, Colour colour,
+                   Align align);
+// The lines that a text takes in that width. A word wider than that has a line of its own.
+std::vector<std::string_view> BreakLines(std::string_view text, double size, double weight, std::int32_t width);
 // Pixels that the text advances.
 std::int32_t MeasureText(std::string_view text, double size, double weight);
 

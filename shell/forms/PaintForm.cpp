@@ -102,6 +102,15 @@ void PaintKey(Canvas& canvas, const Control& label, const Rect& place, bool hot)
     DrawText(canvas, text, label.Caption, label.TextSize, 1, fixed ? Muted : hot ? Night : Pale, Align::Centre);
 }
 
+// Underlined, as words that one can click are.
+void PaintLink(Canvas& canvas, const Control& label, const Rect& place, bool hot)
+{
+    const Colour colour = hot ? Pale : Accent;
+    DrawText(canvas, place, label.Caption, label.TextSize, 1, colour, label.TextAlign);
+    const std::int32_t thick = std::max(1, label.TextSize / 14);
+    Fill(canvas, {place.X, place.Y + place.H / 2 + label.TextSize * 9 / 20, place.W, thick}, colour, 200);
+}
+
 // A warm bar that fades to both sides, behind the entry under the pointer.
 void PaintGlow(Canvas& canvas, const Rect& place)
 {
@@ -134,6 +143,12 @@ void PaintLabel(Canvas& canvas, const Control& label, const Rect& place, bool ho
     case Look::FixedKey:
     case Look::Choice:
         PaintKey(canvas, label, place, hot);
+        break;
+    case Look::Link:
+        PaintLink(canvas, label, place, hot);
+        break;
+    case Look::Paragraph:
+        DrawParagraph(canvas, place, label.Caption, label.TextSize, 1, Pale, label.TextAlign);
         break;
     case Look::Note:
         DrawText(canvas, place, label.Caption, label.TextSize, 1, Muted, label.TextAlign);

@@ -1,5 +1,6 @@
 // Where the controls stand, for every size of the window.
 #include "shell/Design.h"
+#include "shell/forms/Typeface.h"
 #include "tests/support/LoadedForm.h"
 
 #include <gtest/gtest.h>
@@ -62,14 +63,23 @@ TEST_P(Layout, TextsFitTheirPlaces)
     {
         if (control.Place.W <= 0 || control.Caption.empty())
             continue;
-        EXPECT_LE(forms::MeasureText(control.Caption, control.TextSize, 1), control.Place.W)
-            << Say(control, control.Place) << " " << control.Caption;
+        std::vector<std::string_view> lines = {control.Caption};
+        if (control.Style == forms::Look::Paragraph)
+        {
+            lines = forms::BreakLines(control.Caption, control.TextSize, 1, control.Place.W);
+            EXPECT_LE(static_cast<double>(lines.size()) * Typeface::LineHeight(control.TextSize), control.Place.H)
+                << Say(control, control.Place);
+        }
+        for (const std::string_view line : lines)
+            EXPECT_LE(forms::MeasureText(line, control.TextSize, 1), control.Place.W)
+                << Say(control, control.Place) << " " << line;
     }
 }
 
 TEST_P(Layout, FramesCoverTheWindowAndHeadingsAreCentred)
 {
-    for (const char* name : {"panelOption", "panelVidOpt", "panelCredits", "panelCtrOpt"})
+    for (const char* name :
+         {"panelOption", "panelGameOpt", "panelVidOpt", "panelAudOpt", "panelWebcam", "panelCredits", "panelCtrOpt"})
     {
         const forms::Rect place = Form.Get(name).Place;
         EXPECT_EQ(place.X, 0);
@@ -77,7 +87,9 @@ TEST_P(Layout, FramesCoverTheWindowAndHeadingsAreCentred)
         EXPECT_EQ(place.W, GetParam().Width);
         EXPECT_EQ(place.H, GetParam().Height);
     }
-    for (const char* name : {"lblOption", "cOptOK", "lblCredits", "cCreditOK", "lblCtrOpt", "cCtrOptOK"})
+    for (const char* name :
+         {"lblOption", "cOptOK", "lblGameOpt", "cGameOptOK", "lblVidOpt", "cVidOptOK", "lblAudOpt", "cAudOptOK",
+          "lblWebcam", "cWebcamOK", "lblCredits", "cCreditOK", "lblCtrOpt", "cCtrOptOK"})
     {
         const forms::Rect place = Form.Get(name).Place;
         EXPECT_EQ(place.X, (GetParam().Width - place.W) / 2) << name;
