@@ -173,6 +173,7 @@ private:
     bool IsAnyControlShown() const;
     void PaintBackground();
     void PaintPicture(forms::Canvas& canvas, const forms::Control& control, forms::Rect place) override;
+    void PaintLogo(forms::Canvas& canvas, const forms::Rect& place) const;
 
     platform::Platform& ThePlatform;
     std::unique_ptr<platform::Window> TheWindow;

@@ -94,6 +94,12 @@ void Form1::PaintPicture(forms::Canvas& canvas, const forms::Control& control, f
         forms::FillDownward(canvas, place, Night, suspended ? 110 : 20, Night, suspended ? 190 : 150);
         return;
     }
+    if (control.Name == "imgLogo")
+        PaintLogo(canvas, place);
+}
+
+void Form1::PaintLogo(forms::Canvas& canvas, const forms::Rect& place) const
+{
     const forms::Image& logo = TheMenuPictures.Logo;
     if (logo.Width > 0)
         forms::Draw(canvas, logo, place.X + (place.W - logo.Width) / 2, place.Y + (place.H - logo.Height) / 2);
