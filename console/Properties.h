@@ -41,7 +41,8 @@ template <base::Described Record> void SetField(Record& record, std::string_view
     base::VisitField(record, name,
                      [&](const auto& field, auto& member)
                      {
-                         if constexpr (field.Writable && requires { Convert(value, member); })
+                         if constexpr (std::remove_cvref_t<decltype(field)>::Writable &&
+                                       requires { Convert(value, member); })
                              Convert(value, member);
                      });
 }
