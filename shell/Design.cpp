@@ -88,7 +88,7 @@ struct Designer
         Add(Kind::Button, "cVidOpt", panel, "Opzioni video");
         Add(Kind::Button, "cAudOpt", panel, "Opzioni audio");
         Add(Kind::Button, "cCtrOpt", panel, "Controlli");
-        Add(Kind::Button, "cOptOK", panel, "OK");
+        AddOk("cOptOK", panel);
     }
 
     void GameOptions()
@@ -97,7 +97,7 @@ struct Designer
         Add(Kind::Label, "lblGameOpt", panel, "Opzioni di gioco", Look::Heading);
         Add(Kind::Label, "lblLap", panel, "Numero giri:");
         AddBox(Kind::TextBox, "txtLap", panel, "5");
-        Add(Kind::Button, "cGameOptOK", panel, "OK");
+        AddOk("cGameOptOK", panel);
     }
 
     void VideoOptions()
@@ -110,13 +110,13 @@ struct Designer
         Control& resolution = AddBox(Kind::ComboBox, "txtRes", panel, "600x312");
         resolution.Items = {"320x240", "640x480", "600x312", "800x600", "1024x768"};
         Add(Kind::Label, "lblFilter", panel, "Filtro texture:");
-        Add(Kind::Label, "lblTxtFilter", panel, "anisotropico", Look::Key);
+        Add(Kind::Label, "lblTxtFilter", panel, "anisotropico", Look::Choice);
         Add(Kind::Label, "lblEffects", panel, "Qualità effetti:");
-        Add(Kind::Label, "lblEffQ", panel, "alta", Look::Key);
+        Add(Kind::Label, "lblEffQ", panel, "alta", Look::Choice);
         Add(Kind::CheckBox, "chkFS", panel, "Schermo intero");
         At(Add(Kind::CheckBox, "chkWebcam", panel, "Abilita webcam")).Value = 1;
         Add(Kind::Button, "cCamConfig", panel, "configura...");
-        Add(Kind::Button, "cVidOptOK", panel, "OK");
+        AddOk("cVidOptOK", panel);
     }
 
     void AudioOptions()
@@ -128,7 +128,7 @@ struct Designer
         Add(Kind::Picture, "picMusVol", panel, "");
         Add(Kind::Label, "lblEffVol", panel, "Volume effetti:");
         Add(Kind::Picture, "picEffVol", panel, "");
-        Add(Kind::Button, "cAudOptOK", panel, "OK");
+        AddOk("cAudOptOK", panel);
     }
 
     void WebcamOptions()
@@ -141,7 +141,7 @@ struct Designer
         Add(Kind::Label, "lblCamLeave", panel, ", poi esci dal");
         Add(Kind::Label, "lblCamWait", panel,
             "campo visivo per qualche secondo per portare a termine la configurazione", Look::Paragraph);
-        Add(Kind::Button, "cWebcamOK", panel, "OK");
+        AddOk("cWebcamOK", panel);
     }
 
     void Credits()

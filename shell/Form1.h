@@ -4,6 +4,7 @@
 #include "console/Console.h"
 #include "platform/Platform.h"
 #include "shell/forms/Control.h"
+#include "shell/forms/Interaction.h"
 #include "shell/forms/Paint.h"
 #include "shell/Game.h"
 #include "shell/MenuPictures.h"
@@ -19,6 +20,7 @@ namespace shell
 class Form1 final : public platform::WindowEvents,
                     private modDinamica::FinishSink,
                     private forms::PicturePainter,
+                    private forms::FormOwner,
                     private console::Host
 {
 public:
@@ -158,13 +160,14 @@ private:
     void SetClipboardText(const std::string& text) override;
     void SetElapsed(std::int32_t milliseconds) override;
 
-    // Events.cpp: mouse, and keys while the menu shows
-    bool MenuKeyDown(std::int16_t code);
-    void StepHot(int step);
-    void SetHot(std::int16_t control);
-    bool IsClickable(const forms::Control& control) const;
-    void ClickOn(const forms::Control& control);
-    void LoseFocus();
+    // Events.cpp: what the controls tell
+    bool HasClick(const forms::Control& control) const override;
+    bool HasPointer(const forms::Control& picture) const override;
+    void Clicked(const forms::Control& control) override;
+    void PointedAt(const forms::Control& picture, std::int32_t x) override;
+    void LostFocus(const forms::Control& control) override;
+    void Changed() override { PaintDue = true; }
+    void RepaintIfDue();
 
     // Picture.cpp: what the window shows
     void Form_Resize();
@@ -183,9 +186,8 @@ private:
     forms::Canvas TheCanvas;
     MenuPictures TheMenuPictures;
     modWinDrag::Drag TheDrag;
-    std::int16_t Hot = -1;        // the control under the mouse or chosen by the arrow keys
-    std::int16_t Pressed = -1;    // the control on which the left button went down
-    std::int16_t ConsumedKey = 0; // held since a box or the menu took it: its repeats do nothing in the menu
+    forms::Interaction TheInteraction{TheForm, *this};
+    bool PaintDue = false; // a control has changed since it was painted
     bool IsVisible = false;
     bool HasEnded = false;
 };

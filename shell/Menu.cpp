@@ -43,7 +43,7 @@ bool Form1::Click(std::string_view name, std::int16_t index)
         return false;
     if (RecordsKey())
         txtRecKey_LostFocus();
-    ConsumedKey = 0;
+    TheInteraction.Release();
     (this->*handler->Run)(index);
     Repaint();
     return true;

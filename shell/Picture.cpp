@@ -13,7 +13,7 @@ constexpr forms::Colour Night = {10, 12, 20};
 
 void Form1::Form_Resize()
 {
-    const platform::Size client = TheWindow->ClientSize();
+    const platform::Size client = TheForm.Client = TheWindow->ClientSize();
     LayoutControls(TheForm, client);
     const forms::Rect logo = TheForm.Get("imgLogo").Place;
     TheMenuPictures.ScaleTo({logo.W, logo.H}, client);
@@ -69,6 +69,7 @@ void Form1::PaintBackground()
 
 void Form1::Repaint()
 {
+    PaintDue = false;
     if (!IsVisible || HasEnded)
         return;
     const Mod3D::Screen& screen = TheGame.Screen;
@@ -81,7 +82,9 @@ void Form1::Repaint()
     const platform::Size client = TheWindow->ClientSize();
     TheCanvas.Resize(client.Width, client.Height);
     PaintBackground();
-    forms::PaintForm(TheCanvas, TheForm, Hot, *this);
+    TheInteraction.Settle();
+    PaintDue = false; // what has just settled is painted now
+    forms::PaintForm(TheCanvas, TheForm, TheInteraction.Shown(), *this);
     TheWindow->Present(TheCanvas.Width, TheCanvas.Height, TheCanvas.Bytes);
 }
 

@@ -63,6 +63,32 @@ bool Form::IsShown(const Control& control) const
     return true;
 }
 
+bool Form::IsEnabled(const Control& control) const
+{
+    for (const Control* at = &control; at != nullptr; at = ParentOf(*at))
+        if (at->Enabled == base::False)
+            return false;
+    return true;
+}
+
+const Control* Form::TopFrame() const
+{
+    for (auto control = Controls.rbegin(); control != Controls.rend(); ++control)
+        if (control->Type == Kind::Frame && control->Parent < 0 && control->Visible != base::False)
+            return &*control;
+    return nullptr;
+}
+
+bool Form::IsOn(const Control& control, const Control* frame) const
+{
+    if (frame == nullptr)
+        return true;
+    for (const Control* at = &control; at != nullptr; at = ParentOf(*at))
+        if (at == frame)
+            return true;
+    return false;
+}
+
 Rect Form::PlaceOf(const Control& control) const
 {
     Rect place = control.Place;

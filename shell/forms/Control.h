@@ -3,6 +3,7 @@
 #pragma once
 #include "base/Fields.h"
 #include "base/Numbers.h"
+#include "platform/Platform.h"
 
 #include <cstdint>
 #include <string>
@@ -79,6 +80,7 @@ struct Form
 {
     std::vector<Control> Controls; // painted in this order
     std::int16_t Focus = -1;       // the control that gets the keys; -1 the form
+    platform::Size Client;         // of the window
 
     std::int16_t Add(Control control);
     Control* Find(std::string_view name, std::int16_t index = -1);
@@ -86,6 +88,10 @@ struct Form
     std::int16_t IndexOf(const Control& control) const;
     const Control* ParentOf(const Control& control) const; // nullptr: it stands on the form itself
     bool IsShown(const Control& control) const;
+    bool IsEnabled(const Control& control) const; // it and every frame around it
+    // The frame over the whole window that hides everything below it, or nullptr: the form itself is seen.
+    const Control* TopFrame() const;
+    bool IsOn(const Control& control, const Control* frame) const; // on a frame or in it; nullptr: on the form
     // Absolute place in the client area.
     Rect PlaceOf(const Control& control) const;
     // The topmost shown control at a point, or nullptr.

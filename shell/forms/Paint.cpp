@@ -30,6 +30,12 @@ Rect ClippedTo(const Canvas& canvas, const Rect& rect)
     return {left, top, std::max(0, right - left), std::max(0, bottom - top)};
 }
 
+// The box of a line holds accents above and descenders below, so that its middle is the middle of the letters.
+std::int32_t LineTop(const Rect& rect, double size)
+{
+    return rect.Y + base::RoundEven((rect.H - Typeface::LineHeight(size)) / 2);
+}
+
 // A box with round corners, measured from its middle.
 struct RoundBox
 {
@@ -122,6 +128,24 @@ void OutlineRounded(Canvas& canvas, const Rect& rect, double radius, double thic
     }
 }
 
+void DrawStroke(Canvas& canvas, double x1, double y1, double x2, double y2, double thickness, Colour colour, int alpha)
+{
+    const double radius = thickness / 2, dx = x2 - x1, dy = y2 - y1;
+    const double length = dx * dx + dy * dy;
+    const std::int32_t left = base::Floor(std::min(x1, x2) - radius), top = base::Floor(std::min(y1, y2) - radius);
+    const std::int32_t right = base::Floor(std::max(x1, x2) + radius), bottom = base::Floor(std::max(y1, y2) + radius);
+    const Rect inside = ClippedTo(canvas, {left, top, right - left + 1, bottom - top + 1});
+    for (std::int32_t y = inside.Y; y < inside.Y + inside.H; ++y)
+        for (std::int32_t x = inside.X; x < inside.X + inside.W; ++x)
+        {
+            const double px = x + 0.5 - x1, py = y + 0.5 - y1;
+            const double along = length > 0 ? std::clamp((px * dx + py * dy) / length, 0.0, 1.0) : 0.0;
+            const double ox = px - along * dx, oy = py - along * dy;
+            const double cover = std::clamp(radius + 0.5 - base::Sqrt(ox * ox + oy * oy), 0.0, 1.0);
+            Blend(canvas.At(x, y), colour, base::RoundEven(cover * alpha));
+        }
+}
+
 void Draw(Canvas& canvas, const Image& image, std::int32_t x, std::int32_t y, int alpha)
 {
     const Rect inside = ClippedTo(canvas, {x, y, image.Width, image.Height});
@@ -156,7 +180,7 @@ void Stretch(Canvas& canvas, std::int32_t width, std::int32_t height, std::int32
 
 std::int32_t MeasureText(std::string_view text, double size, double weight)
 {
-    return base::RoundEven(Typeface::Width(text, {size, weight, 0}));
+    return base::RoundEven(Typeface::Width(ShownPart(text), {size, weight, 0}));
 }
 
 void DrawText(Canvas& canvas, const Rect& rect, std::string_view text, double size, double weight, Colour colour,
@@ -167,10 +191,16 @@ void DrawText(Canvas& canvas, const Rect& rect, std::string_view text, double si
         size -= 0.5;
     const std::int32_t spare = rect.W - width;
     const std::int32_t x = rect.X + (align == Align::Left ? 0 : align == Align::Right ? spare : spare / 2);
-    // The box of a line holds accents above and descenders below, so that its middle is the middle of the letters.
-    const std::int32_t y = rect.Y + base::RoundEven((rect.H - Typeface::LineHeight(size)) / 2);
     const Typeface::Surface surface = {canvas.Bytes, canvas.Width, canvas.Height, canvas.RowBytes};
-    Typeface::Draw(surface, x, y, {size, weight, 0}, text, {colour.R, colour.G, colour.B});
+    Typeface::Draw(surface, x, LineTop(rect, size), {size, weight, 0}, ShownPart(text), {colour.R, colour.G, colour.B});
+}
+
+void DrawLine(Canvas& canvas, const Rect& rect, std::int32_t x, std::string_view text, double size, Colour colour)
+{
+    const Typeface::Surface surface = {canvas.Bytes, canvas.Width, canvas.Height, canvas.RowBytes};
+    const Typeface::Clip clip = {rect.X, rect.Y, rect.X + rect.W, rect.Y + rect.H};
+    Typeface::Draw(surface, x, LineTop(rect, size), {size, 1, 0}, ShownPart(text), {colour.R, colour.G, colour.B},
+                   clip);
 }
 
 std::vector<std::string_view> BreakLines(std::string_view text, double size, double weight, std::int32_t width)

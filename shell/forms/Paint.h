@@ -4,6 +4,7 @@
 #pragma once
 #include "render/PicArray.h"
 #include "shell/forms/Control.h"
+#include "shell/forms/Marks.h"
 
 #include <cstdint>
 #include <string_view>
@@ -44,6 +45,9 @@ void Fill(Canvas& canvas, const Rect& rect, Colour colour, int alpha = 255);
 void FillDownward(Canvas& canvas, const Rect& rect, Colour top, int topAlpha, Colour bottom, int bottomAlpha);
 void FillRounded(Canvas& canvas, const Rect& rect, double radius, Colour colour, int alpha = 255);
 void OutlineRounded(Canvas& canvas, const Rect& rect, double radius, double thickness, Colour colour, int alpha = 255);
+// A straight stroke with round ends, from point to point (the corner between four pixels is a whole number).
+void DrawStroke(Canvas& canvas, double x1, double y1, double x2, double y2, double thickness, Colour colour,
+                int alpha = 255);
 void Draw(Canvas& canvas, const Image& image, std::int32_t x, std::int32_t y, int alpha = 255);
 // Stretches bottom-up rows over the canvas, nearest pixel.
 void Stretch(Canvas& canvas, std::int32_t width, std::int32_t height, std::int32_t rowBytes, const std::uint8_t* bits);
@@ -55,6 +59,8 @@ void DrawParagraph(Canvas& canvas, const Rect& rect, std::string_view text, doub
                    Align align);
 // The lines that a text takes in that width. A word wider than that has a line of its own.
 std::vector<std::string_view> BreakLines(std::string_view text, double size, double weight, std::int32_t width);
+// One line from a column on, in its own size, cut off at the edges of the rectangle.
+void DrawLine(Canvas& canvas, const Rect& rect, std::int32_t x, std::string_view text, double size, Colour colour);
 // Pixels that the text advances.
 std::int32_t MeasureText(std::string_view text, double size, double weight);
 
@@ -68,7 +74,6 @@ struct PicturePainter
     virtual void PaintPicture(Canvas& canvas, const Control& control, Rect place) = 0;
 };
 
-// Paints every shown control; only what lies on the topmost frame that covers the whole canvas, where there is one.
-// hot: the control that is highlighted, -1 none.
-void PaintForm(Canvas& canvas, const Form& form, std::int16_t hot, PicturePainter& pictures);
+// Paints every shown control; only what lies on the topmost frame over the whole window, where there is one.
+void PaintForm(Canvas& canvas, const Form& form, const Marks& marks, PicturePainter& pictures);
 }

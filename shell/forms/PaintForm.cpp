@@ -1,6 +1,7 @@
 // How each kind of control looks: dark translucent boxes, pale text, one warm accent.
 #include "base/Numbers.h"
 #include "shell/forms/Paint.h"
+#include "shell/forms/Style.h"
 
 #include <algorithm>
 
@@ -8,33 +9,6 @@ namespace forms
 {
 namespace
 {
-constexpr Colour Accent = {255, 158, 54};
-constexpr Colour AccentDeep = {226, 96, 24};
-constexpr Colour Pale = {240, 235, 226};
-constexpr Colour Muted = {160, 156, 150};
-constexpr Colour Night = {13, 15, 22};
-constexpr Colour Slate = {44, 48, 60};
-constexpr double Bold = 1.45;
-
-// Pixels of a measure that is given for a window of 600 x 312.
-double Unit(const Canvas& canvas, double pixels)
-{
-    return pixels * std::clamp(std::min(canvas.Width / 600.0, canvas.Height / 312.0), 0.7, 3.0);
-}
-
-bool Covers(const Rect& place, const Canvas& canvas)
-{
-    return place.X <= 0 && place.Y <= 0 && place.X + place.W >= canvas.Width && place.Y + place.H >= canvas.Height;
-}
-
-bool IsWithin(const Form& form, const Control& control, const Control& frame)
-{
-    for (const Control* at = &control; at != nullptr; at = form.ParentOf(*at))
-        if (at == &frame)
-            return true;
-    return false;
-}
-
 // The smallest box around what stands on a frame, hidden sub-frames included, so that it does not jump with them.
 Rect ContentsOf(const Form& form, const Control& frame)
 {
@@ -69,19 +43,30 @@ void PaintFrame(Canvas& canvas, const Form& form, const Control& frame)
     OutlineRounded(canvas, card, radius, Unit(canvas, 1), Accent, 90);
 }
 
-void PaintButton(Canvas& canvas, const Control& button, const Rect& place, bool hot)
+void PaintButton(Canvas& canvas, const Control& button, const Rect& place, const State& state)
 {
     const double radius = Unit(canvas, 6);
     const bool chosen = button.Style == Look::Tab && button.Value != 0;
+    const bool hot = state.Hot && state.Enabled;
     if (hot)
-        FillRounded(canvas, place, radius, Accent, 255);
+        FillRounded(canvas, place, radius, state.Pressed ? AccentDeep : Accent, 255);
     else
     {
-        FillRounded(canvas, place, radius, chosen ? AccentDeep : Slate, chosen ? 200 : 190);
-        OutlineRounded(canvas, place, radius, Unit(canvas, 1), chosen ? Accent : Muted, chosen ? 220 : 90);
+        FillRounded(canvas, place, radius, chosen ? AccentDeep : Slate, !state.Enabled ? 80 : chosen ? 200 : 190);
+        OutlineRounded(canvas, place, radius, Unit(canvas, 1), chosen ? Accent : Muted,
+                       !state.Enabled ? 40
+                       : chosen       ? 220
+                                      : 90);
     }
-    const Rect text = {place.X + 4, place.Y, place.W - 8, place.H};
-    DrawText(canvas, text, button.Caption, button.TextSize, Bold, hot ? Night : Pale, Align::Centre);
+    if (state.Focus)
+        PaintRing(canvas, place, radius);
+    const std::int32_t sunk = hot && state.Pressed ? 1 : 0;
+    const Rect text = {place.X + 4, place.Y + sunk, place.W - 8, place.H};
+    DrawText(canvas, text, button.Caption, button.TextSize, Bold,
+             !state.Enabled ? Faint
+             : hot          ? Night
+                            : Pale,
+             Align::Centre);
 }
 
 void PaintHeading(Canvas& canvas, const Control& label, const Rect& place)
@@ -91,21 +76,38 @@ void PaintHeading(Canvas& canvas, const Control& label, const Rect& place)
     FillDownward(canvas, {place.X, y, place.W, 1}, Accent, 120, Accent, 120);
 }
 
-void PaintKey(Canvas& canvas, const Control& label, const Rect& place, bool hot)
+// A binding that a click changes, or a setting that it steps on: the latter with a small arrow.
+void PaintKey(Canvas& canvas, const Control& label, const Rect& place, const State& state)
 {
-    const bool fixed = label.Style == Look::FixedKey;
+    const bool fixed = label.Style == Look::FixedKey || !state.Enabled, hot = state.Hot && !fixed;
     const double radius = Unit(canvas, 4);
-    FillRounded(canvas, place, radius, hot && !fixed ? Accent : Slate, fixed ? 90 : hot ? 235 : 200);
+    FillRounded(canvas, place, radius, hot ? (state.Pressed ? AccentDeep : Accent) : Slate,
+                fixed ? 90
+                : hot ? 235
+                      : 200);
     if (!fixed)
         OutlineRounded(canvas, place, radius, Unit(canvas, 1), hot ? Pale : Accent, hot ? 160 : 80);
-    const Rect text = {place.X + 4, place.Y, place.W - 8, place.H};
-    DrawText(canvas, text, label.Caption, label.TextSize, 1, fixed ? Muted : hot ? Night : Pale, Align::Centre);
+    if (state.Focus)
+        PaintRing(canvas, place, radius);
+    const Colour ink = !state.Enabled ? Faint : fixed ? Muted : hot ? Night : Pale;
+    const std::int32_t arrow = label.Style == Look::Choice ? place.H * 2 / 3 : 0;
+    const Rect text = {place.X + 4 + arrow / 2, place.Y, place.W - 8 - arrow - arrow / 2, place.H};
+    DrawText(canvas, text, label.Caption, label.TextSize, 1, ink, Align::Centre);
+    if (arrow == 0)
+        return;
+    const double reach = label.TextSize * 0.22, x = place.X + place.W - arrow * 0.75, y = place.Y + place.H / 2.0;
+    const double thick = std::max(1.2, label.TextSize * 0.1);
+    const Colour tip = hot || !state.Enabled ? ink : Accent;
+    DrawStroke(canvas, x - reach / 2, y - reach, x + reach / 2, y, thick, tip);
+    DrawStroke(canvas, x + reach / 2, y, x - reach / 2, y + reach, thick, tip);
 }
 
 // Underlined, as words that one can click are.
-void PaintLink(Canvas& canvas, const Control& label, const Rect& place, bool hot)
+void PaintLink(Canvas& canvas, const Control& label, const Rect& place, const State& state)
 {
-    const Colour colour = hot ? Pale : Accent;
+    const Colour colour = !state.Enabled ? Faint : state.Hot ? Pale : Accent;
+    if (state.Focus)
+        PaintRing(canvas, place, Unit(canvas, 3));
     DrawText(canvas, place, label.Caption, label.TextSize, 1, colour, label.TextAlign);
     const std::int32_t thick = std::max(1, label.TextSize / 14);
     Fill(canvas, {place.X, place.Y + place.H / 2 + label.TextSize * 9 / 20, place.W, thick}, colour, 200);
@@ -124,17 +126,21 @@ void PaintGlow(Canvas& canvas, const Rect& place)
     }
 }
 
-void PaintLabel(Canvas& canvas, const Control& label, const Rect& place, bool hot)
+void PaintLabel(Canvas& canvas, const Control& label, const Rect& place, const State& state)
 {
+    const bool stands = (state.Hot || state.Focus) && state.Enabled;
+    const auto draw = [&](double weight, Colour colour) {
+        DrawText(canvas, place, label.Caption, label.TextSize, weight, state.Enabled ? colour : Faint, label.TextAlign);
+    };
     switch (label.Style)
     {
     case Look::Heading:
         PaintHeading(canvas, label, place);
         break;
     case Look::Entry:
-        if (hot)
+        if (stands)
             PaintGlow(canvas, place);
-        DrawText(canvas, place, label.Caption, label.TextSize, Bold, hot ? Accent : Pale, label.TextAlign);
+        draw(Bold, stands ? Accent : Pale);
         break;
     case Look::Shadow:
         DrawText(canvas, place, label.Caption, label.TextSize, Bold, {0, 0, 0}, label.TextAlign);
@@ -142,34 +148,30 @@ void PaintLabel(Canvas& canvas, const Control& label, const Rect& place, bool ho
     case Look::Key:
     case Look::FixedKey:
     case Look::Choice:
-        PaintKey(canvas, label, place, hot);
+        PaintKey(canvas, label, place, state);
         break;
     case Look::Link:
-        PaintLink(canvas, label, place, hot);
+        PaintLink(canvas, label, place, state);
         break;
     case Look::Paragraph:
         DrawParagraph(canvas, place, label.Caption, label.TextSize, 1, Pale, label.TextAlign);
         break;
     case Look::Note:
-        DrawText(canvas, place, label.Caption, label.TextSize, 1, Muted, label.TextAlign);
+        draw(1, Muted);
         break;
     case Look::Plain:
     case Look::Tab:
-        DrawText(canvas, place, label.Caption, label.TextSize, 1, Pale, label.TextAlign);
+        draw(1, Pale);
         break;
     }
 }
-
-// The topmost frame that hides everything below it, or nullptr.
-const Control* CoveringFrame(const Canvas& canvas, const Form& form)
-{
-    const Control* found = nullptr;
-    for (const Control& control : form.Controls)
-        if (control.Type == Kind::Frame && control.Parent < 0 && form.IsShown(control) &&
-            Covers(form.PlaceOf(control), canvas))
-            found = &control;
-    return found;
 }
+
+void PaintRing(Canvas& canvas, const Rect& place, double radius)
+{
+    const std::int32_t gap = std::max(2, base::RoundEven(Unit(canvas, 2.5)));
+    const Rect ring = {place.X - gap, place.Y - gap, place.W + 2 * gap, place.H + 2 * gap};
+    OutlineRounded(canvas, ring, radius + gap, std::max(1.0, Unit(canvas, 1.5)), Accent, 255);
 }
 
 void DrawLevel(Canvas& canvas, const Rect& rect, double share, bool enabled)
@@ -185,25 +187,44 @@ void DrawLevel(Canvas& canvas, const Rect& rect, double share, bool enabled)
     OutlineRounded(canvas, rect, radius, Unit(canvas, 1), enabled ? Accent : Muted, 90);
 }
 
-void PaintForm(Canvas& canvas, const Form& form, std::int16_t hot, PicturePainter& pictures)
+void PaintForm(Canvas& canvas, const Form& form, const Marks& marks, PicturePainter& pictures)
 {
-    const Control* frame = CoveringFrame(canvas, form);
+    const Control* frame = form.TopFrame();
     if (frame != nullptr)
         PaintFrame(canvas, form, *frame);
     for (const Control& control : form.Controls)
     {
         const Rect place = form.PlaceOf(control);
-        if (!form.IsShown(control) || place.W <= 0 || place.H <= 0)
+        if (!form.IsShown(control) || !form.IsOn(control, frame) || place.W <= 0 || place.H <= 0)
             continue;
-        if (frame != nullptr && !IsWithin(form, control, *frame))
-            continue;
-        const bool isHot = form.IndexOf(control) == hot;
-        if (control.Type == Kind::Label)
-            PaintLabel(canvas, control, place, isHot);
-        else if (control.Type == Kind::Button)
-            PaintButton(canvas, control, place, isHot);
-        else if (control.Type == Kind::Picture)
+        const std::int16_t index = form.IndexOf(control);
+        const State state = {index == marks.Hot, index == marks.Pressed, index == form.Focus, form.IsEnabled(control)};
+        switch (control.Type)
+        {
+        case Kind::Label:
+            PaintLabel(canvas, control, place, state);
+            break;
+        case Kind::Button:
+            PaintButton(canvas, control, place, state);
+            break;
+        case Kind::TextBox:
+        case Kind::ComboBox:
+            PaintTextBox(canvas, control, place, state, marks);
+            break;
+        case Kind::CheckBox:
+            PaintCheckBox(canvas, control, place, state);
+            break;
+        case Kind::Picture:
             pictures.PaintPicture(canvas, control, place);
+            if (state.Focus)
+                PaintRing(canvas, place, place.H / 2.0);
+            break;
+        case Kind::Frame:
+            break;
+        }
     }
+    const auto owner = static_cast<std::size_t>(marks.List.Owner);
+    if (marks.List.Owner >= 0 && owner < form.Controls.size())
+        PaintList(canvas, form.Controls[owner], form.PlaceOf(form.Controls[owner]), marks);
 }
 }

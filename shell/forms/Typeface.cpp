@@ -122,10 +122,12 @@ void Shape(const Glyph& glyph, const Style& style, const Metrics& metrics, Shape
     }
 }
 
-// Calls use(glyph, pen) for each letter, pen being the x where its box begins; returns the x behind the text.
+// Calls use(glyph, pen, behind) for each letter, pen being the x where its box begins, behind the byte behind it;
+// returns the x behind the text.
 template <class Use> double Walk(std::string_view text, const Style& style, double pen, Use&& use)
 {
     const Metrics metrics(style);
+    const std::size_t size = text.size();
     char32_t last = 0;
     while (!text.empty())
     {
@@ -134,7 +136,7 @@ template <class Use> double Walk(std::string_view text, const Style& style, doub
         Shape(FindGlyph(code), style, metrics, shaped);
         const double kern = Kerning(last, code) * metrics.Scale;
         pen += metrics.Fitted ? std::trunc(kern + 0.2) : kern;
-        use(shaped, pen);
+        use(shaped, pen, size - text.size());
         pen += shaped.Advance;
         last = code;
     }
@@ -216,7 +218,19 @@ double LineHeight(double size)
 
 double Width(std::string_view utf8, const Style& style)
 {
-    return Walk(utf8, style, 0, [](const Shaped&, double) {});
+    return Walk(utf8, style, 0, [](const Shaped&, double, std::size_t) {});
+}
+
+std::size_t GapAt(std::string_view utf8, const Style& style, double x)
+{
+    std::size_t gap = 0;
+    Walk(utf8, style, 0,
+         [&](const Shaped& shaped, double pen, std::size_t behind)
+         {
+             if (x >= pen + shaped.Advance / 2)
+                 gap = behind;
+         });
+    return gap;
 }
 
 double Draw(const Surface& surface, double x, double y, const Style& style, std::string_view utf8, Colour colour,
@@ -227,7 +241,7 @@ double Draw(const Surface& surface, double x, double y, const Style& style, std:
     const double base = (fitted ? Whole(y) : y) + Ascent(style.Size);
     const bool usable = Usable(surface);
     return Walk(utf8, style, left,
-                [&](const Shaped& shaped, double pen)
+                [&](const Shaped& shaped, double pen, std::size_t)
                 {
                     if (usable)
                         Paint(surface, shaped, pen, base, colour, clip);
@@ -238,7 +252,7 @@ std::vector<Segment> Outline(std::string_view utf8, const Style& style)
 {
     std::vector<Segment> out;
     Walk(utf8, style, 0,
-         [&](const Shaped& shaped, double pen)
+         [&](const Shaped& shaped, double pen, std::size_t)
          {
              for (Segment s : shaped.Strokes.Items())
              {

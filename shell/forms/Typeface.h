@@ -3,6 +3,7 @@
 // Text is UTF-8; what has no glyph (ill-formed bytes too) shows as a box. The same call gives the same bytes
 // everywhere.
 #pragma once
+#include <cstddef>
 #include <cstdint>
 #include <span>
 #include <string_view>
@@ -45,6 +46,10 @@ inline double Width(std::string_view utf8, double size)
 {
     return Width(utf8, Style{size, 1, 0});
 }
+
+// Where a caret goes that is pointed at: the byte of the gap between two letters, or before or behind them all, that is
+// nearest to x pixels from the beginning.
+std::size_t GapAt(std::string_view utf8, const Style& style, double x);
 
 // Draws one line, its box (LineHeight high) beginning at (x, y). Returns the x behind it.
 double Draw(const Surface& surface, double x, double y, const Style& style, std::string_view utf8, Colour colour,
