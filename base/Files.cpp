@@ -20,6 +20,12 @@ fs::path FromUtf8(std::string_view text)
     return fs::path(std::u8string(text.begin(), text.end()));
 }
 
+std::string ToUtf8(const fs::path& path)
+{
+    const std::u8string text = path.u8string();
+    return std::string(text.begin(), text.end());
+}
+
 // The entry of folder that differs from name only in case; the first by name where there are several.
 fs::path OtherCase(const fs::path& folder, std::string_view name)
 {
@@ -30,8 +36,7 @@ fs::path OtherCase(const fs::path& folder, std::string_view name)
          it.increment(error))
     {
         const fs::path entry = it->path().filename();
-        const std::u8string text = entry.u8string();
-        if (LowerAscii(std::string(text.begin(), text.end())) == wanted && (found.empty() || entry < found))
+        if (LowerAscii(ToUtf8(entry)) == wanted && (found.empty() || entry < found))
             found = entry;
     }
     return found;
@@ -54,8 +59,7 @@ fs::path Files::Resolve(std::string_view path) const
         fs::path next = result / step;
         if (!fs::exists(next, error))
         {
-            const std::u8string name = step.u8string();
-            const fs::path other = OtherCase(result, std::string(name.begin(), name.end()));
+            const fs::path other = OtherCase(result, ToUtf8(step));
             if (!other.empty())
                 next = result / other;
         }
@@ -90,6 +94,25 @@ std::string Files::Read(std::string_view path) const
     if (!in || (size > 0 && !in.read(bytes.data(), static_cast<std::streamsize>(size))))
         throw RuntimeError(ErrorAccess);
     return bytes;
+}
+
+std::vector<std::string> Files::Names(std::string_view folder) const
+{
+    const fs::path path = Resolve(folder);
+    std::vector<std::string> names;
+    std::error_code error;
+    if (!fs::is_directory(path, error))
+        return names;
+    fs::directory_iterator it(path, error);
+    for (const fs::directory_iterator end; !error && it != end; it.increment(error))
+    {
+        std::error_code unreadable; // of one entry: it is no regular file then
+        if (it->is_regular_file(unreadable))
+            names.push_back(ToUtf8(it->path().filename()));
+    }
+    if (error)
+        throw RuntimeError(ErrorAccess);
+    return names;
 }
 
 std::string_view FolderOf(std::string_view path)

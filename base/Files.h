@@ -4,6 +4,7 @@
 #include <filesystem>
 #include <string>
 #include <string_view>
+#include <vector>
 
 namespace base
 {
@@ -18,6 +19,9 @@ public:
     bool Exists(std::string_view path) const; // a regular file
     // The whole file. RuntimeError 53 (no file), 76 (no folder), 75 (not a readable regular file), 7 (above 512 MB).
     std::string Read(std::string_view path) const;
+    // The regular files of a folder, names alone, in no order; none where there is no folder. RuntimeError 75 where the
+    // folder cannot be read.
+    std::vector<std::string> Names(std::string_view folder) const;
 
 private:
     std::filesystem::path Root;

@@ -3,6 +3,7 @@
 
 #include <gtest/gtest.h>
 
+#include <algorithm>
 #include <filesystem>
 #include <fstream>
 
@@ -63,4 +64,16 @@ TEST_F(FilesTest, FolderKeepsItsLastSeparator)
 {
     EXPECT_EQ(base::FolderOf("data\\obj\\car.3dm"), "data\\obj\\");
     EXPECT_EQ(base::FolderOf("car.3dm"), "car.3dm");
+}
+
+TEST_F(FilesTest, NamesAreThoseOfRegularFiles)
+{
+    const base::Files files(Folder);
+    std::ofstream(Folder / "data" / "Models" / ".hidden");
+    std::filesystem::create_directories(Folder / "data" / "Models" / "folder.3dm");
+    std::vector<std::string> names = files.Names("data\\models\\");
+    std::sort(names.begin(), names.end());
+    EXPECT_EQ(names, (std::vector<std::string>{".hidden", "Cup.3dm"}));
+    EXPECT_TRUE(files.Names("nowhere\\").empty());
+    EXPECT_TRUE(files.Names("data\\Models\\Cup.3dm").empty());
 }

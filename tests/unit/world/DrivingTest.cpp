@@ -72,6 +72,29 @@ TEST(EngineNote, ClimbsWithinEachGear)
     EXPECT_NEAR(EngineNote(6.0f), 0.612, 1e-7);
 }
 
+// Each gear falls back to 0.3 at the speed where the display changes as well.
+TEST(EngineNote, FallsAtEveryBreakpoint)
+{
+    struct Shift
+    {
+        float At;
+        double Before, After;
+    };
+    for (const Shift& shift : {Shift{0.0f, 0.2, 0.2}, Shift{0.55f, 0.365, 0.3}, Shift{1.11f, 0.412, 0.3},
+                               Shift{1.94f, 0.466, 0.3}, Shift{3.06f, 0.524, 0.3}, Shift{4.44f, 0.576, 0.3}})
+    {
+        EXPECT_NEAR(EngineNote(std::nextafter(shift.At, -1.0f)), shift.Before, 1e-6) << shift.At;
+        EXPECT_NEAR(EngineNote(shift.At), shift.After, 1e-6) << shift.At;
+    }
+    EXPECT_NEAR(EngineNote(-2.5f), 0.95, 1e-6);
+    EXPECT_NEAR(EngineNote(0.25f), 0.275, 1e-6);
+    EXPECT_NEAR(EngineNote(0.8f), 0.35, 1e-6);
+    EXPECT_NEAR(EngineNote(1.5f), 0.378, 1e-6);
+    EXPECT_NEAR(EngineNote(2.5f), 0.412, 1e-6);
+    EXPECT_NEAR(EngineNote(4.0f), 0.488, 1e-6);
+    EXPECT_NEAR(EngineNote(5.0f), 0.412, 1e-6);
+}
+
 TEST_F(Driving, DamageOfOneHalvesAllButSteeringAndFriction)
 {
     Car().Damage = 1.0f;
