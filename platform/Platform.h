@@ -4,6 +4,7 @@
 #pragma once
 #include "base/Files.h"
 #include "base/Trapped.h"
+#include "platform/Webcam.h"
 
 #include <cstdint>
 #include <memory>
@@ -78,5 +79,8 @@ struct Platform
     virtual std::unique_ptr<Window> MakeWindow(WindowEvents& events, Size size) = 0;
     // Handles the window events that are waiting, without waiting for any.
     virtual void PumpEvents() = 0;
+    // Handles window events for so long. Headless: the clock goes on by it.
+    virtual void WaitEvents(std::uint32_t milliseconds) = 0;
+    virtual Webcam& Camera() = 0;
 };
 }

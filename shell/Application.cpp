@@ -56,7 +56,7 @@ void Application::Splash::Paint()
     Canvas.Resize(client.Width, client.Height);
     const forms::Rect all = {0, 0, Canvas.Width, Canvas.Height};
     if (Picture.Info.Width > 0)
-        forms::Stretch(Canvas, Picture.Info.Width, Picture.Info.Height, Picture.Info.RowBytes,
+        forms::Stretch(Canvas, all, Picture.Info.Width, Picture.Info.Height, Picture.Info.RowBytes,
                        Picture.Pixels.Bytes.data());
     else
     {

@@ -136,6 +136,7 @@ struct Designer
         const std::int16_t panel = AddHidden(Kind::Frame, "panelWebcam", -1);
         Add(Kind::Label, "lblWebcam", panel, "Webcam", Look::Heading);
         Add(Kind::Picture, "picWebcam", panel, "");
+        Add(Kind::Label, "lblCamState", panel, "", Look::Note);
         Add(Kind::Label, "lblCamClick", panel, "Fai clic");
         Add(Kind::Label, "cStartCamConf", panel, "qui", Look::Link);
         Add(Kind::Label, "lblCamLeave", panel, ", poi esci dal");

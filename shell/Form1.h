@@ -49,6 +49,7 @@ public:
     // The ticks themselves, whether due or not; the timer counts them.
     void GameT_Tick();
     void RenderT_Tick();
+    void CaptureT_Tick();
     void tmrLogo_Timer();
 
     // One frame into the frame array, without showing it.
@@ -141,6 +142,17 @@ private:
     void ApplyFullScreen(bool on); // off: the client area is as large as the frame
     void Refuse(const char* text);
     void ShowPanel(std::string_view name, bool visible);
+
+    // WebcamPanel.cpp: the webcam, its panel and the player's picture in the race view
+    bool TakeFrame(); // a new one has come
+    bool OpenWebcam();
+    void CloseWebcam();
+    void cCamConfig_Click(std::int16_t index);
+    void cStartCamConf_Click(std::int16_t index);
+    void cWebcamOK_Click(std::int16_t index);
+    void ShowCalibration();
+    void PaintPreview(forms::Canvas& canvas, const forms::Rect& place) const;
+    void ShowInset();
 
     // Keys.cpp: keys during a race, by code
     void Form_KeyDown(std::int16_t code);

@@ -5,6 +5,7 @@
 #include "render/Scene.h"
 #include "render/Screen.h"
 #include "shell/TickTimer.h"
+#include "webcam/Calibration.h"
 #include "world/Race.h"
 
 #include <array>
@@ -86,6 +87,7 @@ struct Game
     shell::Hud Hud;
     shell::Pictures Pictures;
     shell::RunState Run;
+    modEscapi::Webcam Webcam;
     shell::Timers Timers;
 };
 }

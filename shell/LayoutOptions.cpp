@@ -55,20 +55,23 @@ void AudioOptions(Layout& layout)
     card.OK("cAudOptOK");
 }
 
-// The preview above its instruction, which reads as one sentence: three pieces on a line, the last one below them.
+// The preview, how far the calibration is, and the instruction, which reads as one sentence: three pieces on a line,
+// the last one below them.
 void WebcamOptions(Layout& layout)
 {
     constexpr std::int32_t previewWidth = 107, previewHeight = 80;
     const std::int32_t size = layout.Text * 9 / 10;
     const std::int32_t line = size * 3 / 2, below = 2 * line;
-    const std::int32_t around = layout.HeadingHeight() + 3 * layout.Gap + line + below + layout.ButtonHeight();
+    const std::int32_t around = layout.HeadingHeight() + 3 * layout.Gap + 2 * line + below + layout.ButtonHeight();
     const std::int32_t room = layout.Client.Height - around - 4 * layout.Gap;
     const std::int32_t height = std::clamp(room, previewHeight / 2, previewHeight * 4);
-    Card card(layout, 26, height + layout.Gap + line + below);
+    Card card(layout, 26, height + layout.Gap + 2 * line + below);
     card.Heading("lblWebcam");
     const std::int32_t width = std::min(card.Width, height * previewWidth / previewHeight);
     layout.Place("picWebcam", layout.Centred(card.Y, width, width * previewHeight / previewWidth), size);
-    card.Y += height + layout.Gap;
+    card.Y += height + layout.Gap / 2;
+    layout.Place("lblCamState", {card.Left, card.Y, card.Width, line}, size, Align::Centre);
+    card.Y += line + layout.Gap / 2;
 
     constexpr const char* pieces[] = {"lblCamClick", "cStartCamConf", "lblCamLeave"};
     const auto measure = [&](const char* name)

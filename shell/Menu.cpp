@@ -18,10 +18,11 @@ const Form1::Handler* Form1::FindHandler(std::string_view name)
         {"cVidOptOK", &Form1::cVidOptOK_Click},   {"lblTxtFilter", &Form1::lblTxtFilter_Click},
         {"lblEffQ", &Form1::lblEffQ_Click},       {"cAudOpt", &Form1::cAudOpt_Click},
         {"cAudOptOK", &Form1::cAudOptOK_Click},   {"cOptOK", &Form1::cOptOK_Click},
-        {"cCtrOpt", &Form1::cCtrOpt_Click},       {"cCtrOptOK", &Form1::cCtrOptOK_Click},
-        {"cCtrMov", &Form1::cCtrMov_Click},       {"cCtrCam", &Form1::cCtrCam_Click},
-        {"cCtrOth", &Form1::cCtrOth_Click},       {"cCtrKey", &Form1::cCtrKey_Click},
-        {"dCtrKey", &Form1::dCtrKey_Click},
+        {"cCamConfig", &Form1::cCamConfig_Click}, {"cStartCamConf", &Form1::cStartCamConf_Click},
+        {"cWebcamOK", &Form1::cWebcamOK_Click},   {"cCtrOpt", &Form1::cCtrOpt_Click},
+        {"cCtrOptOK", &Form1::cCtrOptOK_Click},   {"cCtrMov", &Form1::cCtrMov_Click},
+        {"cCtrCam", &Form1::cCtrCam_Click},       {"cCtrOth", &Form1::cCtrOth_Click},
+        {"cCtrKey", &Form1::cCtrKey_Click},       {"dCtrKey", &Form1::dCtrKey_Click},
     };
     const auto* found =
         std::find_if(std::begin(Handlers), std::end(Handlers), [name](const Handler& h) { return h.Name == name; });

@@ -57,8 +57,8 @@ void Form1::PaintBackground()
 {
     const Mod3D::Screen& screen = TheGame.Screen;
     if (TheGame.Race.GameTime > 0 && !screen.Frame.Empty())
-        return forms::Stretch(TheCanvas, screen.ScreenW, screen.ScreenH, screen.Frame.RowBytes,
-                              screen.Frame.Bytes.data());
+        return forms::Stretch(TheCanvas, {0, 0, TheCanvas.Width, TheCanvas.Height}, screen.ScreenW, screen.ScreenH,
+                              screen.Frame.RowBytes, screen.Frame.Bytes.data());
     const forms::Image& background = TheMenuPictures.Background;
     if (background.Width > 0)
         return forms::Draw(TheCanvas, background, (TheCanvas.Width - background.Width) / 2,
@@ -99,6 +99,8 @@ void Form1::PaintPicture(forms::Canvas& canvas, const forms::Control& control, f
     }
     if (control.Name == "imgLogo")
         PaintLogo(canvas, place);
+    else if (control.Name == "picWebcam")
+        PaintPreview(canvas, place);
 }
 
 void Form1::PaintLogo(forms::Canvas& canvas, const forms::Rect& place) const

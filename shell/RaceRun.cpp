@@ -27,8 +27,9 @@ void Form1::StartProcess()
                           return;
                       const std::uint32_t now = ThePlatform.TickCount();
                       tmrLogo.Disable(now);
-                      if (TheGame.Settings.WebcamOn == base::False && scene.Pics.Has(TheGame.Hud.Webcam))
-                          scene.Pics.At(TheGame.Hud.Webcam).Visible = 0;
+                      const bool filmed = TheGame.Settings.WebcamOn != base::False && OpenWebcam();
+                      if (scene.Pics.Has(TheGame.Hud.Webcam))
+                          scene.Pics.At(TheGame.Hud.Webcam).Visible = filmed ? 1 : 0;
                       TheWindow->ShowCursor(false);
                       timers.GameT.Enable(now);
                       SetLabelVisible(scene, TheGame.Hud.Pause, false); // the race runs, paused before or not
@@ -51,6 +52,8 @@ void Form1::StopProcess()
                       timers.GameT.Disable(now);
                       timers.RenderT.Disable(now);
                       TheWindow->ShowCursor(true);
+                      if (TheGame.Settings.WebcamOn != base::False)
+                          CloseWebcam();
                   });
 }
 
@@ -92,6 +95,8 @@ void Form1::RunTimers()
         GameT_Tick();
     if (!HasEnded && TheGame.Timers.RenderT.IsDue())
         RenderT_Tick();
+    if (!HasEnded && TheGame.Timers.CaptureT.IsDue())
+        CaptureT_Tick();
     if (!HasEnded && tmrLogo.IsDue())
     {
         tmrLogo.Tick();
@@ -102,6 +107,7 @@ void Form1::RunTimers()
 std::uint32_t Form1::NextTimer()
 {
     AdvanceTimers();
-    return std::min({TheGame.Timers.GameT.UntilDue(), TheGame.Timers.RenderT.UntilDue(), tmrLogo.UntilDue()});
+    return std::min({TheGame.Timers.GameT.UntilDue(), TheGame.Timers.RenderT.UntilDue(),
+                     TheGame.Timers.CaptureT.UntilDue(), tmrLogo.UntilDue()});
 }
 }

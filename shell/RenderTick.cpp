@@ -54,6 +54,8 @@ void Form1::RenderT_Tick()
     AdvanceTimers();
     TheGame.Timers.RenderT.Tick();
     MeasureFrameRate(ThePlatform.TickCount());
+    if (TheGame.Settings.WebcamOn != base::False)
+        CarryOn([this] { ShowInset(); });
     CarryOn([this] { ShowSpeed(TheGame); });
     CarryOn([this] { ShowGear(TheGame); });
     CarryOn([this] { ShowPlace(TheGame); });

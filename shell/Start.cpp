@@ -37,7 +37,10 @@ Form1::Form1(platform::Platform& platform) : ThePlatform(platform), TheWindow(pl
     tmrLogo.interval = 100;
 }
 
-Form1::~Form1() = default;
+Form1::~Form1()
+{
+    ThePlatform.Camera().DeinitCapture(); // it writes into the form's buffer
+}
 
 void Form1::Form_Load()
 {
@@ -101,10 +104,15 @@ bool Form1::InitVideo()
             !(assets.FireYellow = LoadShared(messages, files, "data\\sprites\\fireY.bmp")))
             return false;
         TheGame.Scene.Ground.GroundScale = 1;
-        forms::Control& webcam = TheForm.Get("chkWebcam");
-        webcam.Enabled = base::False; // there is no capture device
-        webcam.Value = 0;
-        TheForm.Get("cCamConfig").Enabled = base::False;
+        modEscapi::Webcam& webcam = TheGame.Webcam;
+        webcam.FrameHeader.biWidth = modEscapi::CaptureWidth;
+        webcam.FrameHeader.biHeight = modEscapi::CaptureHeight;
+        ModBitmap::MakePicArray2D(messages, webcam.FrameHeader, webcam.Frame);
+        webcam.Capture.DeviceCount = ThePlatform.Camera().SetupCapture();
+        forms::Control& box = TheForm.Get("chkWebcam");
+        box.Enabled = base::ToFlag(webcam.Capture.DeviceCount != 0);
+        box.Value = webcam.Capture.DeviceCount > 0 ? 1 : 0;
+        TheForm.Get("cCamConfig").Enabled = box.Enabled;
         return true;
     }
     catch (...)
@@ -177,6 +185,8 @@ void Form1::FreeResources()
 {
     Mod3D::Scene& scene = TheGame.Scene;
     world::RaceAssets& assets = TheGame.Assets;
+    modEscapi::DeinitCapture(ThePlatform, TheGame.Webcam.Capture, 0); // it writes into what goes now
+    TheGame.Webcam.Frame.Clear();
     TheGame.Pictures = {};
     scene.Sky = {};
     for (ModBitmap::PicReference* picture : {&assets.Smoke, &assets.Water, &assets.FireRed, &assets.FireYellow})

@@ -154,4 +154,10 @@ void Machine::PumpEvents()
         if (std::find(Windows.begin(), Windows.end(), window) != Windows.end())
             window->Deliver();
 }
+
+void Machine::WaitEvents(std::uint32_t milliseconds)
+{
+    Clock += milliseconds;
+    PumpEvents();
+}
 }

@@ -2,6 +2,7 @@
 // answered with OK, windows that remember what they show. Tests, benchmarks and velkar-drive run on it; nothing here
 // reads a clock, a device or a screen, so the same script gives the same bytes.
 #pragma once
+#include "platform/headless/Webcam.h"
 #include "platform/Platform.h"
 
 #include <cstdint>
@@ -80,6 +81,8 @@ public:
     bool IsFirstInstance() override { return FirstInstance; }
     std::unique_ptr<platform::Window> MakeWindow(platform::WindowEvents& events, platform::Size size) override;
     void PumpEvents() override;
+    void WaitEvents(std::uint32_t milliseconds) override;
+    Webcam& Camera() override { return TheWebcam; }
 
     // What the script plays the part of.
     std::uint32_t Clock = 0; // milliseconds
@@ -89,6 +92,7 @@ public:
     std::string Clipboard;
     platform::Point Cursor;
     platform::Size Display{1280, 1024};
+    Webcam TheWebcam;
 
     // The message boxes shown so far; beyond MostBoxes they are only counted.
     static constexpr std::size_t MostBoxes = 1000;

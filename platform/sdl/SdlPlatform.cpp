@@ -49,7 +49,8 @@ std::uint32_t WindowOf(const SDL_Event& event)
 }
 }
 
-SdlPlatform::SdlPlatform(std::filesystem::path data) : TheFiles(std::move(data))
+SdlPlatform::SdlPlatform(std::filesystem::path data, WebcamSource webcam)
+    : TheFiles(std::move(data)), TheWebcam(std::move(webcam))
 {
     // A click that brings the window to the front is a click as well, as on the Windows desktop.
     SDL_SetHint(SDL_HINT_MOUSE_FOCUS_CLICKTHROUGH, "1");
@@ -144,5 +145,16 @@ void SdlPlatform::PumpEvents()
     SDL_Event event;
     while (SDL_PollEvent(&event) != 0)
         Dispatch(event);
+}
+
+void SdlPlatform::WaitEvents(std::uint32_t milliseconds)
+{
+    const std::uint32_t start = TickCount();
+    for (std::uint32_t passed = 0; passed < milliseconds; passed = TickCount() - start)
+    {
+        SDL_Event event;
+        if (SDL_WaitEventTimeout(&event, static_cast<int>(milliseconds - passed)) != 0)
+            Dispatch(event);
+    }
 }
 }

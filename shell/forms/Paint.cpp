@@ -160,19 +160,21 @@ void Draw(Canvas& canvas, const Image& image, std::int32_t x, std::int32_t y, in
     }
 }
 
-void Stretch(Canvas& canvas, std::int32_t width, std::int32_t height, std::int32_t rowBytes, const std::uint8_t* bits)
+void Stretch(Canvas& canvas, const Rect& rect, std::int32_t width, std::int32_t height, std::int32_t rowBytes,
+             const std::uint8_t* bits)
 {
     if (width <= 0 || height <= 0)
         return;
-    for (std::int32_t y = 0; y < canvas.Height; ++y)
+    const Rect inside = ClippedTo(canvas, rect);
+    for (std::int32_t y = inside.Y; y < inside.Y + inside.H; ++y)
     {
-        const auto fromY = static_cast<std::int32_t>(static_cast<std::int64_t>(y) * height / canvas.Height);
+        const auto fromY = static_cast<std::int32_t>(static_cast<std::int64_t>(y - rect.Y) * height / rect.H);
         const std::uint8_t* from =
             bits + static_cast<std::size_t>(height - 1 - fromY) * static_cast<std::size_t>(rowBytes);
-        std::uint8_t* to = canvas.At(0, y);
-        for (std::int32_t x = 0; x < canvas.Width; ++x, to += 3)
+        std::uint8_t* to = canvas.At(inside.X, y);
+        for (std::int32_t x = inside.X; x < inside.X + inside.W; ++x, to += 3)
         {
-            const auto fromX = static_cast<std::int32_t>(static_cast<std::int64_t>(x) * width / canvas.Width);
+            const auto fromX = static_cast<std::int32_t>(static_cast<std::int64_t>(x - rect.X) * width / rect.W);
             std::copy_n(from + 3 * static_cast<std::size_t>(fromX), 3, to);
         }
     }

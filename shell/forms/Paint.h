@@ -49,8 +49,9 @@ void OutlineRounded(Canvas& canvas, const Rect& rect, double radius, double thic
 void DrawStroke(Canvas& canvas, double x1, double y1, double x2, double y2, double thickness, Colour colour,
                 int alpha = 255);
 void Draw(Canvas& canvas, const Image& image, std::int32_t x, std::int32_t y, int alpha = 255);
-// Stretches bottom-up rows over the canvas, nearest pixel.
-void Stretch(Canvas& canvas, std::int32_t width, std::int32_t height, std::int32_t rowBytes, const std::uint8_t* bits);
+// Stretches bottom-up rows over the rectangle, nearest pixel.
+void Stretch(Canvas& canvas, const Rect& rect, std::int32_t width, std::int32_t height, std::int32_t rowBytes,
+             const std::uint8_t* bits);
 // One line, centred vertically in the rectangle. Text wider than the rectangle is set smaller. weight: 1 regular.
 void DrawText(Canvas& canvas, const Rect& rect, std::string_view text, double size, double weight, Colour colour,
               Align align);

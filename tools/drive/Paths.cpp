@@ -17,6 +17,11 @@ auto KeysOf(shell::Game& game)
     return Merged(All{game.Keys}, All{game.Bindings});
 }
 
+auto WebcamOf(shell::Game& game)
+{
+    return Merged(All{game.Webcam.Capture}, All{game.Webcam}, Named{"Shake", game.Run.Shake});
+}
+
 auto RaceOf(shell::Game& game)
 {
     return Merged(All{game.Race}, Named{"NumCheckpoints", game.Race.Map.NumCheckpoints, ReadOnly});
@@ -40,8 +45,8 @@ auto RootsOf(shell::Form1& form, headless::Machine& machine)
                   Named{"acheckpoints", map.ACheckpoints}, Named{"boxes", map.Boxes}, Named{"grass", map.Grass},
                   Named{"water", map.Water}, Named{"camera", game.Camera}, Named{"screen", game.Screen},
                   Named{"race", RaceOf(game)}, Named{"settings", SettingsOf(game)}, Named{"keys", KeysOf(game)},
-                  Named{"timers", game.Timers}, Named{"controls", ControlsView{form.Controls()}},
-                  Named{"clipboard", machine.Clipboard});
+                  Named{"webcam", WebcamOf(game)}, Named{"timers", game.Timers},
+                  Named{"controls", ControlsView{form.Controls()}}, Named{"clipboard", machine.Clipboard});
 }
 
 template <class Use>

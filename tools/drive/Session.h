@@ -63,6 +63,7 @@ std::span<const Command> LifeCommands();  // set-up, load, unload
 std::span<const Command> InputCommands(); // controls, keys, characters
 std::span<const Command> TimeCommands();  // ticks and the clock
 std::span<const Command> FileCommands();  // pictures
+std::span<const Command> WebcamCommands();
 std::span<const Command> FieldCommands(); // peek, poke, checksum
 
 // ---- What commands are parsed with; each throws a Refusal ----

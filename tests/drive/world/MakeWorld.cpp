@@ -63,7 +63,7 @@ void WriteFont(const Pictures& pictures)
 void WriteWorld(const Pictures& pictures)
 {
     pictures.Write("images/sky.bmp", 820, 16, [](int x, int row) { return Texel{x / 4, 100 + row, 255 - x / 4}; });
-    pictures.Plain("images/inside.bmp", 4, {90, 90, 90});
+    pictures.Write("images/inside.bmp", 107, 80, [](int x, int row) { return Texel{20 + x, 40, 60 + row}; });
     pictures.Plain("sprites/smoke.bmp", 4, {128, 128, 128});
     pictures.Plain("sprites/water.bmp", 4, {80, 120, 200});
     pictures.Plain("sprites/fireR.bmp", 4, {240, 60, 20});
@@ -75,6 +75,33 @@ void WriteWorld(const Pictures& pictures)
                        return Texel{x, 120 + 40 * (((x / 8) + (row / 8)) % 2), row};
                    });
     WriteFont(pictures);
+}
+
+// What a webcam sees: a room, the same with somebody in it, and with somebody who has moved. The picture of a real one
+// is never quite still.
+Texel Room(int x, int row, int noise)
+{
+    const int tremble = (x * 7 + row * 13 + noise * 5) % 5 - 2;
+    const int shade = 90 + row + (x / 18 % 2) * 40 + tremble;
+    return {shade, shade - 20, shade - 45};
+}
+
+Texel Person(int x, int row, int middle, Texel behind)
+{
+    const int aside = x - middle, headUp = row - 50;
+    if (aside * aside * 9 + headUp * headUp * 5 < 9 * 15 * 15)
+        return row > 60 ? Texel{50, 34, 24} : Texel{224, 172, 140}; // hair, face
+    const bool shoulders = row < 34 && aside * aside < 30 * 30 - (row - 8) * (row - 8) / 2;
+    return shoulders ? Texel{30, 60, 150} : behind;
+}
+
+void WriteWebcam(const Pictures& pictures)
+{
+    pictures.Write("room.bmp", 107, 80, [](int x, int row) { return Room(x, row, 0); });
+    pictures.Write("room_2.bmp", 107, 80, [](int x, int row) { return Room(x, row, 1); });
+    pictures.Write("player.bmp", 107, 80, [](int x, int row) { return Person(x, row, 45, Room(x, row, 2)); });
+    pictures.Write("moved.bmp", 107, 80, [](int x, int row) { return Person(x, row, 70, Room(x, row, 3)); });
+    pictures.Write("small.bmp", 106, 80, [](int, int) { return Texel{0, 0, 0}; });
 }
 }
 
@@ -90,5 +117,6 @@ int main(int count, char** arguments)
     fs::create_directories(destination);
     fs::copy(fs::path(arguments[1]) / "data", destination / "data", fs::copy_options::recursive);
     WriteWorld({destination / "data"});
+    WriteWebcam({destination / "webcam"});
     return 0;
 }
