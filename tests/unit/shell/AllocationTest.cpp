@@ -51,6 +51,24 @@ TEST_F(Allocation, NoneInAFrame)
     EXPECT_EQ(support::Allocations() - before, 0u);
 }
 
+TEST_F(Allocation, NoneInAFilmedFrame)
+{
+    Machine.TheWebcam.Devices = 1;
+    Warm();
+    const std::vector<std::uint8_t> pixels(107 * 80 * 4, 50);
+    const auto film = [&]
+    {
+        ASSERT_TRUE(Machine.TheWebcam.Complete(pixels));
+        Machine.Clock += 50;
+        Form.RenderT_Tick();
+    };
+    film();
+    const std::size_t before = support::Allocations();
+    for (int tick = 0; tick < 40; ++tick)
+        film();
+    EXPECT_EQ(support::Allocations() - before, 0u);
+}
+
 TEST_F(Allocation, NoneInTheKeysOfARace)
 {
     Warm();

@@ -179,7 +179,8 @@ TEST(Paint, TheFrameIsStretchedToTheCanvas)
     Canvas canvas;
     canvas.Resize(6, 4);
     const ModBitmap::Picture picture = Checker(3, 2);
-    forms::Stretch(canvas, 3, 2, picture.Pixels.RowBytes, picture.Pixels.Bytes.data());
+    forms::Stretch(canvas, {0, 0, canvas.Width, canvas.Height}, 3, 2, picture.Pixels.RowBytes,
+                   picture.Pixels.Bytes.data());
     EXPECT_EQ(At(canvas, 0, 0)[0], 0); // source row 1, the top one
     EXPECT_EQ(At(canvas, 1, 1)[0], 0);
     EXPECT_EQ(At(canvas, 2, 0)[0], 200);
