@@ -6,7 +6,7 @@ cd "$1" || exit 1
 
 # folder: the folders it may include from, itself among them
 declare -A may=(
-    [program]="platform shell base"
+    [program]="platform shell base program"
     [base]="base"
     [platform]="base platform"
     [render]="base render"
