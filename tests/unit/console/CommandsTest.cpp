@@ -126,6 +126,9 @@ TEST_F(Commands, ZoomKeepsToItsLowerBound)
     EXPECT_EQ(TheWorld.Camera.Zoom, 5);
     ExpectDone("\\set camera radius -3");
     EXPECT_EQ(TheWorld.Camera.Radius, -3);
+    TheWorld.Camera.Zoom = 0.5f; // below, from elsewhere
+    ExpectDone("\\set camera radius 3");
+    EXPECT_EQ(TheWorld.Camera.Zoom, 0.5f); // not the radius' business
 }
 
 TEST_F(Commands, TheFilterCyclesOrTakesAnyNumber)

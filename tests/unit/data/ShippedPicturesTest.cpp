@@ -1,10 +1,14 @@
 // What the game counts on in the pictures and letters that ship with it.
 #include "base/Text.h"
+#include "console/Texts.h"
 #include "render/Font.h"
 #include "render/PicArray.h"
 #include "tests/support/Messages.h"
 
 #include <gtest/gtest.h>
+
+#include <algorithm>
+#include <vector>
 
 namespace
 {
@@ -78,6 +82,38 @@ TEST_F(ShippedFont, LettersKeepTheirInkAtTheSmallestScale)
                 kept += glyph.Mask[static_cast<std::size_t>(j * 5 / 2 * glyph.GlyphW + i * 5 / 2)] != 0;
         EXPECT_GT(all, 0) << code;
         EXPECT_GT(kept, 0.5 * 0.16 * all) << code;
+    }
+}
+
+TEST_F(ShippedFont, EveryAnswerOfTheConsoleStandsOnTheFirstFrame)
+{
+    // 600 x 312, from (1, 272) downward at scale 0.5, as the console's label has it.
+    constexpr float scale = 0.5f;
+    std::vector<console::Topic> answers = {{"", console::AllObjects}, {"", console::AllCommands}};
+    for (const char* word : {"userplayer", "player", "camera", "game"})
+        answers.push_back(*console::FindObject(word));
+    for (const char* word : {"set", "get", "lst", "inf"})
+        answers.push_back(*console::FindCommand(word));
+    for (const console::Topic& answer : answers)
+    {
+        // The widest tab stop may still hold from another answer.
+        const std::int16_t tabWidth = answer.TabWidth != 0 ? answer.TabWidth : std::int16_t{8};
+        const std::int32_t tab = ModBitmap::TabPixels(Font, scale, tabWidth);
+        EXPECT_LT(ModBitmap::TextWidth(Font, scale, answer.Text, tab), 600) << answer.Text;
+        const auto lines = std::count(answer.Text.begin(), answer.Text.end(), '\r');
+        EXPECT_GE(272 - static_cast<double>(lines) * (Font.LineHeight / 2.0 + 1), 0) << answer.Text;
+        // A name and what it means never share a tab stop: every name ends before the first.
+        std::string_view left = answer.Text;
+        while (!left.empty())
+        {
+            const std::string_view line = left.substr(0, left.find("\r\n"));
+            const std::string_view name = line.substr(0, line.find('\t'));
+            if (answer.TabWidth > 1)
+            {
+                EXPECT_LT(ModBitmap::TextWidth(Font, scale, name, tab), tab) << name;
+            }
+            left.remove_prefix(std::min(left.size(), line.size() + 2));
+        }
     }
 }
 
