@@ -98,8 +98,7 @@ void Form1::Clicked(const forms::Control& control)
 
 void Form1::PointedAt(const forms::Control& picture, std::int32_t x)
 {
-    if (const PictureHandler* handler = FindPictureHandler(picture.Name))
-        (this->*handler->Run)(x, picture.Place.W);
+    PointAt(picture.Name, x);
 }
 
 // Something else was pressed: the rebinding box gives up.

@@ -41,6 +41,9 @@ public:
     // The click handler of a control. False where there is no such control or it has no handler.
     bool Click(std::string_view name, std::int16_t index = -1);
 
+    // The left button held over a picture box, x pixels from its left edge. False as above.
+    bool PointAt(std::string_view name, std::int32_t x);
+
     // Tells the timers the platform's clock; then a tick each that is due: GameT before RenderT before CaptureT, then
     // the title's timer.
     void RunTimers();

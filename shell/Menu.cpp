@@ -50,6 +50,17 @@ bool Form1::Click(std::string_view name, std::int16_t index)
     return true;
 }
 
+bool Form1::PointAt(std::string_view name, std::int32_t x)
+{
+    const PictureHandler* handler = FindPictureHandler(name);
+    const forms::Control* picture = TheForm.Find(name);
+    if (HasEnded || handler == nullptr || picture == nullptr)
+        return false;
+    (this->*handler->Run)(x, picture->Place.W);
+    Repaint();
+    return true;
+}
+
 void Form1::TwinsFollow()
 {
     for (const char* entry : MenuEntries())

@@ -59,8 +59,7 @@ void Interaction::SetFocus(std::int16_t index)
     const Control* box = Focused();
     if (box != nullptr && IsEdited(*box))
         SelectAll(TheMarks.Edit, box->Text);
-    FollowText();
-    Owner.Changed();
+    TextEdited();
 }
 
 // Another frame has come to the top: its first text waits to be typed over.
@@ -86,25 +85,38 @@ void Interaction::FollowTopFrame()
 void Interaction::FollowText()
 {
     const Control* box = Focused();
+    const bool isOther = EditedBox != TheForm.Focus;
+    EditedBox = TheForm.Focus;
     if (box == nullptr || !IsEdited(*box))
     {
         TheMarks.Edit = {};
         TheMarks.Scroll = 0;
-        EditedBox = TheForm.Focus;
         return;
     }
-    if (EditedBox != TheForm.Focus)
-        MoveCaret(TheMarks.Edit, box->Text.size(), false);
-    EditedBox = TheForm.Focus;
+    if (isOther || EditedText != box->Text)
+    {
+        EditedText = box->Text;
+        MoveCaret(TheMarks.Edit, EditedText.size(), false);
+    }
     FitTo(TheMarks.Edit, box->Text);
     TheMarks.Scroll = ScrollFor(*box, TextRoom(*box, TheForm.PlaceOf(*box)), TheMarks.Edit.Caret, TheMarks.Scroll);
+}
+
+// After every change of the text or the selection that is made here.
+void Interaction::TextEdited()
+{
+    const Control* box = Focused();
+    if (box != nullptr && IsEdited(*box))
+        EditedText = box->Text;
+    FollowText();
+    Owner.Changed();
 }
 
 void Interaction::Settle()
 {
     FollowTopFrame();
     const Control* focus = Focused();
-    if (focus != nullptr && focus->Place.W > 0 && !IsAvailable(*focus))
+    if (focus == nullptr || (focus->Place.W > 0 && !IsAvailable(*focus)))
         SetFocus(-1);
     for (std::int16_t* mark : {&TheMarks.Hot, &TheMarks.Pressed})
         if (const Control* control = Of(*mark); control != nullptr && !IsAvailable(*control))

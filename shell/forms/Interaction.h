@@ -72,6 +72,7 @@ private:
     void SetFocus(std::int16_t index);
     void FollowTopFrame();
     void FollowText();
+    void TextEdited();
     void Click(const Control& control);
     bool IsEdited(const Control& control) const;
 
@@ -109,8 +110,9 @@ private:
     Marks TheMarks;
     Grip TheGrip = Grip::Nothing; // what the left button, held, acts on
     std::int16_t HeldKey = 0;
-    std::int16_t TopFrame = -1; // as last seen
-    std::int16_t EditedBox = -1;
+    std::int16_t TopFrame = -1;  // as last seen
+    std::int16_t EditedBox = -1; // the selection is in this text
+    std::string EditedText;
     bool Shift = false, Ctrl = false, Alt = false;
     struct
     {

@@ -40,8 +40,7 @@ void Interaction::KeyDown(std::int16_t code)
         return;
     if (Control* focus = Focused(); focus != nullptr && IsEdited(*focus) && BoxKey(*focus, code))
     {
-        FollowText();
-        return Owner.Changed();
+        return TextEdited();
     }
     else if (focus != nullptr && LevelKey(*focus, code))
         return;
@@ -195,7 +194,6 @@ void Interaction::Character(std::uint8_t code)
             return;
     }
     CloseList();
-    FollowText();
-    Owner.Changed();
+    TextEdited();
 }
 }

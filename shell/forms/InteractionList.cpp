@@ -73,8 +73,7 @@ void Interaction::Choose(Control& box, std::int32_t item)
         box.Text = box.Items[static_cast<std::size_t>(item)];
     SelectAll(TheMarks.Edit, box.Text);
     CloseList();
-    FollowText();
-    Owner.Changed();
+    TextEdited();
 }
 
 void Interaction::StepItem(Control& box, int step)

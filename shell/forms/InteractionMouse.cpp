@@ -34,7 +34,9 @@ bool Interaction::PressControl(Control& control, platform::Point at, std::uint32
         SetFocus(-1);
     else if (IsEdited(control))
     {
+        const int seen = TheForm.Focus == index ? TheMarks.Scroll : 0;
         SetFocus(index);
+        TheMarks.Scroll = seen; // the pointer is where it is in the text as it was seen
         if (Contains(DropButton(control, TheForm.PlaceOf(control)), at.X, at.Y))
         {
             OpenList(control);
@@ -71,8 +73,7 @@ void Interaction::PressText(Control& box, platform::Point at, std::uint32_t now)
         const Rect room = TextRoom(box, TheForm.PlaceOf(box));
         MoveCaret(TheMarks.Edit, CaretAt(box, at.X - room.X + TheMarks.Scroll), Shift);
     }
-    FollowText();
-    Owner.Changed();
+    TextEdited();
 }
 
 void Interaction::DragText(platform::Point at)
@@ -82,8 +83,7 @@ void Interaction::DragText(platform::Point at)
         return;
     const Rect room = TextRoom(*box, TheForm.PlaceOf(*box));
     MoveCaret(TheMarks.Edit, CaretAt(*box, at.X - room.X + TheMarks.Scroll), true);
-    FollowText();
-    Owner.Changed();
+    TextEdited();
 }
 
 void Interaction::PointAt(platform::Point at)

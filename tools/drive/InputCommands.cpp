@@ -31,6 +31,7 @@ void Type(Session& session, Words& words, Object&)
     forms::Control& control = ControlNamed(session, Word(words, "the name of a control"));
     Require(forms::HasText(control.Type), "the control is no text or combo box");
     control.Text = words.Rest();
+    session.Form()->Paint();
 }
 
 void Check(Session& session, Words& words, Object&)
@@ -40,10 +41,11 @@ void Check(Session& session, Words& words, Object&)
     Require(forms::HasValue(control.Type), "the control is no check box");
     const auto value = Number<std::int16_t>(words, "the value", 0, 1);
     RequireEnd(words);
-    if (control.Value == value)
-        return;
+    if (control.Value == value || !session.Form()->Controls().IsEnabled(control))
+        return; // nothing that a click would change
     control.Value = value;
     session.Form()->Click(name); // where it has a handler
+    session.Form()->Paint();
 }
 
 void Drag(Session& session, Words& words, Object&)
@@ -51,11 +53,12 @@ void Drag(Session& session, Words& words, Object&)
     shell::Form1& form = *session.Form();
     const forms::Control& control = ControlNamed(session, Word(words, "the name of a control"));
     Require(control.Type == forms::Kind::Picture, "the control is no picture box");
-    Require(form.Controls().IsShown(control), "the control is not shown");
     const forms::Rect place = form.Controls().PlaceOf(control);
     const std::int32_t x = Number(words, "the column", 0, place.W - 1);
     RequireEnd(words);
     const platform::Point at{place.X + x, place.Y + place.H / 2};
+    if (form.Controls().At(at.X, at.Y) != &control) // hidden or covered: what it would do if it were not
+        return Require(form.PointAt(control.Name, x), "the control is not shown");
     form.MouseDown(1, at);
     form.MouseMove(1, at);
     form.MouseUp(1, at);

@@ -183,3 +183,23 @@ TEST(Typeface, OutlineCoversTheSameStrokesAsDraw)
     EXPECT_GT(right, 0.8 * Typeface::Width("VELKAR", 100));
     EXPECT_LT(right, Typeface::Width("VELKAR", 100));
 }
+
+TEST(Typeface, ThePointedGapIsTheNearest)
+{
+    for (const double size : {9.0, 14.0, 26.0, 60.0})
+    {
+        const std::string text = "AVà€W. Ti";
+        const Typeface::Style style{size, 1, 0};
+        EXPECT_EQ(Typeface::GapAt(text, style, -1e9), 0u);
+        EXPECT_EQ(Typeface::GapAt(text, style, 1e9), text.size());
+        EXPECT_EQ(Typeface::GapAt("", style, 3), 0u);
+        for (std::size_t byte = 0; byte <= text.size(); ++byte)
+        {
+            const bool isGap = byte == text.size() || (static_cast<unsigned char>(text[byte]) & 0xC0) != 0x80;
+            if (isGap)
+            {
+                EXPECT_EQ(Typeface::GapAt(text, style, Typeface::Width(text.substr(0, byte), style)), byte) << size;
+            }
+        }
+    }
+}
