@@ -145,6 +145,8 @@ void DrawGlyph(const Surface& surface, const Glyph& glyph, std::int32_t x, std::
     const std::int64_t firstJ = std::max<std::int64_t>(0, -static_cast<std::int64_t>(y));
     const std::int64_t lastI = std::min<std::int64_t>(lastColumn, static_cast<std::int64_t>(surface.Width) - 1 - x);
     const std::int64_t lastJ = std::min<std::int64_t>(lastRow, static_cast<std::int64_t>(surface.Height) - 1 - y);
+    if (lastI < firstI || lastJ < firstJ)
+        return; // beside the surface, as most of a line that is too long for it
     const auto maskRow = [&](std::int64_t j)
     {
         const std::int32_t row = base::Floor(static_cast<double>(j) / size);
