@@ -1,39 +1,45 @@
 #include "platform/sdl/ScreenPointer.h"
 
-#include <SDL.h>
 #include <SDL_syswm.h>
 
 namespace platform
 {
+#if defined(SDL_VIDEO_DRIVER_X11)
 namespace
 {
-#if defined(SDL_VIDEO_DRIVER_X11)
-bool AskServer(SDL_Window* window, Point& position)
+bool IsOf(SDL_Window* window, const XEvent& event)
 {
     SDL_SysWMinfo info;
     SDL_VERSION(&info.version);
-    if (SDL_GetWindowWMInfo(window, &info) != SDL_TRUE || info.subsystem != SDL_SYSWM_X11)
-        return false;
-    Display* display = info.info.x11.display;
-    ::Window root = 0, child = 0;
-    int x = 0, y = 0;
-    unsigned int buttons = 0;
-    return XQueryPointer(display, DefaultRootWindow(display), &root, &child, &position.X, &position.Y, &x, &y,
-                         &buttons) != 0;
-}
-#else
-bool AskServer(SDL_Window*, Point&)
-{
-    return false;
-}
-#endif
+    return SDL_GetWindowWMInfo(window, &info) == SDL_TRUE && info.info.x11.window == event.xany.window;
 }
 
-Point ScreenPointer(SDL_Window* window)
+int ButtonsHeld(unsigned int state)
 {
-    Point position;
-    if (!AskServer(window, position))
-        SDL_GetGlobalMouseState(&position.X, &position.Y);
-    return position;
+    return ((state & Button1Mask) != 0 ? 1 : 0) + ((state & Button3Mask) != 0 ? 2 : 0) +
+           ((state & Button2Mask) != 0 ? 4 : 0);
 }
+}
+
+std::optional<PointerEvent> ReadPointer(SDL_Window* window, const SDL_Event& event)
+{
+    if (event.type != SDL_SYSWMEVENT || event.syswm.msg == nullptr || event.syswm.msg->subsystem != SDL_SYSWM_X11)
+        return {};
+    const XEvent& told = event.syswm.msg->msg.x11.event;
+    const bool moved = told.type == MotionNotify;
+    if ((!moved && told.type != ButtonPress && told.type != ButtonRelease) || !IsOf(window, told))
+        return {};
+    if (!moved)
+        return PointerEvent{{told.xbutton.x_root, told.xbutton.y_root}, {told.xbutton.x, told.xbutton.y}};
+    return PointerEvent{{told.xmotion.x_root, told.xmotion.y_root},
+                        {told.xmotion.x, told.xmotion.y},
+                        true,
+                        ButtonsHeld(told.xmotion.state)};
+}
+#else
+std::optional<PointerEvent> ReadPointer(SDL_Window*, const SDL_Event&)
+{
+    return {};
+}
+#endif
 }

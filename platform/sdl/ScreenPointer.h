@@ -1,12 +1,22 @@
-// platform/sdl/ScreenPointer.h: where the mouse pointer is on the screen at this moment.
+// platform/sdl/ScreenPointer.h: what an X server tells of the pointer and SDL does not pass on: where on the screen it
+// was, and the motions that end at the same place of a window that has moved along.
 #pragma once
 #include "platform/Platform.h"
 
-struct SDL_Window;
+#include <SDL.h>
+
+#include <optional>
 
 namespace platform
 {
-// Pixels from the top left corner. Asked of the X server itself: while a button is held, SDL's own answer stands still
-// on servers that keep the raw motion from it. Elsewhere SDL's answer.
-Point ScreenPointer(SDL_Window* window);
+struct PointerEvent
+{
+    Point Screen, Client;
+    bool Moved = false; // otherwise a button went down or up
+    int Buttons = 0;    // held during a motion, as in WindowEvents
+};
+
+// The server's own event behind an SDL_SYSWMEVENT, valid until the next event is fetched. Empty where it is of another
+// window or not about the pointer, and on other systems.
+std::optional<PointerEvent> ReadPointer(SDL_Window* window, const SDL_Event& event);
 }

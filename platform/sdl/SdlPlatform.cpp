@@ -59,6 +59,7 @@ SdlPlatform::SdlPlatform(std::filesystem::path data, WebcamSource webcam)
     if (SDL_Init(SDL_INIT_VIDEO) != 0)
         throw base::RuntimeError(base::ErrorAccess, SDL_GetError());
     SDL_StartTextInput();
+    SDL_EventState(SDL_SYSWMEVENT, SDL_ENABLE); // see ScreenPointer.h
 }
 
 SdlPlatform::~SdlPlatform()
@@ -97,8 +98,9 @@ void SdlPlatform::Remove(SdlWindow& window)
 void SdlPlatform::Dispatch(const SDL_Event& event)
 {
     const std::uint32_t id = WindowOf(event);
+    // SDL_QUIT comes from the session or a signal; an X server's own events are looked through by each.
     const bool everyWindow = event.type == SDL_RENDER_TARGETS_RESET || event.type == SDL_RENDER_DEVICE_RESET ||
-                             event.type == SDL_QUIT; // from the session or a signal: every window is asked
+                             event.type == SDL_QUIT || event.type == SDL_SYSWMEVENT;
     // A handler may close windows: each is looked up again.
     for (std::size_t i = 0; i < Windows.size(); ++i)
         if (everyWindow || (id != 0 && Windows[i]->Id() == id))
@@ -145,6 +147,8 @@ void SdlPlatform::PumpEvents()
     SDL_Event event;
     while (SDL_PollEvent(&event) != 0)
         Dispatch(event);
+    for (std::size_t i = 0; i < Windows.size(); ++i)
+        Windows[i]->TellMotion();
 }
 
 void SdlPlatform::WaitEvents(std::uint32_t milliseconds)

@@ -8,6 +8,7 @@
 
 #include <algorithm>
 #include <cstdio>
+#include <utility>
 
 namespace platform
 {
@@ -94,15 +95,25 @@ void SdlWindow::Dispatch(const SDL_Event& event)
         DispatchText(event.text.text);
         break;
     case SDL_MOUSEBUTTONDOWN:
+        TellMotion();
         if (const int button = ButtonValue(event.button.button))
             Events.MouseDown(button, {event.button.x, event.button.y});
         break;
     case SDL_MOUSEBUTTONUP:
+        TellMotion();
         if (const int button = ButtonValue(event.button.button))
             Events.MouseUp(button, {event.button.x, event.button.y});
         break;
     case SDL_MOUSEMOTION:
-        Events.MouseMove(ButtonsHeld(event.motion.state), {event.motion.x, event.motion.y});
+        Motion = {ButtonsHeld(event.motion.state), {event.motion.x, event.motion.y}};
+        break;
+    case SDL_SYSWMEVENT:
+        if (const auto pointer = ReadPointer(TheWindow.get(), event))
+        {
+            Pointer = pointer->Screen;
+            if (pointer->Moved)
+                Motion = {pointer->Buttons, pointer->Client};
+        }
         break;
     case SDL_QUIT:
         Events.CloseAsked();
@@ -137,6 +148,12 @@ void SdlWindow::DispatchWindow(const SDL_WindowEvent& event)
     default:
         break;
     }
+}
+
+void SdlWindow::TellMotion()
+{
+    if (const auto motion = std::exchange(Motion, {}))
+        Events.MouseMove(motion->Buttons, motion->At);
 }
 
 void SdlWindow::DispatchText(const char* utf8)
@@ -208,7 +225,11 @@ void SdlWindow::ShowCursor(bool visible)
 
 Point SdlWindow::CursorPosition()
 {
-    return ScreenPointer(TheWindow.get());
+    if (Pointer)
+        return *Pointer;
+    Point position;
+    SDL_GetGlobalMouseState(&position.X, &position.Y);
+    return position;
 }
 
 bool SdlWindow::MakeTexture(int width, int height)

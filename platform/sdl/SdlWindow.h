@@ -5,6 +5,7 @@
 #include <SDL.h>
 
 #include <memory>
+#include <optional>
 
 namespace platform
 {
@@ -21,6 +22,9 @@ public:
 
     std::uint32_t Id() const;
     void Dispatch(const SDL_Event& event);
+    // Motions are kept until a button moves or no event is left, and only the last is told: moving a window takes
+    // longer than a mouse takes to move on.
+    void TellMotion();
 
     void ShowMessage(base::Icon icon, const std::string& title, const std::string& text) override;
     void Show(bool visible) override;
@@ -37,6 +41,11 @@ public:
     void SetClipboardText(const std::string& text) override;
 
 private:
+    struct Moved
+    {
+        int Buttons;
+        Point At;
+    };
     struct WindowDeleter
     {
         void operator()(SDL_Window* window) const { SDL_DestroyWindow(window); }
@@ -61,6 +70,8 @@ private:
     std::unique_ptr<SDL_Renderer, RendererDeleter> TheRenderer;
     std::unique_ptr<SDL_Texture, TextureDeleter> TheTexture;
     Size TextureSize;
+    std::optional<Moved> Motion;
+    std::optional<Point> Pointer; // on the screen at the event that is being handled, where the system tells
     bool CursorShown = true;
 };
 }
