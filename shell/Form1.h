@@ -143,7 +143,7 @@ private:
     bool TakeResolution();
     void ApplyResolution(std::int32_t width, std::int32_t height);
     void ApplyFullScreen(bool on); // off: the client area is as large as the frame
-    void Refuse(const char* text);
+    void Refuse(const char* box, const char* text);
     void ShowPanel(std::string_view name, bool visible);
 
     // WebcamPanel.cpp: the webcam, its panel and the player's picture in the race view

@@ -34,9 +34,11 @@ std::optional<double> ReadTyped(std::string_view text)
 }
 }
 
-void Form1::Refuse(const char* text)
+// The wrong text waits to be typed over.
+void Form1::Refuse(const char* box, const char* text)
 {
     TheWindow->ShowMessage(base::Icon::Exclamation, base::DefaultTitle, text);
+    TheInteraction.FocusOn(TheForm.Get(box));
 }
 
 void Form1::ShowPanel(std::string_view name, bool visible)
@@ -56,9 +58,9 @@ void Form1::cGameOptOK_Click(std::int16_t)
                   {
                       const std::optional<double> laps = ReadTyped(TheForm.Get("txtLap").Text);
                       if (!laps)
-                          return Refuse("Il numero di giri deve essere un numero");
+                          return Refuse("txtLap", "Il numero di giri deve essere un numero");
                       if (!IsWithin(*laps, LeastLaps, MostLaps))
-                          return Refuse("Il numero di giri deve essere compreso tra 1 e 99");
+                          return Refuse("txtLap", "Il numero di giri deve essere compreso tra 1 e 99");
                       TheGame.Race.Laps = base::ToInt16(*laps);
                       ShowPanel("panelGameOpt", false);
                   });
@@ -105,12 +107,12 @@ bool Form1::TakeFrameRate()
     const std::optional<double> rate = ReadTyped(TheForm.Get("txtFreq").Text);
     if (!rate)
     {
-        Refuse("La frequenza di aggiornamento deve essere un numero");
+        Refuse("txtFreq", "La frequenza di aggiornamento deve essere un numero");
         return false;
     }
     if (!IsWithin(*rate, LeastFps, MostFps))
     {
-        Refuse("La frequenza di aggiornamento deve essere compresa tra 5 e 30 fps");
+        Refuse("txtFreq", "La frequenza di aggiornamento deve essere compresa tra 5 e 30 fps");
         return false;
     }
     const std::int16_t fps = base::ToInt16(*rate);
@@ -125,24 +127,24 @@ bool Form1::TakeResolution()
     const std::size_t mark = text.find('x');
     if (mark == std::string::npos)
     {
-        Refuse("La risoluzione deve essere nel formato WxH");
+        Refuse("txtRes", "La risoluzione deve essere nel formato WxH");
         return false;
     }
     const std::optional<double> width = ReadTyped(std::string_view(text).substr(0, mark));
     const std::optional<double> height = ReadTyped(std::string_view(text).substr(mark + 1));
     if (!width || !height)
     {
-        Refuse("I termini della risoluzione devono essere numeri");
+        Refuse("txtRes", "I termini della risoluzione devono essere numeri");
         return false;
     }
     if (!IsWithin(*width, LeastWidth, MostWidth))
     {
-        Refuse("La risoluzione orizzontale deve essere compresa tra 240 e 1200");
+        Refuse("txtRes", "La risoluzione orizzontale deve essere compresa tra 240 e 1200");
         return false;
     }
     if (!IsWithin(*height, LeastHeight, MostHeight))
     {
-        Refuse("La risoluzione verticale deve essere compresa tra 200 e 900");
+        Refuse("txtRes", "La risoluzione verticale deve essere compresa tra 200 e 900");
         return false;
     }
     ApplyResolution(base::ToInt32(*width), base::ToInt32(*height));

@@ -62,6 +62,12 @@ void Interaction::SetFocus(std::int16_t index)
     TextEdited();
 }
 
+void Interaction::FocusOn(const Control& control)
+{
+    if (CanFocus(control))
+        SetFocus(TheForm.IndexOf(control));
+}
+
 // Another frame has come to the top: its first text waits to be typed over.
 void Interaction::FollowTopFrame()
 {

@@ -41,6 +41,9 @@ public:
     void KeyUp(std::int16_t code);
     void Character(std::uint8_t code); // of the system code page
 
+    // Gives it the focus, a text selected, where it can have it.
+    void FocusOn(const Control& control);
+
     // A key that has acted does nothing more until it is released, or until Release.
     void Hold(std::int16_t code) { HeldKey = code; }
     bool Holds(std::int16_t code) const { return code != 0 && code == HeldKey; }

@@ -227,7 +227,16 @@ std::vector<std::string_view> BreakLines(std::string_view text, double size, dou
 void DrawParagraph(Canvas& canvas, const Rect& rect, std::string_view text, double size, double weight, Colour colour,
                    Align align)
 {
-    const std::vector<std::string_view> lines = BreakLines(text, size, weight, rect.W);
+    std::vector<std::string_view> lines = BreakLines(text, size, weight, rect.W);
+    // No more lines than needed, and then as even as they get: no word stands alone at the end.
+    const auto step = std::max(1, base::RoundEven(size));
+    for (std::int32_t width = rect.W - step; width > 0; width -= step)
+    {
+        std::vector<std::string_view> narrower = BreakLines(text, size, weight, width);
+        if (narrower.size() != lines.size())
+            break;
+        lines = std::move(narrower);
+    }
     const std::int32_t height = base::RoundEven(Typeface::LineHeight(size));
     std::int32_t y = rect.Y + (rect.H - height * static_cast<std::int32_t>(lines.size())) / 2;
     for (const std::string_view line : lines)
