@@ -1,6 +1,8 @@
-// velkar-assets ROOT [PART ...]: rebuilds data/ below ROOT. Parts: track, cars, hud; all of them when none is named.
+// velkar-assets ROOT [PART ...]: rebuilds data/ and soundtracks/ below ROOT. Parts: track, cars, hud, sound; all of
+// them when none is named.
 #include "cars/Cars.h"
 #include "hud/Hud.h"
+#include "sound/Sound.h"
 #include "track/Track.h"
 #include <algorithm>
 #include <exception>
@@ -17,8 +19,10 @@ struct Part
 
 static const std::vector<Part>& Parts()
 {
-    static const std::vector<Part> parts{
-        {"track", Assets::BuildTrack}, {"cars", Assets::BuildCars}, {"hud", Assets::BuildHud}};
+    static const std::vector<Part> parts{{"track", Assets::BuildTrack},
+                                         {"cars", Assets::BuildCars},
+                                         {"hud", Assets::BuildHud},
+                                         {"sound", Assets::BuildSound}};
     return parts;
 }
 

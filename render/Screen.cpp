@@ -31,9 +31,8 @@ void TakeSize(Screen& screen, std::int32_t width, std::int32_t height)
     screen.ScreenMaxY = height - 1;
     screen.RowBytes = width * 3;
     screen.RowBytesLast = screen.RowBytes - 3;
-    const std::int32_t column = width / 2, row = height / 2; // whole pixels
-    screen.CenterX = static_cast<float>(column);
-    screen.CenterY = static_cast<float>(row);
+    screen.CenterX = static_cast<float>(width / 2);
+    screen.CenterY = static_cast<float>(height / 2);
 }
 
 void MakeTables(Screen& screen)

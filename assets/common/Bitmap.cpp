@@ -1,11 +1,9 @@
 // The bitmap writer of Canvas.h.
 #include "common/Canvas.h"
+#include "common/Output.h"
 #include <algorithm>
 #include <array>
 #include <cstdint>
-#include <filesystem>
-#include <fstream>
-#include <stdexcept>
 
 namespace Assets
 {
@@ -68,13 +66,7 @@ void WriteBmp(const std::string& path, const Canvas& canvas, Black black, bool d
         }
         out.insert(out.end(), padding, 0);
     }
-    const std::filesystem::path file(path);
-    if (file.has_parent_path())
-        std::filesystem::create_directories(file.parent_path());
-    std::ofstream stream(file, std::ios::binary);
-    stream.write(reinterpret_cast<const char*>(out.data()), static_cast<std::streamsize>(out.size()));
-    if (!stream)
-        throw std::runtime_error("cannot write " + path);
+    WriteBytes(path, out);
 }
 
 void WriteBmp(const std::string& path, const Mask& mask)

@@ -199,7 +199,7 @@ template <class T> void AppendValue(std::string& json, T& value)
         json += IsTuple<T> ? '[' : '{';
         bool first = true;
         ForEachMember(value,
-                      [&]([[maybe_unused]] std::string_view name, auto& member, bool)
+                      [&](std::string_view name, auto& member, bool)
                       {
                           json += first ? "" : ", ";
                           first = false;

@@ -1,0 +1,9 @@
+// sound/Sound.h: the engine sample and the music.
+#pragma once
+#include <string>
+
+namespace Assets
+{
+// Writes data/sounds and soundtracks. Throws std::runtime_error when a file cannot be made.
+void BuildSound(const std::string& root);
+}

@@ -1,0 +1,13 @@
+// sound/Tracks.h: the pieces of music that ship. Each is its score and its recording in one file of tracks/.
+#pragma once
+#include "sound/synth/Stereo.h"
+
+namespace Assets::Sound
+{
+// A drive into the evening: synthesisers of another decade.
+Stereo LuciSulLago();
+// A funk of high summer: guitars, mandolin, brass.
+Stereo LimonataSulMolo();
+// Hairpins: fast, electric guitars over a sequencer.
+Stereo Tornanti();
+}

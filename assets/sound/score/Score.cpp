@@ -1,0 +1,279 @@
+#include "sound/score/Score.h"
+#include "common/Numbers.h"
+#include "sound/score/Pattern.h"
+#include <algorithm>
+#include <sstream>
+#include <stdexcept>
+
+namespace Assets::Sound
+{
+namespace
+{
+constexpr double StepBeats = 0.25; // a pattern's sixteenth
+
+void Shift(Line& line, double beats, int semitones)
+{
+    for (Note& note : line.Notes)
+    {
+        note.Start += beats;
+        note.Key += semitones;
+        note.FromKey += semitones;
+    }
+}
+
+// The lowest key at or above `lowest` of a pitch class.
+int AtOrAbove(int pitch, int lowest)
+{
+    return lowest + Wrap(pitch - lowest, 12);
+}
+
+bool Has(const Chord& chord, int tone)
+{
+    return std::find(chord.Tones.begin(), chord.Tones.end(), tone) != chord.Tones.end();
+}
+
+// The chord's own colour of a degree, or what stands for it in a chord without that degree.
+int Degree(const Chord& chord, int major, int minor, int otherwise)
+{
+    return Has(chord, major) ? major : Has(chord, minor) ? minor : otherwise;
+}
+}
+
+Score::Score(const Tempo& tempo, std::vector<Section> sections) : _tempo(tempo), _sections(std::move(sections))
+{
+    for (const Section& section : _sections)
+    {
+        _starts.push_back(_beats);
+        const std::vector<std::string> bars = Bars(section.Chords);
+        if (bars.empty())
+            throw std::runtime_error("no chords: " + section.Name);
+        for (int bar = 0; bar < section.Bars; ++bar)
+        {
+            const std::vector<std::string> names = Words(bars[static_cast<std::size_t>(bar) % bars.size()]);
+            const double length = tempo.BarBeats / static_cast<double>(names.size());
+            for (const std::string& name : names)
+            {
+                _chords.push_back({_beats, length, Shifted(ParseChord(name), section.Shift)});
+                _beats += length;
+            }
+        }
+    }
+}
+
+double Score::Seconds(double beat) const
+{
+    const double eighth = std::floor(beat * 2) / 2, part = (beat - eighth) * 2; // 0 .. 1 within the eighth
+    const double swung = part < 0.5 ? part * 2 * _tempo.Swing : _tempo.Swing + (part - 0.5) * 2 * (1 - _tempo.Swing);
+    return (eighth + swung / 2) * 60 / _tempo.Bpm;
+}
+
+const Section& Score::Named(const std::string& name) const
+{
+    const auto found =
+        std::find_if(_sections.begin(), _sections.end(), [&](const Section& s) { return s.Name == name; });
+    if (found == _sections.end())
+        throw std::runtime_error("no section: " + name);
+    return *found;
+}
+
+double Score::StartOf(const std::string& section) const
+{
+    return _starts[static_cast<std::size_t>(&Named(section) - _sections.data())];
+}
+
+double Score::EndOf(const std::string& section) const
+{
+    return StartOf(section) + Named(section).Bars * _tempo.BarBeats;
+}
+
+std::size_t Score::ChordAt(double beat) const
+{
+    std::size_t at = 0;
+    while (at + 1 < _chords.size() && _chords[at + 1].Start <= beat + 1e-9)
+        ++at;
+    return at;
+}
+
+Line Score::Melody(const std::string& section, const std::string& text) const
+{
+    Line line = ParseMelody(text, _tempo.BarBeats);
+    Shift(line, StartOf(section), Named(section).Shift);
+    if (!line.Notes.empty() && line.Notes.back().Start >= EndOf(section))
+        throw std::runtime_error("a melody longer than " + section);
+    return line;
+}
+
+Line Score::Beat(const std::string& section, const std::string& pattern) const
+
+{
+    constexpr double Key = 60; // what has a pitch of its own does not ask
+    Line line;
+    const int barSteps = RoundToInt(_tempo.BarBeats / StepBeats);
+    for (const Step& step : Steps(pattern, Named(section).Bars, barSteps))
+    {
+        const double start = StartOf(section) + step.At * StepBeats;
+        if (!line.Notes.empty())
+            line.Notes.back().Length = start - line.Notes.back().Start;
+        line.Notes.push_back({start, step.Steps * StepBeats, Key, Key, ForceOf(step.Sign), 0});
+        if (step.Sign == 'r')
+        {
+            line.Notes.back().Length = StepBeats / 2;
+            line.Notes.push_back({start + StepBeats / 2, StepBeats / 2, Key, Key, ForceOf(step.Sign) + 0.08, 0});
+        }
+    }
+    return line;
+}
+
+void Score::Drums(Kit& kit, const std::string& section, const std::string& patterns) const
+{
+    std::istringstream lines(patterns);
+    for (std::string line; std::getline(lines, line);)
+    {
+        std::istringstream words(line);
+        std::string name, pattern;
+        if (!(words >> name))
+            continue;
+        std::getline(words, pattern);
+        kit[name] += Beat(section, pattern);
+    }
+}
+
+Line Score::Bass(const std::string& section, const std::string& pattern, int lowest) const
+{
+    Line line;
+    const int barSteps = RoundToInt(_tempo.BarBeats / StepBeats);
+    for (const Step& step : Steps(pattern, Named(section).Bars, barSteps))
+    {
+        const double start = StartOf(section) + step.At * StepBeats;
+        const std::size_t index = ChordAt(start);
+        const Chord& chord = _chords[index].Sounding;
+        const Chord& next = _chords[std::min(index + 1, _chords.size() - 1)].Sounding;
+        const int bass = AtOrAbove(chord.Bass, lowest), target = AtOrAbove(next.Bass, lowest);
+        // Degrees count from the root, above the bass note.
+        const int root = AtOrAbove(chord.Root, bass);
+        int key = bass;
+        switch (step.Sign)
+        {
+        case '1':
+            break;
+        case '3':
+            key = root + Degree(chord, 4, 3, 5);
+            break;
+        case '5':
+            key = root + Degree(chord, 7, 6, 7);
+            break;
+        case '6':
+            key = root + 9;
+            break;
+        case '7':
+            key = root + Degree(chord, 11, 10, 12);
+            break;
+        case '8':
+            key = bass + 12;
+            break;
+        case '0':
+            key = root + Degree(chord, 7, 6, 7) - 12;
+            break;
+        case '<':
+            key = target - 1;
+            break;
+        case '>':
+            key = target + 1;
+            break;
+        default:
+            throw std::runtime_error("no degree of a bass: " + pattern);
+        }
+        const double force = step.At % 4 == 0 ? 0.82 : step.At % 2 == 0 ? 0.74 : 0.66;
+        line.Notes.push_back(
+            {start, step.Steps * StepBeats * 0.92, static_cast<double>(key), static_cast<double>(key), force, 0});
+    }
+    return line;
+}
+
+static std::vector<Chord> Sounding(const auto& placed)
+{
+    std::vector<Chord> chords;
+    chords.reserve(placed.size());
+    for (const auto& each : placed)
+        chords.push_back(each.Sounding);
+    return chords;
+}
+
+Line Score::Held(const std::string& section, const Range& range) const
+{
+    Line line;
+    const auto layouts = Lead(Sounding(_chords), range);
+    for (std::size_t i = 0; i < _chords.size(); ++i)
+        if (_chords[i].Start >= StartOf(section) - 1e-9 && _chords[i].Start < EndOf(section) - 1e-9)
+            for (const int key : layouts[i])
+                line.Notes.push_back(
+                    {_chords[i].Start, _chords[i].Length, static_cast<double>(key), static_cast<double>(key), 0.7, 0});
+    return line;
+}
+
+Line Score::Comp(const std::string& section, const std::string& pattern, const Range& range) const
+{
+    Line line;
+    const auto layouts = Lead(Sounding(_chords), range);
+    const int barSteps = RoundToInt(_tempo.BarBeats / StepBeats);
+    for (const Step& step : Steps(pattern, Named(section).Bars, barSteps))
+    {
+        const double start = StartOf(section) + step.At * StepBeats;
+        if (ForceOf(step.Sign) <= 0)
+            throw std::runtime_error("no stroke: " + pattern);
+        for (const int key : layouts[ChordAt(start)])
+            line.Notes.push_back({start, step.Steps * StepBeats * 0.9, static_cast<double>(key),
+                                  static_cast<double>(key), ForceOf(step.Sign), 0});
+    }
+    return line;
+}
+
+Line Score::Arpeggio(const std::string& section, const std::string& pattern, const Range& range) const
+{
+    Line line;
+    const auto layouts = Lead(Sounding(_chords), range);
+    const int barSteps = RoundToInt(_tempo.BarBeats / StepBeats);
+    for (const Step& step : Steps(pattern, Named(section).Bars, barSteps))
+    {
+        const double start = StartOf(section) + step.At * StepBeats;
+        const int voice = step.Sign - '0';
+        if (voice < 0 || voice > 9)
+            throw std::runtime_error("no voice of an arpeggio: " + pattern);
+        const std::vector<int>& keys = layouts[ChordAt(start)];
+        const int count = static_cast<int>(keys.size());
+        const int octaves = voice / count;
+        const double key = keys[static_cast<std::size_t>(voice % count)] + 12.0 * octaves;
+        const double force = step.At % 4 == 0 ? 0.8 : step.At % 2 == 0 ? 0.68 : 0.6;
+        line.Notes.push_back({start, step.Steps * StepBeats * 0.9, key, key, force, 0});
+    }
+    return line;
+}
+
+Line Score::Marks(const std::vector<std::string>& sections, double before) const
+{
+    Line line;
+    for (const std::string& section : sections)
+        line.Notes.push_back({StartOf(section) - before, before, 60, 60, 0.8, 0});
+    return line;
+}
+
+Line Score::Below(const Line& melody, int distance) const
+{
+    Line line = melody;
+    double last = -1;
+    for (Note& note : line.Notes)
+    {
+        const Chord& chord = _chords[ChordAt(note.Start)].Sounding;
+        const auto has = [&](int trial) { return Has(chord, Wrap(trial - chord.Root, 12)); };
+        // Not a semitone above another tone of the chord: that would rub.
+        int key = RoundToInt(note.Key) - distance;
+        const int lowest = key - 9;
+        while (key > lowest && (!has(key) || has(key - 1)))
+            --key;
+        note.FromKey = note.FromKey == note.Key || last < 0 ? key : last;
+        note.Key = last = key;
+        note.Force *= 0.9;
+    }
+    return line;
+}
+}

@@ -1,0 +1,28 @@
+// sound/synth/Biquad.h: two poles, two zeros, fixed: the tone controls of a mixing desk.
+#pragma once
+#include "sound/synth/Stereo.h"
+
+namespace Assets::Sound
+{
+struct Biquad
+{
+    double B0 = 1, B1 = 0, B2 = 0, A1 = 0, A2 = 0;
+    double S1 = 0, S2 = 0;
+
+    double Run(double in)
+    {
+        const double out = B0 * in + S1;
+        S1 = B1 * in - A1 * out + S2;
+        S2 = B2 * in - A2 * out;
+        return out;
+    }
+};
+
+Biquad HighPassOf(double hz, double q);
+Biquad LowPassOf(double hz, double q);
+Biquad BellOf(double hz, double q, double decibels);
+Biquad HighShelfOf(double hz, double decibels);
+Biquad LowShelfOf(double hz, double decibels);
+// The same filter on either side.
+void RunBoth(Stereo& sound, const Biquad& filter);
+}

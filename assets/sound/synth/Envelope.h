@@ -1,0 +1,31 @@
+// sound/synth/Envelope.h: how a note swells and fades. Times in seconds.
+#pragma once
+#include <algorithm>
+#include <cmath>
+
+namespace Assets::Sound
+{
+struct Envelope
+{
+    double Attack = 0.004;
+    double Decay = 0.2; // to within 5 per cent of Sustain
+    double Sustain = 0.7;
+    double Release = 0.1; // to silence
+
+    // At t seconds from the beginning of a note whose key is let go after `held`.
+    double At(double t, double held) const
+    {
+        const double down = Down(std::min(t, held));
+        return t <= held ? down : down * Tail((t - held) / Release);
+    }
+
+private:
+    double Down(double t) const
+    {
+        if (t < Attack)
+            return t / Attack * (2 - t / Attack);
+        return Sustain + (1 - Sustain) * std::exp(-3 * (t - Attack) / Decay);
+    }
+    static double Tail(double part) { return part >= 1 ? 0 : std::exp(-5 * part) * (1 - part); }
+};
+}
