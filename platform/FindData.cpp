@@ -19,7 +19,7 @@ bool HoldsData(const fs::path& folder)
 fs::path ExecutablePath(const char* firstArgument)
 {
     std::error_code error;
-    const fs::path told = fs::read_symlink("/proc/self/exe", error);
+    fs::path told = fs::read_symlink("/proc/self/exe", error);
     if (!error)
         return told;
     const fs::path absolute = fs::absolute(firstArgument != nullptr ? firstArgument : "", error);
@@ -28,7 +28,7 @@ fs::path ExecutablePath(const char* firstArgument)
 
 fs::path FindDataAmong(const fs::path& executable, std::span<const fs::path> installed)
 {
-    const fs::path own = executable.parent_path();
+    fs::path own = executable.parent_path();
     for (fs::path folder = own;; folder = folder.parent_path())
     {
         if (HoldsData(folder))

@@ -31,8 +31,9 @@ void TakeSize(Screen& screen, std::int32_t width, std::int32_t height)
     screen.ScreenMaxY = height - 1;
     screen.RowBytes = width * 3;
     screen.RowBytesLast = screen.RowBytes - 3;
-    screen.CenterX = static_cast<float>(width / 2);
-    screen.CenterY = static_cast<float>(height / 2);
+    const std::int32_t column = width / 2, row = height / 2; // whole pixels
+    screen.CenterX = static_cast<float>(column);
+    screen.CenterY = static_cast<float>(row);
 }
 
 void MakeTables(Screen& screen)

@@ -31,6 +31,7 @@ Canvas PaintGround(const Plan& plan)
         // Every texel depends on its place alone, so the rows can be shared out.
         constexpr int Painters = 2;
         std::vector<std::jthread> painters;
+        painters.reserve(Painters);
         for (int i = 0; i < Painters; ++i)
             painters.emplace_back([&, i] { PaintRows(ground, plan, terrain, i, Painters); });
     }

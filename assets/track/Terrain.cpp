@@ -108,6 +108,7 @@ void SurveyShore(const Plan& plan, Terrain& terrain)
     const std::vector<Point> shore = Rounded(plan.Lake, 3, true);
     LowerToLine(terrain.Shore, shore, true, 60, 0);
     std::vector<Point> outline;
+    outline.reserve(shore.size());
     for (const Point& p : shore)
         outline.push_back({p.X * TexelsPerUnit, p.Y * TexelsPerUnit});
     CoverPolygon(GroundSize, GroundSize, outline,

@@ -12,7 +12,7 @@ namespace
 // The name is taken before anything else, so that an ill-formed command writes nothing.
 std::string FileName(Words& words)
 {
-    const std::string name(Word(words, "the name of a file"));
+    std::string name(Word(words, "the name of a file"));
     RequireEnd(words);
     return name;
 }

@@ -199,7 +199,7 @@ template <class T> void AppendValue(std::string& json, T& value)
         json += IsTuple<T> ? '[' : '{';
         bool first = true;
         ForEachMember(value,
-                      [&](std::string_view name, auto& member, bool)
+                      [&]([[maybe_unused]] std::string_view name, auto& member, bool)
                       {
                           json += first ? "" : ", ";
                           first = false;
