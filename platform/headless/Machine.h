@@ -84,6 +84,8 @@ public:
     void WaitEvents(std::uint32_t milliseconds) override;
     Webcam& Camera() override { return TheWebcam; }
 
+    const std::vector<Window*>& OpenWindows() const { return Windows; } // in the order in which they were made
+
     // What the script plays the part of.
     std::uint32_t Clock = 0; // milliseconds
     std::uint64_t Seed = 1;
