@@ -64,8 +64,12 @@ void Interaction::SetFocus(std::int16_t index)
 
 void Interaction::FocusOn(const Control& control)
 {
-    if (CanFocus(control))
-        SetFocus(TheForm.IndexOf(control));
+    if (!CanFocus(control))
+        return;
+    SetFocus(TheForm.IndexOf(control));
+    if (IsEdited(control))
+        SelectAll(TheMarks.Edit, control.Text);
+    TextEdited();
 }
 
 // Another frame has come to the top: its first text waits to be typed over.

@@ -89,7 +89,6 @@ private:
     void SetHot(std::int16_t index);
 
     // InteractionKeys.cpp
-    bool ListKey(std::int16_t code);
     bool BoxKey(Control& box, std::int16_t code);
     bool ClipboardKey(Control& box, std::int16_t code);
     bool LevelKey(Control& picture, std::int16_t code);
@@ -107,6 +106,7 @@ private:
     void ShowItem(const Control& box, std::int32_t item);
     void Choose(Control& box, std::int32_t item);
     void StepItem(Control& box, int step);
+    bool ListKey(std::int16_t code);
 
     Form& TheForm;
     FormOwner& Owner;

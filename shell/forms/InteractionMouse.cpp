@@ -34,7 +34,7 @@ bool Interaction::PressControl(Control& control, platform::Point at, std::uint32
         SetFocus(-1);
     else if (IsEdited(control))
     {
-        const int seen = TheForm.Focus == index ? TheMarks.Scroll : 0;
+        const std::int32_t seen = TheForm.Focus == index ? TheMarks.Scroll : 0;
         SetFocus(index);
         TheMarks.Scroll = seen; // the pointer is where it is in the text as it was seen
         if (Contains(DropButton(control, TheForm.PlaceOf(control)), at.X, at.Y))

@@ -13,15 +13,12 @@ namespace
 void PaintField(Canvas& canvas, const Rect& place, double radius, const State& state)
 {
     FillRounded(canvas, place, radius, Slate, state.Enabled ? 170 : 70);
-    const bool hot = state.Hot && state.Enabled;
-    OutlineRounded(canvas, place, radius, state.Focus ? std::max(1.0, Unit(canvas, 1.6)) : Unit(canvas, 1),
-                   state.Focus ? Accent
-                   : hot       ? Pale
-                               : Muted,
-                   state.Focus     ? 255
-                   : hot           ? 170
-                   : state.Enabled ? 100
-                                   : 40);
+    if (state.Focus)
+        OutlineRounded(canvas, place, radius, std::max(1.0, Unit(canvas, 1.6)), Accent);
+    else if (state.Hot && state.Enabled)
+        OutlineRounded(canvas, place, radius, Unit(canvas, 1), Pale, 170);
+    else
+        OutlineRounded(canvas, place, radius, Unit(canvas, 1), Muted, state.Enabled ? 100 : 40);
 }
 
 // The band of the line in which caret and selection stand.

@@ -78,6 +78,8 @@ TEST_F(Panels, AWrongTextStaysAndIsToldOnce)
     EXPECT_TRUE(IsShown("panelGameOpt"));
     EXPECT_EQ(Control("txtLap").Text, "cento");
     EXPECT_EQ(Focus(), "txtLap");
+    Type("7"); // over it
+    EXPECT_EQ(Control("txtLap").Text, "7");
 }
 
 TEST_F(Panels, TypedTextIsSeenAtOnce)
