@@ -55,7 +55,7 @@ std::int32_t MotionAmount(MotionDetector& detector, const ModBitmap::PicArray2D&
         return StillMoving;
     }
     std::int64_t total = 0;
-    const auto used = static_cast<std::size_t>(3 * width); // the padding of a row is not looked at
+    const auto used = static_cast<std::size_t>(width) * 3; // the padding of a row is not looked at
     for (std::int32_t y = 0; y < height; ++y)
     {
         const std::uint8_t* now = frame.Row(y);
