@@ -4,6 +4,7 @@
 #pragma once
 #include "base/Files.h"
 #include "base/Trapped.h"
+#include "platform/Sound.h"
 #include "platform/Webcam.h"
 
 #include <cstdint>
@@ -38,6 +39,8 @@ struct WindowEvents
     virtual void Paint() = 0;   // the client area must be shown again
     // The user closes the window. False refuses.
     virtual bool CloseAsked() = 0;
+    virtual void WaveDone(std::int32_t user) = 0;                        // that buffer of the wave device has come back
+    virtual void MediaDone(std::uint32_t number, std::int32_t code) = 0; // the music file of that Play has ended
 };
 
 struct Window : base::MessageSink
@@ -77,6 +80,9 @@ struct Platform
     virtual bool IsFirstInstance() = 0;
     // A borderless window, hidden until shown. `events` outlives it.
     virtual std::unique_ptr<Window> MakeWindow(WindowEvents& events, Size size) = 0;
+    // Their events go to the window, which outlives them. Nothing is opened yet.
+    virtual std::unique_ptr<WaveOut> MakeWaveOut(Window& window) = 0;
+    virtual std::unique_ptr<MusicPlayer> MakeMusicPlayer(Window& window) = 0;
     // Handles the window events that are waiting, without waiting for any.
     virtual void PumpEvents() = 0;
     // Handles window events for so long. Headless: the clock goes on by it.

@@ -40,6 +40,8 @@ public:
     void Resized() override { Paint(); }
     void Paint() override;
     bool CloseAsked() override { return false; } // it closes itself
+    void WaveDone(std::int32_t) override {}
+    void MediaDone(std::uint32_t, std::int32_t) override {}
 
     TickTimer Timer1;
 
@@ -69,7 +71,7 @@ void Application::Splash::Paint()
 Application::Application(platform::Platform& platform) : ThePlatform(platform) {}
 Application::~Application() = default;
 
-void Application::Start()
+void Application::Start(std::vector<double> draws)
 {
     if (!ThePlatform.IsFirstInstance())
     {
@@ -80,6 +82,7 @@ void Application::Start()
     TheSplash->Show(ThePlatform.TickCount());
     ThePlatform.PumpEvents();
     TheForm1 = std::make_unique<Form1>(ThePlatform);
+    TheForm1->State().Random.Script = std::move(draws);
     TheForm1->Form_Load();
 }
 

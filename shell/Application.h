@@ -4,6 +4,7 @@
 #include "shell/Form1.h"
 
 #include <memory>
+#include <vector>
 
 namespace shell
 {
@@ -14,7 +15,8 @@ public:
     ~Application() override;
 
     // The splash appears and Form1 loads behind it. A second instance ends at once, without a word.
-    void Start();
+    // Where draws are given, the game's uniform draws cycle through them from the beginning.
+    void Start(std::vector<double> draws = {});
     Form1* Main() { return TheForm1.get(); } // null before Start and in a second instance
 
     // platform::Program. The splash timer (1000 ms) hides the splash and shows Form1.

@@ -1,6 +1,7 @@
 // shell/Form1.h: the main window: start-up, menu, race run, both ticks, keys. Handlers are named control_Event.
 // Everything runs on the window's thread.
 #pragma once
+#include "audio/WaveOut.h"
 #include "console/Console.h"
 #include "platform/Platform.h"
 #include "shell/forms/Control.h"
@@ -75,16 +76,30 @@ public:
     void Resized() override;
     void Paint() override;
     bool CloseAsked() override;
+    void WaveDone(std::int32_t user) override;
+    void MediaDone(std::uint32_t number, std::int32_t code) override;
+
+    // The left button is held over the effects' slider, x pixels from its left edge, of so many pixels' width.
+    void picEffVol_MouseMove(std::int32_t x, std::int32_t width);
+    // The music control's notification; code 1 also skips to the next track.
+    void MMC_Done(std::int32_t notifyCode);
 
 private:
     // Start.cpp: start-up and shut-down
     void SetProcessorDefaults();
     bool InitVideo(); // false: the module failed
-    void InitAudio();
+    bool InitAudio(); // false: the module failed
     void Inizializza();
     void EndFailed(const char* module); // the box that ends the program
     void FreeResources();
+
+    // AudioOptions.cpp, Sound.cpp: what is heard
+    void LoadAudio();
     void CloseAudio(bool& cancel);
+    waveOut_Module::Stream MakeStream() { return {TheGame.Engine, *TheWaveOut, *TheWindow}; }
+    void SetEngineSound();
+    void SetMediaCommand(const char* command);
+    void SetMusic(bool on);
 
     // RaceRun.cpp
     void AdvanceTimers();
@@ -118,8 +133,6 @@ private:
     void cCREDIT_Click(std::int16_t index);
     void cCreditOK_Click(std::int16_t index);
     void cEXIT_Click(std::int16_t index);
-    void cAudOpt_Click(std::int16_t index);
-    void cAudOptOK_Click(std::int16_t index);
     void cCtrOpt_Click(std::int16_t index);
     void cCtrOptOK_Click(std::int16_t index);
     void cCtrMov_Click(std::int16_t index);
@@ -145,6 +158,11 @@ private:
     void ApplyFullScreen(bool on); // off: the client area is as large as the frame
     void Refuse(const char* box, const char* text);
     void ShowPanel(std::string_view name, bool visible);
+
+    // AudioOptions.cpp
+    void DrawLevelBar(std::string_view name, float share); // 0 to 1, beyond it the nearer one
+    void cAudOpt_Click(std::int16_t index);
+    void cAudOptOK_Click(std::int16_t index);
 
     // WebcamPanel.cpp: the webcam, its panel and the player's picture in the race view
     bool TakeFrame(); // a new one has come
@@ -196,6 +214,8 @@ private:
     platform::Platform& ThePlatform;
     std::unique_ptr<platform::Window> TheWindow;
     Game TheGame;
+    std::unique_ptr<platform::WaveOut> TheWaveOut; // plays what lies in TheGame
+    std::unique_ptr<platform::MusicPlayer> TheMusic;
     forms::Form TheForm;
     TickTimer tmrLogo;
     forms::Canvas TheCanvas;

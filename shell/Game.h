@@ -1,5 +1,7 @@
 // shell/Game.h: the whole state of one game. Form1 owns it and hands its records on by reference.
 #pragma once
+#include "audio/EngineSound.h"
+#include "audio/Soundtrack.h"
 #include "base/Fields.h"
 #include "base/Random.h"
 #include "render/Scene.h"
@@ -21,6 +23,14 @@ struct Settings
     float EffQuality = 1.0f;     // 0, 0.3, 0.5, 1.0
     base::Flag WebcamOn = base::False;
     base::Flag FullScreen = base::False;
+};
+
+// The effects are what the engine sounds like; the music has no volume of its own.
+struct AudioSettings
+{
+    // Deliberate: 1 at start-up, where it means all, and from 20 to 100, per cent, once the slider was moved.
+    float EffectsVolume = 1;
+    std::int16_t EffectsFactor = 0; // of the engine's gain
 };
 
 // Key codes of the rebindable actions, by binding index.
@@ -56,13 +66,14 @@ struct Hud
 struct RunState
 {
     std::int32_t AudioReady = 0; // -1 once the audio initialisation has finished; guards closing
+    std::int32_t OldWndProc = 0; // not 0 while finished wave buffers are told
     std::string LastCommand;     // the console's recall
     std::uint32_t StartTick = 0; // when the race was started or resumed
     std::int32_t Fps = 0;
     std::uint32_t FpsLastTime = 0, FpsNextTime = 0;
     std::int32_t Blink = 0;        // of the title
     std::int16_t RebindIndex = -1; // the action that waits for a key
-    std::int32_t NoticeTime = 0;   // race clock when the notice was posted
+    std::int32_t NoticeTime = 0;   // race clock when the notice was posted: when the present track started
     float Shake = 0;               // amplitude of the webcam picture's jitter
     bool InBox = false;            // the followed car stands still inside a box
 };
@@ -83,6 +94,9 @@ struct Game
     world::RaceAssets Assets;
     base::Random Random;
     shell::Settings Settings;
+    shell::AudioSettings Audio;
+    waveOut_Module::EngineSound Engine;
+    audio::Soundtrack Soundtrack;
     shell::KeyBindings Bindings;
     shell::Hud Hud;
     shell::Pictures Pictures;
@@ -98,6 +112,13 @@ template <> struct base::FieldsOf<shell::Settings>
     static constexpr auto Table =
         std::make_tuple(Field{"TargetFps", &S::TargetFps}, Field{"EffQuality", &S::EffQuality},
                         Field{"WebcamOn", &S::WebcamOn}, Field{"FullScreen", &S::FullScreen});
+};
+
+template <> struct base::FieldsOf<shell::AudioSettings>
+{
+    using A = shell::AudioSettings;
+    static constexpr auto Table =
+        std::make_tuple(Field{"EffectsVolume", &A::EffectsVolume}, Field{"EffectsFactor", &A::EffectsFactor});
 };
 
 template <> struct base::FieldsOf<shell::KeyBindings>

@@ -68,6 +68,7 @@ void Form1::GameT_Tick()
     world::Race& race = TheGame.Race;
     race.GameTime = TheGame.Timers.GameT.Elapsed;
     modDinamica::ComputePlaces(TheGame.Scene, race);
+    SetEngineSound();
     if (race.RaceOver != base::False)
         FloatTrophy(TheGame.Scene, TheGame.Camera, TheGame.Assets.CupObj);
     modDinamica::RaceStep(simulation, *this);

@@ -28,7 +28,12 @@ void Form1::Form_KeyDown(std::int16_t code)
 {
     if (TheGame.Timers.RenderT.Enabled == base::False || IsConsoleOpen())
         return;
-    SetHeldKey(code, base::True);
+    // Deliberate: a key that is held skips again with each of its repeats.
+    if (!SetHeldKey(code, base::True) && TheGame.Bindings.Bindings[Action::NextMusic] == code)
+    {
+        TheGame.Soundtrack.Unplayable = 0;
+        MMC_Done(platform::MediaSuccessful);
+    }
 }
 
 void Form1::Form_KeyUp(std::int16_t code)

@@ -3,7 +3,6 @@
 #include "shell/Form1.h"
 
 #include <algorithm>
-#include <array>
 #include <iterator>
 
 namespace shell
@@ -31,10 +30,10 @@ const Form1::Handler* Form1::FindHandler(std::string_view name)
 
 const Form1::PictureHandler* Form1::FindPictureHandler(std::string_view name)
 {
-    static constexpr std::array<PictureHandler, 0> Handlers = {};
-    const auto* found =
-        std::find_if(Handlers.begin(), Handlers.end(), [name](const PictureHandler& h) { return h.Name == name; });
-    return found == Handlers.end() ? nullptr : found;
+    static constexpr PictureHandler Handlers[] = {{"picEffVol", &Form1::picEffVol_MouseMove}};
+    const auto* found = std::find_if(std::begin(Handlers), std::end(Handlers),
+                                     [name](const PictureHandler& h) { return h.Name == name; });
+    return found == std::end(Handlers) ? nullptr : found;
 }
 
 bool Form1::Click(std::string_view name, std::int16_t index)
@@ -139,16 +138,6 @@ void Form1::cCreditOK_Click(std::int16_t)
 void Form1::cEXIT_Click(std::int16_t)
 {
     base::Trapped(*TheWindow, "cEXIT_Click", [this] { Form_Unload(); });
-}
-
-void Form1::cAudOpt_Click(std::int16_t)
-{
-    ShowPanel("panelAudOpt", true);
-}
-
-void Form1::cAudOptOK_Click(std::int16_t)
-{
-    ShowPanel("panelAudOpt", false);
 }
 
 void Form1::cCtrOpt_Click(std::int16_t)

@@ -101,6 +101,9 @@ void Form1::PaintPicture(forms::Canvas& canvas, const forms::Control& control, f
         PaintLogo(canvas, place);
     else if (control.Name == "picWebcam")
         PaintPreview(canvas, place);
+    else if (control.Name == "picMusVol" || control.Name == "picEffVol")
+        // The music's level is fixed.
+        forms::DrawLevel(canvas, place, control.Value / 100.0, control.Name == "picEffVol");
 }
 
 void Form1::PaintLogo(forms::Canvas& canvas, const forms::Rect& place) const

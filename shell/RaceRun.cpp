@@ -37,6 +37,11 @@ void Form1::StartProcess()
                       run.FpsLastTime = run.FpsNextTime = now;
                       timers.RenderT.Ticks = 0;
                       timers.RenderT.Enable(now);
+                      if (run.AudioReady == base::True)
+                      {
+                          waveOut_Module::Stream stream = MakeStream();
+                          waveOut_Module::StartStream(stream);
+                      }
                   });
 }
 
@@ -52,6 +57,11 @@ void Form1::StopProcess()
                       timers.GameT.Disable(now);
                       timers.RenderT.Disable(now);
                       TheWindow->ShowCursor(true);
+                      if (TheGame.Run.AudioReady == base::True)
+                      {
+                          waveOut_Module::Stream stream = MakeStream();
+                          waveOut_Module::StopStream(stream);
+                      }
                       if (TheGame.Settings.WebcamOn != base::False)
                           CloseWebcam();
                   });

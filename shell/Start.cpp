@@ -24,7 +24,9 @@ ModBitmap::PicReference LoadShared(base::MessageSink& messages, const base::File
 }
 }
 
-Form1::Form1(platform::Platform& platform) : ThePlatform(platform), TheWindow(platform.MakeWindow(*this, DesignSize))
+Form1::Form1(platform::Platform& platform)
+    : ThePlatform(platform), TheWindow(platform.MakeWindow(*this, DesignSize)),
+      TheWaveOut(platform.MakeWaveOut(*TheWindow)), TheMusic(platform.MakeMusicPlayer(*TheWindow))
 {
     TheWindow->SetTitle(base::DefaultTitle);
     MakeControls(TheForm);
@@ -58,7 +60,8 @@ void Form1::Form_Load()
                       modPrimitive::InitScene(TheGame.Scene);
                       if (!InitVideo())
                           return EndFailed("video");
-                      InitAudio();
+                      if (!InitAudio())
+                          return EndFailed("audio");
                       Inizializza();
                       // What the panels hold as designed are the defaults.
                       cGameOptOK_Click(-1);
@@ -120,11 +123,6 @@ bool Form1::InitVideo()
         base::ReportError(*TheWindow, "InitVideo");
         return false;
     }
-}
-
-void Form1::InitAudio()
-{
-    TheGame.Run.AudioReady = base::True;
 }
 
 void Form1::EndFailed(const char* module)
@@ -197,10 +195,5 @@ void Form1::FreeResources()
         scene.Polys.Release(i);
     for (std::int32_t i = 0; i < scene.Objects.Size(); ++i)
         modPrimitive::DeleteObj(scene, i);
-}
-
-void Form1::CloseAudio(bool& cancel)
-{
-    cancel = TheGame.Run.AudioReady != base::True;
 }
 }

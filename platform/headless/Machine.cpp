@@ -146,8 +146,20 @@ std::unique_ptr<platform::Window> Machine::MakeWindow(platform::WindowEvents& ev
     return std::make_unique<Window>(*this, events, size);
 }
 
+std::unique_ptr<platform::WaveOut> Machine::MakeWaveOut(platform::Window& window)
+{
+    return std::make_unique<WaveOut>(*this, static_cast<Window&>(window).Receiver());
+}
+
+std::unique_ptr<platform::MusicPlayer> Machine::MakeMusicPlayer(platform::Window& window)
+{
+    return std::make_unique<MusicPlayer>(*this, static_cast<Window&>(window).Receiver());
+}
+
 void Machine::PumpEvents()
 {
+    if (Wave != nullptr)
+        Wave->Deliver();
     // A handler may open and close windows: walk a copy and skip those that are gone.
     const std::vector<Window*> present = Windows;
     for (Window* window : present)

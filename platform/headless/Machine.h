@@ -2,6 +2,7 @@
 // answered with OK, windows that remember what they show. Tests, benchmarks and velkar-drive run on it; nothing here
 // reads a clock, a device or a screen, so the same script gives the same bytes.
 #pragma once
+#include "platform/headless/Sound.h"
 #include "platform/headless/Webcam.h"
 #include "platform/Platform.h"
 
@@ -53,6 +54,7 @@ public:
     Image Screenshot() const;
     // Hands over the resizing and painting that is due.
     void Deliver();
+    platform::WindowEvents& Receiver() { return Events; }
 
     std::string Title;
     bool Visible = false, CursorShown = true, FullScreen = false;
@@ -80,6 +82,8 @@ public:
     int ProcessorCount() override { return Processors; }
     bool IsFirstInstance() override { return FirstInstance; }
     std::unique_ptr<platform::Window> MakeWindow(platform::WindowEvents& events, platform::Size size) override;
+    std::unique_ptr<platform::WaveOut> MakeWaveOut(platform::Window& window) override;
+    std::unique_ptr<platform::MusicPlayer> MakeMusicPlayer(platform::Window& window) override;
     void PumpEvents() override;
     void WaitEvents(std::uint32_t milliseconds) override;
     Webcam& Camera() override { return TheWebcam; }
@@ -94,6 +98,9 @@ public:
     std::string Clipboard;
     platform::Point Cursor;
     platform::Size Display{1280, 1024};
+    ScriptedCalls Calls;
+    WaveOut* Wave = nullptr; // the devices made last, while they exist
+    MusicPlayer* Music = nullptr;
     Webcam TheWebcam;
 
     // The message boxes shown so far; beyond MostBoxes they are only counted.

@@ -1,6 +1,8 @@
 #include "platform/sdl/SdlPlatform.h"
 
 #include "base/RuntimeError.h"
+#include "platform/sdl/SdlMusic.h"
+#include "platform/sdl/SdlWaveOut.h"
 #include "platform/sdl/SdlWindow.h"
 
 #include <algorithm>
@@ -26,6 +28,13 @@ std::string LockPath()
         return std::string(runtime) + "/velkar.lock";
     return "/tmp/velkar-" + std::to_string(getuid()) + ".lock";
 }
+
+enum UserEvent : std::uint32_t
+{
+    WaveDoneEvent,
+    MediaDoneEvent,
+    UserEventCount
+};
 
 std::uint32_t WindowOf(const SDL_Event& event)
 {
@@ -60,6 +69,8 @@ SdlPlatform::SdlPlatform(std::filesystem::path data, WebcamSource webcam)
         throw base::RuntimeError(base::ErrorAccess, SDL_GetError());
     SDL_StartTextInput();
     SDL_EventState(SDL_SYSWMEVENT, SDL_ENABLE); // see ScreenPointer.h
+    SDL_SetHint(SDL_HINT_AUDIO_DEVICE_APP_NAME, "Velkar");
+    FirstUserEvent = SDL_RegisterEvents(UserEventCount);
 }
 
 SdlPlatform::~SdlPlatform()
@@ -95,8 +106,45 @@ void SdlPlatform::Remove(SdlWindow& window)
     std::erase(Windows, &window);
 }
 
+// A user event carries the window, the code and a number.
+bool SdlPlatform::Tell(std::uint32_t which, std::uint32_t window, std::int32_t code, std::uint32_t number) const
+{
+    SDL_Event event = {};
+    event.user.type = FirstUserEvent + which;
+    event.user.windowID = window;
+    event.user.code = code;
+    event.user.data1 = reinterpret_cast<void*>(static_cast<std::uintptr_t>(number));
+    return HasUserEvents() && SDL_PushEvent(&event) > 0;
+}
+
+bool SdlPlatform::TellWaveDone(std::uint32_t window, std::int32_t user) const
+{
+    return Tell(WaveDoneEvent, window, user, 0);
+}
+
+bool SdlPlatform::TellMediaDone(std::uint32_t window, std::uint32_t number, std::int32_t code) const
+{
+    return Tell(MediaDoneEvent, window, code, number);
+}
+
+bool SdlPlatform::HasSound()
+{
+    return SDL_WasInit(SDL_INIT_AUDIO) != 0 || SDL_InitSubSystem(SDL_INIT_AUDIO) == 0;
+}
+
+void SdlPlatform::DispatchUser(const SDL_UserEvent& event)
+{
+    const auto number = static_cast<std::uint32_t>(reinterpret_cast<std::uintptr_t>(event.data1));
+    for (SdlWindow* window : Windows)
+        if (window->Id() == event.windowID)
+            return event.type == FirstUserEvent + WaveDoneEvent ? window->Receiver().WaveDone(event.code)
+                                                                : window->Receiver().MediaDone(number, event.code);
+}
+
 void SdlPlatform::Dispatch(const SDL_Event& event)
 {
+    if (HasUserEvents() && event.type >= FirstUserEvent && event.type < FirstUserEvent + UserEventCount)
+        return DispatchUser(event.user);
     const std::uint32_t id = WindowOf(event);
     // SDL_QUIT comes from the session or a signal; an X server's own events are looked through by each.
     const bool everyWindow = event.type == SDL_RENDER_TARGETS_RESET || event.type == SDL_RENDER_DEVICE_RESET ||
@@ -140,6 +188,16 @@ bool SdlPlatform::IsFirstInstance()
 std::unique_ptr<Window> SdlPlatform::MakeWindow(WindowEvents& events, Size size)
 {
     return std::make_unique<SdlWindow>(*this, events, size);
+}
+
+std::unique_ptr<WaveOut> SdlPlatform::MakeWaveOut(Window& window)
+{
+    return std::make_unique<SdlWaveOut>(*this, static_cast<SdlWindow&>(window).Id());
+}
+
+std::unique_ptr<MusicPlayer> SdlPlatform::MakeMusicPlayer(Window& window)
+{
+    return std::make_unique<SdlMusic>(*this, static_cast<SdlWindow&>(window).Id());
 }
 
 void SdlPlatform::PumpEvents()

@@ -21,6 +21,7 @@ public:
     SdlWindow& operator=(const SdlWindow&) = delete;
 
     std::uint32_t Id() const;
+    WindowEvents& Receiver() { return Events; }
     void Dispatch(const SDL_Event& event);
     // Motions are kept until a button moves or no event is left, and only the last is told: moving a window takes
     // longer than a mouse takes to move on.

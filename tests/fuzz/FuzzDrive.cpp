@@ -9,10 +9,10 @@
 namespace
 {
 // Small, so that an input takes milliseconds.
-constexpr drive::Limits Few{.Ticks = 20, .Frames = 1, .Milliseconds = 60};
+constexpr drive::Limits Few{.Ticks = 20, .Frames = 1, .Milliseconds = 60, .Buffers = 9};
 constexpr int MostLines = 30;
 
-bool Discard(const std::string&, std::string_view)
+bool Discard(const std::string&, std::string_view, drive::Writing)
 {
     return true;
 }

@@ -10,8 +10,8 @@ namespace
 {
 const Command* FindCommand(std::string_view name)
 {
-    for (const std::span<const Command> subject :
-         {LifeCommands(), InputCommands(), TimeCommands(), FileCommands(), WebcamCommands(), FieldCommands()})
+    for (const std::span<const Command> subject : {LifeCommands(), InputCommands(), TimeCommands(), FileCommands(),
+                                                   SoundCommands(), WebcamCommands(), FieldCommands()})
         for (const Command& command : subject)
             if (command.Name == name)
                 return &command;

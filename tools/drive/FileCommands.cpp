@@ -19,7 +19,7 @@ std::string FileName(Words& words)
 
 void Save(Session& session, const std::string& name, std::string_view bytes)
 {
-    Require(session.Writer(name, bytes), "the file cannot be written");
+    Require(session.Writer(name, bytes, Writing::Anew), "the file cannot be written");
 }
 
 void Frame(Session& session, Words& words, Object&)

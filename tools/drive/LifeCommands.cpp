@@ -64,14 +64,10 @@ void Load(Session& session, Words& words, Object&)
     RequireBeforeLoad(session);
     RequireEnd(words);
     session.Application = std::make_unique<shell::Application>(session.Machine);
-    session.Application->Start();
+    session.Application->Start(session.Draws);
     session.Machine.PumpEvents();
     if (shell::Form1* form = session.Form())
-    {
         form->State().Screen.GroundLimit = NoGroundLimit;
-        if (!session.Draws.empty())
-            UseDraws(*form, session.Draws);
-    }
     session.Pass(SplashTime);
 }
 

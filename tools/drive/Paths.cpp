@@ -27,6 +27,15 @@ auto RaceOf(shell::Game& game)
     return Merged(All{game.Race}, Named{"NumCheckpoints", game.Race.Map.NumCheckpoints, ReadOnly});
 }
 
+auto AudioOf(shell::Game& game)
+{
+    audio::Soundtrack& music = game.Soundtrack;
+    return Merged(Named{"AudioReady", game.Run.AudioReady},
+                  Named{"Open", base::ToFlag(game.Engine.Handle != platform::NoWave), ReadOnly}, All{game.Engine},
+                  All{game.Audio}, All{music}, Named{"MediaCommand", music.Media.Command},
+                  Named{"MediaFile", music.Media.FileName});
+}
+
 auto ConsoleOf(Mod3D::Label2D& label, std::string& lastCommand)
 {
     return Merged(Named{"Open", label.Visible}, Named{"Text", label.Text}, Named{"TabWidth", label.TabWidth},
@@ -45,7 +54,7 @@ auto RootsOf(shell::Form1& form, headless::Machine& machine)
                   Named{"acheckpoints", map.ACheckpoints}, Named{"boxes", map.Boxes}, Named{"grass", map.Grass},
                   Named{"water", map.Water}, Named{"camera", game.Camera}, Named{"screen", game.Screen},
                   Named{"race", RaceOf(game)}, Named{"settings", SettingsOf(game)}, Named{"keys", KeysOf(game)},
-                  Named{"webcam", WebcamOf(game)}, Named{"timers", game.Timers},
+                  Named{"webcam", WebcamOf(game)}, Named{"timers", game.Timers}, Named{"audio", AudioOf(game)},
                   Named{"controls", ControlsView{form.Controls()}}, Named{"clipboard", machine.Clipboard});
 }
 

@@ -5,9 +5,10 @@
 
 namespace drive
 {
-bool WriteToDisk(const std::string& path, std::string_view bytes)
+bool WriteToDisk(const std::string& path, std::string_view bytes, Writing mode)
 {
-    std::ofstream out(std::filesystem::path(std::u8string(path.begin(), path.end())), std::ios::binary);
+    std::ofstream out(std::filesystem::path(std::u8string(path.begin(), path.end())),
+                      mode == Writing::Append ? std::ios::binary | std::ios::app : std::ios::binary);
     out.write(bytes.data(), static_cast<std::streamsize>(bytes.size()));
     out.close();
     return !out.fail();

@@ -21,9 +21,14 @@ struct Refusal
     std::string Why;
 };
 
+enum class Writing
+{
+    Anew,
+    Append
+};
 // Writes a file, relative to the working directory; false where it cannot.
-using FileWriter = std::function<bool(const std::string& path, std::string_view bytes)>;
-bool WriteToDisk(const std::string& path, std::string_view bytes);
+using FileWriter = std::function<bool(const std::string& path, std::string_view bytes, Writing mode)>;
+bool WriteToDisk(const std::string& path, std::string_view bytes, Writing mode);
 
 // The most that one command may ask for, so that no script keeps the driver for ever.
 struct Limits
@@ -31,6 +36,7 @@ struct Limits
     std::uint32_t Ticks = 1'000'000;         // of a game command: seven hours of race
     std::uint32_t Frames = 100'000;          // of a render command
     std::uint32_t Milliseconds = 86'400'000; // of a run command: a day
+    std::uint32_t Buffers = 100'000;         // of a wave command: over an hour of sound
 };
 
 struct Session
@@ -64,6 +70,7 @@ std::span<const Command> InputCommands(); // controls, keys, characters
 std::span<const Command> TimeCommands();  // ticks and the clock
 std::span<const Command> FileCommands();  // pictures
 std::span<const Command> WebcamCommands();
+std::span<const Command> SoundCommands(); // the wave device and the music player
 std::span<const Command> FieldCommands(); // peek, poke, checksum
 
 // ---- What commands are parsed with; each throws a Refusal ----

@@ -1,5 +1,5 @@
 // make_drive_world SOURCE DESTINATION: the small world of the driver scripts: the text files of the source folder
-// beside a handful of tiny pictures. No script depends on the art of the game.
+// beside a handful of tiny pictures and an engine. No script depends on the art of the game.
 #include "base/BitmapFile.h"
 
 #include <cstdint>
@@ -103,6 +103,33 @@ void WriteWebcam(const Pictures& pictures)
     pictures.Write("moved.bmp", 107, 80, [](int x, int row) { return Person(x, row, 70, Room(x, row, 3)); });
     pictures.Write("small.bmp", 106, 80, [](int, int) { return Texel{0, 0, 0}; });
 }
+
+// A saw tooth of four beats in the loop: entry i of the engine's table is i mod 256 - 128.
+void WriteEngine(const fs::path& data, int bytes)
+{
+    fs::create_directories(data / "sounds");
+    std::ofstream out(data / "sounds" / "engine_01.pcm", std::ios::binary);
+    for (int i = 0; i < bytes; ++i)
+        out.put(static_cast<char>(i % 256));
+}
+
+// The same world with music, with an engine of 100 bytes, without one. Each is for the script of that name.
+void WriteVariants(const fs::path& world)
+{
+    const auto variant = [&world](const char* name)
+    {
+        const fs::path path = world.string() + "-" + name;
+        fs::remove_all(path);
+        fs::copy(world, path, fs::copy_options::recursive);
+        return path;
+    };
+    const fs::path music = variant("music") / "soundtracks";
+    fs::create_directories(music);
+    for (const char* track : {"Curva Sud.mp3", "alba.mp3", "Lago di notte.WMA", "copertina.jpg"})
+        std::ofstream(music / track) << "nobody listens";
+    WriteEngine(variant("short_sample") / "data", 100);
+    fs::remove(variant("no_sample") / "data/sounds/engine_01.pcm");
+}
 }
 
 int main(int count, char** arguments)
@@ -118,5 +145,7 @@ int main(int count, char** arguments)
     fs::copy(fs::path(arguments[1]) / "data", destination / "data", fs::copy_options::recursive);
     WriteWorld({destination / "data"});
     WriteWebcam({destination / "webcam"});
+    WriteEngine(destination / "data", 1024);
+    WriteVariants(destination);
     return 0;
 }

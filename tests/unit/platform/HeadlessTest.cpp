@@ -3,6 +3,9 @@
 #include <gtest/gtest.h>
 
 #include <array>
+#include <utility>
+
+#include <array>
 
 namespace
 {
@@ -20,6 +23,11 @@ struct Events : platform::WindowEvents
     void Resized() override { ++Resizes; }
     void Paint() override { ++Paints; }
     bool CloseAsked() override { return true; }
+    void WaveDone(std::int32_t user) override { Done.push_back(user); }
+    void MediaDone(std::uint32_t number, std::int32_t code) override { Media.emplace_back(number, code); }
+
+    std::vector<std::int32_t> Done;
+    std::vector<std::pair<std::uint32_t, std::int32_t>> Media;
 };
 
 struct Headless : testing::Test
@@ -128,4 +136,129 @@ TEST_F(Headless, AWindowThatIsGoneHearsNothing)
     Window.reset();
     Machine.PumpEvents();
     EXPECT_EQ(Heard.Paints, 0);
+}
+
+// ---- Sound ----
+
+namespace
+{
+struct HeadlessSound : Headless
+{
+    std::unique_ptr<platform::WaveOut> Wave = Machine.MakeWaveOut(*Window);
+    std::unique_ptr<platform::MusicPlayer> Music = Machine.MakeMusicPlayer(*Window);
+    platform::WaveHandle Handle = platform::NoWave;
+    std::array<std::uint8_t, 8> Bytes = {1, 2, 3, 4, 5, 6, 7, 8};
+
+    platform::WaveHeader Header(std::int32_t user) const
+    {
+        return {std::span(Bytes).subspan(static_cast<std::size_t>(user) * 4, 4), user};
+    }
+    void Open()
+    {
+        EXPECT_TRUE(Wave->Notify(true));
+        EXPECT_EQ(Wave->Open(Handle, {2, 11025, 16}), 0);
+    }
+};
+}
+
+TEST_F(HeadlessSound, TheBufferThatWasQueuedLongestIsFinished)
+{
+    Open();
+    EXPECT_EQ(Wave->Write(Handle, Header(1)), 0);
+    EXPECT_EQ(Wave->Write(Handle, Header(0)), 0);
+    EXPECT_TRUE(Machine.Wave->FinishBuffer());
+    EXPECT_EQ(Heard.Done, std::vector<std::int32_t>{1});
+    EXPECT_TRUE(Machine.Wave->FinishBuffer());
+    EXPECT_FALSE(Machine.Wave->FinishBuffer());
+    EXPECT_EQ(Heard.Done, (std::vector<std::int32_t>{1, 0}));
+}
+
+TEST_F(HeadlessSound, WhatIsQueuedIsKeptWhileItRecords)
+{
+    Open();
+    Wave->Write(Handle, Header(1));
+    EXPECT_EQ(Machine.Wave->Written, "");
+    Machine.Wave->Records = true;
+    Wave->Write(Handle, Header(0));
+    Wave->Write(Handle, Header(1));
+    EXPECT_EQ(Machine.Wave->Written, "\1\2\3\4\5\6\7\10");
+}
+
+TEST_F(HeadlessSound, AResetReturnsTheQueueWithLaterEvents)
+{
+    Open();
+    Wave->Write(Handle, Header(0));
+    Wave->Write(Handle, Header(1));
+    EXPECT_EQ(Wave->Reset(Handle), 0);
+    EXPECT_TRUE(Heard.Done.empty());
+    EXPECT_EQ(Wave->Close(Handle), 0);
+    Machine.PumpEvents();
+    EXPECT_EQ(Heard.Done, (std::vector<std::int32_t>{0, 1}));
+    Machine.PumpEvents();
+    EXPECT_EQ(Heard.Done.size(), 2u);
+}
+
+TEST_F(HeadlessSound, NobodyIsToldWithoutAskingForIt)
+{
+    EXPECT_EQ(Wave->Open(Handle, {2, 11025, 16}), 0);
+    Wave->Write(Handle, Header(0));
+    EXPECT_TRUE(Machine.Wave->FinishBuffer());
+    EXPECT_TRUE(Wave->Notify(true));
+    EXPECT_TRUE(Wave->Notify(false));
+    Wave->Write(Handle, Header(0));
+    EXPECT_TRUE(Machine.Wave->FinishBuffer());
+    EXPECT_TRUE(Heard.Done.empty());
+}
+
+TEST_F(HeadlessSound, CallsWithoutADeviceFailWithCode5)
+{
+    EXPECT_EQ(Wave->PrepareHeader(platform::NoWave, Header(0)), 5);
+    EXPECT_EQ(Wave->Write(platform::NoWave, Header(0)), 5);
+    EXPECT_EQ(Wave->Reset(platform::NoWave), 5);
+    EXPECT_EQ(Wave->UnprepareHeader(platform::NoWave, Header(0)), 5);
+    EXPECT_EQ(Wave->Close(platform::NoWave), 5);
+    Open();
+    Wave->Close(Handle);
+    EXPECT_EQ(Wave->Write(Handle, Header(0)), 5); // no longer good
+}
+
+TEST_F(HeadlessSound, AScriptedCodeIsReturnedOnceAndNothingElseDone)
+{
+    Open();
+    Machine.Calls.ReturnNext("waveOutWrite", 33);
+    EXPECT_EQ(Wave->Write(Handle, Header(0)), 33);
+    EXPECT_FALSE(Machine.Wave->FinishBuffer());
+    EXPECT_EQ(Wave->Write(Handle, Header(0)), 0);
+    Machine.Calls.ReturnNext("waveOutOpen", 4);
+    platform::WaveHandle other = platform::NoWave;
+    EXPECT_EQ(Wave->Open(other, {2, 11025, 16}), 4);
+    EXPECT_EQ(other, platform::NoWave);
+    Machine.Calls.ReturnNext("SetWindowLongA", 0);
+    EXPECT_FALSE(Wave->Notify(true));
+    EXPECT_TRUE(headless::ScriptedCalls::IsCall("waveOutReset"));
+    EXPECT_FALSE(headless::ScriptedCalls::IsCall("waveOut"));
+}
+
+TEST_F(HeadlessSound, TheMusicEndsWhenToldWithTheNumberOfItsPlay)
+{
+    Music->Open("a.mp3");
+    Music->Play(7);
+    EXPECT_EQ(Machine.Music->File, "a.mp3");
+    EXPECT_TRUE(Machine.Music->Playing);
+    Machine.Music->Finish(1);
+    EXPECT_FALSE(Machine.Music->Playing);
+    EXPECT_EQ(Heard.Media, (std::vector<std::pair<std::uint32_t, std::int32_t>>{{7, 1}}));
+    Music->Play(8);
+    Music->Close();
+    EXPECT_FALSE(Machine.Music->Playing);
+    EXPECT_TRUE(Machine.Music->File.empty());
+}
+
+TEST_F(HeadlessSound, DevicesThatAreGoneAreForgotten)
+{
+    Wave.reset();
+    Music.reset();
+    EXPECT_EQ(Machine.Wave, nullptr);
+    EXPECT_EQ(Machine.Music, nullptr);
+    Machine.PumpEvents();
 }

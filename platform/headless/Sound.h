@@ -1,0 +1,90 @@
+// platform/headless/Sound.h: sound devices that a script plays the part of. The wave device finishes a buffer when it
+// is told to; the music player plays nothing and ends when it is told to.
+#pragma once
+#include "platform/Platform.h"
+
+#include <cstdint>
+#include <deque>
+#include <filesystem>
+#include <map>
+#include <string>
+#include <vector>
+
+namespace headless
+{
+class Machine;
+
+// What the calls of the system return once instead of carrying out what they were asked for, by their own names
+// ("waveOutOpen", …, "SetWindowLongA").
+class ScriptedCalls
+{
+public:
+    static bool IsCall(const std::string& name);
+    void ReturnNext(const std::string& name, std::int32_t code) { Codes[name] = code; }
+    // Whether the call was scripted; its code then.
+    bool Take(const char* name, std::int32_t& code);
+
+private:
+    std::map<std::string, std::int32_t> Codes;
+};
+
+class WaveOut final : public platform::WaveOut
+{
+public:
+    WaveOut(Machine& machine, platform::WindowEvents& events);
+    ~WaveOut() override;
+    WaveOut(const WaveOut&) = delete;
+    WaveOut& operator=(const WaveOut&) = delete;
+
+    bool Notify(bool on) override;
+    std::int32_t Open(platform::WaveHandle& handle, const platform::WaveFormat& format) override;
+    std::int32_t PrepareHeader(platform::WaveHandle handle, const platform::WaveHeader& header) override;
+    std::int32_t Write(platform::WaveHandle handle, const platform::WaveHeader& header) override;
+    std::int32_t Reset(platform::WaveHandle handle) override;
+    std::int32_t UnprepareHeader(platform::WaveHandle handle, const platform::WaveHeader& header) override;
+    std::int32_t Close(platform::WaveHandle handle) override;
+
+    // The buffer that was queued longest is finished and told at once. False where none is queued.
+    bool FinishBuffer();
+    // Tells the buffers that Reset has returned.
+    void Deliver();
+
+    std::deque<platform::WaveHeader> Queued;
+    std::string Written; // the bytes of every buffer that is queued, while Records is set
+    bool Records = false;
+    platform::WaveFormat Format;
+
+private:
+    std::int32_t Code(const char* call, platform::WaveHandle handle);
+
+    Machine& TheMachine;
+    platform::WindowEvents& Events;
+    platform::WaveHandle Opened = platform::NoWave, Last = 0;
+    std::vector<std::int32_t> Returned;
+    bool Notifies = false;
+};
+
+class MusicPlayer final : public platform::MusicPlayer
+{
+public:
+    MusicPlayer(Machine& machine, platform::WindowEvents& events);
+    ~MusicPlayer() override;
+    MusicPlayer(const MusicPlayer&) = delete;
+    MusicPlayer& operator=(const MusicPlayer&) = delete;
+
+    void Open(const std::filesystem::path& file) override;
+    void Play(std::uint32_t number) override;
+    void Close() override;
+
+    // The notification of the play that was asked for last.
+    void Finish(std::int32_t code);
+
+    std::filesystem::path File; // that is open; empty none
+    std::uint32_t Number = 0;   // of the last play
+    bool Playing = false;
+
+private:
+    Machine& TheMachine;
+    platform::WindowEvents& Events;
+};
+}
