@@ -15,35 +15,10 @@ void UpdateCameraTrig(Camera& camera)
     camera.CamSinPitch = static_cast<float>(base::Sin(camera.CamPitch));
 }
 
-Point3 WorldToCamera(const Camera& camera, float x, float y, float z)
-{
-    const double cosYaw = camera.CamCosYaw, sinYaw = camera.CamSinYaw;
-    const double cosPitch = camera.CamCosPitch, sinPitch = camera.CamSinPitch;
-    const double dx = static_cast<double>(x) - camera.CamX;
-    const double dy = static_cast<double>(y) - camera.CamY;
-    const double dz = static_cast<double>(z) - camera.CamZ;
-    const double t = dx * sinYaw - cosYaw * dz;
-    return {static_cast<float>(sinYaw * dz + cosYaw * dx), static_cast<float>(t * sinPitch + cosPitch * dy),
-            static_cast<float>(sinPitch * dy - t * cosPitch)};
-}
-
 Rotation MakeRotation(float angleA, float angleB)
 {
     return {static_cast<float>(base::Cos(angleA)), static_cast<float>(base::Sin(angleA)),
             static_cast<float>(base::Cos(angleB)), static_cast<float>(base::Sin(angleB))};
-}
-
-Point3 RotatePoint(const Rotation& rotation, float ox, float oy, float oz, float px, float py, float pz)
-{
-    const double cosA = rotation.CosA, sinA = rotation.SinA, cosB = rotation.CosB, sinB = rotation.SinB;
-    const double t = sinA * px + cosA * pz;
-    return {static_cast<float>(cosA * px - sinA * pz + ox), static_cast<float>(cosB * py - t * sinB + oy),
-            static_cast<float>(t * cosB + sinB * py + oz)};
-}
-
-ScreenPoint Project(double x, double y, double depth, float zoom, float centerX, float centerY)
-{
-    return {base::RoundEven(x / depth * zoom + centerX), base::RoundEven(y / depth * zoom + centerY)};
 }
 
 double Dist2D(double x1, double y1, double x2, double y2)

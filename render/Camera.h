@@ -2,6 +2,7 @@
 // World: single-precision, y up, left-handed, ground at y = 0. Angles: radians. Screen: row 0 = bottom.
 #pragma once
 #include "base/Fields.h"
+#include "base/Numbers.h"
 
 #include <cstdint>
 
@@ -30,8 +31,20 @@ struct Point3
     float X = 0, Y = 0, Z = 0;
 };
 
+// Every point of a frame passes through WorldToCamera, RotatePoint and Project: they are inline.
+
 // Camera space: Z is the depth, growing away from the eye. Sums in double, stores floats.
-Point3 WorldToCamera(const Camera& camera, float x, float y, float z);
+inline Point3 WorldToCamera(const Camera& camera, float x, float y, float z)
+{
+    const double cosYaw = camera.CamCosYaw, sinYaw = camera.CamSinYaw;
+    const double cosPitch = camera.CamCosPitch, sinPitch = camera.CamSinPitch;
+    const double dx = static_cast<double>(x) - camera.CamX;
+    const double dy = static_cast<double>(y) - camera.CamY;
+    const double dz = static_cast<double>(z) - camera.CamZ;
+    const double t = dx * sinYaw - cosYaw * dz;
+    return {static_cast<float>(sinYaw * dz + cosYaw * dx), static_cast<float>(t * sinPitch + cosPitch * dy),
+            static_cast<float>(sinPitch * dy - t * cosPitch)};
+}
 
 // Sine and cosine of an object's two rotations, computed once per object.
 struct Rotation
@@ -40,14 +53,23 @@ struct Rotation
 };
 Rotation MakeRotation(float angleA, float angleB);
 // Object-local point to world.
-Point3 RotatePoint(const Rotation& rotation, float ox, float oy, float oz, float px, float py, float pz);
+inline Point3 RotatePoint(const Rotation& rotation, float ox, float oy, float oz, float px, float py, float pz)
+{
+    const double cosA = rotation.CosA, sinA = rotation.SinA, cosB = rotation.CosB, sinB = rotation.SinB;
+    const double t = sinA * px + cosA * pz;
+    return {static_cast<float>(cosA * px - sinA * pz + ox), static_cast<float>(cosB * py - t * sinB + oy),
+            static_cast<float>(t * cosB + sinB * py + oz)};
+}
 
 // Projected position: pixels, rounded. base::OutOfRange where the point is not finite or off every scale.
 struct ScreenPoint
 {
     std::int32_t X = 0, Y = 0;
 };
-ScreenPoint Project(double x, double y, double depth, float zoom, float centerX, float centerY);
+inline ScreenPoint Project(double x, double y, double depth, float zoom, float centerX, float centerY)
+{
+    return {base::RoundEven(x / depth * zoom + centerX), base::RoundEven(y / depth * zoom + centerY)};
+}
 
 double Dist2D(double x1, double y1, double x2, double y2);
 double Dist3D(double x1, double y1, double z1, double x2, double y2, double z2);

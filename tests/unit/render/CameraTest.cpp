@@ -65,6 +65,32 @@ TEST(WorldToCamera, SumsAreDouble)
     EXPECT_EQ(WorldToCamera(camera, 16777216.0f, 0, -16777216.0f).X, 0.5f);
 }
 
+namespace
+{
+// What becomes of a seen point within one procedure, where the compiler may see through the singles.
+void SeeAndDivide(const Camera& camera, const Point3& world, Point3* seen, double* quotient)
+{
+    *seen = WorldToCamera(camera, world.X, world.Y, world.Z);
+    quotient[0] = static_cast<double>(seen->X) / seen->Z;
+    quotient[1] = static_cast<double>(seen->Y) / seen->Z;
+}
+}
+
+// An optimiser that forgets that X and Y were rounded moves corners on the screen.
+TEST(WorldToCamera, ResultsAreSinglesAlsoWhereTheyAreUsedAtOnce)
+{
+    void (*volatile compute)(const Camera&, const Point3&, Point3*, double*) = SeeAndDivide;
+    for (int i = 0; i < 50; ++i)
+    {
+        const float a = static_cast<float>(i) * 0.37f;
+        Point3 seen;
+        double quotient[2];
+        compute(At(1.1f, 2.3f, 3.7f, a, a / 9.0f), {a + 10.1f, 7.3f, 90.7f - a}, &seen, quotient);
+        EXPECT_EQ(quotient[0], static_cast<double>(seen.X) / seen.Z) << i;
+        EXPECT_EQ(quotient[1], static_cast<double>(seen.Y) / seen.Z) << i;
+    }
+}
+
 TEST(RotatePoint, HeadingTurnsLocalZAndPitchComesAfter)
 {
     const float h = 0.7f;
