@@ -77,7 +77,7 @@ void DrawMesh(const Scene& scene, const Camera& camera, Screen& screen, const Ob
 {
     const auto see = [&](const MeshPt& point)
     {
-        return SeeCorner(camera, RotatePoint(rotation, object.X, object.Y, object.Z, point.X, point.Y, point.Z),
+        return SeeCorner(camera, screen, RotatePoint(rotation, object.X, object.Y, object.Z, point.X, point.Y, point.Z),
                          point.U, point.V);
     };
     if (mesh.Colour < 0)
@@ -94,7 +94,7 @@ void DrawMesh(const Scene& scene, const Camera& camera, Screen& screen, const Ob
 
 void DrawWorldMeshes(const Scene& scene, const Camera& camera, Screen& screen)
 {
-    const auto see = [&](const MeshPt& point) { return SeeCorner(camera, {point.X, point.Y, point.Z}); };
+    const auto see = [&](const MeshPt& point) { return SeeCorner(camera, screen, {point.X, point.Y, point.Z}); };
     for (const ObjMesh& mesh : scene.WorldMeshes)
         if (IsDrawn(mesh))
             ForEachTriangle(

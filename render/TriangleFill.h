@@ -4,6 +4,7 @@
 #include "render/Ground.h"
 #include "render/Screen.h"
 
+#include <algorithm>
 #include <cstdint>
 
 namespace Mod3D
@@ -16,7 +17,11 @@ struct ScreenCorner
 };
 
 // Whether every corner lies on the same outer side of the screen, or all in one row: nothing to fill.
-bool IsRejected(const Screen& screen, const ScreenCorner& a, const ScreenCorner& b, const ScreenCorner& c);
+inline bool IsRejected(const Screen& screen, const ScreenCorner& a, const ScreenCorner& b, const ScreenCorner& c)
+{
+    return std::max({a.X, b.X, c.X}) < 0 || std::min({a.X, b.X, c.X}) >= screen.ScreenW ||
+           std::max({a.Y, b.Y, c.Y}) < 0 || std::min({a.Y, b.Y, c.Y}) >= screen.ScreenH || (a.Y == b.Y && b.Y == c.Y);
+}
 
 // A pixel is written where its depth is strictly less than the depth cell, which then takes it.
 void FillTriFlat(Screen& screen, const ScreenCorner& a, const ScreenCorner& b, const ScreenCorner& c, Rgb colour);

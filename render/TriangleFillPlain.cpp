@@ -75,12 +75,6 @@ float& DepthAt(Screen& screen, std::int32_t x, std::int32_t y)
 }
 }
 
-bool IsRejected(const Screen& screen, const ScreenCorner& a, const ScreenCorner& b, const ScreenCorner& c)
-{
-    return std::max({a.X, b.X, c.X}) < 0 || std::min({a.X, b.X, c.X}) >= screen.ScreenW ||
-           std::max({a.Y, b.Y, c.Y}) < 0 || std::min({a.Y, b.Y, c.Y}) >= screen.ScreenH || (a.Y == b.Y && b.Y == c.Y);
-}
-
 void FillTriFlatPlain(Screen& screen, const ScreenCorner& a, const ScreenCorner& b, const ScreenCorner& c, Rgb colour)
 {
     WalkTriangle(screen, a, b, c,

@@ -21,7 +21,7 @@ struct ClipCorner
 
 ClipCorner ToClip(const Corner& corner)
 {
-    return {corner.Seen.X, corner.Seen.Y, corner.Seen.Z, static_cast<double>(corner.U), static_cast<double>(corner.V)};
+    return {corner.Seen.X, corner.Seen.Y, corner.Seen.Z, corner.Landed.U, corner.Landed.V};
 }
 
 // Where the edge from a corner in front to one behind meets the near plane.
@@ -32,10 +32,10 @@ ClipCorner Cut(const ClipCorner& front, const ClipCorner& behind, float nearZ)
     return {at(front.X, behind.X), at(front.Y, behind.Y), nearZ, at(front.U, behind.U), at(front.V, behind.V)};
 }
 
-// What the near plane leaves of a triangle: none, one or two.
+// What the near plane leaves of a triangle that it cuts: one or two.
 struct Pieces
 {
-    int Count = 0;
+    std::size_t Count = 0;
     std::array<std::array<ClipCorner, 3>, 2> Triangle;
 };
 
@@ -50,12 +50,7 @@ Pieces ClipNear(const ClipCorner& a, const ClipCorner& b, const ClipCorner& c, f
         else
             front[fronts++] = i;
     Pieces pieces;
-    if (fronts == 3)
-    {
-        pieces.Count = 1;
-        pieces.Triangle[0] = corner;
-    }
-    else if (fronts == 2)
+    if (fronts == 2)
     {
         const ClipCorner &first = corner[front[0]], &second = corner[front[1]];
         const ClipCorner p = Cut(first, corner[behind[0]], nearZ), q = Cut(second, corner[behind[0]], nearZ);
@@ -72,28 +67,36 @@ Pieces ClipNear(const ClipCorner& a, const ClipCorner& b, const ClipCorner& c, f
     return pieces;
 }
 
-// False where a corner is on no screen: not a number, or farther than 32 bits of pixels.
-bool ToScreen(const Camera& camera, const Screen& screen, const ClipCorner& from, ScreenCorner& to)
+ScreenCorner Land(const Camera& camera, const Screen& screen, const ClipCorner& from)
 {
     const ScreenPoint at = Project(from.X, from.Y, from.Z, camera.Zoom, screen.CenterX, screen.CenterY);
-    to = {at.X, at.Y, from.Z, from.U, from.V};
-    return at.X != base::OutOfRange && at.Y != base::OutOfRange;
+    return {at.X, at.Y, from.Z, from.U, from.V};
 }
 
-// Clips, projects, and calls fill(a, b, c) for each piece that may show.
+// False where it is on no screen: not a number, or farther than 32 bits of pixels.
+bool HasPlace(const ScreenCorner& corner)
+{
+    return corner.X != base::OutOfRange && corner.Y != base::OutOfRange;
+}
+
+// Clips, and calls fill(a, b, c) for each piece that may show. Nearly every triangle is wholly in front, and then its
+// corners need not be projected again.
 template <class Fill>
 void ForEachPiece(const Camera& camera, const Screen& screen, const Corner& a, const Corner& b, const Corner& c,
                   Fill&& fill)
 {
-    const Pieces pieces = ClipNear(ToClip(a), ToClip(b), ToClip(c), screen.NearZ);
-    for (int i = 0; i < pieces.Count; ++i)
+    const auto fillLanded = [&](const ScreenCorner& p, const ScreenCorner& q, const ScreenCorner& r)
     {
-        const auto& piece = pieces.Triangle[static_cast<std::size_t>(i)];
-        ScreenCorner p, q, r;
-        if (ToScreen(camera, screen, piece[0], p) && ToScreen(camera, screen, piece[1], q) &&
-            ToScreen(camera, screen, piece[2], r) && !IsRejected(screen, p, q, r))
+        if (HasPlace(p) && HasPlace(q) && HasPlace(r) && !IsRejected(screen, p, q, r))
             fill(p, q, r);
-    }
+    };
+    const float nearZ = screen.NearZ;
+    if (!(a.Seen.Z < nearZ || b.Seen.Z < nearZ || c.Seen.Z < nearZ))
+        return fillLanded(a.Landed, b.Landed, c.Landed);
+    const Pieces pieces = ClipNear(ToClip(a), ToClip(b), ToClip(c), nearZ);
+    for (std::size_t i = 0; i < pieces.Count; ++i)
+        fillLanded(Land(camera, screen, pieces.Triangle[i][0]), Land(camera, screen, pieces.Triangle[i][1]),
+                   Land(camera, screen, pieces.Triangle[i][2]));
 }
 
 // Angle whose tangent is a / b, for a, b of 0 and above.
@@ -105,9 +108,11 @@ double Steepness(double a, double b)
 }
 }
 
-Corner SeeCorner(const Camera& camera, const Point3& world, std::int32_t u, std::int32_t v)
+Corner SeeCorner(const Camera& camera, const Screen& screen, const Point3& world, std::int32_t u, std::int32_t v)
 {
-    return {world, WorldToCamera(camera, world.X, world.Y, world.Z), u, v};
+    const Point3 seen = WorldToCamera(camera, world.X, world.Y, world.Z);
+    const ClipCorner texelled{seen.X, seen.Y, seen.Z, static_cast<double>(u), static_cast<double>(v)};
+    return {world, seen, Land(camera, screen, texelled)};
 }
 
 double Extent(double a, double b, double c)
@@ -130,7 +135,8 @@ double FaceShade(const Point3& a, const Point3& b, const Point3& c)
 void DrawTriFlat(const Scene& scene, const Camera& camera, Screen& screen, const Point3& a, const Point3& b,
                  const Point3& c, Rgb colour)
 {
-    DrawSeenFlat(scene, camera, screen, SeeCorner(camera, a), SeeCorner(camera, b), SeeCorner(camera, c), colour);
+    DrawSeenFlat(scene, camera, screen, SeeCorner(camera, screen, a), SeeCorner(camera, screen, b),
+                 SeeCorner(camera, screen, c), colour);
 }
 
 void DrawSeenFlat(const Scene& scene, const Camera& camera, Screen& screen, const Corner& a, const Corner& b,

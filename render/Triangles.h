@@ -7,13 +7,15 @@
 
 namespace Mod3D
 {
-// A corner in the world and as the camera sees it; U, V: texels.
+// A corner in the world, as the camera sees it, and on the screen, found once for all the triangles that share it.
 struct Corner
 {
     Point3 World, Seen;
-    std::int32_t U = 0, V = 0;
+    ScreenCorner Landed; // holds in front of the near plane only
 };
-Corner SeeCorner(const Camera& camera, const Point3& world, std::int32_t u = 0, std::int32_t v = 0);
+// u, v: texels.
+Corner SeeCorner(const Camera& camera, const Screen& screen, const Point3& world, std::int32_t u = 0,
+                 std::int32_t v = 0);
 
 // Largest minus smallest of three coordinates.
 double Extent(double a, double b, double c);

@@ -418,7 +418,8 @@ void DrawPlain(const Scene& scene, const Mod3D::Camera& camera, Mod3D::Screen& s
             const auto corner = [&](int i, int j)
             {
                 const Mod3D::MeshPt& p = mesh.Pts.At(i, j);
-                return SeeCorner(camera, RotatePoint(rotation, object.X, object.Y, object.Z, p.X, p.Y, p.Z), p.U, p.V);
+                return SeeCorner(camera, screen, RotatePoint(rotation, object.X, object.Y, object.Z, p.X, p.Y, p.Z),
+                                 p.U, p.V);
             };
             const auto triangle = [&](const Mod3D::Corner& p, const Mod3D::Corner& q, const Mod3D::Corner& s)
             {

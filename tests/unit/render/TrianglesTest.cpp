@@ -159,9 +159,9 @@ TEST(NearPlane, CutTexelsAreInterpolatedWithTheCorner)
     const ModBitmap::Picture picture = scenes::Noise(random, 16, 16);
     const Mod3D::TexelField texture = Mod3D::MakeTexelField(picture.Pixels, 16, 16);
     Origin view;
-    Mod3D::DrawTriTex(view.Camera, view.Screen, SeeCorner(view.Camera, {-0.3f, -0.2f, 1}, 0, 15),
-                      SeeCorner(view.Camera, {0.3f, -0.2f, 1}, 15, 15), SeeCorner(view.Camera, {0, -0.2f, -1}, 8, 0),
-                      texture);
+    Mod3D::DrawTriTex(view.Camera, view.Screen, SeeCorner(view.Camera, view.Screen, {-0.3f, -0.2f, 1}, 0, 15),
+                      SeeCorner(view.Camera, view.Screen, {0.3f, -0.2f, 1}, 15, 15),
+                      SeeCorner(view.Camera, view.Screen, {0, -0.2f, -1}, 8, 0), texture);
     Origin expected;
     const double t = (1.0 - 0.01f) / 2.0;
     const ScreenCorner a{60, 60, 1, 0, 15}, b{180, 60, 1, 15, 15};
@@ -175,8 +175,9 @@ TEST(NearPlane, CutTexelsAreInterpolatedWithTheCorner)
 TEST(DrawTriTex, WithoutATextureNothingIsDrawn)
 {
     Origin view;
-    Mod3D::DrawTriTex(view.Camera, view.Screen, SeeCorner(view.Camera, {-1, -1, 5}), SeeCorner(view.Camera, {1, -1, 5}),
-                      SeeCorner(view.Camera, {-1, 1, 5}), {});
+    Mod3D::DrawTriTex(view.Camera, view.Screen, SeeCorner(view.Camera, view.Screen, {-1, -1, 5}),
+                      SeeCorner(view.Camera, view.Screen, {1, -1, 5}), SeeCorner(view.Camera, view.Screen, {-1, 1, 5}),
+                      {});
     EXPECT_EQ(view.Drawn(), 0u);
 }
 
