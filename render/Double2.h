@@ -58,6 +58,11 @@ struct Double2
     {
         _mm_storel_pi(reinterpret_cast<__m64*>(to), _mm_cvtpd_ps(Both));
     }
+    // base::RoundEven of both, as doubles again.
+    Double2 Rounded() const
+    {
+        return {_mm_cvtepi32_pd(_mm_cvtpd_epi32(Both))};
+    }
     // base::RoundEven of both: the instruction rounds ties to even and gives OutOfRange where that does.
     void StoreRounded(std::int32_t* to) const
     {
@@ -107,6 +112,10 @@ struct Double2
     {
         to[0] = static_cast<float>(Low);
         to[1] = static_cast<float>(High);
+    }
+    Double2 Rounded() const
+    {
+        return {static_cast<double>(base::RoundEven(Low)), static_cast<double>(base::RoundEven(High))};
     }
     void StoreRounded(std::int32_t* to) const
     {

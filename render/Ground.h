@@ -16,7 +16,12 @@ struct TexelField
     std::ptrdiff_t RowBytes = 0;
     std::int32_t Width = 0, Height = 0;
 
-    bool Has(std::int32_t u, std::int32_t v) const { return u >= 0 && u < Width && v >= 0 && v < Height; }
+    // One comparison an axis: as unsigned numbers, negative ones are the largest.
+    bool Has(std::int32_t u, std::int32_t v) const
+    {
+        return static_cast<std::uint32_t>(u) < static_cast<std::uint32_t>(Width) &&
+               static_cast<std::uint32_t>(v) < static_cast<std::uint32_t>(Height);
+    }
     const std::uint8_t* At(std::int32_t u, std::int32_t v) const { return Bytes + v * RowBytes + u * 3; }
 };
 TexelField MakeTexelField(const ModBitmap::PicArray2D& pixels, std::int32_t width, std::int32_t height);

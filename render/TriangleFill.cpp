@@ -7,82 +7,96 @@
 #include <cstring>
 #include <utility>
 
+// Rounding and order of every line are those of the plain routines.
 namespace Mod3D
 {
 namespace
 {
-constexpr std::int32_t Chunk = 32; // pixels of a span whose values are found before they are drawn
-
-// An edge between two rows, ready to be asked for its place in any of them: two values at a time, each
-// a + (b - a) x n / d.
-struct Edge
+// A value along two edges at once, the long one's first: a + (b - a) x n / d in each.
+struct Slope
 {
-    Double2 XZ, UV; // at its lower end
-    Double2 StepXZ, StepUV;
-    double Y = 0;
-    Double2 Rows;
+    Double2 From, Step;
 
-    Edge(const ScreenCorner& low, const ScreenCorner& high)
-        : XZ(Double2::Of(low.X, low.Z)), UV(Double2::Of(low.U, low.V)), StepXZ(Double2::Of(high.X, high.Z) - XZ),
-          StepUV(Double2::Of(high.U, high.V) - UV), Y(low.Y), Rows(Double2::Of(high.Y - Y))
+    Slope(double longFrom, double longTo, double shortFrom, double shortTo)
+        : From(Double2::Of(longFrom, shortFrom)), Step(Double2::Of(longTo, shortTo) - From)
     {
     }
-    // Column, not yet rounded, and depth at row y.
-    void PlaceAt(std::int32_t y, double* xz) const { (XZ + StepXZ * Double2::Of(y - Y) / Rows).Store(xz); }
-    void TexelAt(std::int32_t y, std::int32_t* uv) const { (UV + StepUV * Double2::Of(y - Y) / Rows).StoreRounded(uv); }
+    Double2 At(Double2 n, Double2 rows) const { return From + Step * n / rows; }
 };
 
-// The part of a row between two edges. Left and right are the ends before they are clamped to the screen.
-struct Span
+// Where a row meets the long edge, 0, and the short one, 1. Without initial values: tables of it are filled at once.
+struct Ends
 {
-    std::int32_t Y = 0;
-    double Left = 0, Width = 0;
-    double LeftZ = 0, StepZ = 0;
-    std::int32_t LeftTexel[2] = {}, RightTexel[2] = {}; // U, V
-    std::int32_t First = 0, Last = 0;                   // columns on the screen
+    std::int32_t X[2]; // columns, not clamped to the screen
+    double Z[2];
+    double U[2], V[2]; // rounded
 };
 
-// t of a chunk's pixels, two at a time, and what follows from it. One column takes the long edge's values: t is 0.
-struct Chunks
+// The long edge of a triangle and the short one that faces it in some of its rows.
+class Edges
 {
-    double T[Chunk];
-    float Z[Chunk];
-    std::int32_t U[Chunk], V[Chunk];
-
-    void FindDepths(const Span& span, std::int32_t x, std::int32_t count)
+public:
+    Edges(const ScreenCorner& first, const ScreenCorner& last, const ScreenCorner& low, const ScreenCorner& high)
+        : Y(Double2::Of(first.Y, low.Y)), Rows(Double2::Of(last.Y, high.Y) - Y), X(first.X, last.X, low.X, high.X),
+          Z(first.Z, last.Z, low.Z, high.Z), U(first.U, last.U, low.U, high.U), V(first.V, last.V, low.V, high.V)
     {
-        const double width = span.Width == 0.0 ? 1.0 : span.Width;
-        const Double2 wide = Double2::Of(width), leftZ = Double2::Of(span.LeftZ), stepZ = Double2::Of(span.StepZ);
-        const Double2 two = Double2::Of(2.0);
-        const double start = x - span.Left;
-        Double2 n = Double2::Of(start, start + 1.0); // whole numbers: adding up loses nothing
-        for (std::int32_t i = 0; i < count; i += 2, n = n + two)
+    }
+
+    void Find(std::int32_t y, std::int32_t count, Ends* ends) const
+    {
+        Double2 n = Double2::Of(y) - Y;
+        for (const Ends* stop = ends + count; ends != stop; ++ends, n = n + Double2::Of(1.0))
         {
-            const Double2 t = n / wide;
-            t.Store(T + i);
-            (leftZ + stepZ * t).StoreSingle(Z + i);
+            X.At(n, Rows).StoreRounded(ends->X);
+            Z.At(n, Rows).Store(ends->Z);
+            U.At(n, Rows).Rounded().Store(ends->U);
+            V.At(n, Rows).Rounded().Store(ends->V);
         }
     }
 
-    void FindTexels(const Span& span, std::int32_t count)
-    {
-        const Double2 one = Double2::Of(1.0);
-        const Double2 leftU = Double2::Of(span.LeftTexel[0]), rightU = Double2::Of(span.RightTexel[0]);
-        const Double2 leftV = Double2::Of(span.LeftTexel[1]), rightV = Double2::Of(span.RightTexel[1]);
-        for (std::int32_t i = 0; i < count; i += 2)
-        {
-            const Double2 t = Double2::Load(T + i), rest = one - t;
-            (rest * leftU + t * rightU).StoreRounded(U + i);
-            (rest * leftV + t * rightV).StoreRounded(V + i);
-        }
-    }
+private:
+    Double2 Y, Rows; // of the lower ends, and from there to the upper ones
+    Slope X, Z, U, V;
 };
 
-// Calls draw(span) for every row of the triangle on the screen that has columns on it. Rounding and order of every line
-// are those of the plain routine.
-template <bool Textured, class Draw>
-void WalkSpans(const Screen& screen, const ScreenCorner& a, const ScreenCorner& b, const ScreenCorner& c, Draw&& draw)
+// Two pixels at a time; texels are found where one of the two is nearer than its depth cell.
+template <class Paint>
+void DrawRow(const Ends& ends, std::int32_t screenW, float* depth, std::uint8_t* pixels, const Paint& paint)
 {
+    const int left = ends.X[0] <= ends.X[1] ? 0 : 1, right = 1 - left;
+    const std::int32_t first = std::max(ends.X[left], 0), last = std::min(ends.X[right], screenW - 1);
+    const double leftX = ends.X[left], width = ends.X[right] - leftX;
+    const Double2 wide = Double2::Of(width == 0.0 ? 1.0 : width); // one column takes the long edge's values
+    const Double2 leftZ = Double2::Of(ends.Z[left]), stepZ = Double2::Of(ends.Z[right]) - leftZ;
+    const Double2 leftU = Double2::Of(ends.U[left]), rightU = Double2::Of(ends.U[right]);
+    const Double2 leftV = Double2::Of(ends.V[left]), rightV = Double2::Of(ends.V[right]);
+    const Double2 one = Double2::Of(1.0), two = Double2::Of(2.0);
+    Double2 n = Double2::Of(first - leftX, first - leftX + 1.0); // whole numbers: adding up loses nothing
+    for (std::int32_t x = first; x <= last; x += 2, n = n + two)
+    {
+        const Double2 t = n / wide;
+        float z[2];
+        (leftZ + stepZ * t).StoreSingle(z);
+        const bool isNearer[2] = {z[0] < depth[x], x < last && z[1] < depth[x + 1]};
+        if (!isNearer[0] && !isNearer[1])
+            continue;
+        const Double2 rest = one - t;
+        std::int32_t u[2], v[2];
+        (rest * leftU + t * rightU).StoreRounded(u);
+        (rest * leftV + t * rightV).StoreRounded(v);
+        for (std::int32_t i = 0; i < 2; ++i)
+            if (isNearer[i] && paint.Put(pixels + (x + i) * 3, u[i], v[i]))
+                depth[x + i] = z[i];
+    }
+}
+
+// Draws the rows of a triangle that are on the screen. The ends of many are found before the first is drawn, because
+// drawing branches as the picture has it, and the processor then starts its divisions late.
+template <class Paint>
+void Fill(Screen& screen, const ScreenCorner& a, const ScreenCorner& b, const ScreenCorner& c, const Paint& paint)
+{
+    if (IsRejected(screen, a, b, c))
+        return;
     const ScreenCorner *first = &a, *middle = &b, *last = &c;
     // Equal rows keep the order of the corners.
     if (middle->Y < first->Y)
@@ -93,103 +107,62 @@ void WalkSpans(const Screen& screen, const ScreenCorner& a, const ScreenCorner& 
         if (middle->Y < first->Y)
             std::swap(first, middle);
     }
-    const Edge whole(*first, *last), lower(*first, *middle), upper(*middle, *last);
+    constexpr std::int32_t mostRows = 32;
+    Ends ends[mostRows];
     const std::int32_t end = std::min(last->Y, screen.ScreenH - 1);
-    for (std::int32_t y = std::max(first->Y, 0); y <= end; ++y)
+    for (std::int32_t y = std::max(first->Y, 0); y <= end;)
     {
-        const Edge& part = y < middle->Y || middle->Y == last->Y ? lower : upper;
-        double onWhole[2], onPart[2];
-        whole.PlaceAt(y, onWhole);
-        part.PlaceAt(y, onPart);
-        const std::int32_t wholeX = base::RoundEven(onWhole[0]), partX = base::RoundEven(onPart[0]);
-        const bool wholeIsLeft = wholeX <= partX;
-        const std::int32_t leftX = wholeIsLeft ? wholeX : partX, rightX = wholeIsLeft ? partX : wholeX;
-        Span span;
-        span.First = std::max(leftX, 0);
-        span.Last = std::min(rightX, screen.ScreenW - 1);
-        if (span.First > span.Last)
-            continue;
-        span.Y = y;
-        span.Left = leftX;
-        span.Width = static_cast<double>(rightX) - leftX;
-        span.LeftZ = wholeIsLeft ? onWhole[1] : onPart[1];
-        span.StepZ = (wholeIsLeft ? onPart[1] : onWhole[1]) - span.LeftZ;
-        if constexpr (Textured)
-        {
-            whole.TexelAt(y, wholeIsLeft ? span.LeftTexel : span.RightTexel);
-            part.TexelAt(y, wholeIsLeft ? span.RightTexel : span.LeftTexel);
-        }
-        draw(span);
+        // The middle corner's row belongs to the upper part, where there is one.
+        const bool lower = y < middle->Y || middle->Y == last->Y;
+        const ScreenCorner &low = lower ? *first : *middle, &high = lower ? *middle : *last;
+        const std::int32_t stop = high.Y == last->Y ? end : std::min(high.Y - 1, end);
+        const std::int32_t count = std::min(stop - y + 1, mostRows);
+        Edges(*first, *last, low, high).Find(y, count, ends);
+        float* depth = screen.Depth.data() + static_cast<std::ptrdiff_t>(y) * screen.ScreenW;
+        std::uint8_t* pixels = screen.Frame.Row(y);
+        for (std::int32_t i = 0; i < count; ++i, depth += screen.ScreenW, pixels += screen.Frame.RowBytes)
+            DrawRow(ends[i], screen.ScreenW, depth, pixels, paint);
+        y += count;
     }
 }
 
-bool AnyNearer(const float* z, const float* depth, std::int32_t count)
+// What pixels are painted with: Put gives false where pixel and depth are to stay.
+struct FlatPaint
 {
-    bool any = false;
-    for (std::int32_t i = 0; i < count; ++i)
-        any |= z[i] < depth[i];
-    return any;
-}
+    std::uint8_t Bytes[3];
+
+    bool Put(std::uint8_t* pixel, std::int32_t, std::int32_t) const
+    {
+        std::memcpy(pixel, Bytes, 3);
+        return true;
+    }
+};
+
+struct TexelPaint
+{
+    TexelField Texture;
+
+    bool Put(std::uint8_t* pixel, std::int32_t u, std::int32_t v) const
+    {
+        if (!Texture.Has(u, v))
+            return false;
+        const std::uint8_t* texel = Texture.At(u, v);
+        if ((texel[0] | texel[1] | texel[2]) == 0)
+            return false;
+        std::memcpy(pixel, texel, 3);
+        return true;
+    }
+};
 }
 
 void FillTriFlat(Screen& screen, const ScreenCorner& a, const ScreenCorner& b, const ScreenCorner& c, Rgb colour)
 {
-    if (IsRejected(screen, a, b, c))
-        return;
-    const std::uint8_t bytes[3] = {colour.B, colour.G, colour.R};
-    Chunks chunk;
-    WalkSpans<false>(screen, a, b, c,
-                     [&](const Span& span)
-                     {
-                         std::uint8_t* frameRow = screen.Frame.Row(span.Y);
-                         float* depthRow = screen.Depth.data() + static_cast<std::ptrdiff_t>(span.Y) * screen.ScreenW;
-                         for (std::int32_t x = span.First; x <= span.Last; x += Chunk)
-                         {
-                             const std::int32_t count = std::min(Chunk, span.Last - x + 1);
-                             chunk.FindDepths(span, x, count);
-                             float* depth = depthRow + x;
-                             std::uint8_t* pixel = frameRow + x * 3;
-                             for (std::int32_t i = 0; i < count; ++i)
-                                 if (chunk.Z[i] < depth[i])
-                                 {
-                                     depth[i] = chunk.Z[i];
-                                     std::memcpy(pixel + i * 3, bytes, 3);
-                                 }
-                         }
-                     });
+    Fill(screen, a, b, c, FlatPaint{{colour.B, colour.G, colour.R}});
 }
 
 void FillTriTex(Screen& screen, const ScreenCorner& a, const ScreenCorner& b, const ScreenCorner& c,
                 const TexelField& texture)
 {
-    if (IsRejected(screen, a, b, c))
-        return;
-    Chunks chunk;
-    WalkSpans<true>(screen, a, b, c,
-                    [&](const Span& span)
-                    {
-                        std::uint8_t* frameRow = screen.Frame.Row(span.Y);
-                        float* depthRow = screen.Depth.data() + static_cast<std::ptrdiff_t>(span.Y) * screen.ScreenW;
-                        for (std::int32_t x = span.First; x <= span.Last; x += Chunk)
-                        {
-                            const std::int32_t count = std::min(Chunk, span.Last - x + 1);
-                            chunk.FindDepths(span, x, count);
-                            float* depth = depthRow + x;
-                            if (!AnyNearer(chunk.Z, depth, count))
-                                continue;
-                            chunk.FindTexels(span, count);
-                            std::uint8_t* pixel = frameRow + x * 3;
-                            for (std::int32_t i = 0; i < count; ++i)
-                            {
-                                if (!(chunk.Z[i] < depth[i]) || !texture.Has(chunk.U[i], chunk.V[i]))
-                                    continue;
-                                const std::uint8_t* texel = texture.At(chunk.U[i], chunk.V[i]);
-                                if ((texel[0] | texel[1] | texel[2]) == 0)
-                                    continue;
-                                depth[i] = chunk.Z[i];
-                                std::memcpy(pixel + i * 3, texel, 3);
-                            }
-                        }
-                    });
+    Fill(screen, a, b, c, TexelPaint{texture});
 }
 }
