@@ -148,8 +148,16 @@ void FillSpan(const GroundView& view, const RowSpan& span, std::int32_t margin, 
     TexelRun run;
     FindTexels(view, span, run);
     const Inside inside(view.Sharp, margin);
-    const std::int32_t skyRow = SkyRow(view, span.Y);
     std::uint8_t* pixel = span.Pixels;
+    // Along a row u and v only grow or only shrink: between two texels inside there is none outside.
+    const std::int32_t last = span.Count - 1;
+    if (inside(run.U[0], run.V[0]) && inside(run.U[last], run.V[last]))
+    {
+        for (std::int32_t i = 0; i < span.Count; ++i, pixel += 3)
+            ground(run.U[i], run.V[i], span.First + i, pixel);
+        return;
+    }
+    const std::int32_t skyRow = SkyRow(view, span.Y);
     for (std::int32_t i = 0; i < span.Count; ++i, pixel += 3)
         if (inside(run.U[i], run.V[i]))
             ground(run.U[i], run.V[i], span.First + i, pixel);
@@ -246,8 +254,8 @@ void FillTent(const GroundView& view, const RowSpan& span, const Tent& tent)
 void FillNearest(const GroundView& view, const RowSpan& span, std::int32_t margin)
 {
     FillSpan(view, span, margin,
-             [&](std::int32_t u, std::int32_t v, std::int32_t, std::uint8_t* pixel)
-             { Copy(pixel, view.Sharp.At(u, v)); });
+             [sharp = view.Sharp](std::int32_t u, std::int32_t v, std::int32_t, std::uint8_t* pixel)
+             { Copy(pixel, sharp.At(u, v)); });
 }
 }
 
