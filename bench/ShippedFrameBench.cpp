@@ -4,6 +4,8 @@
 
 #include <benchmark/benchmark.h>
 
+#include <thread>
+
 namespace
 {
 struct Path
@@ -23,6 +25,8 @@ void WholeFrame(benchmark::State& state)
 {
     Path& path = ThePath();
     shell::Game& game = path.Race.Game();
+    // The bands and walkers that the game would take on this machine.
+    game.Screen.ThreadCount = static_cast<std::int16_t>(2 * std::thread::hardware_concurrency() + 1);
     Mod3D::ApplyResolution(path.Race.Form().Window(), game.Screen, game.Camera,
                            static_cast<std::int32_t>(state.range(0)), static_cast<std::int32_t>(state.range(1)));
     game.Screen.TxtFilter = static_cast<std::int16_t>(state.range(2));
