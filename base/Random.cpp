@@ -12,7 +12,7 @@ void Random::Seed(std::uint64_t seed)
 double Random::Next()
 {
     if (!Script.empty())
-        return Script[ScriptNext++ % Script.size()];
+        return Script[static_cast<std::size_t>(ScriptNext++ % Script.size())];
     State += 0x9E3779B97F4A7C15u;
     std::uint64_t z = State;
     z = (z ^ (z >> 30)) * 0xBF58476D1CE4E5B9u;
