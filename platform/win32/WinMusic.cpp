@@ -1,0 +1,161 @@
+#include "platform/win32/WinMusic.h"
+
+#include <mmsystem.h>
+
+#include <utility>
+
+namespace platform
+{
+namespace
+{
+constexpr const wchar_t* DeviceType = L"mpegvideo"; // plays every sound file the system has a decoder for
+}
+
+// A file in the media control, from open to close, on the thread that made it.
+class WinMusic::Track
+{
+public:
+    // Asks for the notification in a window of its own: what an earlier file may still say arrives nowhere.
+    explicit Track(std::uint32_t number)
+        : Number(number), Sink(CreateWindowExW(0, L"STATIC", nullptr, 0, 0, 0, 0, 0, HWND_MESSAGE, nullptr,
+                                               GetModuleHandleW(nullptr), nullptr))
+    {
+    }
+    ~Track()
+    {
+        MCI_GENERIC_PARMS close = {};
+        if (Device != 0)
+            mciSendCommandW(Device, MCI_CLOSE, MCI_WAIT, reinterpret_cast<DWORD_PTR>(&close));
+        DestroyWindow(Sink);
+    }
+    Track(const Track&) = delete;
+    Track& operator=(const Track&) = delete;
+
+    bool Start(const std::filesystem::path& file)
+    {
+        MCI_OPEN_PARMSW open = {};
+        open.lpstrDeviceType = DeviceType;
+        open.lpstrElementName = file.c_str();
+        if (mciSendCommandW(0, MCI_OPEN, MCI_WAIT | MCI_OPEN_TYPE | MCI_OPEN_ELEMENT,
+                            reinterpret_cast<DWORD_PTR>(&open)) != 0)
+            return false;
+        Device = open.wDeviceID;
+        MCI_PLAY_PARMS play = {};
+        play.dwCallback = reinterpret_cast<DWORD_PTR>(Sink);
+        return mciSendCommandW(Device, MCI_PLAY, MCI_NOTIFY, reinterpret_cast<DWORD_PTR>(&play)) == 0;
+    }
+
+    const std::uint32_t Number;
+    const HWND Sink;
+
+private:
+    MCIDEVICEID Device = 0;
+};
+
+WinMusic::WinMusic(HWND window, WindowEvents& events)
+    : Window(window), Events(events), Changed(CreateEventW(nullptr, FALSE, FALSE, nullptr)), Worker([this] { Work(); })
+{
+}
+
+WinMusic::~WinMusic()
+{
+    {
+        const std::lock_guard hold(Lock);
+        Quits = true;
+    }
+    SetEvent(Changed);
+    Worker.join();
+    CloseHandle(Changed);
+}
+
+void WinMusic::Open(const std::filesystem::path& file)
+{
+    Close();
+    File = file;
+}
+
+void WinMusic::Play(std::uint32_t number)
+{
+    if (File.empty())
+        return;
+    Number = number;
+    Playing = true;
+    Tell({File, number});
+}
+
+void WinMusic::Close()
+{
+    File.clear();
+    Playing = false;
+    Tell({});
+}
+
+void WinMusic::Tell(const Order& order)
+{
+    {
+        const std::lock_guard hold(Lock);
+        Next = order;
+        HasNext = true;
+    }
+    SetEvent(Changed);
+}
+
+// A file that breaks off is as unplayable as one that never began; what was closed or begun anew says nothing.
+void WinMusic::Notified(WPARAM flags, LPARAM number)
+{
+    if (!Playing || static_cast<std::uint32_t>(number) != Number)
+        return;
+    if (flags != MCI_NOTIFY_SUCCESSFUL && flags != MCI_NOTIFY_FAILURE)
+        return;
+    Playing = false;
+    Events.MediaDone(Number, flags == MCI_NOTIFY_SUCCESSFUL ? MediaSuccessful : MediaUnplayable);
+}
+
+// Handles window messages as well: notifications, and what the decoders send one another.
+void WinMusic::Work()
+{
+    std::unique_ptr<Track> track;
+    while (MsgWaitForMultipleObjects(1, &Changed, FALSE, INFINITE, QS_ALLINPUT) != WAIT_FAILED)
+    {
+        Order order;
+        const Wish wish = TakeWish(order);
+        if (wish == Wish::Quit)
+            return;
+        if (wish == Wish::Change)
+        {
+            track.reset(); // before the next begins
+            track = Start(order);
+        }
+        for (MSG message; PeekMessageW(&message, nullptr, 0, 0, PM_REMOVE);)
+            if (message.message == MM_MCINOTIFY && track != nullptr && message.hwnd == track->Sink)
+                Post(message.wParam, track->Number);
+            else
+                DispatchMessageW(&message);
+    }
+}
+
+WinMusic::Wish WinMusic::TakeWish(Order& order)
+{
+    const std::lock_guard hold(Lock);
+    if (Quits)
+        return Wish::Quit;
+    order = std::move(Next);
+    return std::exchange(HasNext, false) ? Wish::Change : Wish::None;
+}
+
+std::unique_ptr<WinMusic::Track> WinMusic::Start(const Order& order) const
+{
+    if (order.File.empty() || waveOutGetNumDevs() == 0)
+        return nullptr;
+    auto track = std::make_unique<Track>(order.Number);
+    if (track->Start(order.File))
+        return track;
+    Post(MCI_NOTIFY_FAILURE, order.Number);
+    return nullptr;
+}
+
+void WinMusic::Post(WPARAM flags, std::uint32_t number) const
+{
+    PostMessageW(Window, MM_MCINOTIFY, flags, static_cast<LPARAM>(number));
+}
+}
