@@ -49,17 +49,24 @@ std::uint32_t MessageFlags(base::Icon icon)
         return SDL_MESSAGEBOX_INFORMATION;
     }
 }
+
+// The game draws by itself: a plain surface, whose pixels the display takes as they are, spares it the graphics
+// libraries and their tens of megabytes. Where the display gives none, SDL makes one of them.
+bool HasSurface(SDL_Window* window)
+{
+    SDL_SetHint(SDL_HINT_FRAMEBUFFER_ACCELERATION, "0");
+    if (SDL_GetWindowSurface(window) != nullptr)
+        return true;
+    SDL_SetHint(SDL_HINT_FRAMEBUFFER_ACCELERATION, "1");
+    return SDL_GetWindowSurface(window) != nullptr;
+}
 }
 
 SdlWindow::SdlWindow(SdlPlatform& platform, WindowEvents& events, Size size) : ThePlatform(platform), Events(events)
 {
     TheWindow.reset(SDL_CreateWindow("Velkar", SDL_WINDOWPOS_CENTERED, SDL_WINDOWPOS_CENTERED, size.Width, size.Height,
                                      SDL_WINDOW_BORDERLESS | SDL_WINDOW_HIDDEN));
-    if (TheWindow)
-        TheRenderer.reset(SDL_CreateRenderer(TheWindow.get(), -1, 0));
-    if (TheWindow && !TheRenderer)
-        TheRenderer.reset(SDL_CreateRenderer(TheWindow.get(), -1, SDL_RENDERER_SOFTWARE));
-    if (!TheRenderer)
+    if (!TheWindow || !HasSurface(TheWindow.get()))
         throw base::RuntimeError(base::ErrorMemory);
     ThePlatform.Add(*this);
 }
@@ -117,13 +124,6 @@ void SdlWindow::Dispatch(const SDL_Event& event)
         break;
     case SDL_QUIT:
         Events.CloseAsked();
-        break;
-    case SDL_RENDER_DEVICE_RESET:
-        TheTexture.reset();
-        Events.Paint();
-        break;
-    case SDL_RENDER_TARGETS_RESET:
-        Events.Paint();
         break;
     default:
         break;
@@ -232,16 +232,12 @@ Point SdlWindow::CursorPosition()
     return position;
 }
 
-bool SdlWindow::MakeTexture(int width, int height)
+bool SdlWindow::MakePicture(int width, int height)
 {
-    if (TheTexture && TextureSize.Width == width && TextureSize.Height == height)
+    if (Picture && Picture->w == width && Picture->h == height)
         return true;
-    TheTexture.reset(
-        SDL_CreateTexture(TheRenderer.get(), SDL_PIXELFORMAT_ARGB8888, SDL_TEXTUREACCESS_STREAMING, width, height));
-    TextureSize = {width, height};
-    if (TheTexture)
-        SDL_SetTextureScaleMode(TheTexture.get(), SDL_ScaleModeNearest);
-    return TheTexture != nullptr;
+    Picture.reset(SDL_CreateRGBSurfaceWithFormat(0, width, height, 32, SDL_PIXELFORMAT_RGB888));
+    return Picture != nullptr;
 }
 
 void SdlWindow::Present(int width, int height, std::span<const std::uint8_t> bits)
@@ -249,23 +245,20 @@ void SdlWindow::Present(int width, int height, std::span<const std::uint8_t> bit
     const std::size_t rowBytes = (static_cast<std::size_t>(width) * 3 + 3) & ~std::size_t{3};
     if (width <= 0 || height <= 0 || bits.size() < rowBytes * static_cast<std::size_t>(height))
         return;
-    void* pixels = nullptr;
-    int pitch = 0;
-    if (!MakeTexture(width, height) || SDL_LockTexture(TheTexture.get(), nullptr, &pixels, &pitch) != 0)
+    SDL_Surface* const surface = SDL_GetWindowSurface(TheWindow.get());
+    if (surface == nullptr || !MakePicture(width, height))
         return;
     for (int y = 0; y < height; ++y)
     {
-        // The picture stands on its bottom row, the texture hangs from its top row.
+        // The picture stands on its bottom row, the surface hangs from its top row.
         const std::uint8_t* from = bits.data() + rowBytes * static_cast<std::size_t>(height - 1 - y);
-        auto* to = reinterpret_cast<std::uint32_t*>(static_cast<std::uint8_t*>(pixels) +
-                                                    static_cast<std::ptrdiff_t>(pitch) * y);
+        auto* to = reinterpret_cast<std::uint32_t*>(static_cast<std::uint8_t*>(Picture->pixels) +
+                                                    static_cast<std::ptrdiff_t>(Picture->pitch) * y);
         for (int x = 0; x < width; ++x, from += 3)
-            to[x] = 0xFF000000u | static_cast<std::uint32_t>(from[2]) << 16 | static_cast<std::uint32_t>(from[1]) << 8 |
-                    from[0];
+            to[x] = static_cast<std::uint32_t>(from[2]) << 16 | static_cast<std::uint32_t>(from[1]) << 8 | from[0];
     }
-    SDL_UnlockTexture(TheTexture.get());
-    SDL_RenderCopy(TheRenderer.get(), TheTexture.get(), nullptr, nullptr);
-    SDL_RenderPresent(TheRenderer.get());
+    SDL_BlitScaled(Picture.get(), nullptr, surface, nullptr);
+    SDL_UpdateWindowSurface(TheWindow.get());
 }
 
 std::string SdlWindow::ClipboardText()

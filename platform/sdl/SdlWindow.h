@@ -51,26 +51,19 @@ private:
     {
         void operator()(SDL_Window* window) const { SDL_DestroyWindow(window); }
     };
-    struct RendererDeleter
+    struct SurfaceDeleter
     {
-        void operator()(SDL_Renderer* renderer) const { SDL_DestroyRenderer(renderer); }
-    };
-    struct TextureDeleter
-    {
-        void operator()(SDL_Texture* texture) const { SDL_DestroyTexture(texture); }
+        void operator()(SDL_Surface* surface) const { SDL_FreeSurface(surface); }
     };
 
     void DispatchWindow(const SDL_WindowEvent& event);
     void DispatchText(const char* utf8);
-    bool MakeTexture(int width, int height);
+    bool MakePicture(int width, int height);
 
     SdlPlatform& ThePlatform;
     WindowEvents& Events;
-    // Destroyed in the order texture, renderer, window.
     std::unique_ptr<SDL_Window, WindowDeleter> TheWindow;
-    std::unique_ptr<SDL_Renderer, RendererDeleter> TheRenderer;
-    std::unique_ptr<SDL_Texture, TextureDeleter> TheTexture;
-    Size TextureSize;
+    std::unique_ptr<SDL_Surface, SurfaceDeleter> Picture; // of the size of the last picture presented
     std::optional<Moved> Motion;
     std::optional<Point> Pointer; // on the screen at the event that is being handled, where the system tells
     bool CursorShown = true;

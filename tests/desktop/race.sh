@@ -88,10 +88,9 @@ xdotool mousemove 5 5
 xdotool key Escape
 await_entries suspended2 suspended.bmp
 
-# What it has all taken of the memory at most: 200 MiB, and 70 more for the drawing libraries that stand in for a graphics
-# card here.
+# What it has all taken of the memory at most.
 peak=$(awk '/^VmHWM/ { print $2 }' "/proc/$player/status")
-[ "$peak" -le $((270 * 1024)) ] || fail "the game has taken $peak KiB of memory"
+[ "$peak" -le $((200 * 1024)) ] || fail "the game has taken $peak KiB of memory"
 
 click 300 268
 await_end Esci
