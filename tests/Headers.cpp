@@ -1,0 +1,1 @@
+// Stands for the header files that all tests share: see CMakeLists.txt.
