@@ -16,16 +16,6 @@ bool HoldsData(const fs::path& folder)
 }
 }
 
-fs::path ExecutablePath(const char* firstArgument)
-{
-    std::error_code error;
-    fs::path told = fs::read_symlink("/proc/self/exe", error);
-    if (!error)
-        return told;
-    const fs::path absolute = fs::absolute(firstArgument != nullptr ? firstArgument : "", error);
-    return error ? fs::path() : absolute;
-}
-
 fs::path FindDataAmong(const fs::path& executable, std::span<const fs::path> installed)
 {
     fs::path own = executable.parent_path();

@@ -56,5 +56,5 @@ TEST_F(FindData, TheProgramsFolderWhereThereIsNone)
 
 TEST_F(FindData, TheProgramKnowsItself)
 {
-    EXPECT_EQ(platform::ExecutablePath("ignored").filename(), "test_platform");
+    EXPECT_EQ(platform::ExecutablePath("ignored").stem(), "test_platform");
 }

@@ -1,0 +1,121 @@
+// Keys and mouse of a window: from the system's messages to the game's events.
+#include "platform/win32/WinKeys.h"
+#include "platform/win32/WinWindow.h"
+
+#include <windowsx.h>
+
+namespace platform
+{
+namespace
+{
+constexpr int Left = 1, Right = 2, Middle = 4;
+constexpr Point Outside = {-1, -1};
+
+int ButtonsOf(WPARAM keys)
+{
+    return ((keys & MK_LBUTTON) != 0 ? Left : 0) + ((keys & MK_RBUTTON) != 0 ? Right : 0) +
+           ((keys & MK_MBUTTON) != 0 ? Middle : 0);
+}
+}
+
+bool WinWindow::HandleKey(UINT message, WPARAM first, LPARAM second)
+{
+    constexpr LPARAM AltDown = 1 << 29;
+    if (message == WM_CHAR)
+    {
+        if (const std::uint8_t character = GameCharacter(first))
+            Queue.KeyPress(character);
+        return true;
+    }
+    // Alt and F10 are keys like any other; only Alt+F4 means what it always means.
+    if (message == WM_SYSCHAR)
+        return true;
+    if (message == WM_SYSKEYDOWN && first == VK_F4 && (second & AltDown) != 0)
+        return false;
+    const std::int16_t code = GameKey(first, VkKeyScanW(L'\\'));
+    const bool down = message == WM_KEYDOWN || message == WM_SYSKEYDOWN;
+    KeysHeld.set(static_cast<std::size_t>(code), down);
+    down ? Queue.KeyDown(code) : Queue.KeyUp(code);
+    return true;
+}
+
+// A window without the focus is told nothing of the keys.
+void WinWindow::LetGoOfKeys()
+{
+    for (std::size_t code = 0; code < KeysHeld.size(); ++code)
+        if (KeysHeld.test(code))
+            Queue.KeyUp(static_cast<std::int16_t>(code));
+    KeysHeld.reset();
+}
+
+bool WinWindow::HandleMouse(UINT message, WPARAM first, LPARAM second)
+{
+    const Point at = {GET_X_LPARAM(second), GET_Y_LPARAM(second)};
+    switch (message)
+    {
+    case WM_LBUTTONDOWN:
+        ButtonDown(Left, at);
+        return true;
+    case WM_LBUTTONUP:
+        ButtonUp(Left, at);
+        return true;
+    case WM_RBUTTONDOWN:
+        ButtonDown(Right, at);
+        return true;
+    case WM_RBUTTONUP:
+        ButtonUp(Right, at);
+        return true;
+    case WM_MBUTTONDOWN:
+        ButtonDown(Middle, at);
+        return true;
+    case WM_MBUTTONUP:
+        ButtonUp(Middle, at);
+        return true;
+    case WM_MOUSELEAVE:
+        LeaveAsked = false;
+        Queue.MouseMove(0, Outside);
+        return true;
+    default:
+        AskForLeave();
+        Queue.MouseMove(ButtonsOf(first), at);
+        return true;
+    }
+}
+
+// To be told when the mouse goes: nothing of the window lies under it then.
+void WinWindow::AskForLeave()
+{
+    if (LeaveAsked)
+        return;
+    TRACKMOUSEEVENT wish = {};
+    wish.cbSize = sizeof wish;
+    wish.dwFlags = TME_LEAVE;
+    wish.hwndTrack = TheHandle;
+    LeaveAsked = TrackMouseEvent(&wish) != 0;
+}
+
+// The mouse belongs to the window while a button is held.
+void WinWindow::ButtonDown(int button, Point at)
+{
+    ButtonsHeld |= button;
+    SetCapture(TheHandle);
+    Queue.MouseDown(button, at);
+}
+
+void WinWindow::ButtonUp(int button, Point at)
+{
+    ButtonsHeld &= ~button;
+    Queue.MouseUp(button, at);
+    if (ButtonsHeld == 0)
+        ReleaseCapture();
+}
+
+// Something else has taken the mouse, a message box perhaps: what was pressed is let go where it does nothing.
+void WinWindow::LetGoOfButtons()
+{
+    for (const int button : {Left, Right, Middle})
+        if ((ButtonsHeld & button) != 0)
+            Queue.MouseUp(button, Outside);
+    ButtonsHeld = 0;
+}
+}

@@ -1,0 +1,188 @@
+#include "platform/win32/WinPlatform.h"
+
+#include "platform/win32/EscapiWebcam.h"
+#include "platform/win32/WinMusic.h"
+#include "platform/win32/WinText.h"
+#include "platform/win32/WinWaveOut.h"
+#include "platform/win32/WinWindow.h"
+
+#include <algorithm>
+#include <chrono>
+#include <limits>
+
+namespace platform
+{
+namespace
+{
+constexpr UINT ClockStep = 1;             // milliseconds
+constexpr UINT TimerIsDue = WM_APP;       // only wakes the message loop
+constexpr DWORD LongestTimer = 60 * 1000; // milliseconds
+constexpr const wchar_t* InstanceName = L"Local\\Velkar";
+
+// On a thread of the system's.
+void CALLBACK PostDue(UINT, UINT, DWORD_PTR window, DWORD_PTR, DWORD_PTR)
+{
+    PostMessageW(reinterpret_cast<HWND>(window), TimerIsDue, 0, 0);
+}
+
+// A multimedia timer that posts to the window once; none where the system has none left.
+class OneShot
+{
+public:
+    OneShot(HWND window, DWORD milliseconds)
+        : Id(timeSetEvent(milliseconds, ClockStep, &PostDue, reinterpret_cast<DWORD_PTR>(window),
+                          TIME_ONESHOT | TIME_CALLBACK_FUNCTION | TIME_KILL_SYNCHRONOUS))
+    {
+    }
+    ~OneShot()
+    {
+        if (Id != 0)
+            timeKillEvent(Id);
+    }
+    OneShot(const OneShot&) = delete;
+    OneShot& operator=(const OneShot&) = delete;
+
+    bool IsSet() const { return Id != 0; }
+
+private:
+    MMRESULT Id;
+};
+}
+
+WinPlatform::WinPlatform(std::filesystem::path data, std::filesystem::path program)
+    : TheFiles(std::move(data)), TheWebcam(std::make_unique<EscapiWebcam>(std::move(program)))
+{
+    timeBeginPeriod(ClockStep);
+    ClockStart = GetTickCount();
+    FineStart = timeGetTime();
+}
+
+WinPlatform::~WinPlatform()
+{
+    timeEndPeriod(ClockStep);
+    if (InstanceMutex != nullptr)
+        CloseHandle(InstanceMutex);
+}
+
+void WinPlatform::Run(Program& program)
+{
+    while (!program.Ended())
+    {
+        WaitMessage(program.NextTimer());
+        PumpEvents();
+        if (!program.Ended())
+            program.RunTimers();
+    }
+}
+
+void WinPlatform::Add(WinWindow& window)
+{
+    Windows.push_back(&window);
+}
+
+void WinPlatform::Remove(WinWindow& window)
+{
+    std::erase(Windows, &window);
+}
+
+bool WinPlatform::HasEvents() const
+{
+    return std::any_of(Windows.begin(), Windows.end(), [](WinWindow* window) { return !window->Events().IsEmpty(); });
+}
+
+void WinPlatform::Deliver()
+{
+    // A handler may close windows: each is looked up again.
+    for (std::size_t i = 0; i < Windows.size(); ++i)
+        Windows[i]->Deliver();
+}
+
+void WinPlatform::WaitMessage(std::uint32_t milliseconds) const
+{
+    if (milliseconds == 0 || HasEvents())
+        return;
+    const auto wait = std::min<DWORD>(milliseconds, LongestTimer);
+    if (Windows.empty())
+        return Sleep(wait);
+    const OneShot timer(Windows.front()->Handle(), wait);
+    MsgWaitForMultipleObjectsEx(0, nullptr, timer.IsSet() ? INFINITE : wait, QS_ALLINPUT, MWMO_INPUTAVAILABLE);
+}
+
+void WinPlatform::PumpEvents()
+{
+    Deliver();
+    for (MSG message; PeekMessageW(&message, nullptr, 0, 0, PM_REMOVE);)
+    {
+        TranslateMessage(&message);
+        DispatchMessageW(&message);
+        Deliver();
+    }
+}
+
+void WinPlatform::WaitEvents(std::uint32_t milliseconds)
+{
+    const std::uint32_t start = TickCount();
+    for (std::uint32_t passed = 0; passed < milliseconds; passed = TickCount() - start)
+    {
+        WaitMessage(milliseconds - passed);
+        PumpEvents();
+    }
+}
+
+// GetTickCount moves in steps of up to 16 ms, too coarse for ticks of 25; timeGetTime counts the same milliseconds one
+// by one.
+std::uint32_t WinPlatform::TickCount()
+{
+    return ClockStart + (timeGetTime() - FineStart);
+}
+
+std::uint64_t WinPlatform::ClockSeed()
+{
+    return static_cast<std::uint64_t>(std::chrono::system_clock::now().time_since_epoch().count());
+}
+
+int WinPlatform::ProcessorCount()
+{
+    SYSTEM_INFO system = {};
+    GetSystemInfo(&system);
+    return std::max(1, static_cast<int>(system.dwNumberOfProcessors));
+}
+
+bool WinPlatform::IsFirstInstance()
+{
+    if (InstanceMutex != nullptr)
+        return true;
+    InstanceMutex = CreateMutexW(nullptr, FALSE, InstanceName);
+    // Where none can be made, a second instance is better than none.
+    if (InstanceMutex == nullptr || GetLastError() != ERROR_ALREADY_EXISTS)
+        return true;
+    CloseHandle(InstanceMutex);
+    InstanceMutex = nullptr;
+    return false;
+}
+
+std::unique_ptr<Window> WinPlatform::MakeWindow(WindowEvents& events, Size size)
+{
+    return std::make_unique<WinWindow>(*this, events, size);
+}
+
+std::unique_ptr<WaveOut> WinPlatform::MakeWaveOut(Window& window)
+{
+    auto& own = static_cast<WinWindow&>(window);
+    return std::make_unique<WinWaveOut>(own.Handle(), own.Events());
+}
+
+// No message is dispatched between the player's end and its window's.
+std::unique_ptr<MusicPlayer> WinPlatform::MakeMusicPlayer(Window& window)
+{
+    auto& own = static_cast<WinWindow&>(window);
+    auto music = std::make_unique<WinMusic>(own.Handle(), own.Events());
+    own.OnMediaNotify([player = music.get()](WPARAM flags, LPARAM number) { player->Notified(flags, number); });
+    return music;
+}
+
+void ShowStartError(const std::string& text)
+{
+    MessageBoxW(nullptr, ToWide(text).c_str(), L"Velkar", MB_OK | MB_ICONERROR | MB_SETFOREGROUND);
+}
+}

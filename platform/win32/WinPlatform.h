@@ -1,0 +1,56 @@
+// platform/win32/WinPlatform.h: the back end of the Windows desktop, on the system's own calls. Its header leaves the
+// system's out: their macros rename what is called as in the game.
+#pragma once
+#include "platform/Platform.h"
+
+#include <memory>
+#include <string>
+#include <vector>
+
+namespace platform
+{
+class WinWindow;
+
+class WinPlatform final : public Platform
+{
+public:
+    // `data` holds data\ and soundtracks\; `program` is the folder of the program, where webcam libraries may be.
+    WinPlatform(std::filesystem::path data, std::filesystem::path program);
+    ~WinPlatform() override;
+    WinPlatform(const WinPlatform&) = delete;
+    WinPlatform& operator=(const WinPlatform&) = delete;
+
+    // Events and timers until the program has ended.
+    void Run(Program& program);
+
+    void Add(WinWindow& window);
+    void Remove(WinWindow& window);
+
+    const base::Files& DataFiles() override { return TheFiles; }
+    std::uint32_t TickCount() override;
+    std::uint64_t ClockSeed() override;
+    int ProcessorCount() override;
+    bool IsFirstInstance() override;
+    std::unique_ptr<Window> MakeWindow(WindowEvents& events, Size size) override;
+    std::unique_ptr<WaveOut> MakeWaveOut(Window& window) override;
+    std::unique_ptr<MusicPlayer> MakeMusicPlayer(Window& window) override;
+    void PumpEvents() override;
+    void WaitEvents(std::uint32_t milliseconds) override;
+    Webcam& Camera() override { return *TheWebcam; }
+
+private:
+    bool HasEvents() const;
+    void Deliver();
+    // Until a message comes or so long, UINT32_MAX for ever.
+    void WaitMessage(std::uint32_t milliseconds) const;
+
+    base::Files TheFiles;
+    std::unique_ptr<Webcam> TheWebcam;
+    std::vector<WinWindow*> Windows;
+    void* InstanceMutex = nullptr;
+    std::uint32_t ClockStart, FineStart; // the system's two clocks, taken together
+};
+
+// What keeps the program from starting.
+void ShowStartError(const std::string& text);
+}

@@ -1,0 +1,16 @@
+#include "program/RunSdl.h"
+
+#include "platform/FindData.h"
+#include "platform/sdl/SdlPlatform.h"
+#include "program/RunDesktop.h"
+
+#include <cstdio>
+
+namespace program
+{
+int RunSdl(const char* path, const platform::WebcamSource& webcam)
+{
+    return RunDesktop([&] { return platform::SdlPlatform(platform::FindData(platform::ExecutablePath(path)), webcam); },
+                      [](const std::string& text) { std::fprintf(stderr, "velkar: %s\n", text.c_str()); });
+}
+}

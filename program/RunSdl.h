@@ -1,0 +1,9 @@
+// program/RunSdl.h: one run of the game on the SDL back end.
+#pragma once
+#include "platform/sdl/FfmpegWebcam.h"
+
+namespace program
+{
+// path: what the program was started as. The exit status; what keeps it from starting is told on standard error.
+int RunSdl(const char* path, const platform::WebcamSource& webcam);
+}
