@@ -1,6 +1,7 @@
 #include "hud/Hud.h"
 #include "hud/Font.h"
 #include "hud/Glass.h"
+#include "hud/Icon.h"
 #include "hud/Inside.h"
 #include "hud/MenuPictures.h"
 #include "hud/Models.h"
@@ -17,5 +18,6 @@ void BuildHud(const std::string& root)
     WriteMenuPictures(root + "/data/images");
     WriteCup(root + "/data/models");
     WriteArrow(root + "/data/models");
+    WriteIcon(root + "/program/win32/velkar.ico");
 }
 }
