@@ -1,5 +1,5 @@
-// platform/Platform.h: everything the game needs from outside. Back ends: sdl, headless (win32 to come from the same
-// interface). A back end never decides anything about the game. Runs on the window's thread throughout.
+// platform/Platform.h: everything the game needs from outside. Back ends: win32, sdl, headless. A back end never
+// decides anything about the game. Runs on the window's thread throughout.
 // Texts are UTF-8. Sizes and positions are pixels, screen positions with y downward from the top left corner.
 #pragma once
 #include "base/Files.h"

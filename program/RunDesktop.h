@@ -1,9 +1,32 @@
-// program/RunDesktop.h: one run of the game on the desktop.
+// program/RunDesktop.h: one run of the game on the desktop, whichever back end it has.
 #pragma once
-#include "platform/sdl/FfmpegWebcam.h"
+#include "base/RuntimeError.h"
+#include "shell/Application.h"
+
+#include <exception>
+#include <string>
 
 namespace program
 {
-// path: what the program was started as. The exit status; what keeps it from starting is told on standard error.
-int RunDesktop(const char* path, const platform::WebcamSource& webcam);
+// make(): the back end. tell(text): what keeps the program from starting or going on. Gives the exit status.
+template <class Make, class Tell> int RunDesktop(Make&& make, Tell&& tell)
+{
+    try
+    {
+        auto platform = make();
+        shell::Application application(platform);
+        application.Start();
+        platform.Run(application);
+        return 0;
+    }
+    catch (const base::RuntimeError& error)
+    {
+        tell(error.Description);
+    }
+    catch (const std::exception& error)
+    {
+        tell(std::string(error.what()));
+    }
+    return 1;
+}
 }

@@ -1,7 +1,7 @@
 // The desktop program.
-#include "program/RunDesktop.h"
+#include "program/RunSdl.h"
 
 int main(int, char** words)
 {
-    return program::RunDesktop(words[0], {});
+    return program::RunSdl(words[0], {});
 }
