@@ -157,6 +157,9 @@ std::int32_t WinWaveOut::Close(WaveHandle handle)
 {
     if (!IsOpen(handle))
         return WaveInvalidHandle;
+    // Wine would close it with buffers that never come back.
+    if (std::any_of(Slots.begin(), Slots.end(), [](const Slot& slot) { return IsQueued(slot.Header); }))
+        return WaveStillPlaying;
     const MMRESULT result = waveOutClose(Device);
     if (result == MMSYSERR_NOERROR)
         Forget();

@@ -22,7 +22,12 @@ fail() {
     exit 1
 }
 pids=()
-cleanup() { [ ${#pids[@]} -eq 0 ] || kill "${pids[@]}" 2>/dev/null || true; }
+end_programs() { [ ${#pids[@]} -eq 0 ] || kill "${pids[@]}" 2>/dev/null || true; }
+endings=(end_programs) # what is done at the end, in this order
+cleanup() {
+    local ending
+    for ending in "${endings[@]}"; do $ending; done
+}
 trap cleanup EXIT
 
 # await MESSAGE COMMAND…: until the command says yes, for a minute; then fails with the message.

@@ -5,110 +5,17 @@
 export SDL_AUDIODRIVER=pulseaudio
 probe=$(realpath "$6")
 source "$(dirname "$0")/common.sh"
-for tool in pulseaudio parec pactl; do
-    if ! command -v "$tool" >/dev/null; then
-        echo "skipped: $tool is not installed"
-        exit 77
-    fi
-done
-
-# ---- The sound server: a sink that keeps time and plays nowhere, with a socket of its own ----
-
-socket=$(mktemp -d) # a short path: sockets have no room for a long one
-trap 'cleanup; rm -rf "$socket"' EXIT
-export PULSE_SERVER=unix:$socket/pulse PULSE_COOKIE=$work/cookie HOME=$work
-server=""
-start_server() {
-    pulseaudio -n --daemonize=no --exit-idle-time=-1 --use-pid-file=no --disable-shm=yes --log-target=stderr \
-        --load="module-null-sink sink_name=null rate=44100" \
-        --load="module-native-protocol-unix auth-anonymous=1 socket=$socket/pulse" >>pulseaudio.log 2>&1 &
-    server=$!
-    pids+=($server)
-    for _ in $(seq 100); do pactl info >/dev/null 2>&1 && return || sleep 0.1; done
-    echo "skipped: PulseAudio does not start here: $(tail -1 pulseaudio.log)"
-    exit 77
-}
-recorder=""
-record() {
-    parec -d null.monitor --format=s16le --rate=44100 --channels=2 --latency-msec=50 >"$1.raw" 2>>parec.log &
-    recorder=$!
-    pids+=($recorder)
-    await "nothing can be recorded" test -s "$1.raw"
-}
-stop_recording() {
-    kill $recorder
-    wait $recorder 2>/dev/null || true
-}
-# A root of its own: the game beside its data, with the music that is put there.
-make_root() {
-    mkdir -p "$1/soundtracks"
-    cp "$game" "$1/velkar"
-    ln -s "$root/data" "$1/data"
-}
-# The message boxes that are open, by window.
-boxes() { xwininfo -root -tree 2>/dev/null | sed -n 's/^ *\(0x[0-9a-f]*\) "Err[^"]*":.*/\1/p'; }
-no_box() { [ -z "$(boxes)" ]; }
-has_box() { [ "$(boxes | wc -w)" = 1 ]; }
-# Presses Return on the box and looks a little later: a window that has just come may not yet listen.
-answered() {
-    xdotool windowfocus --sync "$box" key Return 2>>xdotool.log || true
-    for _ in $(seq 20); do [ "$(boxes)" != "$box" ] && return || sleep 0.05; done
-    return 1
-}
-is_racing() { differs "$1.png" menu.png 50000; }
+source "$(dirname "$0")/listen.sh"
 
 start_server
 start_display
 whole_game=$game
-
-# ---- The engine, without music ----
-
-make_root engine
-# A car that gathers speed slowly: its step changes little within the stretch of sound that is compared.
-rm engine/data
-cp -rs "$root/data" engine/data
-user=engine/data/maps/map_01/p1.player
-rm $user
-awk -F, -v OFS=, '{ $4 = 0.016; print }' "$root/${user#engine/}" >$user
-# The step after each tick of a race in which the accelerator goes down.
-{
-    printf 'load\nclick cSTART\ngame 140\nkey down 38\n'
-    for _ in $(seq 130); do printf 'game\npeek audio.Step\n'; done
-} >steps.drive
-"$drive" --root engine steps.drive | sed -n 's/.*"value": \([0-9.]*\).*/\1/p' >steps.txt
-game=$work/engine/velkar
-record engine
-start_game
-shot menu
-click 300 169
-until_shown racing "the race does not show" is_racing racing
-sleep 3.5
-xdotool keydown Up
-sleep 6
-xdotool keyup Up
-xdotool key Escape
-sleep 0.5
-stop_recording
-"$probe" engine engine.raw "$root/data/sounds/engine_01.pcm" steps.txt >engine.txt ||
-    { tail -40 engine.txt; fail "the engine does not follow the speed"; }
-tail -1 engine.txt
-"$probe" gap engine.raw 46 || fail "the engine's sound has gaps"
-
-# The menu is silent; the race that goes on is heard again.
-record menu
-sleep 1.5
-stop_recording
-"$probe" silence menu.raw || fail "the menu is not silent"
-record again
-click 300 169
-sleep 2
-stop_recording
-"$probe" gap again.raw 46 || fail "the race that goes on is not heard"
+hear_engine
+hear_menu_and_race
 
 # ---- The server goes away in the middle of the race ----
 
-kill $server
-wait $server 2>/dev/null || true
+stop_server
 xdotool keydown Up
 sleep 1
 shot without1
@@ -122,71 +29,15 @@ no_box || fail "a sound server that goes away brings a message"
 click 300 268
 await_end Esci
 
-# ---- Music: three tones and a file that is none ----
+# ---- Music, its key, and a machine without sound ----
 
 start_server
-make_root music
-"$probe" write-tone music/soundtracks/a.mp3 500 3
-"$probe" write-tone music/soundtracks/b.mp3 800 3
-printf 'Tanti auguri\n' >music/soundtracks/c.mp3
-"$probe" write-tone music/soundtracks/d.wma 1300 3
-game=$work/music/velkar
-record music
-start_game
-# Each goes over into the next by itself, and what is no music is passed over without a word.
-sleep 11
-stop_recording
-"$probe" tones music.raw 500 800 1300 >tones.txt
-echo "tones: $(tr '\n' ' ' <tones.txt)"
-follows() {
-    local previous="" tone
-    while read -r tone; do
-        [ -z "$previous" ] || [ "$tone" = $(((previous + 1) % 3)) ] || return 1
-        previous=$tone
-    done
-}
-[ "$(wc -l <tones.txt)" -ge 4 ] || fail "the music does not go on from track to track"
-follows <tones.txt || fail "the tracks do not follow one another"
-no_box || fail "a file that is no music brings a message"
-
-# The key changes the music: four presses in four seconds, where a track alone takes three.
-click 300 169
-until_shown racing "the race does not show" is_racing racing
-record key
-for _ in 1 2 3 4; do
-    sleep 1
-    xdotool key Tab
-done
-sleep 1
-stop_recording
-"$probe" tones key.raw 500 800 1300 >key.txt
-echo "tones with the key: $(tr '\n' ' ' <key.txt)"
-[ "$(wc -l <key.txt)" -ge 5 ] || fail "the key does not change the music"
-follows <key.txt || fail "the key does not play the next track"
-xdotool key Escape
+hear_music
+hear_key
 kill $player
 wait $player 2>/dev/null || true
-
-# ---- A machine without sound: nine messages, then the race ----
-
-kill $server
-wait $server 2>/dev/null || true
+stop_server
 unset SDL_AUDIODRIVER
 game=$whole_game
-start_game
-shot menu
-click 300 169
-for message in 1 2 3 4 5 6 7 8 9; do
-    await "message $message of nine does not come" has_box
-    box=$(boxes)
-    await "message $message stays" answered
-done
-until_shown racing "the race does not show after nine messages" is_racing racing
-sleep 1
-no_box || fail "there is a tenth message"
-xdotool key Escape
-await "the menu does not come without sound" shot_and suspended differs suspended.png racing.png 20000
-no_box || fail "closing what was never opened brings a message"
-click 300 268
-await_end Esci
+read_nine_messages
 echo "passed: engine through its gears without gaps, silence in the menu, a server that goes away, music, its key, nine messages"
