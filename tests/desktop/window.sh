@@ -18,7 +18,9 @@ focus() {
     xdotool windowactivate "$window"
     await "the window does not get the focus" has_focus
 }
+# By a window manager that does not mind the size the game asks for.
 resize() {
+    xprop -id "$window" -remove WM_NORMAL_HINTS
     xdotool windowsize "$window" "$1" "$2"
     await "the window does not become $1 x $2" measures "$1" "$2"
 }
@@ -61,9 +63,7 @@ xdotool windowmap "$window"
 await "the window is not restored" is_viewable
 await_picture restored menu.bmp
 
-# Resized by a window manager that does not mind the size the game asks for: the menu fits itself to every size, and is
-# the same as before when the window is.
-xprop -id "$window" -remove WM_NORMAL_HINTS
+# Resized: the menu fits itself to every size, and is the same as before when the window is.
 for size in '1200 624' '333 555' '40 30' '1280 1024'; do
     resize $size
     until_shown "menu-${size/ /x}" "the menu does not fill a window of $size" fills "menu-${size/ /x}"
