@@ -97,8 +97,9 @@ void WinWindow::AskForLeave()
 // The mouse belongs to the window while a button is held.
 void WinWindow::ButtonDown(int button, Point at)
 {
+    if (ButtonsHeld == 0)
+        SetCapture(TheHandle);
     ButtonsHeld |= button;
-    SetCapture(TheHandle);
     Queue.MouseDown(button, at);
 }
 
