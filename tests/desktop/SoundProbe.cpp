@@ -246,7 +246,7 @@ int Engine(const std::vector<float>& recorded, const std::vector<float>& table, 
         furthest = std::max(furthest, std::fabs(heard.Step / steps[*next] - 1));
         for (; at < *next; ++at)
             shifts += steps[at + 1] < steps[at] * 0.9 ? 1 : 0;
-        ++(at == 0 ? still : moving);
+        ++(at <= 1 ? still : moving); // the first ticks' steps are told apart by chance alone
         if (at + 5 >= steps.size())
             break;
     }
