@@ -1,0 +1,23 @@
+#!/usr/bin/env bash
+# Plays the Windows program in Wine by the same hand, and looks at it with the same eyes, as the desktop program of this
+# system: NAME is that of a test in ../desktop.
+#   desktop.sh NAME VELKAR VELKAR-DRIVE ROOT WORK
+# VELKAR-DRIVE is a program of this system.
+name=$1
+shift
+windows=$(realpath "$(dirname "$0")") desktop=$windows/../desktop
+if ! [ -x "$2" ]; then
+    echo "skipped: $2 is not built"
+    exit 77
+fi
+probe=""
+source "$desktop/common.sh"
+source "$windows/wine.sh"
+source "$desktop/listen.sh"
+start_display
+start_server
+start_wine
+stop_wine # the test brings a display of its own
+printf '#!/bin/sh\nexec wine "%s"\n' "$game" >velkar
+chmod +x velkar
+"$desktop/$name.sh" "$work/velkar" "$drive" "$root" "$work/$name" 9>&-
