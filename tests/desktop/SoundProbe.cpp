@@ -5,6 +5,7 @@
 //   sound_probe tones RECORDING HZ…       which of the tones sounds when, in a line: their places in the list
 //   sound_probe write-tone FILE HZ SECONDS   music to record
 // Says what it hears; status 1 where it is not as it should be.
+#include "base/Numbers.h"
 #include "tests/desktop/MusicFile.h"
 
 #include <algorithm>
@@ -198,15 +199,16 @@ std::vector<double> Numbers(const char* file)
     return {std::istream_iterator<double>(in), {}};
 }
 
-// Where in the steps, from here on, this one is: the first that is nearer than a hundredth, else the nearest within a
-// twentieth; nothing where there is none within a third of a second.
-std::optional<std::size_t> Follow(const std::vector<double>& steps, std::size_t from, double step)
+// Where in the steps, from here on, this one is, so many seconds later: the first that is nearer than a hundredth, else
+// the nearest within a twentieth; nothing where there is none up to a third of a second later than that.
+std::optional<std::size_t> Follow(const std::vector<double>& steps, std::size_t from, double step, double seconds)
 {
-    constexpr std::size_t Ahead = 14; // ticks
+    constexpr double Ahead = 14, TicksPerSecond = 40;
     constexpr double Close = 0.01, Near = 0.05;
+    const std::size_t end = from + static_cast<std::size_t>(base::RoundEven(Ahead + seconds * TicksPerSecond));
     std::optional<std::size_t> found;
     double least = Near;
-    for (std::size_t k = from; k < std::min(steps.size(), from + Ahead); ++k)
+    for (std::size_t k = from; k < std::min(steps.size(), end); ++k)
     {
         const double error = std::fabs(step / steps[k] - 1);
         if (error <= Close)
@@ -227,13 +229,13 @@ int Engine(const std::vector<float>& recorded, const std::vector<float>& table, 
     constexpr double Clear = 0.95;
     const std::vector<float> sound = ToStreamRate(recorded);
     std::size_t at = 0, still = 0, moving = 0, wrong = 0, shifts = 0;
-    double furthest = 0;
+    double furthest = 0, found = 0; // seconds of the last window that was
     for (std::size_t from = 0; from + WindowFrames <= sound.size() && at + 1 < steps.size(); from += HopFrames)
     {
         const Heard heard = Listen(sound, from, table);
         if (heard.Likeness < Clear)
             continue;
-        const std::optional<std::size_t> next = Follow(steps, at, heard.Step);
+        const std::optional<std::size_t> next = Follow(steps, at, heard.Step, still > 0 ? heard.Time - found : 0);
         std::printf("%6.2f s  step %.3f  likeness %.2f  %5.1f dB", heard.Time, heard.Step, heard.Likeness,
                     Decibels(heard.Level));
         if (!next)
@@ -243,6 +245,7 @@ int Engine(const std::vector<float>& recorded, const std::vector<float>& table, 
             continue;
         }
         std::printf("  tick %zu: %.3f\n", *next, steps[*next]);
+        found = heard.Time;
         furthest = std::max(furthest, std::fabs(heard.Step / steps[*next] - 1));
         for (; at < *next; ++at)
             shifts += steps[at + 1] < steps[at] * 0.9 ? 1 : 0;
