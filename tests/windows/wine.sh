@@ -8,6 +8,7 @@ for tool in wine wineserver flock; do
     fi
 done
 cache=${XDG_CACHE_HOME:-$HOME/.cache}/velkar
+export LC_ALL=C.UTF-8 # without it Wine cannot write Italian letters into names of files
 export WINEDEBUG=-all WINEPREFIX=$cache/wine64
 export WINEDLLOVERRIDES="mscoree,mshtml,winemenubuilder.exe=" # nothing of it is needed, or asked for on the screen
 
