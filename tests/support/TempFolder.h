@@ -41,6 +41,15 @@ struct TempFolder
     }
 };
 
+// Whether two names in that folder can differ by capitals alone.
+inline bool KnowsCapitals(const std::filesystem::path& folder)
+{
+    std::ofstream(folder / "capitals").put('x');
+    const bool knows = !std::filesystem::exists(folder / "CAPITALS");
+    std::filesystem::remove(folder / "capitals");
+    return knows;
+}
+
 inline void AppendLittle(std::string& bytes, std::uint32_t value, int count)
 {
     for (int i = 0; i < count; ++i)

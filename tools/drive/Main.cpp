@@ -1,5 +1,6 @@
 // velkar-drive [--root DIR] [SCRIPT]: plays a script, or standard input, and answers every line with one of JSON.
 #include "platform/FindData.h"
+#include "platform/StandardStreams.h"
 #include "tools/drive/Driver.h"
 
 #include <fstream>
@@ -53,6 +54,7 @@ int Misuse()
 
 int main(int count, char** arguments)
 {
+    platform::KeepBytes();
     std::filesystem::path root, script;
     for (int i = 1; i < count; ++i)
     {
