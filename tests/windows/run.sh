@@ -2,8 +2,8 @@
 # Runs a Windows program under Wine:
 #   run.sh 32|64 PROGRAM ARGUMENT…
 # Ends with the program's status, or with 77 and the reason where Wine cannot be had. 64-bit programs run under the
-# system's Wine; 32-bit ones in a small i386 system of their own, which sees this one's project, temporary files and
-# devices at the same places. That system and Wine's settings take a minute each to make: they are kept in the user's
+# system's Wine; 32-bit ones in a small i386 system of their own, which sees this one's project, temporary files
+# and devices at the same places. That system and Wine's settings take a minute each to make: they are kept in the user's
 # cache and made again where they are missing. VELKAR_WINE_PREFIX, in the cache or in /tmp, gives other settings.
 set -euo pipefail
 bits=$1
@@ -11,9 +11,14 @@ shift
 cache=${XDG_CACHE_HOME:-$HOME/.cache}/velkar
 system=$cache/i386
 export LC_ALL=C.UTF-8 # without it Wine cannot write Italian letters into names of files
-export WINEPREFIX=${VELKAR_WINE_PREFIX:-$cache/windows$bits}
 export WINEDEBUG=${WINEDEBUG:--all} WINEDLLOVERRIDES="mscoree,mshtml=;winemenubuilder.exe=d"
+# The i386 system sees everything below the first folder on the way to the project. A server of Wine sees what its first
+# program saw, so programs that see something else have another.
 project=$(realpath "$(dirname "$0")/../..")
+shared=${project#/}
+shared=/${shared%%/*}
+case $shared in /usr | /var | /etc) shared=$project ;; esac
+export WINEPREFIX=${VELKAR_WINE_PREFIX:-$cache/windows$bits${shared//\//-}}
 mkdir -p "$cache"
 as_root=()
 [ "$(id -u)" = 0 ] || as_root=(sudo -n --preserve-env)
@@ -34,7 +39,7 @@ enter() {
         done
         shift
         exec chroot --userspec="$user" "$system" env --chdir="$folder" HOME="$cache" "$@"
-    ' enter "$system" "$1" "$PWD" "$cache" /dev /proc /tmp "$project" -- "${@:2}"
+    ' enter "$system" "$1" "$PWD" "$cache" /dev /proc /tmp "$shared" -- "${@:2}"
 }
 
 make_system() {

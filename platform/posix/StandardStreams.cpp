@@ -1,0 +1,9 @@
+#include "platform/StandardStreams.h"
+
+namespace platform
+{
+void KeepBytes()
+{
+    // They are kept here.
+}
+}
