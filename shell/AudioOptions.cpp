@@ -31,7 +31,8 @@ void Form1::picEffVol_MouseMove(std::int32_t x, std::int32_t width)
 
 void Form1::DrawLevelBar(std::string_view name, float share)
 {
-    TheForm.Get(name).Value = base::ToInt16(std::clamp(share, 0.0f, 1.0f) * 100);
+    const float shown = share > 0 ? std::min(share, 1.0f) : 0.0f; // no number counts as nothing
+    TheForm.Get(name).Value = base::ToInt16(shown * 100);
 }
 
 void Form1::cAudOptOK_Click(std::int16_t)

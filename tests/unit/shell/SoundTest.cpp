@@ -3,7 +3,7 @@
 
 #include <gmock/gmock.h>
 
-#include <fstream>
+#include <limits>
 
 namespace
 {
@@ -473,6 +473,16 @@ TEST_F(Sound, ThePanelOpensWithFullBars)
     EXPECT_EQ(Control("panelAudOpt").Visible, 0);
     Form.Click("cAudOpt");
     EXPECT_EQ(Control("picEffVol").Value, 100);
+}
+
+TEST_F(Sound, AVolumeThatIsNoNumberDrawsAnEmptyBar)
+{
+    Load();
+    Options().EffectsVolume = std::numeric_limits<float>::quiet_NaN();
+    Form.Click("cAudOpt");
+    EXPECT_EQ(Control("picEffVol").Value, 0);
+    Form.Click("cAudOptOK");
+    EXPECT_THAT(Texts(), ElementsAre("Errore 6: Overflow in cAudOptOK_Click"));
 }
 
 TEST_F(Sound, TheSliderFollowsTheLeftButton)
