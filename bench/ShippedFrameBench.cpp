@@ -1,46 +1,24 @@
 // Whole frames of the shipped map along a recorded camera path; one iteration is one frame, the path over and over.
-#include "render/RenderFrame.h"
-#include "tests/support/ShippedRace.h"
+#include "bench/ShippedFrames.h"
 
 #include <benchmark/benchmark.h>
 
-#include <thread>
-
 namespace
 {
-struct Path
+bench::ShippedFrames& Frames()
 {
-    support::ShippedRace Race;
-    std::vector<Mod3D::Camera> Cameras;
-    Path() { Cameras = Race.RecordPath(1600); }
-};
-
-Path& ThePath()
-{
-    static Path path;
-    return path;
+    static bench::ShippedFrames frames;
+    return frames;
 }
 
 void WholeFrame(benchmark::State& state)
 {
-    Path& path = ThePath();
-    shell::Game& game = path.Race.Game();
-    // The bands and walkers that the game would take on this machine.
-    game.Screen.ThreadCount = static_cast<std::int16_t>(2 * std::thread::hardware_concurrency() + 1);
-    Mod3D::ApplyResolution(path.Race.Form().Window(), game.Screen, game.Camera,
-                           static_cast<std::int32_t>(state.range(0)), static_cast<std::int32_t>(state.range(1)));
-    game.Screen.TxtFilter = static_cast<std::int16_t>(state.range(2));
-    const float zoomScale = game.Camera.MinZoom;
-    std::size_t next = 0;
+    bench::ShippedFrames& frames = Frames();
+    const std::int16_t filter = static_cast<std::int16_t>(state.range(2));
+    frames.Prepare(static_cast<std::int32_t>(state.range(0)), static_cast<std::int32_t>(state.range(1)), filter);
     for (auto _ : state)
-    {
-        Mod3D::Camera camera = path.Cameras[next++ % path.Cameras.size()];
-        // The path was recorded at another resolution: the same angle of view.
-        camera.Zoom = camera.Zoom / camera.MinZoom * zoomScale;
-        Mod3D::RenderFrame(game.Scene, camera, game.Screen, nullptr);
-        benchmark::DoNotOptimize(game.Screen.Frame.Bytes.data());
-    }
-    state.SetLabel(Mod3D::FilterName(game.Screen.TxtFilter));
+        benchmark::DoNotOptimize(frames.Draw());
+    state.SetLabel(Mod3D::FilterName(filter));
 }
 BENCHMARK(WholeFrame)
     ->ArgsProduct({{600}, {312}, {0, 1, 2}})
