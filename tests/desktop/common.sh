@@ -42,6 +42,7 @@ await() {
 
 # ---- Display and game ----
 
+has_manager() { xprop -root _NET_SUPPORTING_WM_CHECK 2>>xprop.log | grep -q 'window id'; }
 start_display() {
     Xvfb -displayfd 3 -screen 0 1280x1024x24 -nolisten tcp 3>display 2>xvfb.log &
     pids+=($!)
@@ -51,6 +52,7 @@ start_display() {
     export DISPLAY
     openbox >openbox.log 2>&1 &
     pids+=($!)
+    await "the window manager does not start" has_manager
 }
 
 # What the window should show, from the same game without a window.
@@ -58,24 +60,37 @@ expect_pictures() {
     "$drive" --root "$root" /dev/stdin >expected.txt || { cat expected.txt; fail "velkar-drive"; }
 }
 
-# Sets `player`, the process, and `window`. The first window is the splash; the game's stands alone after it.
+# The windows of the game that are on the screen; a window that goes away meanwhile may cost one look.
+game_windows() { xdotool search --onlyvisible --name '^Velkar$' 2>>xdotool.log || true; }
+# The game's window is what stands alone after the splash; or, where a busy machine has let nobody see the splash, what
+# has stood alone for long without showing its picture.
+first_window="" looks=0
+is_started() {
+    local ids
+    has_ended && fail "the game ends while it starts$(wait $player || echo " with status $?"): $(cat game.log)"
+    ids=$(game_windows)
+    [ "$(wc -w <<<"$ids")" = 1 ] || return 1
+    window=$ids
+    first_window=${first_window:-$ids}
+    [ "$window" = "$first_window" ] || return 0
+    if shot starting && differs starting.png "$root/data/images/splash.bmp" 20000; then
+        looks=$((looks + 1))
+    else
+        looks=0
+    fi
+    [ $looks -ge 20 ]
+}
+takes_focus() { timeout 5 xdotool windowfocus --sync "$window" 2>>xdotool.log; }
+# Sets `player`, the process, and `window`.
 start_game() {
     # The system's libraries below SDL keep memory to the end; the game's own is watched by every other test.
     ASAN_OPTIONS=${ASAN_OPTIONS:+$ASAN_OPTIONS:}detect_leaks=0 "$game" >game.log 2>&1 &
     player=$!
     pids+=($player)
-    local splash="" ids
-    window=""
-    for _ in $(seq 300); do
-        ids=$(xdotool search --onlyvisible --name '^Velkar$' 2>>xdotool.log || true)
-        if [ "$(wc -w <<<"$ids")" = 1 ]; then
-            splash=${splash:-$ids}
-            [ "$ids" != "$splash" ] && window=$ids && break
-        fi
-        sleep 0.05
-    done
-    [ -n "$window" ] || { cat game.log; fail "the game's window does not appear"; }
-    xdotool windowfocus --sync "$window" mousemove 5 5 # no entry lies under the pointer
+    window="" first_window="" looks=0
+    await "the game's window does not appear" is_started
+    await "the game's window does not take the focus" takes_focus
+    xdotool mousemove 5 5 # no entry lies under the pointer
 }
 
 has_ended() { ! kill -0 $player 2>/dev/null; }
@@ -88,11 +103,14 @@ await_end() {
 # ---- The window and its pictures ----
 
 # Sets X, Y, WIDTH and HEIGHT.
-place() { eval "$(xdotool getwindowgeometry --shell "$window" 2>>xdotool.log)"; }
+place() {
+    local geometry
+    geometry=$(xdotool getwindowgeometry --shell "$window" 2>>xdotool.log) && eval "$geometry"
+}
 stands_at() { place && [ "$X,$Y" = "$1,$2" ]; }
 measures() { place && [ "$WIDTH,$HEIGHT" = "$1,$2" ]; }
 shot() {
-    place
+    place || return
     import -window root -crop "${WIDTH}x$HEIGHT+$X+$Y" +repage "$1.png" 2>>import.log
 }
 # The number of pixels that differ; very many where one picture has not the other's size.
@@ -121,6 +139,9 @@ until_shown() {
 count() { convert "$1.png" -crop "$3" +repage -fill black +opaque "$2" -fill white -opaque "$2" -format '%[fx:round(mean*w*h)]' info:; }
 # The white letters of a region alone, to compare.
 letters() { convert "$1.png" -crop "$2" +repage -fill black +opaque white "$3.png"; }
+
+# A race shows its clock: the picture that stays is that of the menu over it.
+menu_is_over_race() { shot over1 && sleep 0.3 && shot over2 && same over1 over2; }
 
 # Red letters in the middle above.
 pausa=200x20+200+66

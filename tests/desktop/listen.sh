@@ -59,18 +59,23 @@ saying() { import -window "$1" -crop 100%x40%+0+0 +repage rgb:- 2>>import.log | 
 # Presses Return on the box and looks a little later: a window that has just come may not yet listen.
 answered() {
     says "$box" "$text" || return 0
-    xdotool windowfocus --sync "$box" key Return 2>>xdotool.log || true
+    xdotool windowfocus "$box" key Return 2>>xdotool.log || true
     for _ in $(seq 20); do says "$box" "$text" && sleep 0.05 || return 0; done
     return 1
 }
 says() { [ "$(boxes)" = "$1" ] && [ "$(saying "$1")" = "$2" ]; }
 has_new_box() { has_box && box=$(boxes) && new=$(saying "$box") && [ "$new" != "$text" ]; }
+# Starts the game and waits until its menu stands there as `menu.png`.
+start_with_menu() {
+    [ -e menu.bmp ] || expect_pictures <<<$'load\nwindow menu.bmp'
+    start_game
+    await_picture menu menu.bmp
+}
 is_racing() { differs "$1.png" menu.png 50000; }
 # Through the menu to the end.
 leave_race() {
-    shot left
     xdotool key Escape
-    await "the menu does not come" shot_and suspended differs suspended.png left.png 20000
+    await "the menu does not come" menu_is_over_race
     no_box || fail "leaving the race brings a message"
     click 300 268
     await_end Esci
@@ -96,8 +101,7 @@ hear_engine() {
     "$drive" --root engine steps.drive | sed -n 's/.*"value": \([0-9.]*\).*/\1/p' >steps.txt
     game=$work/engine/velkar
     record engine
-    start_game
-    shot menu
+    start_with_menu
     click 300 169
     until_shown racing "the race does not show" is_racing racing
     sleep 3.5
@@ -114,6 +118,8 @@ hear_engine() {
 }
 # The menu is silent; the race that goes on is heard again.
 hear_menu_and_race() {
+    await "the menu does not come" menu_is_over_race
+    sleep 0.5 # what was on its way to the ear
     record menu
     sleep 1.5
     stop_recording
@@ -135,6 +141,8 @@ follows() {
         previous=$tone
     done
 }
+# hears COUNT NAME: in the recording, so many of the three tones or more one after another; they are in NAME.txt.
+hears() { "$probe" tones "$2.raw" 500 800 1300 >"$2.txt" && [ "$(wc -l <"$2.txt")" -ge "$1" ]; }
 # Each goes over into the next by itself, and what is no music is passed over without a word. The menu shows at the end.
 hear_music() {
     make_root music
@@ -144,30 +152,29 @@ hear_music() {
     "$probe" write-tone music/soundtracks/$last_tone 1300 3
     game=$work/music/velkar
     record music
-    start_game
-    sleep 11
+    start_with_menu
+    await "the music does not go on from track to track" hears 4 music
     stop_recording
-    "$probe" tones music.raw 500 800 1300 >tones.txt
-    echo "tones: $(tr '\n' ' ' <tones.txt)"
-    [ "$(wc -l <tones.txt)" -ge 4 ] || fail "the music does not go on from track to track"
-    follows <tones.txt || fail "the tracks do not follow one another"
+    echo "tones: $(tr '\n' ' ' <music.txt)"
+    follows <music.txt || fail "the tracks do not follow one another"
     no_box || fail "a file that is no music brings a message"
 }
-# The key changes the music: four presses in four seconds, where a track alone takes three.
+# The key changes the music: four presses in four seconds, where a track alone takes three. They begin when a track has
+# just begun, so that none of them meets a track's own end.
 hear_key() {
-    shot menu
     click 300 169
     until_shown racing "the race does not show" is_racing racing
     record key
-    for _ in 1 2 3 4; do
-        sleep 1
+    await "the music does not go on in the race" hears 2 key
+    local before press
+    before=$(wc -l <key.txt)
+    for press in 1 2 3 4; do
         xdotool key Tab
+        sleep 1
     done
-    sleep 1
     stop_recording
-    "$probe" tones key.raw 500 800 1300 >key.txt
+    hears $((before + 4)) key || fail "the key does not change the music: $(tr '\n' ' ' <key.txt)"
     echo "tones with the key: $(tr '\n' ' ' <key.txt)"
-    [ "$(wc -l <key.txt)" -ge 5 ] || fail "the key does not change the music"
     follows <key.txt || fail "the key does not play the next track"
 }
 
@@ -175,8 +182,7 @@ hear_key() {
 
 # Nine messages, then the race.
 read_nine_messages() {
-    start_game
-    shot menu
+    start_with_menu
     click 300 169
     local message box="" new="" text=""
     for message in 1 2 3 4 5 6 7 8 9; do

@@ -4,8 +4,9 @@
 #   sound.sh VELKAR VELKAR-DRIVE ROOT WORK VELKAR-FILMED SOUND-PROBE
 export SDL_AUDIODRIVER=pulseaudio
 probe=$(realpath "$6")
-source "$(dirname "$0")/common.sh"
-source "$(dirname "$0")/listen.sh"
+tests=$(realpath "$(dirname "$0")")
+source "$tests/common.sh"
+source "$tests/listen.sh"
 
 start_server
 start_display
@@ -19,10 +20,8 @@ stop_server
 xdotool keydown Up
 sleep 1
 shot without1
-sleep 1
-shot without2
+until_shown without2 "the race stands still without the sound server" differs without1.png without2.png 5000
 xdotool keyup Up
-differs without1.png without2.png 5000 || fail "the race stands still without the sound server"
 no_box || fail "a sound server that goes away brings a message"
 leave_race
 
