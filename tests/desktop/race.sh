@@ -89,7 +89,7 @@ xdotool key Escape
 await_entries suspended2 suspended.bmp
 
 # What it has all taken of the memory at most.
-peak=$(awk '/^VmHWM/ { print $2 }' "/proc/$player/status")
+peak=$(awk '/^VmHWM/ { print $2 }' "/proc/$(xdotool getwindowpid "$window")/status")
 [ "$peak" -le $((200 * 1024)) ] || fail "the game has taken $peak KiB of memory"
 
 click 300 268

@@ -1,10 +1,10 @@
 #!/usr/bin/env bash
 # Plays the Windows program in Wine by the same hand, and looks at it with the same eyes, as the desktop program of this
 # system: NAME is that of a test in ../desktop.
-#   desktop.sh NAME VELKAR VELKAR-DRIVE ROOT WORK
+#   desktop.sh 32|64 NAME VELKAR VELKAR-DRIVE ROOT WORK
 # VELKAR-DRIVE is a program of this system.
-name=$1
-shift
+width=$1 name=$2
+shift 2
 windows=$(realpath "$(dirname "$0")") desktop=$windows/../desktop
 if ! [ -x "$2" ]; then
     echo "skipped: $2 is not built"
@@ -12,12 +12,11 @@ if ! [ -x "$2" ]; then
 fi
 probe=""
 source "$desktop/common.sh"
-source "$windows/wine.sh"
+source "$windows/desktop-wine.sh"
 source "$desktop/listen.sh"
 start_display
 start_server
-start_wine
+start_wine "$width"
 stop_wine # the test brings a display of its own
-printf '#!/bin/sh\nexec wine "%s"\n' "$game" >velkar
-chmod +x velkar
+put_program "$game" velkar
 "$desktop/$name.sh" "$work/velkar" "$drive" "$root" "$work/$name" 9>&-

@@ -1,7 +1,9 @@
 #!/usr/bin/env bash
 # Listens to the Windows program in Wine: the engine, the music, and what a machine without sound is told.
-#   sound.sh VELKAR VELKAR-DRIVE ROOT WORK SOUND-PROBE
+#   sound.sh 32|64 VELKAR VELKAR-DRIVE ROOT WORK SOUND-PROBE
 # VELKAR-DRIVE and SOUND-PROBE are programs of this system.
+width=$1
+shift
 windows=$(realpath "$(dirname "$0")") desktop=$windows/../desktop
 for tool in "$2" "$5"; do
     if ! [ -x "$tool" ]; then
@@ -11,7 +13,7 @@ for tool in "$2" "$5"; do
 done
 probe=$(realpath "$5")
 source "$desktop/common.sh"
-source "$windows/wine.sh"
+source "$windows/desktop-wine.sh"
 source "$desktop/listen.sh"
 last_tone=d.mp3 # Debian's usual decoders leave Windows Media out
 
@@ -19,13 +21,12 @@ program=$game
 # What is started by the name of the game.
 put_game() {
     cp "$program" "$1/velkar.exe"
-    printf '#!/bin/sh\nexec wine "%s/velkar.exe"\n' "$(realpath "$1")" >"$1/velkar"
-    chmod +x "$1/velkar"
+    put_program "$1/velkar.exe" "$1/velkar"
 }
 
 start_display
 start_server
-start_wine
+start_wine "$width"
 hear_engine
 hear_menu_and_race
 leave_race
