@@ -30,6 +30,7 @@ stop_server() {
 }
 recorder=""
 record() {
+    rm -f "$1.raw"
     parec -d null.monitor --format=s16le --rate=44100 --channels=2 --latency-msec=50 >"$1.raw" 2>>parec.log &
     recorder=$!
     pids+=($recorder)
@@ -75,6 +76,9 @@ is_racing() { differs "$1.png" menu.png 50000; }
 # Through the menu to the end.
 leave_race() {
     xdotool key Escape
+    leave_menu
+}
+leave_menu() {
     await "the menu does not come" menu_is_over_race
     no_box || fail "leaving the race brings a message"
     click 300 268
@@ -100,6 +104,15 @@ hear_engine() {
     } >steps.drive
     "$drive" --root engine steps.drive | sed -n 's/.*"value": \([0-9.]*\).*/\1/p' >steps.txt
     game=$work/engine/velkar
+    until hear_a_start; do
+        # A machine that is busy elsewhere stops the sound for a moment; what the game does wrong is wrong each time.
+        starts=$((starts + 1))
+        [ $starts -lt 3 ] || fail "the engine is not heard as it should be in $starts starts"
+        leave_menu
+    done
+}
+starts=0
+hear_a_start() {
     record engine
     start_with_menu
     click 300 169
@@ -111,10 +124,13 @@ hear_engine() {
     xdotool key Escape
     sleep 0.5
     stop_recording
-    "$probe" engine engine.raw "$root/data/sounds/engine_01.pcm" steps.txt >engine.txt ||
-        { tail -40 engine.txt; fail "the engine does not follow the speed"; }
+    if ! "$probe" engine engine.raw "$root/data/sounds/engine_01.pcm" steps.txt >engine.txt; then
+        tail -40 engine.txt
+        echo "the engine does not follow the speed"
+        return 1
+    fi
     tail -1 engine.txt
-    "$probe" gap engine.raw 46 || fail "the engine's sound has gaps"
+    "$probe" gap engine.raw 46 || { echo "the engine's sound has gaps"; return 1; }
 }
 # The menu is silent; the race that goes on is heard again.
 hear_menu_and_race() {
