@@ -1,10 +1,10 @@
 #!/usr/bin/env bash
 # The webcam panel and the player's picture in the race, with a synthetic source in place of a camera; then no camera.
 #   camera.sh VELKAR VELKAR-DRIVE ROOT WORK VELKAR-FILMED
-filmed=$(realpath "$5")
-. "$(dirname "$0")/common.sh"
+filmed=$(realpath "$5") desktop=$(realpath "$(dirname "$0")")
+. "$desktop/common.sh"
 start_display
-. "$(dirname "$0")/webcam.sh"
+. "$desktop/webcam.sh"
 
 # A brown room, empty for eight seconds after the camera was opened, then somebody in blue before it.
 cat >filmed.sh <<S
