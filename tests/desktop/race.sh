@@ -7,7 +7,8 @@ expect_pictures <<'S'
 load
 window menu.bmp
 click cSTART
-render 1
+run 2500
+window countdown.bmp
 key down 27
 key up 27
 window suspended.bmp
@@ -29,6 +30,23 @@ await_entries() {
 # The menu, to the pixel; then the race by a click on its first entry.
 await_picture menu menu.bmp
 click 300 169
+# When the camera has arrived behind the car, the world stands still until the count is over: it is the headless one's
+# to the pixel, but for frame rate, count and the music's title.
+world() { convert "$1" -fill black -draw 'rectangle 0,0 120,20 rectangle 250,110 350,175 rectangle 0,278 300,300' "$2.png"; }
+world countdown.bmp expected-world
+starts=()
+end=$((SECONDS + 5))
+while [ $SECONDS -lt $end ]; do
+    shot "start${#starts[@]}"
+    starts+=("start${#starts[@]}")
+done
+least=999999999
+for start in "${starts[@]}"; do
+    world "$start.png" "$start-world"
+    pixels=$(differing "$start-world.png" expected-world.png)
+    [ "$pixels" -ge "$least" ] || least=$pixels
+done
+[ "$least" -lt 100 ] || fail "the race at its start differs from countdown.bmp in $least pixels and more"
 until_shown countdown "the race does not show" differs countdown.png menu.bmp 50000
 [ "$(convert countdown.png -format '%k' info:)" -gt 2000 ] || fail "the race is not much of a picture"
 
