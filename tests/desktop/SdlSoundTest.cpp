@@ -1,6 +1,8 @@
 // The sound of the desktop back end on SDL's own dummy device, which keeps time and plays nothing.
 #include "platform/sdl/SdlPlatform.h"
 #include "tests/desktop/MusicFile.h"
+#include "tests/support/FourBuffers.h"
+#include "tests/support/HeardEvents.h"
 #include "tests/support/TempFolder.h"
 
 #include <gmock/gmock.h>
@@ -15,29 +17,6 @@ namespace
 {
 using testing::ElementsAre;
 
-struct Events final : platform::WindowEvents
-{
-    std::vector<std::int32_t> Done;
-    std::vector<std::pair<std::uint32_t, std::int32_t>> Media;
-    std::function<void(std::int32_t)> OnDone = [](std::int32_t) {};
-
-    void KeyDown(std::int16_t) override {}
-    void KeyUp(std::int16_t) override {}
-    void KeyPress(std::uint8_t) override {}
-    void MouseDown(int, platform::Point) override {}
-    void MouseMove(int, platform::Point) override {}
-    void MouseUp(int, platform::Point) override {}
-    void Resized() override {}
-    void Paint() override {}
-    bool CloseAsked() override { return true; }
-    void WaveDone(std::int32_t user) override
-    {
-        Done.push_back(user);
-        OnDone(user);
-    }
-    void MediaDone(std::uint32_t number, std::int32_t code) override { Media.emplace_back(number, code); }
-};
-
 // No display and no sound card are needed.
 struct Drivers
 {
@@ -48,34 +27,18 @@ struct Drivers
     }
 };
 
-struct Desktop
+struct Desktop : support::FourBuffers
 {
     Drivers Chosen;
     support::TempFolder Folder;
     platform::SdlPlatform Platform{Folder.Path};
-    Events Heard;
+    support::HeardEvents Heard;
     std::unique_ptr<platform::Window> Window = Platform.MakeWindow(Heard, {64, 64});
     std::unique_ptr<platform::WaveOut> Wave = Platform.MakeWaveOut(*Window);
     std::unique_ptr<platform::MusicPlayer> Music = Platform.MakeMusicPlayer(*Window);
-    platform::WaveHandle Handle = platform::NoWave;
-    std::array<std::uint8_t, 4 * 2048> Bytes = {};
 
     explicit Desktop(const char* audio = "dummy") : Chosen(audio) {}
 
-    static constexpr platform::WaveFormat Format = {2, 11025, 16};
-    platform::WaveHeader Header(std::int32_t user) const
-    {
-        return {std::span(Bytes).subspan(static_cast<std::size_t>(user) * 2048, 2048), user};
-    }
-    void Start()
-    {
-        EXPECT_TRUE(Wave->Notify(true));
-        ASSERT_EQ(Wave->Open(Handle, Format), 0);
-        for (const int k : {0, 1, 2, 3})
-            EXPECT_EQ(Wave->PrepareHeader(Handle, Header(k)), 0);
-        for (const int k : {0, 1, 2, 3})
-            EXPECT_EQ(Wave->Write(Handle, Header(k)), 0);
-    }
     // Handles events until the condition holds, ten seconds at most.
     bool Await(const std::function<bool()>& condition)
     {
@@ -97,7 +60,7 @@ struct SdlSound : testing::Test, Desktop
 TEST_F(SdlSound, BuffersComeBackInOrderAndGoRound)
 {
     Heard.OnDone = [this](std::int32_t user) { EXPECT_EQ(Wave->Write(Handle, Header(user)), 0); };
-    Start();
+    Start(*Wave);
     const auto begin = std::chrono::steady_clock::now();
     ASSERT_TRUE(Await([this] { return Heard.Done.size() >= 32; }));
     const std::chrono::duration<double> passed = std::chrono::steady_clock::now() - begin;
@@ -108,7 +71,7 @@ TEST_F(SdlSound, BuffersComeBackInOrderAndGoRound)
 
 TEST_F(SdlSound, AResetReturnsWhatIsQueuedWithLaterEvents)
 {
-    Start();
+    Start(*Wave);
     EXPECT_EQ(Wave->Close(Handle), platform::WaveStillPlaying);
     EXPECT_EQ(Wave->UnprepareHeader(Handle, Header(3)), platform::WaveStillPlaying);
     EXPECT_EQ(Wave->Write(Handle, Header(3)), platform::WaveStillPlaying);
@@ -124,13 +87,13 @@ TEST_F(SdlSound, AResetReturnsWhatIsQueuedWithLaterEvents)
 
 TEST_F(SdlSound, StoppingAndStartingTakesNoTime)
 {
-    Start();
+    Start(*Wave);
     const auto begin = std::chrono::steady_clock::now();
     for (int round = 0; round < 10; ++round)
     {
         EXPECT_EQ(Wave->Reset(Handle), 0);
         EXPECT_EQ(Wave->Close(Handle), 0);
-        Start();
+        Start(*Wave);
     }
     const std::chrono::duration<double> passed = std::chrono::steady_clock::now() - begin;
     EXPECT_LT(passed.count(), 0.9); // closing SDL's device each time would take longer
@@ -138,7 +101,7 @@ TEST_F(SdlSound, StoppingAndStartingTakesNoTime)
 
 TEST_F(SdlSound, NobodyIsToldWithoutAskingForIt)
 {
-    Start();
+    Start(*Wave);
     EXPECT_TRUE(Wave->Notify(false));
     EXPECT_EQ(Wave->Reset(Handle), 0);
     Platform.PumpEvents();

@@ -2,6 +2,7 @@
 #pragma once
 #include "platform/win32/WinMusic.h"
 #include "platform/win32/WinWaveOut.h"
+#include "tests/support/HeardEvents.h"
 
 #include <array>
 #include <cstdint>
@@ -11,29 +12,6 @@
 
 namespace support
 {
-struct HeardEvents final : platform::WindowEvents
-{
-    std::vector<std::int32_t> Done;
-    std::vector<std::pair<std::uint32_t, std::int32_t>> Media;
-    std::function<void(std::int32_t)> OnDone = [](std::int32_t) {};
-
-    void KeyDown(std::int16_t) override {}
-    void KeyUp(std::int16_t) override {}
-    void KeyPress(std::uint8_t) override {}
-    void MouseDown(int, platform::Point) override {}
-    void MouseMove(int, platform::Point) override {}
-    void MouseUp(int, platform::Point) override {}
-    void Resized() override {}
-    void Paint() override {}
-    bool CloseAsked() override { return true; }
-    void WaveDone(std::int32_t user) override
-    {
-        Done.push_back(user);
-        OnDone(user);
-    }
-    void MediaDone(std::uint32_t number, std::int32_t code) override { Media.emplace_back(number, code); }
-};
-
 // The window is never shown.
 class WinDesktop
 {

@@ -1,4 +1,5 @@
 // The wave device on real wave-out calls and a real window. Needs a sound device that keeps time.
+#include "tests/support/FourBuffers.h"
 #include "tests/windows/WinDesktop.h"
 
 #include <gmock/gmock.h>
@@ -11,25 +12,8 @@ namespace
 using testing::ElementsAre;
 using testing::IsEmpty;
 
-struct WinWaveOut : testing::Test, support::WinDesktop
+struct WinWaveOut : testing::Test, support::WinDesktop, support::FourBuffers
 {
-    platform::WaveHandle Handle = platform::NoWave;
-    std::array<std::uint8_t, 4 * 2048> Bytes = {};
-
-    static constexpr platform::WaveFormat Format = {2, 11025, 16};
-    platform::WaveHeader Header(std::int32_t user) const
-    {
-        return {std::span(Bytes).subspan(static_cast<std::size_t>(user) * 2048, 2048), user};
-    }
-    void Start()
-    {
-        ASSERT_TRUE(Wave->Notify(true));
-        ASSERT_EQ(Wave->Open(Handle, Format), 0);
-        for (const int k : {0, 1, 2, 3})
-            EXPECT_EQ(Wave->PrepareHeader(Handle, Header(k)), 0);
-        for (const int k : {0, 1, 2, 3})
-            EXPECT_EQ(Wave->Write(Handle, Header(k)), 0);
-    }
     void Stop()
     {
         EXPECT_EQ(Wave->Reset(Handle), 0);
@@ -45,7 +29,7 @@ TEST_F(WinWaveOut, BuffersComeBackInOrderAndGoRound)
 {
     Heard.OnDone = [this](std::int32_t user) { EXPECT_EQ(Wave->Write(Handle, Header(user)), 0); };
     const auto begin = std::chrono::steady_clock::now();
-    Start();
+    Start(*Wave);
     ASSERT_TRUE(Await([this] { return Heard.Done.size() >= 32; }));
     const std::chrono::duration<double> passed = std::chrono::steady_clock::now() - begin;
     for (std::size_t i = 0; i < 32; ++i)
@@ -57,7 +41,7 @@ TEST_F(WinWaveOut, BuffersComeBackInOrderAndGoRound)
 
 TEST_F(WinWaveOut, AResetReturnsWhatIsQueuedWithLaterEvents)
 {
-    Start();
+    Start(*Wave);
     EXPECT_EQ(Wave->Close(Handle), platform::WaveStillPlaying);
     EXPECT_EQ(Wave->UnprepareHeader(Handle, Header(3)), platform::WaveStillPlaying);
     EXPECT_EQ(Wave->PrepareHeader(Handle, Header(3)), platform::WaveStillPlaying);
@@ -71,10 +55,10 @@ TEST_F(WinWaveOut, AResetReturnsWhatIsQueuedWithLaterEvents)
 
 TEST_F(WinWaveOut, WhatCameBackBeforeTheDeviceOpenedAgainIsNotTold)
 {
-    Start();
+    Start(*Wave);
     Stop();
     const platform::WaveHandle former = Handle;
-    Start();
+    Start(*Wave);
     Pump();
     EXPECT_LT(Heard.Done.size(), 4u); // the messages of the first four are here; hardly a new one
     EXPECT_NE(Handle, former);
@@ -87,15 +71,15 @@ TEST_F(WinWaveOut, WhatCameBackBeforeTheDeviceOpenedAgainIsNotTold)
 
 TEST_F(WinWaveOut, ADeviceThatWouldNotCloseGivesWayToTheNext)
 {
-    Start();
+    Start(*Wave);
     EXPECT_EQ(Wave->Close(Handle), platform::WaveStillPlaying);
-    Start();
+    Start(*Wave);
     Stop();
 }
 
 TEST_F(WinWaveOut, TheCallersBufferIsFreeAfterWrite)
 {
-    Start();
+    Start(*Wave);
     std::fill(Bytes.begin(), Bytes.end(), std::uint8_t{0xFF});
     EXPECT_EQ(Wave->Write(Handle, Header(0)), platform::WaveStillPlaying);
     ASSERT_TRUE(Await([this] { return Heard.Done.size() >= 4; }));
@@ -109,7 +93,7 @@ TEST_F(WinWaveOut, TheCallersBufferIsFreeAfterWrite)
 TEST_F(WinWaveOut, TheWindowsOwnProcedureHearsEverythingToo)
 {
     const LONG_PTR own = GetWindowLongPtrA(Window, GWLP_WNDPROC);
-    Start();
+    Start(*Wave);
     EXPECT_NE(GetWindowLongPtrA(Window, GWLP_WNDPROC), own);
     EXPECT_TRUE(Wave->Notify(true)); // again
     ASSERT_TRUE(Await([this] { return Heard.Done.size() >= 4; }));
@@ -124,7 +108,7 @@ TEST_F(WinWaveOut, TheWindowsOwnProcedureHearsEverythingToo)
 TEST_F(WinWaveOut, TheProcedureIsGivenBackAtTheEnd)
 {
     const LONG_PTR own = GetWindowLongPtrA(Window, GWLP_WNDPROC);
-    Start(); // and never stopped
+    Start(*Wave); // and never stopped
     Wave.reset();
     EXPECT_EQ(GetWindowLongPtrA(Window, GWLP_WNDPROC), own);
     Wait(100);
@@ -133,7 +117,7 @@ TEST_F(WinWaveOut, TheProcedureIsGivenBackAtTheEnd)
 
 TEST_F(WinWaveOut, NobodyIsToldWithoutAskingForIt)
 {
-    Start();
+    Start(*Wave);
     EXPECT_TRUE(Wave->Notify(false));
     Stop();
     Wait(100);

@@ -1,39 +1,17 @@
 #include "platform/headless/Machine.h"
+#include "tests/support/HeardEvents.h"
 
 #include <gtest/gtest.h>
 
 #include <array>
 #include <utility>
 
-#include <array>
-
 namespace
 {
-// Counts what a window tells.
-struct Events : platform::WindowEvents
-{
-    int Resizes = 0, Paints = 0;
-
-    void KeyDown(std::int16_t) override {}
-    void KeyUp(std::int16_t) override {}
-    void KeyPress(std::uint8_t) override {}
-    void MouseDown(int, platform::Point) override {}
-    void MouseMove(int, platform::Point) override {}
-    void MouseUp(int, platform::Point) override {}
-    void Resized() override { ++Resizes; }
-    void Paint() override { ++Paints; }
-    bool CloseAsked() override { return true; }
-    void WaveDone(std::int32_t user) override { Done.push_back(user); }
-    void MediaDone(std::uint32_t number, std::int32_t code) override { Media.emplace_back(number, code); }
-
-    std::vector<std::int32_t> Done;
-    std::vector<std::pair<std::uint32_t, std::int32_t>> Media;
-};
-
 struct Headless : testing::Test
 {
     headless::Machine Machine{base::Files()};
-    Events Heard;
+    support::HeardEvents Heard;
     std::unique_ptr<platform::Window> Window = Machine.MakeWindow(Heard, {4, 2});
 
     headless::Image Screenshot() { return static_cast<headless::Window&>(*Window).Screenshot(); }

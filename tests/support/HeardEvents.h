@@ -1,0 +1,35 @@
+// tests/support/HeardEvents.h: what a window and its devices have told.
+#pragma once
+#include "platform/Platform.h"
+
+#include <cstdint>
+#include <functional>
+#include <utility>
+#include <vector>
+
+namespace support
+{
+struct HeardEvents final : platform::WindowEvents
+{
+    int Resizes = 0, Paints = 0;
+    std::vector<std::int32_t> Done;
+    std::vector<std::pair<std::uint32_t, std::int32_t>> Media;
+    std::function<void(std::int32_t)> OnDone = [](std::int32_t) {};
+
+    void KeyDown(std::int16_t) override {}
+    void KeyUp(std::int16_t) override {}
+    void KeyPress(std::uint8_t) override {}
+    void MouseDown(int, platform::Point) override {}
+    void MouseMove(int, platform::Point) override {}
+    void MouseUp(int, platform::Point) override {}
+    void Resized() override { ++Resizes; }
+    void Paint() override { ++Paints; }
+    bool CloseAsked() override { return true; }
+    void WaveDone(std::int32_t user) override
+    {
+        Done.push_back(user);
+        OnDone(user);
+    }
+    void MediaDone(std::uint32_t number, std::int32_t code) override { Media.emplace_back(number, code); }
+};
+}
