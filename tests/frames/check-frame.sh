@@ -12,7 +12,7 @@ fi
 picture_of() { if [[ $expected == *.png ]]; then echo "$expected"; else echo "$expected/${1%.bmp}.png"; fi; }
 
 rm -rf "$work" && mkdir -p "$work" && cd "$work"
-"$drive" --root "$root" "$script" >answers.txt || { cat answers.txt; exit 1; }
+"$drive" --root "$root" "$script" >answers.txt || { status=$?; cat answers.txt; exit $status; }
 shopt -s nullglob
 drawn=(*.bmp)
 if [ "${VELKAR_ACCEPT:-}" = 1 ]; then
