@@ -19,10 +19,10 @@ struct Part
 
 static const std::vector<Part>& Parts()
 {
-    static const std::vector<Part> parts{{"track", Assets::BuildTrack},
-                                         {"cars", Assets::BuildCars},
-                                         {"hud", Assets::BuildHud},
-                                         {"sound", Assets::BuildSound}};
+    static const std::vector<Part> parts{{"track", assets::BuildTrack},
+                                         {"cars", assets::BuildCars},
+                                         {"hud", assets::BuildHud},
+                                         {"sound", assets::BuildSound}};
     return parts;
 }
 

@@ -5,7 +5,7 @@
 #include <algorithm>
 #include <string>
 
-namespace waveOut_Module
+namespace audio
 {
 namespace
 {

@@ -10,7 +10,7 @@
 #include <cstdint>
 #include <string_view>
 
-namespace waveOut_Module
+namespace audio
 {
 inline constexpr std::int32_t LoopLength = 1024; // source samples
 inline constexpr std::int32_t BufferCount = 4;
@@ -37,9 +37,9 @@ void FillEngineBuffer(EngineSound& engine, std::int32_t bufferIndex);
 platform::WaveHeader HeaderOf(const EngineSound& engine, std::int32_t bufferIndex);
 }
 
-template <> struct base::FieldsOf<waveOut_Module::EngineSound>
+template <> struct base::FieldsOf<audio::EngineSound>
 {
-    using E = waveOut_Module::EngineSound;
+    using E = audio::EngineSound;
     static constexpr auto Table =
         std::make_tuple(Field{"Step", &E::Step}, Field{"Gain", &E::Gain}, Field{"ReadPosition", &E::ReadPosition});
 };

@@ -3,7 +3,7 @@
 #include <string>
 #include <string_view>
 
-namespace waveOut_Module
+namespace audio
 {
 namespace
 {

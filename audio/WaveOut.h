@@ -4,7 +4,7 @@
 #include "audio/EngineSound.h"
 #include "base/Trapped.h"
 
-namespace waveOut_Module
+namespace audio
 {
 // What the calls act on and report to.
 struct Stream

@@ -7,7 +7,7 @@ namespace
 {
 void Refill(benchmark::State& state)
 {
-    waveOut_Module::EngineSound engine;
+    audio::EngineSound engine;
     for (std::size_t i = 0; i < engine.Table.size(); ++i)
         engine.Table[i] = static_cast<std::int16_t>(static_cast<int>(i * 37 % 220) - 110);
     engine.Step = 0.37f;
@@ -15,9 +15,9 @@ void Refill(benchmark::State& state)
     std::int32_t buffer = 0;
     for (auto _ : state)
     {
-        waveOut_Module::FillEngineBuffer(engine, buffer);
+        audio::FillEngineBuffer(engine, buffer);
         benchmark::DoNotOptimize(engine.Buffers.data());
-        buffer = (buffer + 1) % waveOut_Module::BufferCount;
+        buffer = (buffer + 1) % audio::BufferCount;
     }
 }
 }

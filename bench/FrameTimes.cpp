@@ -60,5 +60,5 @@ int main(int count, char** words)
     bench::ShippedFrames frames;
     for (const Setting& setting : Settings)
         std::printf("%dx%d \"%s\"\t%.3f\n", static_cast<int>(setting.Width), static_cast<int>(setting.Height),
-                    Mod3D::FilterName(setting.Filter), MedianFrame(frames, setting, rounds));
+                    render::FilterName(setting.Filter), MedianFrame(frames, setting, rounds));
 }

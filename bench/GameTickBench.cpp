@@ -14,23 +14,23 @@ constexpr float WorldSize = 700.0f;
 constexpr int GateCount = 24;
 constexpr int CarSpheres = 10;
 
-struct NoFinish final : modDinamica::FinishSink
+struct NoFinish final : world::FinishSink
 {
     void Finished(const std::string&) override {}
 };
 
 struct World
 {
-    Mod3D::Scene Scene;
+    render::Scene Scene;
     world::Race Race;
-    Mod3D::Camera Camera;
+    render::Camera Camera;
     world::HeldKeys Keys;
     world::RaceAssets Assets;
     base::Random Random;
     float Shake = 0;
     bool InBox = false;
 
-    modDinamica::Simulation Sim() { return {Scene, Race, Camera, Keys, Assets, Random, 1.0f, true, Shake, InBox}; }
+    world::Simulation Sim() { return {Scene, Race, Camera, Keys, Assets, Random, 1.0f, true, Shake, InBox}; }
 };
 
 float Between(base::Random& random, double low, double high)
@@ -44,12 +44,12 @@ void AddObject(World& world)
     const float radius = Between(random, 1, 6);
     const auto spheres = static_cast<std::int16_t>(1 + base::Floor(random.Next() * 4));
     const std::int16_t object =
-        modPrimitive::MakeObj(world.Scene, Between(random, 0, WorldSize), 0, Between(random, 0, WorldSize),
-                              Between(random, -3, 3), 0, 0, spheres, 1, 20);
-    modPrimitive::SetObjR(world.Scene, object, radius);
+        render::MakeObj(world.Scene, Between(random, 0, WorldSize), 0, Between(random, 0, WorldSize),
+                        Between(random, -3, 3), 0, 0, spheres, 1, 20);
+    render::SetObjR(world.Scene, object, radius);
     for (std::int16_t sphere = 0; sphere < spheres; ++sphere)
-        modPrimitive::EditObjSfere(world.Scene, object, sphere, Between(random, -radius, radius) / 2, 1,
-                                   Between(random, -radius, radius) / 2, radius / 3);
+        render::EditObjSfere(world.Scene, object, sphere, Between(random, -radius, radius) / 2, 1,
+                             Between(random, -radius, radius) / 2, radius / 3);
 }
 
 // On the course, in rows of four.
@@ -59,19 +59,19 @@ void AddCar(World& world, int number)
     const float angle = static_cast<float>(row) * 0.03f;
     const float distance = 250.0f + static_cast<float>(number % 4) * 4.0f;
     const std::int16_t object =
-        modPrimitive::MakeObj(world.Scene, WorldSize / 2 - std::cos(angle) * distance, 0,
-                              WorldSize / 2 + std::sin(angle) * distance, -angle, 0, 21, CarSpheres, 1, 1);
-    modPrimitive::SetObjR(world.Scene, object, 2.6f);
+        render::MakeObj(world.Scene, WorldSize / 2 - std::cos(angle) * distance, 0,
+                        WorldSize / 2 + std::sin(angle) * distance, -angle, 0, 21, CarSpheres, 1, 1);
+    render::SetObjR(world.Scene, object, 2.6f);
     for (std::int16_t mesh = 0; mesh < 21; ++mesh)
-        modPrimitive::EditObjMesh(world.Scene, object, mesh, 4, 4, 255, 0);
+        render::EditObjMesh(world.Scene, object, mesh, 4, 4, 255, 0);
     for (std::int16_t sphere = 0; sphere < CarSpheres; ++sphere)
     {
-        modPrimitive::EditObjSfere(world.Scene, object, sphere, static_cast<float>(sphere % 2) - 0.5f, 0.6f,
-                                   std::floor(static_cast<float>(sphere) / 2) * 0.8f - 1.6f, 0.6f);
+        render::EditObjSfere(world.Scene, object, sphere, static_cast<float>(sphere % 2) - 0.5f, 0.6f,
+                             std::floor(static_cast<float>(sphere) / 2) * 0.8f - 1.6f, 0.6f);
         for (std::int16_t link = 0; link < 8; ++link)
-            modPrimitive::AddSfereLink(world.Scene, object, sphere, link, 1, 1);
+            render::AddSfereLink(world.Scene, object, sphere, link, 1, 1);
     }
-    modPrimitive::KeepUndamaged(world.Scene, object);
+    render::KeepUndamaged(world.Scene, object);
 
     world::Player player;
     player.Obj = object;
@@ -104,7 +104,7 @@ std::unique_ptr<World> MakeWorld(int cars, int objects)
     }
     world.Race.Map.ACheckpoints = world.Race.Map.Checkpoints;
     world.Race.Map.NumCheckpoints = world.Race.Map.NumGrass = GateCount;
-    auto picture = std::make_shared<ModBitmap::Picture>();
+    auto picture = std::make_shared<render::Picture>();
     picture->Info = {1, 1, 4, 1, 24};
     picture->Pixels.Allocate(1, 4);
     world.Assets.Smoke = world.Assets.FireRed = world.Assets.FireYellow = world.Assets.Water = picture;
@@ -115,14 +115,14 @@ std::unique_ptr<World> MakeWorld(int cars, int objects)
 void Tick(World& world)
 {
     NoFinish finish;
-    modDinamica::Simulation sim = world.Sim();
+    world::Simulation sim = world.Sim();
     world.Race.GameTime += 25;
-    modDinamica::ComputePlaces(world.Scene, world.Race);
-    modDinamica::RaceStep(sim, finish);
-    modDinamica::Collide(sim);
-    modDinamica::DamageSmoke(sim);
-    modDinamica::ComputerDrive(sim);
-    modDinamica::UserDrive(sim);
+    world::ComputePlaces(world.Scene, world.Race);
+    world::RaceStep(sim, finish);
+    world::Collide(sim);
+    world::DamageSmoke(sim);
+    world::ComputerDrive(sim);
+    world::UserDrive(sim);
 }
 
 // Cars, objects. The race goes on from tick to tick, and begins anew after a minute.
@@ -143,17 +143,17 @@ void GameTick(benchmark::State& state)
     }
 }
 
-template <void (*Walk)(modDinamica::Simulation&)> void Collisions(benchmark::State& state)
+template <void (*Walk)(world::Simulation&)> void Collisions(benchmark::State& state)
 {
     const std::unique_ptr<World> world = MakeWorld(static_cast<int>(state.range(0)), static_cast<int>(state.range(1)));
     for (int tick = 0; tick < 40; ++tick)
         Tick(*world);
-    modDinamica::Simulation sim = world->Sim();
+    world::Simulation sim = world->Sim();
     for (auto _ : state)
         Walk(sim);
 }
 
 BENCHMARK(GameTick)->Args({8, 0})->Args({8, 250})->Args({64, 2000})->Unit(benchmark::kMicrosecond);
-BENCHMARK(Collisions<modDinamica::Collide>)->Args({8, 250})->Args({64, 2000})->Unit(benchmark::kMicrosecond);
-BENCHMARK(Collisions<modDinamica::CollidePlain>)->Args({8, 250})->Args({64, 2000})->Unit(benchmark::kMicrosecond);
+BENCHMARK(Collisions<world::Collide>)->Args({8, 250})->Args({64, 2000})->Unit(benchmark::kMicrosecond);
+BENCHMARK(Collisions<world::CollidePlain>)->Args({8, 250})->Args({64, 2000})->Unit(benchmark::kMicrosecond);
 }

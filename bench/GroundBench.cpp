@@ -13,19 +13,19 @@ namespace
 // The chase camera over the middle of a large map: about half the frame is ground.
 struct World
 {
-    Mod3D::Scene Scene;
+    render::Scene Scene;
     std::unique_ptr<scenes::View> View;
 
     World(int width, int height, int filter, int threads)
     {
         base::Random random;
         random.Seed(7);
-        Scene.Sky = scenes::Noise(random, Mod3D::SkyWidth, 300);
+        Scene.Sky = scenes::Noise(random, render::SkyWidth, 300);
         scenes::SetGround(Scene, scenes::Noise(random, 1000, 1000));
         View = std::make_unique<scenes::View>(width, height, filter, threads);
         View->Look(500.0f, 7.0f, 400.0f, 0.4f, -0.1f);
-        Mod3D::UpdateSkyOffset(View->Camera, View->Screen);
-        Mod3D::UpdateRowTables(View->Camera, View->Screen);
+        render::UpdateSkyOffset(View->Camera, View->Screen);
+        render::UpdateRowTables(View->Camera, View->Screen);
     }
 };
 
@@ -33,9 +33,9 @@ void Plain(benchmark::State& state)
 {
     World world(static_cast<int>(state.range(1)), static_cast<int>(state.range(2)), static_cast<int>(state.range(0)),
                 1);
-    const Mod3D::GroundView view = Mod3D::MakeGroundView(world.Scene, world.View->Camera, world.View->Screen);
+    const render::GroundView view = render::MakeGroundView(world.Scene, world.View->Camera, world.View->Screen);
     for (auto _ : state)
-        Mod3D::GroundPlain(view, {0, world.View->Screen.ScreenMaxX}, world.View->Screen.TxtFilter);
+        render::GroundPlain(view, {0, world.View->Screen.ScreenMaxX}, world.View->Screen.TxtFilter);
 }
 
 // threads 1: the calling one alone, as against the plain form; 5: the bands of two processors.
@@ -44,7 +44,7 @@ void Fast(benchmark::State& state)
     World world(static_cast<int>(state.range(1)), static_cast<int>(state.range(2)), static_cast<int>(state.range(0)),
                 static_cast<int>(state.range(3)));
     for (auto _ : state)
-        Mod3D::DrawGround(world.Scene, world.View->Camera, world.View->Screen);
+        render::DrawGround(world.Scene, world.View->Camera, world.View->Screen);
 }
 }
 

@@ -12,17 +12,17 @@ void ShippedFrames::Prepare(std::int32_t width, std::int32_t height, std::int16_
 {
     shell::Game& game = Race.Game();
     game.Screen.ThreadCount = static_cast<std::int16_t>(2 * std::thread::hardware_concurrency() + 1);
-    Mod3D::ApplyResolution(Race.Form().Window(), game.Screen, game.Camera, width, height);
+    render::ApplyResolution(Race.Form().Window(), game.Screen, game.Camera, width, height);
     game.Screen.TxtFilter = filter;
 }
 
 const std::uint8_t* ShippedFrames::Draw()
 {
     shell::Game& game = Race.Game();
-    Mod3D::Camera camera = Cameras[Next++ % Cameras.size()];
+    render::Camera camera = Cameras[Next++ % Cameras.size()];
     // The path was recorded at another resolution: the same angle of view.
     camera.Zoom = camera.Zoom / camera.MinZoom * game.Camera.MinZoom;
-    Mod3D::RenderFrame(game.Scene, camera, game.Screen, nullptr);
+    render::RenderFrame(game.Scene, camera, game.Screen, nullptr);
     return game.Screen.Frame.Bytes.data();
 }
 }

@@ -24,7 +24,7 @@ public:
 
 private:
     support::ShippedRace Race;
-    std::vector<Mod3D::Camera> Cameras;
+    std::vector<render::Camera> Cameras;
     std::size_t Next = 0;
 };
 }

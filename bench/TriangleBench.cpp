@@ -9,12 +9,12 @@
 
 namespace
 {
-using Mod3D::ScreenCorner;
+using render::ScreenCorner;
 
 struct Triangles
 {
     std::vector<ScreenCorner> Corners;
-    ModBitmap::Picture Picture;
+    render::Picture Picture;
     scenes::View View{1200, 900};
 
     // Sizes up to `size` pixels, `number` of them; depths such that about half of what overlaps is hidden.
@@ -38,13 +38,13 @@ struct Triangles
 template <bool Textured, bool Fast> void Fill(benchmark::State& state)
 {
     Triangles world(static_cast<int>(state.range(0)), static_cast<int>(state.range(1)));
-    Mod3D::Screen& screen = world.View.Screen;
-    const Mod3D::TexelField texture = Mod3D::MakeTexelField(world.Picture.Pixels, 256, 256);
-    const Mod3D::Rgb colour{10, 20, 30};
+    render::Screen& screen = world.View.Screen;
+    const render::TexelField texture = render::MakeTexelField(world.Picture.Pixels, 256, 256);
+    const render::Rgb colour{10, 20, 30};
     for (auto _ : state)
     {
         state.PauseTiming();
-        std::fill(screen.Depth.begin(), screen.Depth.end(), Mod3D::FarDepth);
+        std::fill(screen.Depth.begin(), screen.Depth.end(), render::FarDepth);
         state.ResumeTiming();
         for (std::size_t i = 0; i + 2 < world.Corners.size(); i += 3)
         {

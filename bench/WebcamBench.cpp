@@ -9,22 +9,22 @@ namespace
 struct Filmed
 {
     headless::Webcam Device;
-    modEscapi::Webcam Camera;
-    ModBitmap::Picture Backdrop;
-    ModBitmap::PicArray2D Inset;
+    webcam::Webcam Camera;
+    render::Picture Backdrop;
+    render::PicArray2D Inset;
     std::vector<std::uint8_t> Pixels = std::vector<std::uint8_t>(107 * 80 * 4);
 
     Filmed()
     {
         Device.Devices = Camera.Capture.DeviceCount = 1;
-        Camera.FrameHeader.biWidth = modEscapi::CaptureWidth;
-        Camera.FrameHeader.biHeight = modEscapi::CaptureHeight;
-        Camera.Frame.Allocate(modEscapi::CaptureHeight, 324);
+        Camera.FrameHeader.biWidth = webcam::CaptureWidth;
+        Camera.FrameHeader.biHeight = webcam::CaptureHeight;
+        Camera.Frame.Allocate(webcam::CaptureHeight, 324);
         Inset.Allocate(70, 212);
         Backdrop.Info = {107, 80, 324, 1, 24};
         Backdrop.Pixels = Camera.Frame;
-        modEscapi::SetBackground(Camera.Background, Camera.Frame, Camera.FrameHeader);
-        modEscapi::InitCapture(Device, Camera.Capture);
+        webcam::SetBackground(Camera.Background, Camera.Frame, Camera.FrameHeader);
+        webcam::InitCapture(Device, Camera.Capture);
         for (std::size_t i = 0; i < Pixels.size(); ++i)
             Pixels[i] = static_cast<std::uint8_t>(i * 7919 >> 5); // half of it looks like the background
     }
@@ -33,13 +33,13 @@ struct Filmed
 void CaptureAndKey(benchmark::State& state)
 {
     Filmed filmed;
-    modEscapi::Webcam& camera = filmed.Camera;
+    webcam::Webcam& camera = filmed.Camera;
     for (auto _ : state)
     {
         filmed.Device.Complete(filmed.Pixels);
-        modEscapi::GetFrame(filmed.Device, camera.Capture, 0, 0, 107, 80, camera.Frame);
-        modEscapi::ReplaceBackground(camera.Background, camera.Frame, filmed.Backdrop);
-        modEscapi::CopyInset(camera.Frame, 10, 5, 70, 70, filmed.Inset);
+        webcam::GetFrame(filmed.Device, camera.Capture, 0, 0, 107, 80, camera.Frame);
+        webcam::ReplaceBackground(camera.Background, camera.Frame, filmed.Backdrop);
+        webcam::CopyInset(camera.Frame, 10, 5, 70, 70, filmed.Inset);
         benchmark::DoNotOptimize(filmed.Inset.Bytes.data());
     }
 }
@@ -49,7 +49,7 @@ void Motion(benchmark::State& state)
     Filmed filmed;
     for (auto _ : state)
         benchmark::DoNotOptimize(
-            modEscapi::MotionAmount(filmed.Camera.Motion, filmed.Camera.Frame, filmed.Camera.FrameHeader));
+            webcam::MotionAmount(filmed.Camera.Motion, filmed.Camera.Frame, filmed.Camera.FrameHeader));
 }
 }
 

@@ -66,7 +66,7 @@ void Run(Console& console, const Words& words)
 
 void Answer(Console& console, std::string_view text)
 {
-    Mod3D::Label2D& label = console.Scene.Labels.At(console.Line);
+    render::Label2D& label = console.Scene.Labels.At(console.Line);
     label.Text = text;
     label.Visible = 1;
 }

@@ -24,12 +24,12 @@ struct Host
 
 struct Console
 {
-    Mod3D::Scene& Scene;      // the labels, and the cars' objects
+    render::Scene& Scene;     // the labels, and the cars' objects
     std::int16_t Line;        // the label that is the console; open while it is visible
     std::int16_t Information; // the label that "\inf" shows and hides
     world::Race& Race;
-    Mod3D::Camera& Camera;
-    Mod3D::Screen& Screen;    // its texture filter
+    render::Camera& Camera;
+    render::Screen& Screen;   // its texture filter
     std::string& LastCommand; // the line last entered, for recall
     Host& Around;
 };

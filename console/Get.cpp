@@ -21,7 +21,7 @@ std::string GetPlayer(const Console& console, const Words& words)
     const std::string owner = "Player(" + ShowNumber(index) + ").";
     if (!isPosition)
         return owner + std::string(property->Name) + " = " + ShowField(player, property->Field);
-    const Mod3D::Obj& object = console.Scene.Objects.At(player.Obj);
+    const render::Obj& object = console.Scene.Objects.At(player.Obj);
     return owner + "Position = (" + ShowCoordinate(object.X) + "; " + ShowCoordinate(object.Z) + ")";
 }
 

@@ -72,7 +72,7 @@ void ConsoleKeyUp(Console& console, std::int16_t keyCode)
 {
     if (!console.Scene.Labels.Has(console.Line))
         return;
-    Mod3D::Label2D& label = console.Scene.Labels.At(console.Line);
+    render::Label2D& label = console.Scene.Labels.At(console.Line);
     if (label.Visible == 0 && keyCode == KeyBackslash)
     {
         label.Text = Backslash;

@@ -36,7 +36,7 @@ template <base::Described Record, std::size_t N> constexpr bool AreFields(const 
     return std::all_of(properties, properties + N, [&](const Property& property) { return isField(property.Field); });
 }
 static_assert(AreFields<world::Player>(PlayerProperties));
-static_assert(AreFields<Mod3D::Camera>(CameraProperties));
+static_assert(AreFields<render::Camera>(CameraProperties));
 
 template <std::size_t N> const Property* Find(const Property (&properties)[N], std::string_view word)
 {

@@ -21,12 +21,12 @@ const Property& Writable(const Property* property)
     return *property;
 }
 
-void SetPosition(Mod3D::Scene& scene, const world::Player& player, const Words& words)
+void SetPosition(render::Scene& scene, const world::Player& player, const Words& words)
 {
     words.At(5, NoValue); // a missing number is told before one that is none
     const double numberX = words.NumberAt(4, NoValue), numberZ = words.NumberAt(5, NoValue);
     const float x = base::ToSingle(numberX), z = base::ToSingle(numberZ);
-    Mod3D::Obj& object = scene.Objects.At(player.Obj);
+    render::Obj& object = scene.Objects.At(player.Obj);
     SetField(object, "X", x);
     SetField(object, "Z", z);
 }
@@ -34,7 +34,7 @@ void SetPosition(Mod3D::Scene& scene, const world::Player& player, const Words& 
 // The simulation reads the working values alone.
 void RefreshWorking(world::Player& player)
 {
-    modDinamica::ApplyDamage(player);
+    world::ApplyDamage(player);
     player.CurWRS = player.WRS;
     // Deliberate: CurDeceleration stays what it was, so a new Deceleration never reaches the driving.
 }
@@ -54,7 +54,7 @@ void SetPlayer(Console& console, const Words& words)
     RefreshWorking(player);
 }
 
-void SetTxtFilter(Mod3D::Screen& screen, const Words& words)
+void SetTxtFilter(render::Screen& screen, const Words& words)
 {
     // Deliberate: any whole number is taken; the renderer knows what to do with a filter that is none.
     const bool isGiven = words.Has(3);
@@ -63,7 +63,7 @@ void SetTxtFilter(Mod3D::Screen& screen, const Words& words)
 
 void SetCamera(Console& console, const Words& words)
 {
-    Mod3D::Camera& camera = console.Camera;
+    render::Camera& camera = console.Camera;
     const std::string_view name = words.At(2, NoProperty);
     if (name == "txtfilter")
         return SetTxtFilter(console.Screen, words);

@@ -87,6 +87,6 @@ struct Platform
     virtual void PumpEvents() = 0;
     // Handles window events for so long. Headless: the clock goes on by it.
     virtual void WaitEvents(std::uint32_t milliseconds) = 0;
-    virtual Webcam& Camera() = 0;
+    virtual Webcam& WebcamDevice() = 0;
 };
 }

@@ -5,7 +5,7 @@
 
 #include <cstdint>
 
-namespace Mod3D
+namespace render
 {
 // Blue, green and red of a pixel as the low three bytes, blue lowest.
 inline std::uint32_t Load3(const std::uint8_t* from)

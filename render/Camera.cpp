@@ -5,7 +5,7 @@
 
 #include <limits>
 
-namespace Mod3D
+namespace render
 {
 void UpdateCameraTrig(Camera& camera)
 {

@@ -6,7 +6,7 @@
 
 #include <cstdint>
 
-namespace Mod3D
+namespace render
 {
 inline constexpr double HalfPi = 1.570796, Pi = 3.141592, TwoPi = 6.283184; // the constants of every formula
 
@@ -88,9 +88,9 @@ struct Rgb
 Rgb SplitRGB(std::int32_t colour);
 }
 
-template <> struct base::FieldsOf<Mod3D::Camera>
+template <> struct base::FieldsOf<render::Camera>
 {
-    using C = Mod3D::Camera;
+    using C = render::Camera;
     static constexpr auto Table =
         std::make_tuple(Field{"CamX", &C::CamX}, Field{"CamY", &C::CamY}, Field{"CamZ", &C::CamZ},
                         Field{"CamYaw", &C::CamYaw}, Field{"CamPitch", &C::CamPitch}, Field{"Zoom", &C::Zoom},

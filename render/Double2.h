@@ -10,7 +10,7 @@
 #define VELKAR_SSE2 1
 #endif
 
-namespace Mod3D
+namespace render
 {
 struct Double2
 {

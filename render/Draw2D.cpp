@@ -5,14 +5,14 @@
 #include <algorithm>
 #include <cstring>
 
-namespace Mod3D
+namespace render
 {
-ModBitmap::Surface FrameSurface(Screen& screen)
+Surface FrameSurface(Screen& screen)
 {
     return {screen.Frame.Bytes.data(), screen.Frame.RowBytes, screen.ScreenW, screen.ScreenH};
 }
 
-void DrawPic2D(const ModBitmap::Surface& surface, const ModBitmap::Picture& picture, std::int32_t x, std::int32_t y)
+void DrawPic2D(const Surface& surface, const Picture& picture, std::int32_t x, std::int32_t y)
 {
     const std::int32_t width = std::min(picture.Info.Width, picture.Pixels.RowBytes / 3);
     const std::int32_t height = std::min(picture.Info.Height, picture.Pixels.Rows);
@@ -28,8 +28,7 @@ void DrawPic2D(const ModBitmap::Surface& surface, const ModBitmap::Picture& pict
                     static_cast<std::size_t>(last - first) * 3);
 }
 
-void FillRect2D(const ModBitmap::Surface& surface, std::int16_t x, std::int16_t y, std::int16_t w, std::int16_t h,
-                Rgb colour)
+void FillRect2D(const Surface& surface, std::int16_t x, std::int16_t y, std::int16_t w, std::int16_t h, Rgb colour)
 {
     const std::int32_t endX = x + w, endY = y + h;
     if (base::Wrap16(endX) != endX || base::Wrap16(endY) != endY)

@@ -4,14 +4,13 @@
 #include "render/Scene.h"
 #include "render/Screen.h"
 
-namespace Mod3D
+namespace render
 {
-ModBitmap::Surface FrameSurface(Screen& screen);
+Surface FrameSurface(Screen& screen);
 
 // Copies the picture opaquely, its bottom-left pixel at (x, y), clipped on all four sides.
-void DrawPic2D(const ModBitmap::Surface& surface, const ModBitmap::Picture& picture, std::int32_t x, std::int32_t y);
+void DrawPic2D(const Surface& surface, const Picture& picture, std::int32_t x, std::int32_t y);
 // Columns x to x + w and rows y to y + h, both ends included, clipped. Sums are 16-bit; one that does not fit draws
 // nothing.
-void FillRect2D(const ModBitmap::Surface& surface, std::int16_t x, std::int16_t y, std::int16_t w, std::int16_t h,
-                Rgb colour);
+void FillRect2D(const Surface& surface, std::int16_t x, std::int16_t y, std::int16_t w, std::int16_t h, Rgb colour);
 }

@@ -7,11 +7,8 @@
 #include <algorithm>
 #include <limits>
 
-namespace modEffects
+namespace render
 {
-using Mod3D::Particle;
-using Mod3D::Sprite3D;
-
 namespace
 {
 constexpr std::int16_t MostParticles = std::numeric_limits<std::int16_t>::max();
@@ -58,15 +55,15 @@ void Advance(Sprite3D& sprite, std::int32_t kind, base::Random& random)
 }
 }
 
-std::int16_t AddParticle(Mod3D::Scene& scene, std::int16_t life, std::int32_t kind,
-                         const ModBitmap::PicReference& picture, float x, float y, float z, float scale, float alpha)
+std::int16_t AddParticle(Scene& scene, std::int16_t life, std::int32_t kind, const PicReference& picture, float x,
+                         float y, float z, float scale, float alpha)
 {
     std::vector<Particle>& list = scene.Particles;
     const auto free = std::find_if(list.begin(), list.end(), [](const Particle& p) { return p.Life < 0; });
     const auto index = static_cast<std::size_t>(free - list.begin());
     if (index > static_cast<std::size_t>(MostParticles))
         throw base::RuntimeError(base::ErrorOverflow);
-    const std::int16_t sprite = modPrimitive::MakeSprite3D(scene, picture, x, y, z, scale, alpha, 1);
+    const std::int16_t sprite = MakeSprite3D(scene, picture, x, y, z, scale, alpha, 1);
     if (free == list.end())
         list.emplace_back();
     list[index] = {life, sprite, kind};
@@ -74,7 +71,7 @@ std::int16_t AddParticle(Mod3D::Scene& scene, std::int16_t life, std::int32_t ki
     return static_cast<std::int16_t>(index);
 }
 
-void RemoveParticle(Mod3D::Scene& scene, std::int32_t particle)
+void RemoveParticle(Scene& scene, std::int32_t particle)
 {
     if (particle < 0 || static_cast<std::size_t>(particle) >= scene.Particles.size())
         throw base::RuntimeError(base::ErrorIndex);
@@ -84,10 +81,10 @@ void RemoveParticle(Mod3D::Scene& scene, std::int32_t particle)
     removed.Life = -1;
     --scene.ParticleCount;
     if (scene.Sprites.Has(removed.Sprite))
-        modPrimitive::KillSprite3D(scene, removed.Sprite);
+        KillSprite3D(scene, removed.Sprite);
 }
 
-void AdvanceParticles(Mod3D::Scene& scene, base::Random& random)
+void AdvanceParticles(Scene& scene, base::Random& random)
 {
     for (std::size_t i = 0; i < scene.Particles.size(); ++i)
     {

@@ -3,7 +3,7 @@
 #include "base/Random.h"
 #include "render/Scene.h"
 
-namespace modEffects
+namespace render
 {
 enum Kind : std::int32_t
 {
@@ -14,9 +14,9 @@ enum Kind : std::int32_t
 };
 
 // Index of the particle: the first with a negative life, else a new one. life: ticks.
-std::int16_t AddParticle(Mod3D::Scene& scene, std::int16_t life, std::int32_t kind,
-                         const ModBitmap::PicReference& picture, float x, float y, float z, float scale, float alpha);
-void RemoveParticle(Mod3D::Scene& scene, std::int32_t particle);
+std::int16_t AddParticle(Scene& scene, std::int16_t life, std::int32_t kind, const PicReference& picture, float x,
+                         float y, float z, float scale, float alpha);
+void RemoveParticle(Scene& scene, std::int32_t particle);
 // One tick for every particle: ages, drifts, grows or shrinks, and vanishes.
-void AdvanceParticles(Mod3D::Scene& scene, base::Random& random);
+void AdvanceParticles(Scene& scene, base::Random& random);
 }

@@ -2,7 +2,7 @@
 
 #include <algorithm>
 
-namespace ModBitmap
+namespace render
 {
 namespace
 {

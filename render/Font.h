@@ -10,7 +10,7 @@
 #include <string_view>
 #include <vector>
 
-namespace ModBitmap
+namespace render
 {
 inline constexpr int FirstCode = 32, LastCode = 255;
 

@@ -10,9 +10,9 @@
 #include <cmath>
 #include <cstring>
 
-namespace Mod3D
+namespace render
 {
-TexelField MakeTexelField(const ModBitmap::PicArray2D& pixels, std::int32_t width, std::int32_t height)
+TexelField MakeTexelField(const PicArray2D& pixels, std::int32_t width, std::int32_t height)
 {
     return {pixels.Bytes.data(), pixels.RowBytes, std::clamp(width, 0, pixels.RowBytes / 3),
             std::clamp(height, 0, pixels.Rows)};
@@ -30,7 +30,7 @@ GroundView MakeGroundView(const Scene& scene, const Camera& camera, Screen& scre
     view.CenterX = screen.CenterX;
     view.GroundScale = scene.Ground.GroundScale;
     view.Sharp = MakeTexelField(scene.Ground.Sharp.Pixels, scene.Ground.Width, scene.Ground.Height);
-    const ModBitmap::PicArray2D& blur = scene.Ground.GroundBlur;
+    const PicArray2D& blur = scene.Ground.GroundBlur;
     const bool same =
         blur.Rows == scene.Ground.Sharp.Pixels.Rows && blur.RowBytes == scene.Ground.Sharp.Pixels.RowBytes;
     view.Blurred = same ? MakeTexelField(blur, scene.Ground.Width, scene.Ground.Height) : view.Sharp;

@@ -7,7 +7,7 @@
 
 #include <cstdint>
 
-namespace Mod3D
+namespace render
 {
 // A picture as the pixel loops read it: Width and Height never exceed the bytes that are there.
 struct TexelField
@@ -24,7 +24,7 @@ struct TexelField
     }
     const std::uint8_t* At(std::int32_t u, std::int32_t v) const { return Bytes + v * RowBytes + u * 3; }
 };
-TexelField MakeTexelField(const ModBitmap::PicArray2D& pixels, std::int32_t width, std::int32_t height);
+TexelField MakeTexelField(const PicArray2D& pixels, std::int32_t width, std::int32_t height);
 
 // What the pass reads, gathered once a frame, and where it writes.
 struct GroundView

@@ -4,7 +4,7 @@
 
 #include <algorithm>
 
-namespace Mod3D
+namespace render
 {
 namespace
 {

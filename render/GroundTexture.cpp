@@ -1,6 +1,6 @@
 #include "render/GroundTexture.h"
 
-namespace Mod3D
+namespace render
 {
 namespace
 {
@@ -19,7 +19,7 @@ void LoadGround(base::MessageSink& messages, const base::Files& files, const std
     ground.GroundScale = scale;
     ground.Width = ground.Height = 0;
     ground.GroundBlur.Clear();
-    if (!ModBitmap::LoadPicArray2D(messages, files, path, ground.Sharp.Info, ground.Sharp.Pixels))
+    if (!LoadPicArray2D(messages, files, path, ground.Sharp.Info, ground.Sharp.Pixels))
     {
         ground.Sharp = {};
         return;
@@ -32,8 +32,8 @@ void LoadGround(base::MessageSink& messages, const base::Files& files, const std
 
 void BlurGround(Ground& ground)
 {
-    const ModBitmap::PicArray2D& sharp = ground.Sharp.Pixels;
-    ModBitmap::PicArray2D& blur = ground.GroundBlur;
+    const PicArray2D& sharp = ground.Sharp.Pixels;
+    PicArray2D& blur = ground.GroundBlur;
     blur.Allocate(sharp.Rows, sharp.RowBytes);
     for (std::int32_t v = 0; v < ground.Height; ++v)
     {

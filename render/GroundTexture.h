@@ -2,7 +2,7 @@
 #pragma once
 #include "render/Scene.h"
 
-namespace Mod3D
+namespace render
 {
 // Reports its own errors; a picture that fails leaves no ground. blurred: also makes the copy of the filters.
 void LoadGround(base::MessageSink& messages, const base::Files& files, const std::string& path, float scale,

@@ -2,7 +2,7 @@
 
 #include <system_error>
 
-namespace Mod3D
+namespace render
 {
 GroundWalkers::GroundWalkers(int helpers)
 {

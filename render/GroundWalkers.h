@@ -12,7 +12,7 @@
 #include <thread>
 #include <vector>
 
-namespace Mod3D
+namespace render
 {
 // Asked before every row: whether the pass may still draw. Every walker has its own and all share the wish to stop.
 // Each also keeps the time, because the system may leave the calling thread waiting; the clock is read now and then.

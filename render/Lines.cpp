@@ -2,7 +2,7 @@
 
 #include "base/Numbers.h"
 
-namespace Mod3D
+namespace render
 {
 namespace
 {

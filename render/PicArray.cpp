@@ -8,7 +8,7 @@
 #include <new>
 #include <string_view>
 
-namespace ModBitmap
+namespace render
 {
 namespace
 {

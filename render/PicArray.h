@@ -10,7 +10,7 @@
 #include <string>
 #include <vector>
 
-namespace ModBitmap
+namespace render
 {
 // Width or height of a loaded picture at most.
 inline constexpr std::int32_t LargestPicture = 16384;

@@ -6,19 +6,8 @@
 #include <algorithm>
 #include <limits>
 
-namespace modPrimitive
+namespace render
 {
-using Mod3D::Label2D;
-using Mod3D::Obj;
-using Mod3D::ObjMesh;
-using Mod3D::Pic2D;
-using Mod3D::PointGrid;
-using Mod3D::Poly;
-using Mod3D::Rect2D;
-using Mod3D::Sfera;
-using Mod3D::Sprite3D;
-using Mod3D::Texture;
-
 namespace
 {
 template <class Item> std::uint64_t BytesOf(const std::vector<Item>& items)
@@ -44,7 +33,7 @@ std::uint64_t BytesOf(const Obj& object)
 // Refuses what would not fit; nothing is counted yet.
 void CheckRoom(const Scene& scene, std::uint64_t bytes)
 {
-    if (bytes > Mod3D::MostListBytes || scene.Bytes + bytes > Mod3D::MostBytes)
+    if (bytes > MostListBytes || scene.Bytes + bytes > MostBytes)
         throw base::RuntimeError(base::ErrorMemory);
 }
 
@@ -119,7 +108,7 @@ std::int16_t DuplicateObj(Scene& scene, std::int32_t source, float x, float y, f
                           std::uint8_t visible)
 {
     const std::uint64_t bytes = BytesOf(scene.Objects.At(source));
-    if (scene.Bytes + bytes > Mod3D::MostBytes)
+    if (scene.Bytes + bytes > MostBytes)
         throw base::RuntimeError(base::ErrorMemory);
     const std::int16_t index = scene.Objects.Take();
     Obj& object = scene.Objects.At(index);
@@ -163,10 +152,10 @@ void AddSfereLink(Scene& scene, std::int32_t object, std::int32_t sphere, std::i
     Sfera& linked = SphereAt(scene, object, sphere);
     if (linked.NumLinks == std::numeric_limits<std::int16_t>::max())
         throw base::RuntimeError(base::ErrorOverflow);
-    CheckRoom(scene, sizeof(Mod3D::SfereLink));
+    CheckRoom(scene, sizeof(SfereLink));
     linked.Links.push_back({mesh, i, j});
     ++linked.NumLinks;
-    scene.Bytes += sizeof(Mod3D::SfereLink);
+    scene.Bytes += sizeof(SfereLink);
 }
 
 void EditObjMesh(Scene& scene, std::int32_t object, std::int32_t mesh, std::int16_t rows, std::int16_t cols,
@@ -176,7 +165,7 @@ void EditObjMesh(Scene& scene, std::int32_t object, std::int32_t mesh, std::int1
     if (rows < 1 || cols < 1)
         throw base::RuntimeError(base::ErrorIndex);
     const auto points = static_cast<std::size_t>(rows) * static_cast<std::size_t>(cols);
-    const std::uint64_t bytes = points * sizeof(Mod3D::MeshPt);
+    const std::uint64_t bytes = points * sizeof(MeshPt);
     CheckRoom(scene, bytes);
     scene.Bytes -= BytesOf(edited);
     edited.Pts = PointGrid{};
@@ -191,7 +180,7 @@ void EditObjMesh(Scene& scene, std::int32_t object, std::int32_t mesh, std::int1
         edited.TexIndex = texture;
         return;
     }
-    const Mod3D::Rgb split = Mod3D::SplitRGB(colour);
+    const Rgb split = SplitRGB(colour);
     edited.ColR = split.R;
     edited.ColG = split.G;
     edited.ColB = split.B;
@@ -211,7 +200,7 @@ void KeepUndamaged(Scene& scene, std::int32_t object)
     for (ObjMesh& mesh : scene.Objects.At(object).Mesh)
     {
         const std::uint64_t before = BytesOf(mesh.Undamaged.Points), after = BytesOf(mesh.Pts.Points);
-        if (scene.Bytes - before + after > Mod3D::MostBytes)
+        if (scene.Bytes - before + after > MostBytes)
             throw base::RuntimeError(base::ErrorMemory);
         mesh.Undamaged = mesh.Pts;
         scene.Bytes = scene.Bytes - before + after;
@@ -222,11 +211,11 @@ std::int16_t MakePoly(Scene& scene, std::int32_t points, std::int32_t colour, st
 {
     if (points < 1)
         throw base::RuntimeError(base::ErrorIndex);
-    const std::uint64_t bytes = static_cast<std::uint64_t>(points) * sizeof(Mod3D::PolyPt);
+    const std::uint64_t bytes = static_cast<std::uint64_t>(points) * sizeof(PolyPt);
     CheckRoom(scene, bytes);
     const std::int16_t index = scene.Polys.Take();
     Poly& poly = scene.Polys.At(index);
-    const Mod3D::Rgb split = Mod3D::SplitRGB(colour);
+    const Rgb split = SplitRGB(colour);
     poly.Visible = visible;
     poly.ColR = split.R;
     poly.ColG = split.G;
@@ -241,7 +230,7 @@ void EditPolyPt(Scene& scene, std::int32_t poly, std::int32_t point, float x, fl
     Checked(scene.Polys.At(poly).Pts, point) = {x, y, z};
 }
 
-std::int16_t MakeSprite3D(Scene& scene, const ModBitmap::PicReference& picture, float x, float y, float z, float scale,
+std::int16_t MakeSprite3D(Scene& scene, const PicReference& picture, float x, float y, float z, float scale,
                           float alpha, std::uint8_t visible)
 {
     const std::int16_t index = scene.Sprites.Take();
@@ -272,9 +261,9 @@ std::int16_t MakePic2D(Scene& scene, base::MessageSink& messages, float x, float
 {
     if (width < 1 || height < 1)
         throw base::RuntimeError(base::ErrorIndex);
-    const std::int32_t rowBytes = ModBitmap::WidthBytes(messages, width);
+    const std::int32_t rowBytes = WidthBytes(messages, width);
     CheckRoom(scene, static_cast<std::uint64_t>(rowBytes) * static_cast<std::uint64_t>(height));
-    ModBitmap::Picture picture;
+    Picture picture;
     picture.Info = {width, height, rowBytes, 1, 24};
     picture.Pixels.Allocate(height, rowBytes);
     const std::int16_t index = scene.Pics.Take();
@@ -295,7 +284,7 @@ void MovePic2D(Scene& scene, std::int32_t pic, float x, float y)
 }
 
 std::int16_t MakeLabel2D(Scene& scene, std::int16_t x, std::int16_t y, std::int32_t style, float scale,
-                         std::int16_t tabWidth, Mod3D::Rgb colour, std::uint8_t visible, std::string_view text)
+                         std::int16_t tabWidth, Rgb colour, std::uint8_t visible, std::string_view text)
 {
     const std::int16_t index = scene.Labels.Take();
     Label2D& label = scene.Labels.At(index);
@@ -318,7 +307,7 @@ void SetLabelText(Scene& scene, std::int32_t label, std::string_view text)
 }
 
 std::int16_t MakeRect2D(Scene& scene, std::int16_t x, std::int16_t y, std::int16_t w, std::int16_t h,
-                        std::int32_t hidden, Mod3D::Rgb colour, std::uint8_t visible)
+                        std::int32_t hidden, Rgb colour, std::uint8_t visible)
 {
     const std::int16_t index = scene.Rects.Take();
     Rect2D& rect = scene.Rects.At(index);
@@ -359,7 +348,7 @@ std::int16_t LoadTexture(Scene& scene, base::MessageSink& messages, const base::
         return index;
     }
     const std::uint64_t bytes = BytesOf(texture.Pic.Pixels.Bytes);
-    if (scene.Bytes + bytes > Mod3D::MostBytes)
+    if (scene.Bytes + bytes > MostBytes)
     {
         texture.Pic = {};
         throw base::RuntimeError(base::ErrorMemory);

@@ -6,10 +6,8 @@
 #include <string>
 #include <string_view>
 
-namespace modPrimitive
+namespace render
 {
-using Mod3D::Scene;
-
 // Empties every list.
 void InitScene(Scene& scene);
 
@@ -38,7 +36,7 @@ std::int16_t MakePoly(Scene& scene, std::int32_t points, std::int32_t colour, st
 void EditPolyPt(Scene& scene, std::int32_t poly, std::int32_t point, float x, float y, float z);
 
 // World sprites share the pixels of their picture.
-std::int16_t MakeSprite3D(Scene& scene, const ModBitmap::PicReference& picture, float x, float y, float z, float scale,
+std::int16_t MakeSprite3D(Scene& scene, const PicReference& picture, float x, float y, float z, float scale,
                           float alpha, std::uint8_t visible);
 void KillSprite3D(Scene& scene, std::int32_t sprite);
 
@@ -47,11 +45,11 @@ std::int16_t MakePic2D(Scene& scene, base::MessageSink& messages, float x, float
                        std::int32_t height, std::uint8_t visible);
 void MovePic2D(Scene& scene, std::int32_t pic, float x, float y);
 std::int16_t MakeLabel2D(Scene& scene, std::int16_t x, std::int16_t y, std::int32_t style, float scale,
-                         std::int16_t tabWidth, Mod3D::Rgb colour, std::uint8_t visible, std::string_view text);
+                         std::int16_t tabWidth, Rgb colour, std::uint8_t visible, std::string_view text);
 // No allocation once the text has been as long before.
 void SetLabelText(Scene& scene, std::int32_t label, std::string_view text);
 std::int16_t MakeRect2D(Scene& scene, std::int16_t x, std::int16_t y, std::int16_t w, std::int16_t h,
-                        std::int32_t hidden, Mod3D::Rgb colour, std::uint8_t visible);
+                        std::int32_t hidden, Rgb colour, std::uint8_t visible);
 void SetRectW(Scene& scene, std::int32_t rect, std::int16_t value);
 
 // Textures, by path (exact, case-sensitive). A new one takes the last free slot, else a new slot at the end; a bitmap

@@ -8,7 +8,7 @@
 #include "render/Sprites.h"
 #include "render/Triangles.h"
 
-namespace Mod3D
+namespace render
 {
 namespace
 {
@@ -118,11 +118,11 @@ void DrawPolys(const Scene& scene, const Camera& camera, Screen& screen)
     }
 }
 
-void DrawLabel(const Scene& scene, const ModBitmap::Surface& surface, const Label2D& label)
+void DrawLabel(const Scene& scene, const Surface& surface, const Label2D& label)
 {
-    const ModBitmap::Font& font = scene.Font;
-    const ModBitmap::Colour colour{label.ColR, label.ColG, label.ColB};
-    const std::int32_t tab = ModBitmap::TabPixels(font, label.Scale, label.TabWidth);
+    const Font& font = scene.Font;
+    const Colour colour{label.ColR, label.ColG, label.ColB};
+    const std::int32_t tab = TabPixels(font, label.Scale, label.TabWidth);
     if (label.Style == 0)
         DrawTextLeft(surface, font, label.X, label.Y, label.Scale, tab, colour, label.Fade, label.Text);
     else if (label.Style == 1)
@@ -161,7 +161,7 @@ void DrawObjects(const Scene& scene, const Camera& camera, Screen& screen)
 
 void DrawHud(const Scene& scene, Screen& screen)
 {
-    const ModBitmap::Surface surface = FrameSurface(screen);
+    const Surface surface = FrameSurface(screen);
     for (const Pic2D& pic : scene.Pics.Items)
         if (IsDrawn(pic))
             DrawPic2D(surface, pic.Pic, base::RoundEven(pic.X), base::RoundEven(pic.Y));

@@ -7,7 +7,7 @@
 #include <cstdint>
 #include <span>
 
-namespace Mod3D
+namespace render
 {
 // Whoever shows a finished frame: bottom-up rows of blue, green, red, padded to 4 bytes, borrowed for the call.
 struct FrameSink

@@ -4,7 +4,7 @@
 
 #include <cmath>
 
-namespace Mod3D
+namespace render
 {
 namespace
 {

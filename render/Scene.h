@@ -12,7 +12,7 @@
 #include <string>
 #include <vector>
 
-namespace Mod3D
+namespace render
 {
 struct MeshPt
 {
@@ -90,7 +90,7 @@ struct Sprite3D
     float Scale = 0; // world units per pixel of the picture
     float Alpha = 0; // 1 opaque
     std::int32_t Width = 0, Height = 0;
-    ModBitmap::PicReference Pixels;
+    PicReference Pixels;
 };
 
 struct Particle
@@ -105,7 +105,7 @@ struct Pic2D
     std::uint8_t Visible = 0, Free = 0;
     float X = 0, Y = 0; // frame pixels
     std::int32_t Width = 0, Height = 0;
-    ModBitmap::Picture Pic; // its own pixels
+    Picture Pic; // its own pixels
 };
 
 struct Rect2D
@@ -133,7 +133,7 @@ struct Texture
     std::uint8_t Free = 0;
     std::string Path;
     std::int32_t Width = 0, Height = 0; // 0 where the file failed: draws nothing
-    ModBitmap::Picture Pic;
+    Picture Pic;
 };
 
 // The plane y = 0: its picture, the blurred copy for the filters, the scale.
@@ -141,8 +141,8 @@ struct Ground
 {
     std::int32_t Width = 0, Height = 0; // texels
     float GroundScale = 1;              // texels per world unit
-    ModBitmap::Picture Sharp;
-    ModBitmap::PicArray2D GroundBlur;
+    Picture Sharp;
+    PicArray2D GroundBlur;
 };
 
 inline constexpr std::int32_t SkyWidth = 820; // columns of the panorama, wrapping
@@ -159,9 +159,9 @@ struct Scene
     SlotList<Rect2D> Rects;
     SlotList<Label2D> Labels;
     SlotList<Texture> Textures;
-    Mod3D::Ground Ground;
-    ModBitmap::Picture Sky;
-    ModBitmap::Font Font;
+    render::Ground Ground;
+    Picture Sky;
+    render::Font Font;
     float LightR = 1, LightG = 1, LightB = 1;
     std::uint64_t Bytes = 0; // what objects, polylines and textures hold, against MostBytes
 };

@@ -5,7 +5,7 @@
 
 #include <algorithm>
 
-namespace Mod3D
+namespace render
 {
 Screen::Screen() = default;
 Screen::~Screen() = default;
@@ -54,7 +54,7 @@ void ApplyResolution(base::MessageSink& messages, Screen& screen, Camera& camera
     screen.Walkers.reset();
     screen.Header.biWidth = width;
     screen.Header.biHeight = height;
-    ModBitmap::MakePicArray2D(messages, screen.Header, screen.Frame);
+    MakePicArray2D(messages, screen.Header, screen.Frame);
     const bool made = !screen.Frame.Empty();
     TakeSize(screen, made ? width : 0, made ? height : 0);
     camera.MinZoom = std::min(screen.CenterX, screen.CenterY);

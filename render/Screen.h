@@ -9,7 +9,7 @@
 #include <memory>
 #include <vector>
 
-namespace Mod3D
+namespace render
 {
 inline constexpr float FarDepth = 3.4028230607370965e38f; // an empty depth cell
 
@@ -48,8 +48,8 @@ struct Screen
     std::int16_t ThreadCount = 1;  // bands of the ground pass
     std::int16_t SingleThread = 0; // development switch
     std::int32_t SkyOffset = 0;    // 0 to 819
-    ModBitmap::PicHeader Header;   // of the frame
-    ModBitmap::PicArray2D Frame;
+    PicHeader Header;              // of the frame
+    PicArray2D Frame;
     std::vector<float> Depth;                               // ScreenH rows of ScreenW
     std::vector<float> RowAngle, RowSlant, RowDist, RowAux; // one a screen row
     std::vector<double> ColumnSlope;                        // one a screen column, and one more for pairwise reading
@@ -68,9 +68,9 @@ void ApplyResolution(base::MessageSink& messages, Screen& screen, Camera& camera
 const char* FilterName(std::int16_t filter);
 }
 
-template <> struct base::FieldsOf<Mod3D::Screen>
+template <> struct base::FieldsOf<render::Screen>
 {
-    using S = Mod3D::Screen;
+    using S = render::Screen;
     static constexpr auto Table = std::make_tuple(
         Fixed{"ScreenW", &S::ScreenW}, Fixed{"ScreenH", &S::ScreenH}, Fixed{"CenterX", &S::CenterX},
         Fixed{"CenterY", &S::CenterY}, Field{"NearZ", &S::NearZ}, Field{"FarZ", &S::FarZ},

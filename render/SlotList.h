@@ -8,7 +8,7 @@
 #include <limits>
 #include <vector>
 
-namespace Mod3D
+namespace render
 {
 template <class Record> struct SlotList
 {

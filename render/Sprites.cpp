@@ -8,7 +8,7 @@
 #include <array>
 #include <cstring>
 
-namespace Mod3D
+namespace render
 {
 namespace
 {

@@ -3,7 +3,7 @@
 #include "render/Scene.h"
 #include "render/Screen.h"
 
-namespace Mod3D
+namespace render
 {
 inline constexpr double WidestSprite = 100.0; // pixels on the screen
 

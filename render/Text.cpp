@@ -5,7 +5,7 @@
 #include <algorithm>
 #include <limits>
 
-namespace ModBitmap
+namespace render
 {
 namespace
 {

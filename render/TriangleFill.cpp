@@ -8,7 +8,7 @@
 #include <utility>
 
 // Rounding and order of every line are those of the plain routines.
-namespace Mod3D
+namespace render
 {
 namespace
 {

@@ -7,7 +7,7 @@
 #include <algorithm>
 #include <cstdint>
 
-namespace Mod3D
+namespace render
 {
 struct ScreenCorner
 {

@@ -4,7 +4,7 @@
 #include <algorithm>
 #include <array>
 
-namespace Mod3D
+namespace render
 {
 namespace
 {

@@ -7,7 +7,7 @@
 #include <array>
 #include <limits>
 
-namespace Mod3D
+namespace render
 {
 namespace
 {

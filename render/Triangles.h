@@ -5,7 +5,7 @@
 #include "render/Screen.h"
 #include "render/TriangleFill.h"
 
-namespace Mod3D
+namespace render
 {
 // A corner in the world, as the camera sees it, and on the screen, found once for all the triangles that share it.
 struct Corner

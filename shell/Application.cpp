@@ -48,7 +48,7 @@ public:
 private:
     static constexpr std::int32_t MostWidth = 1200, MostHeight = 900;
     std::unique_ptr<platform::Window> TheWindow;
-    ModBitmap::Picture Picture;
+    render::Picture Picture;
     forms::Canvas Canvas;
 };
 

@@ -51,7 +51,7 @@ void Form1::MouseDown(int button, platform::Point at)
     if (HasEnded || button != LeftButton)
         return;
     if (!TheInteraction.MouseDown(at, ThePlatform.TickCount()))
-        modWinDrag::DragStart(TheDrag, *TheWindow, TheGame.Settings.FullScreen != base::False);
+        DragStart(TheDrag, *TheWindow, TheGame.Settings.FullScreen != base::False);
     RepaintIfDue();
 }
 
@@ -61,7 +61,7 @@ void Form1::MouseMove(int buttons, platform::Point at)
         return;
     const bool leftHeld = (buttons & LeftButton) != 0;
     if (leftHeld && TheDrag.Active)
-        return modWinDrag::DragMove(TheDrag, *TheWindow);
+        return DragMove(TheDrag, *TheWindow);
     TheInteraction.MouseMove(leftHeld, at);
     RepaintIfDue();
 }

@@ -19,7 +19,7 @@
 namespace shell
 {
 class Form1 final : public platform::WindowEvents,
-                    private modDinamica::FinishSink,
+                    private world::FinishSink,
                     private forms::PicturePainter,
                     private forms::FormOwner,
                     private console::Host
@@ -96,7 +96,7 @@ private:
     // AudioOptions.cpp, Sound.cpp: what is heard
     void LoadAudio();
     void CloseAudio(bool& cancel);
-    waveOut_Module::Stream MakeStream() { return {TheGame.Engine, *TheWaveOut, *TheWindow}; }
+    audio::Stream MakeStream() { return {TheGame.Engine, *TheWaveOut, *TheWindow}; }
     void SetEngineSound();
     void SetMediaCommand(const char* command);
     void SetMusic(bool on);
@@ -106,7 +106,7 @@ private:
     void Finished(const std::string& message) override;
 
     // GameTick.cpp, RenderTick.cpp
-    modDinamica::Simulation MakeSimulation();
+    world::Simulation MakeSimulation();
     void MeasureFrameRate(std::uint32_t now);
     void ShowFrame();
 
@@ -220,7 +220,7 @@ private:
     TickTimer tmrLogo;
     forms::Canvas TheCanvas;
     MenuPictures TheMenuPictures;
-    modWinDrag::Drag TheDrag;
+    Drag TheDrag;
     forms::Interaction TheInteraction{TheForm, *this};
     bool PaintDue = false; // a control has changed since it was painted
     bool IsVisible = false;

@@ -81,27 +81,27 @@ struct RunState
 // Pictures of start-up that no scene list holds.
 struct Pictures
 {
-    ModBitmap::Picture Inside; // of the car, behind the driver in the webcam picture
+    render::Picture Inside; // of the car, behind the driver in the webcam picture
 };
 
 struct Game
 {
-    Mod3D::Scene Scene;
-    Mod3D::Camera Camera;
-    Mod3D::Screen Screen;
+    render::Scene Scene;
+    render::Camera Camera;
+    render::Screen Screen;
     world::Race Race;
     world::HeldKeys Keys;
     world::RaceAssets Assets;
     base::Random Random;
     shell::Settings Settings;
-    shell::AudioSettings Audio;
-    waveOut_Module::EngineSound Engine;
+    AudioSettings Audio;
+    audio::EngineSound Engine;
     audio::Soundtrack Soundtrack;
-    shell::KeyBindings Bindings;
+    KeyBindings Bindings;
     shell::Hud Hud;
     shell::Pictures Pictures;
-    shell::RunState Run;
-    modEscapi::Webcam Webcam;
+    RunState Run;
+    webcam::Webcam Webcam;
     shell::Timers Timers;
 };
 }

@@ -16,11 +16,11 @@ const world::Player* FindPlayer(const world::Race& race, std::int32_t index)
 }
 
 // The trophy turns before the camera.
-void FloatTrophy(Mod3D::Scene& scene, const Mod3D::Camera& camera, std::int16_t cup)
+void FloatTrophy(render::Scene& scene, const render::Camera& camera, std::int16_t cup)
 {
     if (!scene.Objects.Has(cup))
         return;
-    Mod3D::Obj& trophy = scene.Objects.At(cup);
+    render::Obj& trophy = scene.Objects.At(cup);
     trophy.AngleA = static_cast<float>(trophy.AngleA + 0.05);
     trophy.AngleB = static_cast<float>(camera.CamPitch / 2.0);
     trophy.X = static_cast<float>(camera.CamX - 5 * base::Sin(camera.CamYaw + 0.4));
@@ -36,14 +36,14 @@ void DecayShake(float& shake, const world::Player* user)
         shake = 0.6f;
 }
 
-void ShowRepair(Mod3D::Scene& scene, std::int16_t indicator, bool shown)
+void ShowRepair(render::Scene& scene, std::int16_t indicator, bool shown)
 {
     if (scene.Pics.Has(indicator))
         scene.Pics.At(indicator).Visible = shown ? 1 : 0;
 }
 }
 
-modDinamica::Simulation Form1::MakeSimulation()
+world::Simulation Form1::MakeSimulation()
 {
     Game& game = TheGame;
     return {game.Scene,
@@ -64,21 +64,21 @@ void Form1::GameT_Tick()
     AdvanceTimers();
     TheGame.Timers.GameT.Tick();
 
-    modDinamica::Simulation simulation = MakeSimulation();
+    world::Simulation simulation = MakeSimulation();
     world::Race& race = TheGame.Race;
     race.GameTime = TheGame.Timers.GameT.Elapsed;
-    modDinamica::ComputePlaces(TheGame.Scene, race);
+    world::ComputePlaces(TheGame.Scene, race);
     SetEngineSound();
     if (race.RaceOver != base::False)
         FloatTrophy(TheGame.Scene, TheGame.Camera, TheGame.Assets.CupObj);
-    modDinamica::RaceStep(simulation, *this);
+    world::RaceStep(simulation, *this);
     ShowRepair(TheGame.Scene, TheGame.Hud.Repair, TheGame.Run.InBox);
-    modDinamica::Collide(simulation);
-    modDinamica::DamageSmoke(simulation);
+    world::Collide(simulation);
+    world::DamageSmoke(simulation);
     if (race.GameTime >= Released)
     {
-        modDinamica::ComputerDrive(simulation);
-        modDinamica::UserDrive(simulation);
+        world::ComputerDrive(simulation);
+        world::UserDrive(simulation);
     }
     if (TheGame.Settings.WebcamOn != base::False)
         DecayShake(TheGame.Run.Shake, FindPlayer(race, race.UserPlayer));

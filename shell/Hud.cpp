@@ -36,7 +36,7 @@ struct Line
     operator std::string_view() const { return {Bytes.data(), Length}; }
 };
 
-void SetColour(Mod3D::Label2D& label, Mod3D::Rgb colour)
+void SetColour(render::Label2D& label, render::Rgb colour)
 {
     label.ColR = colour.R;
     label.ColG = colour.G;
@@ -55,81 +55,80 @@ const world::Player& ViewedPlayer(const Game& game)
 void ShowFrameRate(Game& game)
 {
     const bool fast = game.Run.Fps >= game.Settings.TargetFps - 2;
-    SetColour(game.Scene.Labels.At(game.Hud.FrameRate), fast ? Mod3D::Rgb{0, 200, 0} : Mod3D::Rgb{200, 0, 0});
-    modPrimitive::SetLabelText(game.Scene, game.Hud.FrameRate, Line() << game.Run.Fps << " fps");
+    SetColour(game.Scene.Labels.At(game.Hud.FrameRate), fast ? render::Rgb{0, 200, 0} : render::Rgb{200, 0, 0});
+    render::SetLabelText(game.Scene, game.Hud.FrameRate, Line() << game.Run.Fps << " fps");
 }
 
 void ShowSpeed(Game& game)
 {
     // The floor comes before the sign is dropped: the slightest reversing shows 1.
     const std::int32_t shown = base::ToInt32(std::abs(std::floor(ViewedPlayer(game).Speed * 36.0)));
-    modPrimitive::SetLabelText(game.Scene, game.Hud.Speed, Line() << shown);
+    render::SetLabelText(game.Scene, game.Hud.Speed, Line() << shown);
 }
 
 void ShowGear(Game& game)
 {
-    modPrimitive::SetLabelText(game.Scene, game.Hud.Gear, modDinamica::Gear(ViewedPlayer(game).Speed));
+    render::SetLabelText(game.Scene, game.Hud.Gear, world::Gear(ViewedPlayer(game).Speed));
 }
 
 void ShowPlace(Game& game)
 {
-    modPrimitive::SetLabelText(game.Scene, game.Hud.Place,
-                               Line() << ViewedPlayer(game).Place << "/" << game.Race.NumPlayers);
+    render::SetLabelText(game.Scene, game.Hud.Place, Line() << ViewedPlayer(game).Place << "/" << game.Race.NumPlayers);
 }
 
 void ShowLap(Game& game)
 {
-    modPrimitive::SetLabelText(game.Scene, game.Hud.LapCounter,
-                               Line() << ViewedPlayer(game).Lap + 1 << "/" << game.Race.Laps);
+    render::SetLabelText(game.Scene, game.Hud.LapCounter,
+                         Line() << ViewedPlayer(game).Lap + 1 << "/" << game.Race.Laps);
 }
 
 void PlaceLapsCaption(Game& game)
 {
-    const Mod3D::Label2D& counter = game.Scene.Labels.At(game.Hud.LapCounter);
-    const ModBitmap::Font& font = game.Scene.Font;
-    const std::int32_t tab = ModBitmap::TabPixels(font, counter.Scale, counter.TabWidth);
-    const std::int16_t width = ModBitmap::TextWidth(font, counter.Scale, counter.Text, tab);
+    const render::Label2D& counter = game.Scene.Labels.At(game.Hud.LapCounter);
+    const render::Font& font = game.Scene.Font;
+    const std::int32_t tab = render::TabPixels(font, counter.Scale, counter.TabWidth);
+    const std::int16_t width = render::TextWidth(font, counter.Scale, counter.Text, tab);
     game.Scene.Labels.At(game.Hud.LapsCaption).X = base::ToInt16(game.Screen.ScreenW - width - 6);
 }
 
 void ShowCountdown(Game& game)
 {
     constexpr const char* Texts[] = {"3", "2", "1", "Via!"};
-    Mod3D::Label2D& label = game.Scene.Labels.At(game.Hud.Countdown);
+    render::Label2D& label = game.Scene.Labels.At(game.Hud.Countdown);
     const std::int32_t time = game.Race.GameTime;
     label.Visible = time < 4000 ? 1 : 0;
     if (label.Visible != 0)
-        modPrimitive::SetLabelText(game.Scene, game.Hud.Countdown, Texts[std::max(0, time) / 1000]);
+        render::SetLabelText(game.Scene, game.Hud.Countdown, Texts[std::max(0, time) / 1000]);
 }
 
 void ShowDamage(Game& game)
 {
-    Mod3D::Rect2D& bar = game.Scene.Rects.At(game.Hud.DamageBar);
+    render::Rect2D& bar = game.Scene.Rects.At(game.Hud.DamageBar);
     if (bar.Visible == 0)
         return;
     const float damage = ViewedPlayer(game).Damage;
-    const Mod3D::Rgb colour = damage > 3   ? Mod3D::Rgb{180, 0, 0}
-                              : damage > 1 ? Mod3D::Rgb{230, 230, 0}
-                                           : Mod3D::Rgb{0, 180, 0};
+    const render::Rgb colour = damage > 3   ? render::Rgb{180, 0, 0}
+                               : damage > 1 ? render::Rgb{230, 230, 0}
+                                            : render::Rgb{0, 180, 0};
     bar.ColR = colour.R;
     bar.ColG = colour.G;
     bar.ColB = colour.B;
     const double right = damage <= 5 ? (game.Screen.ScreenW - 16) * (5.0 - damage) / 5 + 15 : 15;
-    modPrimitive::SetRectW(game.Scene, game.Hud.DamageBar, base::ToInt16(right));
+    render::SetRectW(game.Scene, game.Hud.DamageBar, base::ToInt16(right));
 }
 
 void ShowDebug(Game& game)
 {
     if (game.Scene.Labels.At(game.Hud.Debug).Visible == 0)
         return;
-    modPrimitive::SetLabelText(game.Scene, game.Hud.Debug,
-                               Line() << "Particles:\t" << game.Scene.ParticleCount << "\r\nRender int:\t"
-                                      << game.Timers.RenderT.interval);
+    render::SetLabelText(game.Scene, game.Hud.Debug,
+                         Line() << "Particles:\t" << game.Scene.ParticleCount << "\r\nRender int:\t"
+                                << game.Timers.RenderT.interval);
 }
 
 void FadeNotice(Game& game)
 {
-    Mod3D::Label2D& label = game.Scene.Labels.At(game.Hud.Notice);
+    render::Label2D& label = game.Scene.Labels.At(game.Hud.Notice);
     if (label.Visible == 0)
         return;
     const double time = static_cast<double>(game.Race.GameTime) - game.Run.NoticeTime;

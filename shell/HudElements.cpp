@@ -57,11 +57,11 @@ struct Element
     std::int32_t Style;
     float Scale;
     std::int16_t TabWidth;
-    Mod3D::Rgb Colour;
+    render::Rgb Colour;
     std::uint8_t Visible;
 };
 
-constexpr Mod3D::Rgb White = {255, 255, 255};
+constexpr render::Rgb White = {255, 255, 255};
 constexpr std::int32_t PreviewSize = 70, SpannerSize = 32;
 constexpr std::int16_t BarWidth = 15, BarHeight = 5; // from (0, 3) to (15, 8)
 constexpr std::size_t TextRoom = 256;                // bytes: no tick allocates
@@ -90,38 +90,36 @@ std::int16_t Whole(double value)
     return base::ToInt16(value);
 }
 
-std::int16_t Make(const Element& element, Mod3D::Scene& scene, base::MessageSink& messages, double x, double y)
+std::int16_t Make(const Element& element, render::Scene& scene, base::MessageSink& messages, double x, double y)
 {
     switch (element.Kind)
     {
     case Shape::Picture:
     {
         const std::int32_t side = base::RoundEven(element.Scale);
-        return modPrimitive::MakePic2D(scene, messages, static_cast<float>(x), static_cast<float>(y), side, side,
-                                       element.Visible);
+        return render::MakePic2D(scene, messages, static_cast<float>(x), static_cast<float>(y), side, side,
+                                 element.Visible);
     }
     case Shape::Bar:
-        return modPrimitive::MakeRect2D(scene, Whole(x), Whole(y), BarWidth, BarHeight, 0, element.Colour,
-                                        element.Visible);
+        return render::MakeRect2D(scene, Whole(x), Whole(y), BarWidth, BarHeight, 0, element.Colour, element.Visible);
     case Shape::Text:
         break;
     }
-    const std::int16_t label =
-        modPrimitive::MakeLabel2D(scene, Whole(x), Whole(y), element.Style, element.Scale, element.TabWidth,
-                                  element.Colour, element.Visible, element.Text);
+    const std::int16_t label = render::MakeLabel2D(scene, Whole(x), Whole(y), element.Style, element.Scale,
+                                                   element.TabWidth, element.Colour, element.Visible, element.Text);
     scene.Labels.At(label).Text.reserve(TextRoom);
     return label;
 }
 }
 
-void MakeHud(Mod3D::Scene& scene, base::MessageSink& messages, Hud& hud, std::int32_t width, std::int32_t height)
+void MakeHud(render::Scene& scene, base::MessageSink& messages, Hud& hud, std::int32_t width, std::int32_t height)
 {
     for (const Element& element : Elements)
         hud.*element.Index = Make(element, scene, messages, element.X.In(width), element.Y.In(height));
     PaintSpanner(scene.Pics.At(hud.Repair).Pic);
 }
 
-void PlaceHud(Mod3D::Scene& scene, const Hud& hud, std::int32_t width, std::int32_t height)
+void PlaceHud(render::Scene& scene, const Hud& hud, std::int32_t width, std::int32_t height)
 {
     for (const Element& element : Elements)
     {
@@ -130,7 +128,7 @@ void PlaceHud(Mod3D::Scene& scene, const Hud& hud, std::int32_t width, std::int3
         if (index < 0)
             continue;
         if (element.Kind == Shape::Picture)
-            modPrimitive::MovePic2D(scene, index, static_cast<float>(x), static_cast<float>(y));
+            render::MovePic2D(scene, index, static_cast<float>(x), static_cast<float>(y));
         else if (element.Kind == Shape::Text)
         {
             scene.Labels.At(index).X = Whole(x);

@@ -6,9 +6,9 @@
 namespace shell
 {
 // Makes the sixteen elements in their order. All texts have room for what a tick writes into them.
-void MakeHud(Mod3D::Scene& scene, base::MessageSink& messages, Hud& hud, std::int32_t width, std::int32_t height);
+void MakeHud(render::Scene& scene, base::MessageSink& messages, Hud& hud, std::int32_t width, std::int32_t height);
 // Moves them to the anchors of a frame of that size.
-void PlaceHud(Mod3D::Scene& scene, const Hud& hud, std::int32_t width, std::int32_t height);
+void PlaceHud(render::Scene& scene, const Hud& hud, std::int32_t width, std::int32_t height);
 // The spanner of the repair indicator, 32 x 32.
-void PaintSpanner(ModBitmap::Picture& picture);
+void PaintSpanner(render::Picture& picture);
 }

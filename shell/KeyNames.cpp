@@ -3,7 +3,7 @@
 #include <algorithm>
 #include <iterator>
 
-namespace modUtilita
+namespace shell
 {
 namespace
 {

@@ -3,7 +3,7 @@
 #include <cstdint>
 #include <string>
 
-namespace modUtilita
+namespace shell
 {
 // The name of a virtual-key code; "<186>" for one without a name.
 std::string KeyName(std::int16_t code);

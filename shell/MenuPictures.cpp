@@ -11,19 +11,19 @@ namespace
 constexpr std::int32_t LargestSide = 4096; // pixels: what scaling may cost
 }
 
-ModBitmap::Picture LoadOptionalPicture(base::MessageSink& messages, const base::Files& files, const std::string& path)
+render::Picture LoadOptionalPicture(base::MessageSink& messages, const base::Files& files, const std::string& path)
 {
-    ModBitmap::Picture picture;
+    render::Picture picture;
     if (!files.Exists(path))
         return picture;
-    if (!ModBitmap::LoadPicArray2D(messages, files, path, picture.Info, picture.Pixels))
+    if (!render::LoadPicArray2D(messages, files, path, picture.Info, picture.Pixels))
         return {};
     if (picture.Info.Width > LargestSide || picture.Info.Height > LargestSide)
         return {};
     return picture;
 }
 
-forms::Image FitPicture(const ModBitmap::Picture& picture, platform::Size box, bool covers, bool seeThrough)
+forms::Image FitPicture(const render::Picture& picture, platform::Size box, bool covers, bool seeThrough)
 {
     if (picture.Info.Width <= 0 || picture.Info.Height <= 0)
         return {};

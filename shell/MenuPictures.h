@@ -9,7 +9,7 @@ namespace shell
 {
 struct MenuPictures
 {
-    ModBitmap::Picture LogoFile, BackgroundFile; // empty where the file is missing
+    render::Picture LogoFile, BackgroundFile; // empty where the file is missing
     forms::Image Logo, Background;
 
     // A missing file is no error; one that cannot be read is reported.
@@ -19,8 +19,8 @@ struct MenuPictures
 };
 
 // An optional picture of the game's own: empty where the file is missing or unreadable.
-ModBitmap::Picture LoadOptionalPicture(base::MessageSink& messages, const base::Files& files, const std::string& path);
+render::Picture LoadOptionalPicture(base::MessageSink& messages, const base::Files& files, const std::string& path);
 // Scaled into the box with its proportions kept; covers: it fills the box and its longer side is cut when drawn
 // centred.
-forms::Image FitPicture(const ModBitmap::Picture& picture, platform::Size box, bool covers, bool seeThrough);
+forms::Image FitPicture(const render::Picture& picture, platform::Size box, bool covers, bool seeThrough);
 }

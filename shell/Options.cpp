@@ -154,10 +154,10 @@ bool Form1::TakeResolution()
 // Nothing is made anew where the resolution is in force already.
 void Form1::ApplyResolution(std::int32_t width, std::int32_t height)
 {
-    Mod3D::Screen& screen = TheGame.Screen;
+    render::Screen& screen = TheGame.Screen;
     if (width == screen.ScreenW && height == screen.ScreenH)
         return;
-    Mod3D::ApplyResolution(*TheWindow, screen, TheGame.Camera, width, height);
+    render::ApplyResolution(*TheWindow, screen, TheGame.Camera, width, height);
     PlaceHud(TheGame.Scene, TheGame.Hud, width, height);
     // The view behind the menu shows the new size.
     if (TheGame.Race.GameTime > 0)

@@ -55,7 +55,7 @@ bool Form1::IsAnyControlShown() const
 // Before the race there is no frame to see; afterwards the suspended race shows behind everything.
 void Form1::PaintBackground()
 {
-    const Mod3D::Screen& screen = TheGame.Screen;
+    const render::Screen& screen = TheGame.Screen;
     if (TheGame.Race.GameTime > 0 && !screen.Frame.Empty())
         return forms::Stretch(TheCanvas, {0, 0, TheCanvas.Width, TheCanvas.Height}, screen.ScreenW, screen.ScreenH,
                               screen.Frame.RowBytes, screen.Frame.Bytes.data());
@@ -72,7 +72,7 @@ void Form1::Repaint()
     PaintDue = false;
     if (!IsVisible || HasEnded)
         return;
-    const Mod3D::Screen& screen = TheGame.Screen;
+    const render::Screen& screen = TheGame.Screen;
     if (!IsAnyControlShown())
     {
         if (!screen.Frame.Empty())

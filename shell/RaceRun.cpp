@@ -8,7 +8,7 @@ namespace shell
 {
 namespace
 {
-void SetLabelVisible(Mod3D::Scene& scene, std::int16_t label, bool visible)
+void SetLabelVisible(render::Scene& scene, std::int16_t label, bool visible)
 {
     if (scene.Labels.Has(label))
         scene.Labels.At(label).Visible = visible ? 1 : 0;
@@ -22,7 +22,7 @@ void Form1::StartProcess()
                   {
                       Timers& timers = TheGame.Timers;
                       RunState& run = TheGame.Run;
-                      Mod3D::Scene& scene = TheGame.Scene;
+                      render::Scene& scene = TheGame.Scene;
                       if (timers.RenderT.Enabled != base::False)
                           return;
                       const std::uint32_t now = ThePlatform.TickCount();
@@ -39,8 +39,8 @@ void Form1::StartProcess()
                       timers.RenderT.Enable(now);
                       if (run.AudioReady == base::True)
                       {
-                          waveOut_Module::Stream stream = MakeStream();
-                          waveOut_Module::StartStream(stream);
+                          audio::Stream stream = MakeStream();
+                          audio::StartStream(stream);
                       }
                   });
 }
@@ -59,8 +59,8 @@ void Form1::StopProcess()
                       TheWindow->ShowCursor(true);
                       if (TheGame.Run.AudioReady == base::True)
                       {
-                          waveOut_Module::Stream stream = MakeStream();
-                          waveOut_Module::StopStream(stream);
+                          audio::Stream stream = MakeStream();
+                          audio::StopStream(stream);
                       }
                       if (TheGame.Settings.WebcamOn != base::False)
                           CloseWebcam();
@@ -82,10 +82,10 @@ void Form1::TogglePause()
 // The user's car has finished: the message is shown, the lap read-outs vanish.
 void Form1::Finished(const std::string& message)
 {
-    Mod3D::Scene& scene = TheGame.Scene;
+    render::Scene& scene = TheGame.Scene;
     const Hud& hud = TheGame.Hud;
     if (scene.Labels.Has(hud.Message))
-        modPrimitive::SetLabelText(scene, hud.Message, message);
+        render::SetLabelText(scene, hud.Message, message);
     SetLabelVisible(scene, hud.Message, true);
     SetLabelVisible(scene, hud.LapsCaption, false);
     SetLabelVisible(scene, hud.LapCounter, false);

@@ -57,6 +57,6 @@ void Form1::txtRecKey_LostFocus()
 {
     TheForm.Focus = -1;
     if (forms::Control* key = TheForm.Find("cCtrKey", TheGame.Run.RebindIndex))
-        key->Caption = modUtilita::KeyName(CodeOf(key->Tag));
+        key->Caption = KeyName(CodeOf(key->Tag));
 }
 }

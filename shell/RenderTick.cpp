@@ -21,7 +21,7 @@ template <class Body> void CarryOn(Body&& body)
     }
 }
 
-struct WindowSink final : Mod3D::FrameSink
+struct WindowSink final : render::FrameSink
 {
     explicit WindowSink(platform::Window& window) : Window(window) {}
     void Present(int width, int height, std::span<const std::uint8_t> bits) override
@@ -73,7 +73,7 @@ void Form1::RenderT_Tick()
 
 void Form1::Draw()
 {
-    Mod3D::RenderFrame(TheGame.Scene, TheGame.Camera, TheGame.Screen, nullptr);
+    render::RenderFrame(TheGame.Scene, TheGame.Camera, TheGame.Screen, nullptr);
 }
 
 // Draws a frame and shows it: as it is while nothing covers it, else with the controls over it.
@@ -86,7 +86,7 @@ void Form1::ShowFrame()
         return;
     }
     WindowSink sink(*TheWindow);
-    Mod3D::RenderFrame(TheGame.Scene, TheGame.Camera, TheGame.Screen, &sink);
+    render::RenderFrame(TheGame.Scene, TheGame.Camera, TheGame.Screen, &sink);
 }
 
 void Form1::PlaceCamera()

@@ -29,10 +29,10 @@ bool Form1::InitAudio()
 
 void Form1::LoadAudio()
 {
-    waveOut_Module::EngineSound& engine = TheGame.Engine;
+    audio::EngineSound& engine = TheGame.Engine;
     audio::Soundtrack& soundtrack = TheGame.Soundtrack;
     const base::Files& files = ThePlatform.DataFiles();
-    waveOut_Module::LoadSample(engine, files, SamplePath);
+    audio::LoadSample(engine, files, SamplePath);
     engine.Handle = platform::NoWave;
     engine.Step = FirstStep;
     TheGame.Audio.EffectsVolume = 1;
@@ -67,8 +67,8 @@ void Form1::SetEngineSound()
     if (viewed < 0 || static_cast<std::size_t>(viewed) >= race.Players.size())
         return;
     const float speed = race.Players[static_cast<std::size_t>(viewed)].Speed;
-    waveOut_Module::EngineSound& engine = TheGame.Engine;
-    engine.Step = static_cast<float>(modDinamica::EngineNote(speed));
+    audio::EngineSound& engine = TheGame.Engine;
+    engine.Step = static_cast<float>(world::EngineNote(speed));
     // A gain that 16 bits cannot hold keeps its former value.
     const std::int32_t gain = base::RoundEven((std::fabs(speed) + 5.0) * TheGame.Audio.EffectsFactor);
     if (base::Wrap16(gain) == gain)
@@ -79,8 +79,8 @@ void Form1::WaveDone(std::int32_t user)
 {
     if (HasEnded)
         return;
-    waveOut_Module::Stream stream = MakeStream();
-    waveOut_Module::EngineWndProc(stream, user);
+    audio::Stream stream = MakeStream();
+    audio::EngineWndProc(stream, user);
 }
 
 void Form1::SetMediaCommand(const char* command)
@@ -101,12 +101,12 @@ void Form1::MMC_Done(std::int32_t notifyCode)
     if (!audio::NextTrack(soundtrack, *TheMusic, ThePlatform.DataFiles(), notifyCode))
         return;
     TheGame.Run.NoticeTime = TheGame.Race.GameTime;
-    Mod3D::Scene& scene = TheGame.Scene;
+    render::Scene& scene = TheGame.Scene;
     const std::int16_t label = TheGame.Hud.Notice;
     if (!scene.Labels.Has(label))
         return;
     const std::string& name = soundtrack.TrackList[static_cast<std::size_t>(soundtrack.TrackIndex)];
-    modPrimitive::SetLabelText(scene, label, audio::StripExtension(name));
+    render::SetLabelText(scene, label, audio::StripExtension(name));
     scene.Labels.At(label).Fade = 0;
     scene.Labels.At(label).Visible = 1;
 }

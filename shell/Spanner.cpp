@@ -52,7 +52,7 @@ double Mix(double below, double above, double part)
 }
 }
 
-void PaintSpanner(ModBitmap::Picture& picture)
+void PaintSpanner(render::Picture& picture)
 {
     const std::int32_t width = picture.Info.Width, height = picture.Info.Height;
     constexpr double Half = 0.70710678118654752;

@@ -15,10 +15,10 @@ namespace
 constexpr platform::Size DesignSize = {600, 312};
 constexpr int SingleThreadFps = 6;
 
-ModBitmap::PicReference LoadShared(base::MessageSink& messages, const base::Files& files, const char* path)
+render::PicReference LoadShared(base::MessageSink& messages, const base::Files& files, const char* path)
 {
-    auto picture = std::make_shared<ModBitmap::Picture>();
-    if (!ModBitmap::LoadPicArray2D(messages, files, path, picture->Info, picture->Pixels))
+    auto picture = std::make_shared<render::Picture>();
+    if (!render::LoadPicArray2D(messages, files, path, picture->Info, picture->Pixels))
         return nullptr;
     return picture;
 }
@@ -41,7 +41,7 @@ Form1::Form1(platform::Platform& platform)
 
 Form1::~Form1()
 {
-    ThePlatform.Camera().DeinitCapture(); // it writes into the form's buffer
+    ThePlatform.WebcamDevice().DeinitCapture(); // it writes into the form's buffer
 }
 
 void Form1::Form_Load()
@@ -55,9 +55,8 @@ void Form1::Form_Load()
                       LayoutPanels();
                       TheMenuPictures.Load(*TheWindow, ThePlatform.DataFiles());
                       TheGame.Run.LastCommand.assign(1, '\\');
-                      ModBitmap::LoadFont(*TheWindow, ThePlatform.DataFiles(), "data\\fonts\\Font_01",
-                                          TheGame.Scene.Font);
-                      modPrimitive::InitScene(TheGame.Scene);
+                      render::LoadFont(*TheWindow, ThePlatform.DataFiles(), "data\\fonts\\Font_01", TheGame.Scene.Font);
+                      render::InitScene(TheGame.Scene);
                       if (!InitVideo())
                           return EndFailed("video");
                       if (!InitAudio())
@@ -74,7 +73,7 @@ void Form1::Form_Load()
 
 void Form1::SetProcessorDefaults()
 {
-    Mod3D::Screen& screen = TheGame.Screen;
+    render::Screen& screen = TheGame.Screen;
     Settings& settings = TheGame.Settings;
     if (screen.SingleThread != 0)
     {
@@ -97,21 +96,21 @@ bool Form1::InitVideo()
         base::MessageSink& messages = *TheWindow;
         const base::Files& files = ThePlatform.DataFiles();
         world::RaceAssets& assets = TheGame.Assets;
-        ModBitmap::Picture& inside = TheGame.Pictures.Inside;
-        ModBitmap::Picture& sky = TheGame.Scene.Sky;
-        if (!ModBitmap::LoadPicArray2D(messages, files, "data\\images\\inside.bmp", inside.Info, inside.Pixels) ||
-            !ModBitmap::LoadPicArray2D(messages, files, "data\\images\\sky.bmp", sky.Info, sky.Pixels) ||
+        render::Picture& inside = TheGame.Pictures.Inside;
+        render::Picture& sky = TheGame.Scene.Sky;
+        if (!render::LoadPicArray2D(messages, files, "data\\images\\inside.bmp", inside.Info, inside.Pixels) ||
+            !render::LoadPicArray2D(messages, files, "data\\images\\sky.bmp", sky.Info, sky.Pixels) ||
             !(assets.Smoke = LoadShared(messages, files, "data\\sprites\\smoke.bmp")) ||
             !(assets.Water = LoadShared(messages, files, "data\\sprites\\water.bmp")) ||
             !(assets.FireRed = LoadShared(messages, files, "data\\sprites\\fireR.bmp")) ||
             !(assets.FireYellow = LoadShared(messages, files, "data\\sprites\\fireY.bmp")))
             return false;
         TheGame.Scene.Ground.GroundScale = 1;
-        modEscapi::Webcam& webcam = TheGame.Webcam;
-        webcam.FrameHeader.biWidth = modEscapi::CaptureWidth;
-        webcam.FrameHeader.biHeight = modEscapi::CaptureHeight;
-        ModBitmap::MakePicArray2D(messages, webcam.FrameHeader, webcam.Frame);
-        webcam.Capture.DeviceCount = ThePlatform.Camera().SetupCapture();
+        webcam::Webcam& webcam = TheGame.Webcam;
+        webcam.FrameHeader.biWidth = webcam::CaptureWidth;
+        webcam.FrameHeader.biHeight = webcam::CaptureHeight;
+        render::MakePicArray2D(messages, webcam.FrameHeader, webcam.Frame);
+        webcam.Capture.DeviceCount = ThePlatform.WebcamDevice().SetupCapture();
         forms::Control& box = TheForm.Get("chkWebcam");
         box.Enabled = base::ToFlag(webcam.Capture.DeviceCount != 0);
         box.Value = webcam.Capture.DeviceCount > 0 ? 1 : 0;
@@ -141,8 +140,8 @@ void Form1::Inizializza()
                   {
                       base::MessageSink& messages = *TheWindow;
                       const base::Files& files = ThePlatform.DataFiles();
-                      Mod3D::Scene& scene = TheGame.Scene;
-                      Mod3D::Camera& camera = TheGame.Camera;
+                      render::Scene& scene = TheGame.Scene;
+                      render::Camera& camera = TheGame.Camera;
                       world::RaceAssets& assets = TheGame.Assets;
                       TheGame.Screen.NearZ = 0.01f;
                       TheGame.Screen.FarZ = 400;
@@ -150,17 +149,16 @@ void Form1::Inizializza()
                       camera.CamY = 100;
                       camera.CamZ = 35;
                       camera.Radius = 14;
-                      Mod3D::UpdateCameraTrig(camera);
+                      render::UpdateCameraTrig(camera);
                       scene.LightR = scene.LightG = scene.LightB = 1;
 
-                      assets.GlassTexture =
-                          modPrimitive::LoadTexture(scene, messages, files, "data\\textures\\glass.bmp");
+                      assets.GlassTexture = render::LoadTexture(scene, messages, files, "data\\textures\\glass.bmp");
                       assets.BrokenGlassTexture =
-                          modPrimitive::LoadTexture(scene, messages, files, "data\\textures\\glass_b.bmp");
-                      assets.ArrowObj = modOggetti::LoadObject(scene, messages, files, "data\\models\\gps.3dm");
-                      assets.CupObj = modOggetti::LoadObject(scene, messages, files, "data\\models\\cup.3dm");
-                      modOggetti::LoadMap(scene, TheGame.Race, messages, files, "data\\maps\\map_01\\map.loader",
-                                          TheGame.Screen.SingleThread == 0);
+                          render::LoadTexture(scene, messages, files, "data\\textures\\glass_b.bmp");
+                      assets.ArrowObj = world::LoadObject(scene, messages, files, "data\\models\\gps.3dm");
+                      assets.CupObj = world::LoadObject(scene, messages, files, "data\\models\\cup.3dm");
+                      world::LoadMap(scene, TheGame.Race, messages, files, "data\\maps\\map_01\\map.loader",
+                                     TheGame.Screen.SingleThread == 0);
                       MakeHud(scene, messages, TheGame.Hud, TheGame.Screen.ScreenW, TheGame.Screen.ScreenH);
                   });
 }
@@ -181,19 +179,19 @@ bool Form1::Form_Unload()
 
 void Form1::FreeResources()
 {
-    Mod3D::Scene& scene = TheGame.Scene;
+    render::Scene& scene = TheGame.Scene;
     world::RaceAssets& assets = TheGame.Assets;
-    modEscapi::DeinitCapture(ThePlatform, TheGame.Webcam.Capture, 0); // it writes into what goes now
+    webcam::DeinitCapture(ThePlatform, TheGame.Webcam.Capture, 0); // it writes into what goes now
     TheGame.Webcam.Frame.Clear();
     TheGame.Pictures = {};
     scene.Sky = {};
-    for (ModBitmap::PicReference* picture : {&assets.Smoke, &assets.Water, &assets.FireRed, &assets.FireYellow})
-        ModBitmap::PicArrayKill(*picture);
+    for (render::PicReference* picture : {&assets.Smoke, &assets.Water, &assets.FireRed, &assets.FireYellow})
+        render::PicArrayKill(*picture);
     for (std::int32_t i = 0; i < scene.Textures.Size(); ++i)
-        modPrimitive::FreeTexture(scene, i);
+        render::FreeTexture(scene, i);
     for (std::int32_t i = 0; i < scene.Polys.Size(); ++i)
         scene.Polys.Release(i);
     for (std::int32_t i = 0; i < scene.Objects.Size(); ++i)
-        modPrimitive::DeleteObj(scene, i);
+        render::DeleteObj(scene, i);
 }
 }

@@ -9,7 +9,7 @@ namespace shell
 {
 namespace
 {
-using Mod3D::Camera;
+using render::Camera;
 
 float Glide(float value, double target, double factor)
 {
@@ -27,7 +27,7 @@ void AimAt(Camera& camera, Aim zoom, Aim yaw, Aim pitch)
     camera.Zoom = Glide(camera.Zoom, zoom.Target, zoom.Factor);
     TurnYaw(camera, yaw.Target, yaw.Factor);
     camera.CamPitch = Glide(camera.CamPitch, pitch.Target, pitch.Factor);
-    Mod3D::UpdateCameraTrig(camera);
+    render::UpdateCameraTrig(camera);
 }
 
 void MoveTo(Camera& camera, Aim x, Aim y, Aim z)
@@ -42,7 +42,7 @@ struct Followed
 {
     double X, Y, Z, AngleA, AngleB, Speed, Sin, Cos;
 
-    Followed(const Mod3D::Obj& car, float speed)
+    Followed(const render::Obj& car, float speed)
         : X(car.X), Y(car.Y), Z(car.Z), AngleA(car.AngleA), AngleB(car.AngleB), Speed(speed),
           Sin(base::Sin(car.AngleA)), Cos(base::Cos(car.AngleA))
     {
@@ -65,7 +65,7 @@ void Chase(Camera& camera, const Followed& car)
 
 void ReverseChase(Camera& camera, const Followed& car)
 {
-    AimAt(camera, {2.0 * camera.MinZoom, 4}, {car.AngleA + Mod3D::Pi, 5}, {-0.1, 4});
+    AimAt(camera, {2.0 * camera.MinZoom, 4}, {car.AngleA + render::Pi, 5}, {-0.1, 4});
     MoveBehind(camera, car, 2);
 }
 
@@ -84,7 +84,7 @@ void Mirror(Camera& camera, const Followed& car)
 
 void Overhead(Camera& camera, const Followed& car)
 {
-    AimAt(camera, {4.0 * camera.MinZoom, 4}, {car.AngleA, 5}, {-Mod3D::HalfPi, 4});
+    AimAt(camera, {4.0 * camera.MinZoom, 4}, {car.AngleA, 5}, {-render::HalfPi, 4});
     MoveTo(camera, {car.X - car.Speed * car.Sin * 4, 3}, {std::abs(car.Speed) * 14 + car.Y + 40, 5},
            {car.Z + car.Cos * car.Speed * 4, 3});
 }
@@ -138,15 +138,15 @@ void Place(Camera& camera, const Followed& car, const world::HeldKeys& keys)
 }
 
 // The arrow stands over the car, or before the windscreen, and points at the car's next checkpoint.
-void PlaceArrow(Mod3D::Obj& arrow, const Followed& car, const world::Map& map, std::int16_t next, bool fromInside)
+void PlaceArrow(render::Obj& arrow, const Followed& car, const world::Map& map, std::int16_t next, bool fromInside)
 {
     if (next >= 0 && static_cast<std::size_t>(next) < map.Checkpoints.size())
     {
         const world::Target& target = map.Checkpoints[static_cast<std::size_t>(next)];
-        const double distance = Mod3D::Dist2D(target.X, target.Z, car.X, car.Z);
+        const double distance = render::Dist2D(target.X, target.Z, car.X, car.Z);
         if (distance > 0)
             arrow.AngleA =
-                static_cast<float>(-Mod3D::AngleOf((target.X - car.X) / distance, (target.Z - car.Z) / distance));
+                static_cast<float>(-render::AngleOf((target.X - car.X) / distance, (target.Z - car.Z) / distance));
     }
     arrow.X = static_cast<float>(fromInside ? car.X - 12 * car.Sin : car.X);
     arrow.Y = static_cast<float>(fromInside ? car.Y + 4 : car.Y + 10);
@@ -156,14 +156,14 @@ void PlaceArrow(Mod3D::Obj& arrow, const Followed& car, const world::Map& map, s
 
 void TurnYaw(Camera& camera, double target, double factor)
 {
-    double yaw = Mod3D::WrapAngle(camera.CamYaw);
-    target = Mod3D::WrapAngle(target);
-    if (std::abs(target - yaw) > Mod3D::Pi)
-        (yaw < target ? yaw : target) += Mod3D::TwoPi;
+    double yaw = render::WrapAngle(camera.CamYaw);
+    target = render::WrapAngle(target);
+    if (std::abs(target - yaw) > render::Pi)
+        (yaw < target ? yaw : target) += render::TwoPi;
     camera.CamYaw = static_cast<float>(yaw + (target - yaw) / factor);
 }
 
-void PlaceView(Camera& camera, Mod3D::Scene& scene, const world::Race& race, const world::HeldKeys& keys,
+void PlaceView(Camera& camera, render::Scene& scene, const world::Race& race, const world::HeldKeys& keys,
                std::int16_t arrowObj)
 {
     if (camera.View < 0 || camera.View > 7)

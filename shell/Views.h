@@ -7,10 +7,10 @@
 namespace shell
 {
 // Smoothing of the yaw, the short way round.
-void TurnYaw(Mod3D::Camera& camera, double target, double factor);
+void TurnYaw(render::Camera& camera, double target, double factor);
 
 // The placement of the camera's view for the car it follows, then the navigation arrow. Views outside 0 to 7 do
 // nothing; neither does a followed car that does not exist.
-void PlaceView(Mod3D::Camera& camera, Mod3D::Scene& scene, const world::Race& race, const world::HeldKeys& keys,
+void PlaceView(render::Camera& camera, render::Scene& scene, const world::Race& race, const world::HeldKeys& keys,
                std::int16_t arrowObj);
 }

@@ -29,29 +29,29 @@ constexpr std::array<Stage, 5> Stages = {{
 
 const Stage& StageOf(std::uint8_t state)
 {
-    return state < Stages.size() ? Stages[state] : Stages[modEscapi::Idle];
+    return state < Stages.size() ? Stages[state] : Stages[webcam::Idle];
 }
 }
 
 bool Form1::TakeFrame()
 {
-    modEscapi::Webcam& webcam = TheGame.Webcam;
-    return modEscapi::GetFrame(ThePlatform.Camera(), webcam.Capture, 0, 0, modEscapi::CaptureWidth,
-                               modEscapi::CaptureHeight, webcam.Frame);
+    webcam::Webcam& webcam = TheGame.Webcam;
+    return webcam::GetFrame(ThePlatform.WebcamDevice(), webcam.Capture, 0, 0, webcam::CaptureWidth,
+                            webcam::CaptureHeight, webcam.Frame);
 }
 
 // False: what went wrong has been shown.
 bool Form1::OpenWebcam()
 {
-    const std::int32_t error = modEscapi::InitCapture(ThePlatform.Camera(), TheGame.Webcam.Capture);
-    if (error != modEscapi::CaptureOK)
-        TheWindow->ShowMessage(base::Icon::Critical, base::DefaultTitle, modEscapi::CaptureErrorText(error));
-    return error == modEscapi::CaptureOK;
+    const std::int32_t error = webcam::InitCapture(ThePlatform.WebcamDevice(), TheGame.Webcam.Capture);
+    if (error != webcam::CaptureOK)
+        TheWindow->ShowMessage(base::Icon::Critical, base::DefaultTitle, webcam::CaptureErrorText(error));
+    return error == webcam::CaptureOK;
 }
 
 void Form1::CloseWebcam()
 {
-    modEscapi::DeinitCapture(ThePlatform, TheGame.Webcam.Capture, CloseTimeout);
+    webcam::DeinitCapture(ThePlatform, TheGame.Webcam.Capture, CloseTimeout);
 }
 
 void Form1::cCamConfig_Click(std::int16_t)
@@ -66,7 +66,7 @@ void Form1::cCamConfig_Click(std::int16_t)
 
 void Form1::cStartCamConf_Click(std::int16_t)
 {
-    TheGame.Webcam.State = modEscapi::Asked;
+    TheGame.Webcam.State = webcam::Asked;
     ShowCalibration();
 }
 
@@ -87,7 +87,7 @@ void Form1::CaptureT_Tick()
     TheGame.Timers.CaptureT.Tick();
     if (!TakeFrame())
         return;
-    modEscapi::Calibrate(TheGame.Webcam, TheGame.Pictures.Inside, ThePlatform.TickCount());
+    webcam::Calibrate(TheGame.Webcam, TheGame.Pictures.Inside, ThePlatform.TickCount());
     ShowCalibration();
     Repaint();
 }
@@ -99,7 +99,7 @@ void Form1::ShowCalibration()
 
 void Form1::PaintPreview(forms::Canvas& canvas, const forms::Rect& place) const
 {
-    const modEscapi::Webcam& webcam = TheGame.Webcam;
+    const webcam::Webcam& webcam = TheGame.Webcam;
     forms::Stretch(canvas, place, webcam.FrameHeader.biWidth, webcam.FrameHeader.biHeight, webcam.Frame.RowBytes,
                    webcam.Frame.Bytes.data());
     constexpr double around = 2;
@@ -120,8 +120,8 @@ void Form1::ShowInset()
         return base::RoundEven((shake <= 1 ? draw : draw - 0.5) * shake + middle);
     };
     const std::int32_t left = place(InsetLeft), top = place(InsetTop);
-    modEscapi::Webcam& webcam = TheGame.Webcam;
-    modEscapi::ReplaceBackground(webcam.Background, webcam.Frame, TheGame.Pictures.Inside);
-    modEscapi::CopyInset(webcam.Frame, left, top, InsetSize, InsetSize, TheGame.Scene.Pics.At(inset).Pic.Pixels);
+    webcam::Webcam& webcam = TheGame.Webcam;
+    webcam::ReplaceBackground(webcam.Background, webcam.Frame, TheGame.Pictures.Inside);
+    webcam::CopyInset(webcam.Frame, left, top, InsetSize, InsetSize, TheGame.Scene.Pics.At(inset).Pic.Pixels);
 }
 }

@@ -1,6 +1,6 @@
 #include "shell/WinDrag.h"
 
-namespace modWinDrag
+namespace shell
 {
 void DragStart(Drag& drag, platform::Window& window, bool fullScreen)
 {

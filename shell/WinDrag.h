@@ -2,7 +2,7 @@
 #pragma once
 #include "platform/Platform.h"
 
-namespace modWinDrag
+namespace shell
 {
 struct Drag
 {

@@ -1,6 +1,6 @@
 #include "webcam/Calibration.h"
 
-namespace modEscapi
+namespace webcam
 {
 namespace
 {
@@ -14,7 +14,7 @@ bool HasCome(std::uint32_t deadline, std::uint32_t now)
 }
 }
 
-void Calibrate(Webcam& webcam, const ModBitmap::Picture& backdrop, std::uint32_t now)
+void Calibrate(Webcam& webcam, const render::Picture& backdrop, std::uint32_t now)
 {
     switch (webcam.State)
     {

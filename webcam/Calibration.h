@@ -7,7 +7,7 @@
 
 #include <cstdint>
 
-namespace modEscapi
+namespace webcam
 {
 enum CalibrationState : std::uint8_t
 {
@@ -20,21 +20,21 @@ enum CalibrationState : std::uint8_t
 
 struct Webcam
 {
-    modEscapi::Capture Capture;
+    webcam::Capture Capture;
     std::uint8_t State = Idle;  // CalibrationState
     std::uint32_t Deadline = 0; // clock, milliseconds
-    ModBitmap::PicHeader FrameHeader;
-    ModBitmap::PicArray2D Frame; // CaptureWidth x CaptureHeight
+    render::PicHeader FrameHeader;
+    render::PicArray2D Frame; // CaptureWidth x CaptureHeight
     MotionDetector Motion;
-    modEscapi::Background Background;
+    webcam::Background Background;
 };
 
 // What a new frame does in the present state; in the last one it is keyed against the backdrop.
-void Calibrate(Webcam& webcam, const ModBitmap::Picture& backdrop, std::uint32_t now);
+void Calibrate(Webcam& webcam, const render::Picture& backdrop, std::uint32_t now);
 }
 
-template <> struct base::FieldsOf<modEscapi::Webcam>
+template <> struct base::FieldsOf<webcam::Webcam>
 {
-    using W = modEscapi::Webcam;
+    using W = webcam::Webcam;
     static constexpr auto Table = std::make_tuple(Field{"State", &W::State});
 };

@@ -4,7 +4,7 @@
 
 #include <algorithm>
 
-namespace modEscapi
+namespace webcam
 {
 namespace
 {
@@ -32,7 +32,7 @@ std::int32_t InitCapture(platform::Webcam& device, Capture& capture)
 
 std::int32_t DeinitCapture(platform::Platform& platform, Capture& capture, std::int32_t timeout)
 {
-    platform::Webcam& device = platform.Camera();
+    platform::Webcam& device = platform.WebcamDevice();
     std::int32_t result = CaptureOK;
     const std::uint32_t start = platform.TickCount();
     while (timeout != 0 && capture.Open != base::False && !device.IsCaptureDone())
@@ -50,7 +50,7 @@ std::int32_t DeinitCapture(platform::Platform& platform, Capture& capture, std::
 }
 
 bool GetFrame(platform::Webcam& device, Capture& capture, std::int32_t left, std::int32_t top, std::int32_t width,
-              std::int32_t height, ModBitmap::PicArray2D& frame)
+              std::int32_t height, render::PicArray2D& frame)
 {
     if (capture.Open == base::False || !device.IsCaptureDone())
         return false;

@@ -9,7 +9,7 @@
 #include <string>
 #include <vector>
 
-namespace modEscapi
+namespace webcam
 {
 inline constexpr std::int32_t CaptureWidth = 107, CaptureHeight = 80; // pixels
 
@@ -37,13 +37,13 @@ std::int32_t DeinitCapture(platform::Platform& platform, Capture& capture, std::
 // Where the frame asked for has come: turns the rectangle from (left, top), rows counted from the bottom, upside down
 // into the picture and asks for the next one. False: it has not come.
 bool GetFrame(platform::Webcam& device, Capture& capture, std::int32_t left, std::int32_t top, std::int32_t width,
-              std::int32_t height, ModBitmap::PicArray2D& frame);
+              std::int32_t height, render::PicArray2D& frame);
 
 std::string CaptureErrorText(std::int32_t number);
 }
 
-template <> struct base::FieldsOf<modEscapi::Capture>
+template <> struct base::FieldsOf<webcam::Capture>
 {
-    using C = modEscapi::Capture;
+    using C = webcam::Capture;
     static constexpr auto Table = std::make_tuple(Fixed{"DeviceCount", &C::DeviceCount}, Fixed{"Open", &C::Open});
 };

@@ -4,7 +4,7 @@
 #include <cstdlib>
 #include <cstring>
 
-namespace modEscapi
+namespace webcam
 {
 namespace
 {
@@ -13,7 +13,7 @@ std::size_t Index(std::int32_t width, std::int32_t x, std::int32_t y)
     return static_cast<std::size_t>(y) * static_cast<std::size_t>(width) + static_cast<std::size_t>(x);
 }
 
-void MeasureDifferences(Background& background, const ModBitmap::PicArray2D& frame)
+void MeasureDifferences(Background& background, const render::PicArray2D& frame)
 {
     for (std::int32_t y = 0; y < background.Height; ++y)
     {
@@ -43,8 +43,7 @@ void SumBlocks(Background& background)
 }
 }
 
-std::int32_t MotionAmount(MotionDetector& detector, const ModBitmap::PicArray2D& frame,
-                          const ModBitmap::PicHeader& header)
+std::int32_t MotionAmount(MotionDetector& detector, const render::PicArray2D& frame, const render::PicHeader& header)
 {
     const std::int32_t width = header.biWidth, height = header.biHeight;
     if (detector.Width != width || detector.Height != height)
@@ -68,7 +67,7 @@ std::int32_t MotionAmount(MotionDetector& detector, const ModBitmap::PicArray2D&
     return static_cast<std::int32_t>(std::min<std::int64_t>(total / (height + 3 * width), StillMoving));
 }
 
-void SetBackground(Background& background, const ModBitmap::PicArray2D& frame, const ModBitmap::PicHeader& header)
+void SetBackground(Background& background, const render::PicArray2D& frame, const render::PicHeader& header)
 {
     background.Width = header.biWidth;
     background.Height = header.biHeight;
@@ -78,7 +77,7 @@ void SetBackground(Background& background, const ModBitmap::PicArray2D& frame, c
     background.Sum.resize(pixels);
 }
 
-void ReplaceBackground(Background& background, ModBitmap::PicArray2D& frame, const ModBitmap::Picture& backdrop)
+void ReplaceBackground(Background& background, render::PicArray2D& frame, const render::Picture& backdrop)
 {
     if (background.Width == 0 || frame.Rows < background.Height || frame.RowBytes < 3 * background.Width)
         return;
@@ -97,8 +96,8 @@ void ReplaceBackground(Background& background, ModBitmap::PicArray2D& frame, con
     }
 }
 
-void CopyInset(const ModBitmap::PicArray2D& frame, std::int32_t left, std::int32_t top, std::int32_t width,
-               std::int32_t height, ModBitmap::PicArray2D& destination)
+void CopyInset(const render::PicArray2D& frame, std::int32_t left, std::int32_t top, std::int32_t width,
+               std::int32_t height, render::PicArray2D& destination)
 {
     if (left < 0 || top < 0)
         return;

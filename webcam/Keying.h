@@ -6,7 +6,7 @@
 #include <cstdint>
 #include <vector>
 
-namespace modEscapi
+namespace webcam
 {
 inline constexpr std::int32_t StillMoving = 2147483647; // what the first frame of a size answers
 inline constexpr std::int32_t ForegroundSum = 700;      // of a 3 x 3 block's differences: from here on it is the player
@@ -20,7 +20,7 @@ struct MotionDetector
 struct Background
 {
     std::int32_t Width = 0, Height = 0; // 0 until the background has been learnt
-    ModBitmap::PicArray2D Frame;
+    render::PicArray2D Frame;
     std::vector<std::int16_t> Difference; // of each pixel, all three colours together
     std::vector<std::int32_t> Sum;        // of each pixel's 3 x 3 block; the border keeps 0
 };
@@ -28,16 +28,15 @@ struct Background
 // How much the frame differs from the last one: the sum of all byte differences over (height + 3 width), StillMoving
 // for the first frame of a size. Deliberate: divided by the sum of the two dimensions, which is what thresholds are
 // tuned to.
-std::int32_t MotionAmount(MotionDetector& detector, const ModBitmap::PicArray2D& frame,
-                          const ModBitmap::PicHeader& header);
+std::int32_t MotionAmount(MotionDetector& detector, const render::PicArray2D& frame, const render::PicHeader& header);
 
 // Takes the frame as the empty scene. Allocates only where the size is new.
-void SetBackground(Background& background, const ModBitmap::PicArray2D& frame, const ModBitmap::PicHeader& header);
+void SetBackground(Background& background, const render::PicArray2D& frame, const render::PicHeader& header);
 
 // Puts the backdrop wherever the frame looks like the background. Where the backdrop ends, the frame stays.
-void ReplaceBackground(Background& background, ModBitmap::PicArray2D& frame, const ModBitmap::Picture& backdrop);
+void ReplaceBackground(Background& background, render::PicArray2D& frame, const render::Picture& backdrop);
 
 // A block of the frame from (left, top), rows counted from the bottom, to (0, 0) of the destination.
-void CopyInset(const ModBitmap::PicArray2D& frame, std::int32_t left, std::int32_t top, std::int32_t width,
-               std::int32_t height, ModBitmap::PicArray2D& destination);
+void CopyInset(const render::PicArray2D& frame, std::int32_t left, std::int32_t top, std::int32_t width,
+               std::int32_t height, render::PicArray2D& destination);
 }

@@ -7,7 +7,7 @@
 #include <bit>
 #include <cmath>
 
-namespace modDinamica
+namespace world
 {
 namespace
 {
@@ -19,7 +19,7 @@ constexpr float MostShake = 4.0f;
 // One of the two that touch.
 struct Body
 {
-    Mod3D::Obj& Object;
+    render::Obj& Object;
     world::Player* Player; // null where it is no car
     std::int32_t Index;    // of the player
 };
@@ -36,40 +36,40 @@ struct Impact
     double V = 0.0, K = 0.0, Strength = 0.0; // Strength = V x K
 };
 
-std::size_t SphereCount(const Mod3D::Obj& object)
+std::size_t SphereCount(const render::Obj& object)
 {
     return std::min(object.Sfere.size(), static_cast<std::size_t>(std::max<int>(object.NumSfere, 0)));
 }
 
-bool Collides(const Mod3D::Obj& object)
+bool Collides(const render::Obj& object)
 {
     return object.Free == 0 && SphereCount(object) > 0;
 }
 
-bool AreNear(const Mod3D::Obj& a, const Mod3D::Obj& b)
+bool AreNear(const render::Obj& a, const render::Obj& b)
 {
     const double reach = static_cast<double>(a.Radius) + b.Radius;
-    return Mod3D::Dist3D(a.X, a.Y, a.Z, b.X, b.Y, b.Z) < reach && std::isfinite(reach);
+    return render::Dist3D(a.X, a.Y, a.Z, b.X, b.Y, b.Z) < reach && std::isfinite(reach);
 }
 
-Mod3D::Point3 Centre(const Mod3D::Obj& object, const Mod3D::Rotation& rotation, const Mod3D::Sfera& sphere)
+render::Point3 Centre(const render::Obj& object, const render::Rotation& rotation, const render::Sfera& sphere)
 {
-    return Mod3D::RotatePoint(rotation, object.X, object.Y, object.Z, sphere.X, sphere.Y, sphere.Z);
+    return render::RotatePoint(rotation, object.X, object.Y, object.Z, sphere.X, sphere.Y, sphere.Z);
 }
 
 // The object's rotation. Most objects never turn: their sines and cosines are found once.
-Mod3D::Rotation RotationOf(const Mod3D::Obj& object, world::KnownRotation& known)
+render::Rotation RotationOf(const render::Obj& object, KnownRotation& known)
 {
     // By their bits: -0 is not 0 here, and what is no number is itself.
     const auto same = [](float a, float b)
     { return std::bit_cast<std::uint32_t>(a) == std::bit_cast<std::uint32_t>(b); };
     if (!same(object.AngleA, known.AngleA) || !same(object.AngleB, known.AngleB))
-        known = {object.AngleA, object.AngleB, Mod3D::MakeRotation(object.AngleA, object.AngleB)};
+        known = {object.AngleA, object.AngleB, render::MakeRotation(object.AngleA, object.AngleB)};
     return known.Rotation;
 }
 
-bool FindContact(const Mod3D::Obj& i, const Mod3D::Rotation& turnI, const Mod3D::Obj& j, const Mod3D::Rotation& turnJ,
-                 std::vector<Mod3D::Point3>& centres, Contact& contact)
+bool FindContact(const render::Obj& i, const render::Rotation& turnI, const render::Obj& j,
+                 const render::Rotation& turnJ, std::vector<render::Point3>& centres, Contact& contact)
 {
     const std::size_t countJ = SphereCount(j);
     centres.clear();
@@ -77,11 +77,11 @@ bool FindContact(const Mod3D::Obj& i, const Mod3D::Rotation& turnI, const Mod3D:
         centres.push_back(Centre(j, turnJ, j.Sfere[b]));
     for (std::size_t a = 0; a < SphereCount(i); ++a)
     {
-        const Mod3D::Point3 p = Centre(i, turnI, i.Sfere[a]);
+        const render::Point3 p = Centre(i, turnI, i.Sfere[a]);
         for (std::size_t b = 0; b < countJ; ++b)
         {
-            const Mod3D::Point3& q = centres[b];
-            const double distance = Mod3D::Dist3D(p.X, p.Y, p.Z, q.X, q.Y, q.Z);
+            const render::Point3& q = centres[b];
+            const double distance = render::Dist3D(p.X, p.Y, p.Z, q.X, q.Y, q.Z);
             const double reach = static_cast<double>(i.Sfere[a].R) + j.Sfere[b].R;
             if (distance < reach && std::isfinite(reach))
             {
@@ -94,7 +94,7 @@ bool FindContact(const Mod3D::Obj& i, const Mod3D::Rotation& turnI, const Mod3D:
 }
 
 // Mass of j to mass of i.
-double MassRatio(const Mod3D::Obj& i, const Mod3D::Obj& j)
+double MassRatio(const render::Obj& i, const render::Obj& j)
 {
     const double ratio = static_cast<double>(j.Mass) / i.Mass;
     return std::isnan(ratio) ? 1.0 : std::clamp(ratio, LeastRatio, MostRatio);
@@ -105,17 +105,17 @@ Impact ImpactOf(const Body& i, const Body& j, double ratio, double half)
     Impact impact;
     if (i.Player != nullptr && j.Player != nullptr)
     {
-        impact.K = std::fabs(base::Atan(half) / Mod3D::HalfPi);
+        impact.K = std::fabs(base::Atan(half) / render::HalfPi);
         impact.V = std::fabs(static_cast<double>(i.Player->Speed) + j.Player->Speed);
     }
     else if (i.Player != nullptr)
     {
-        impact.K = base::Atan(ratio) / Mod3D::HalfPi;
+        impact.K = base::Atan(ratio) / render::HalfPi;
         impact.V = std::fabs(i.Player->Speed);
     }
     else if (j.Player != nullptr)
     {
-        impact.K = base::Atan(1.0 / ratio) / Mod3D::HalfPi;
+        impact.K = base::Atan(1.0 / ratio) / render::HalfPi;
         impact.V = std::fabs(j.Player->Speed);
     }
     impact.Strength = impact.V * impact.K;
@@ -123,28 +123,28 @@ Impact ImpactOf(const Body& i, const Body& j, double ratio, double half)
 }
 
 // Every point that the sphere links is pressed in, computed from where it was when the model was loaded.
-void Dent(Mod3D::Obj& object, const Mod3D::Sfera& sphere, base::Random& random)
+void Dent(render::Obj& object, const render::Sfera& sphere, base::Random& random)
 {
-    for (const Mod3D::SfereLink& link : sphere.Links)
+    for (const render::SfereLink& link : sphere.Links)
     {
         if (link.M < 0 || static_cast<std::size_t>(link.M) >= object.Mesh.size())
             continue;
-        Mod3D::ObjMesh& mesh = object.Mesh[static_cast<std::size_t>(link.M)];
+        render::ObjMesh& mesh = object.Mesh[static_cast<std::size_t>(link.M)];
         if (!mesh.Pts.Has(link.I, link.J) || !mesh.Undamaged.Has(link.I, link.J))
             continue;
-        const Mod3D::MeshPt& whole = mesh.Undamaged.At(link.I, link.J);
-        Mod3D::MeshPt& point = mesh.Pts.At(link.I, link.J);
+        const render::MeshPt& whole = mesh.Undamaged.At(link.I, link.J);
+        render::MeshPt& point = mesh.Pts.At(link.I, link.J);
         point.X = Single(whole.X * (0.95 - 0.15 * random.Next()));
         point.Y = Single(whole.Y * (0.95 - 0.15 * random.Next()));
         point.Z = Single(whole.Z * (0.95 - 0.15 * random.Next()));
     }
 }
 
-void BreakGlass(Mod3D::Obj& car, std::int16_t texture)
+void BreakGlass(render::Obj& car, std::int16_t texture)
 {
     if (texture < 0 || car.Mesh.size() <= GlassMesh)
         return;
-    Mod3D::ObjMesh& glass = car.Mesh[GlassMesh];
+    render::ObjMesh& glass = car.Mesh[GlassMesh];
     glass.TexIndex = texture;
     if (glass.Colour >= 0)
         glass.Colour = -1;
@@ -167,9 +167,9 @@ void Suffer(Simulation& sim, const Body& body, std::size_t sphere, double k, dou
 }
 
 // The lighter one is pushed farther. Two at one place part along x.
-void Separate(Mod3D::Obj& i, Mod3D::Obj& j, double push, double ratio)
+void Separate(render::Obj& i, render::Obj& j, double push, double ratio)
 {
-    const double d = Mod3D::Dist2D(i.X, i.Z, j.X, j.Z);
+    const double d = render::Dist2D(i.X, i.Z, j.X, j.Z);
     const double dx = static_cast<double>(i.X) - j.X;
     const double dz = static_cast<double>(i.Z) - j.Z;
     const double px = d > 0.0 ? dx / d * push : push;
@@ -181,7 +181,7 @@ void Separate(Mod3D::Obj& i, Mod3D::Obj& j, double push, double ratio)
 }
 
 // The lighter one turns farther.
-void TurnAside(Mod3D::Obj& i, Mod3D::Obj& j, double half, double ratio)
+void TurnAside(render::Obj& i, render::Obj& j, double half, double ratio)
 {
     i.AngleA = Single(i.AngleA - (ratio >= 1.0 ? half : ratio * half));
     j.AngleA = Single(j.AngleA + (ratio >= 1.0 ? half / ratio : half));
@@ -207,11 +207,11 @@ Body BodyOf(Simulation& sim, std::size_t object)
 // One ordered pair of objects with spheres. True where they touched, and so have moved.
 bool CollidePair(Simulation& sim, std::size_t first, std::size_t second)
 {
-    const Mod3D::Obj& a = sim.Scene.Objects.Items[first];
-    const Mod3D::Obj& b = sim.Scene.Objects.Items[second];
+    const render::Obj& a = sim.Scene.Objects.Items[first];
+    const render::Obj& b = sim.Scene.Objects.Items[second];
     if (!AreNear(a, b))
         return false;
-    world::TickScratch& scratch = sim.Race.Scratch;
+    TickScratch& scratch = sim.Race.Scratch;
     Contact contact;
     if (!FindContact(a, RotationOf(a, scratch.Rotations[first]), b, RotationOf(b, scratch.Rotations[second]),
                      scratch.Centres, contact))
@@ -220,7 +220,7 @@ bool CollidePair(Simulation& sim, std::size_t first, std::size_t second)
     const Body i = BodyOf(sim, first);
     const Body j = BodyOf(sim, second);
     const double ratio = MassRatio(i.Object, j.Object);
-    const double half = Mod3D::WrapAngle(static_cast<double>(i.Object.AngleA) - j.Object.AngleA) / 2.0;
+    const double half = render::WrapAngle(static_cast<double>(i.Object.AngleA) - j.Object.AngleA) / 2.0;
     const Impact impact = ImpactOf(i, j, ratio, half);
     if (!std::isfinite(impact.Strength))
         return false;
@@ -239,7 +239,7 @@ bool CollidePair(Simulation& sim, std::size_t first, std::size_t second)
 // Which player drives each object, and which objects can touch at all. Neither changes while the pairs are walked.
 void ListBodies(Simulation& sim)
 {
-    world::TickScratch& scratch = sim.Race.Scratch;
+    TickScratch& scratch = sim.Race.Scratch;
     scratch.CarOf.assign(sim.Scene.Objects.Items.size(), -1);
     for (std::int16_t index = sim.Race.NumPlayers; index-- > 0;)
     {
@@ -273,7 +273,7 @@ void Collide(Simulation& sim)
     const auto object = [&](std::size_t body) { return static_cast<std::size_t>(bodies[body]); };
     const auto place = [&](std::size_t body)
     {
-        const Mod3D::Obj& placed = sim.Scene.Objects.Items[object(body)];
+        const render::Obj& placed = sim.Scene.Objects.Items[object(body)];
         footprints[body] = FootprintOf(placed.X, placed.Z, placed.Radius);
         strips.Add(body, footprints[body]);
     };

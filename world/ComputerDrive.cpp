@@ -5,7 +5,7 @@
 
 #include <cmath>
 
-namespace modDinamica
+namespace world
 {
 namespace
 {
@@ -19,14 +19,14 @@ struct Course
 // The turn from a heading to the direction (x, z) of that length; from angle 0 where there is no direction.
 double TurnTo(double x, double z, double length, double heading)
 {
-    return Mod3D::WrapAngle((length > 0.0 ? -Mod3D::AngleOf(x / length, z / length) : 0.0) - heading);
+    return render::WrapAngle((length > 0.0 ? -render::AngleOf(x / length, z / length) : 0.0) - heading);
 }
 
 // False on the target itself and where there is no way to it.
-bool PlotCourse(const world::Map& map, const world::Player& player, const Mod3D::Obj& car, Course& course)
+bool PlotCourse(const Map& map, const Player& player, const render::Obj& car, Course& course)
 {
-    const world::Target* target = CheckpointAt(map, player.NextCheckpoint);
-    const world::Target* next =
+    const Target* target = CheckpointAt(map, player.NextCheckpoint);
+    const Target* next =
         target != nullptr ? CheckpointAt(map, (player.NextCheckpoint + 1) % map.NumCheckpoints) : nullptr;
     if (next == nullptr)
         return false;
@@ -36,17 +36,17 @@ bool PlotCourse(const world::Map& map, const world::Player& player, const Mod3D:
     course.Turn = TurnTo(static_cast<double>(target->X) - car.X, static_cast<double>(target->Z) - car.Z,
                          course.Distance, car.AngleA);
     course.FollowingTurn = TurnTo(static_cast<double>(next->X) - target->X, static_cast<double>(next->Z) - target->Z,
-                                  Mod3D::Dist2D(target->X, target->Z, next->X, next->Z), car.AngleA);
+                                  render::Dist2D(target->X, target->Z, next->X, next->Z), car.AngleA);
     return true;
 }
 
-void SpeedUp(world::Player& player)
+void SpeedUp(Player& player)
 {
     if (player.Speed < player.CurMaxSpeed)
         player.Speed += player.CurAcceleration;
 }
 
-void Throttle(Simulation& sim, world::Player& player, const Course& course)
+void Throttle(Simulation& sim, Player& player, const Course& course)
 {
     const double s = player.Speed;
     if (s < 0.6)
@@ -67,7 +67,7 @@ void Throttle(Simulation& sim, world::Player& player, const Course& course)
     }
 }
 
-void Steer(world::Player& player, Mod3D::Obj& car, double wanted)
+void Steer(Player& player, render::Obj& car, double wanted)
 {
     if (wanted == 0.0)
         return;
@@ -86,8 +86,8 @@ void ComputerDrive(Simulation& sim)
 {
     for (std::int16_t index = 0; index < sim.Race.NumPlayers; ++index)
     {
-        world::Player& player = *PlayerAt(sim.Race, index);
-        Mod3D::Obj* car = ObjectAt(sim.Scene, player.Obj);
+        Player& player = *PlayerAt(sim.Race, index);
+        render::Obj* car = ObjectAt(sim.Scene, player.Obj);
         if (player.Control == 0 || car == nullptr)
             continue;
         Course course;

@@ -6,7 +6,7 @@
 #include <array>
 #include <cmath>
 
-namespace modDinamica
+namespace world
 {
 namespace
 {
@@ -27,7 +27,7 @@ std::size_t GearIndex(float speed)
     return gear;
 }
 
-void Accelerate(Simulation& sim, world::Player& player)
+void Accelerate(Simulation& sim, Player& player)
 {
     if (player.Speed >= 0.0f)
     {
@@ -45,7 +45,7 @@ void Accelerate(Simulation& sim, world::Player& player)
     }
 }
 
-void BrakeOrReverse(Simulation& sim, world::Player& player)
+void BrakeOrReverse(Simulation& sim, Player& player)
 {
     if (player.Speed <= 0.0f)
     {
@@ -60,7 +60,7 @@ void BrakeOrReverse(Simulation& sim, world::Player& player)
     }
 }
 
-void PullHandbrake(Simulation& sim, world::Player& player)
+void PullHandbrake(Simulation& sim, Player& player)
 {
     const double grip = player.CurBrake / 4.0;
     if (std::fabs(player.Speed) > grip)
@@ -72,13 +72,13 @@ void PullHandbrake(Simulation& sim, world::Player& player)
         player.Speed = 0.0f;
 }
 
-void Turn(const world::Player& player, Mod3D::Obj& car, int side)
+void Turn(const Player& player, render::Obj& car, int side)
 {
     car.AngleA = Single(car.AngleA + side * (SteerFactor(player.Speed) * player.CurWRS));
 }
 
 // side: +1 left, -1 right.
-void Corner(Simulation& sim, world::Player& player, Mod3D::Obj& car, int side)
+void Corner(Simulation& sim, Player& player, render::Obj& car, int side)
 {
     float& sway = sim.Camera.CamSway;
     if (player.Speed >= 0.0f && side * static_cast<double>(sway) < MostSway)
@@ -94,7 +94,7 @@ void Corner(Simulation& sim, world::Player& player, Mod3D::Obj& car, int side)
     player.Speed = Single(player.Speed * 0.99); // cornering drag
 }
 
-void GoStraight(Simulation& sim, world::Player& player, Mod3D::Obj& car)
+void GoStraight(Simulation& sim, Player& player, render::Obj& car)
 {
     sim.Camera.CamSway = Single(sim.Camera.CamSway * 0.8);
     if (sim.Keys.KeyHandbrake == 0)
@@ -128,7 +128,7 @@ double EngineNote(float speed)
     return (static_cast<double>(speed) - GearTops[gear - 1]) * 0.2 + 0.3;
 }
 
-void ApplyDamage(world::Player& player)
+void ApplyDamage(Player& player)
 {
     const double weakness = player.Damage + 1.0;
     player.CurMaxSpeed = Single(player.MaxSpeed / weakness);
@@ -139,10 +139,10 @@ void ApplyDamage(world::Player& player)
 
 void UserDrive(Simulation& sim)
 {
-    world::Player* player = PlayerAt(sim.Race, sim.Race.UserPlayer);
+    Player* player = PlayerAt(sim.Race, sim.Race.UserPlayer);
     if (player == nullptr || player->Control != 0)
         return;
-    Mod3D::Obj* car = ObjectAt(sim.Scene, player->Obj);
+    render::Obj* car = ObjectAt(sim.Scene, player->Obj);
     if (car == nullptr)
         return;
 
@@ -161,9 +161,9 @@ void UserDrive(Simulation& sim)
     MoveCar(sim, *player);
 }
 
-void MoveCar(Simulation& sim, world::Player& player)
+void MoveCar(Simulation& sim, Player& player)
 {
-    Mod3D::Obj* car = ObjectAt(sim.Scene, player.Obj);
+    render::Obj* car = ObjectAt(sim.Scene, player.Obj);
     if (car == nullptr)
         return;
     const double speed = player.Speed;

@@ -5,7 +5,7 @@
 #include "render/Scene.h"
 #include "world/Race.h"
 
-namespace modDinamica
+namespace world
 {
 // Steering against speed: 0 at rest, 1 at speed 1, then 2 / (s + 1); negative in reverse.
 double SteerFactor(double speed);
@@ -14,16 +14,16 @@ const char* Gear(float speed);
 // Engine-sound step of a speed: climbs within each gear.
 double EngineNote(float speed);
 // Effective values after a change of damage: base / (damage + 1). Steering and friction are not scaled.
-void ApplyDamage(world::Player& player);
+void ApplyDamage(Player& player);
 
 // What one tick of the simulation reads and writes.
 struct Simulation
 {
-    Mod3D::Scene& Scene;
+    render::Scene& Scene;
     world::Race& Race;
-    Mod3D::Camera& Camera; // CamSway is written, ViewPlayer read
-    const world::HeldKeys& Keys;
-    const world::RaceAssets& Assets;
+    render::Camera& Camera; // CamSway is written, ViewPlayer read
+    const HeldKeys& Keys;
+    const RaceAssets& Assets;
     base::Random& Random;
     float EffQuality = 1;  // 0 no particles
     bool WebcamOn = false; // whether a hit shakes the webcam picture
@@ -32,12 +32,12 @@ struct Simulation
 };
 
 // Darkens two texels under the car's sides by strength (0.7 or 0.9).
-void TyreMarks(Simulation& sim, const world::Player& player, double strength);
+void TyreMarks(Simulation& sim, const Player& player, double strength);
 void ApplyZones(Simulation& sim, std::int16_t player);
 // The user's car for one tick; nothing while the computer drives it.
 void UserDrive(Simulation& sim);
 // Half of Speed along the heading, then rolling friction.
-void MoveCar(Simulation& sim, world::Player& player);
+void MoveCar(Simulation& sim, Player& player);
 // Collisions of all object pairs for one tick, in the order of their indices; each pair sees what the ones before it
 // moved. Only pairs that may touch are looked at.
 void Collide(Simulation& sim);

@@ -7,7 +7,7 @@
 
 #include <algorithm>
 
-namespace modOggetti
+namespace world
 {
 namespace
 {

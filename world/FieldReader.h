@@ -8,7 +8,7 @@
 #include <string>
 #include <string_view>
 
-namespace modOggetti
+namespace world
 {
 class FieldReader
 {

@@ -7,14 +7,14 @@
 
 #include <array>
 
-namespace modOggetti
+namespace world
 {
 namespace
 {
 // One run of a map script.
 struct MapReader
 {
-    Mod3D::Scene& Scene;
+    render::Scene& Scene;
     world::Race& Race;
     base::MessageSink& Messages;
     const base::Files& Files;
@@ -36,7 +36,7 @@ Placement ReadPlacement(FieldReader& in)
     return Placement{in.Single(), in.Single(), in.Single(), in.Single(), in.Single(), in.Byte()};
 }
 
-void Place(Mod3D::Obj& object, const Placement& at)
+void Place(render::Obj& object, const Placement& at)
 {
     object.X = at.X;
     object.Y = at.Y;
@@ -48,7 +48,7 @@ void Place(Mod3D::Obj& object, const Placement& at)
 
 // Runs a model file. Its object, or null where the file failed before it had one; RuntimeError 9 where it simply has
 // none.
-Mod3D::Obj* LoadLast(MapReader& reader, const std::string& model)
+render::Obj* LoadLast(MapReader& reader, const std::string& model)
 {
     const ModelFile loaded = RunModelFile(reader.Scene, reader.Messages, reader.Files, model);
     reader.LastObject = loaded.Current;
@@ -61,7 +61,7 @@ void LoadMapTexture(MapReader& reader)
 {
     const std::string picture = reader.In.Path(reader.Folder);
     const float scale = reader.In.Single();
-    Mod3D::LoadGround(reader.Messages, reader.Files, picture, scale, reader.BlurredGround, reader.Scene.Ground);
+    render::LoadGround(reader.Messages, reader.Files, picture, scale, reader.BlurredGround, reader.Scene.Ground);
 }
 
 void Load3DM(MapReader& reader)
@@ -74,7 +74,7 @@ void LoadPlacedObject(MapReader& reader)
 {
     const std::string model = reader.In.Path(reader.Folder);
     const Placement at = ReadPlacement(reader.In);
-    if (Mod3D::Obj* object = LoadLast(reader, model))
+    if (render::Obj* object = LoadLast(reader, model))
         Place(*object, at);
 }
 
@@ -83,7 +83,7 @@ void LoadPlayer(MapReader& reader)
     const std::string player = reader.In.Path(reader.Folder);
     const std::string model = reader.In.Path(reader.Folder);
     const Placement at = ReadPlacement(reader.In);
-    Mod3D::Obj* object = LoadLast(reader, model);
+    render::Obj* object = LoadLast(reader, model);
     if (object == nullptr)
         return;
     MakePlayer(reader.Messages, reader.Files, player, reader.LastObject, reader.Race);
@@ -93,10 +93,10 @@ void LoadPlayer(MapReader& reader)
 void DuplicateLastObj(MapReader& reader)
 {
     const Placement at = ReadPlacement(reader.In);
-    modPrimitive::DuplicateObj(reader.Scene, reader.LastObject, at.X, at.Y, at.Z, at.AngleA, at.AngleB, at.Visible);
+    render::DuplicateObj(reader.Scene, reader.LastObject, at.X, at.Y, at.Z, at.AngleA, at.AngleB, at.Visible);
 }
 
-std::int16_t LoadList(MapReader& reader, std::vector<world::Target>& list)
+std::int16_t LoadList(MapReader& reader, std::vector<Target>& list)
 {
     return LoadTargets(reader.Messages, reader.Files, reader.In.Path(reader.Folder), list);
 }
@@ -147,7 +147,7 @@ constexpr std::array Commands = {
 };
 }
 
-void LoadMap(Mod3D::Scene& scene, world::Race& race, base::MessageSink& messages, const base::Files& files,
+void LoadMap(render::Scene& scene, Race& race, base::MessageSink& messages, const base::Files& files,
              const std::string& path, bool blurredGround)
 {
     base::Trapped(

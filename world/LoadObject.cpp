@@ -7,7 +7,7 @@
 
 #include <array>
 
-namespace modOggetti
+namespace world
 {
 namespace
 {
@@ -18,7 +18,7 @@ constexpr std::string_view Header = "3DM - VER 1.0.0";
 // One run of a model file.
 struct ModelReader
 {
-    Mod3D::Scene& Scene;
+    render::Scene& Scene;
     base::MessageSink& Messages;
     const base::Files& Files;
     FieldReader In;
@@ -40,7 +40,7 @@ Vector ReadVector(FieldReader& in)
 
 void MakeTexture(ModelReader& reader)
 {
-    modPrimitive::LoadTexture(reader.Scene, reader.Messages, reader.Files, reader.In.Path(reader.Folder));
+    render::LoadTexture(reader.Scene, reader.Messages, reader.Files, reader.In.Path(reader.Folder));
 }
 
 void MakeObj(ModelReader& reader)
@@ -54,13 +54,13 @@ void MakeObj(ModelReader& reader)
     const std::uint8_t visible = in.Byte();
     const float mass = in.Single();
     reader.Result.Current =
-        modPrimitive::MakeObj(reader.Scene, at.X, at.Y, at.Z, angleA, angleB, numMesh, numSfere, visible, mass);
+        render::MakeObj(reader.Scene, at.X, at.Y, at.Z, angleA, angleB, numMesh, numSfere, visible, mass);
     reader.Created.push_back(reader.Result.Current);
 }
 
 void SetObjR(ModelReader& reader)
 {
-    modPrimitive::SetObjR(reader.Scene, reader.Result.Current, reader.In.Single());
+    render::SetObjR(reader.Scene, reader.Result.Current, reader.In.Single());
 }
 
 void EditObjSfere(ModelReader& reader)
@@ -68,7 +68,7 @@ void EditObjSfere(ModelReader& reader)
     const std::int16_t sphere = reader.In.Integer();
     const Vector centre = ReadVector(reader.In);
     const float radius = reader.In.Single();
-    modPrimitive::EditObjSfere(reader.Scene, reader.Result.Current, sphere, centre.X, centre.Y, centre.Z, radius);
+    render::EditObjSfere(reader.Scene, reader.Result.Current, sphere, centre.X, centre.Y, centre.Z, radius);
 }
 
 void AddSfereLink(ModelReader& reader)
@@ -77,7 +77,7 @@ void AddSfereLink(ModelReader& reader)
     const std::int16_t mesh = reader.In.Integer();
     const std::int16_t i = reader.In.Integer();
     const std::int16_t j = reader.In.Integer();
-    modPrimitive::AddSfereLink(reader.Scene, reader.Result.Current, sphere, mesh, i, j);
+    render::AddSfereLink(reader.Scene, reader.Result.Current, sphere, mesh, i, j);
 }
 
 void EditObjMesh(ModelReader& reader)
@@ -88,9 +88,8 @@ void EditObjMesh(ModelReader& reader)
     const std::int32_t shade = reader.In.Long();
     std::int16_t texture = 0;
     if (shade < 0)
-        texture =
-            modPrimitive::FindTexture(reader.Scene, reader.Messages, reader.Files, reader.In.Path(reader.Folder), true);
-    modPrimitive::EditObjMesh(reader.Scene, reader.Result.Current, mesh, rows, cols, shade, texture);
+        texture = render::FindTexture(reader.Scene, reader.Messages, reader.Files, reader.In.Path(reader.Folder), true);
+    render::EditObjMesh(reader.Scene, reader.Result.Current, mesh, rows, cols, shade, texture);
 }
 
 void EditObjMeshPt(ModelReader& reader)
@@ -101,7 +100,7 @@ void EditObjMeshPt(ModelReader& reader)
     const Vector at = ReadVector(reader.In);
     const std::int32_t u = reader.In.Long();
     const std::int32_t v = reader.In.Long();
-    modPrimitive::EditObjMeshPt(reader.Scene, reader.Result.Current, mesh, i, j, at.X, at.Y, at.Z, u, v);
+    render::EditObjMeshPt(reader.Scene, reader.Result.Current, mesh, i, j, at.X, at.Y, at.Z, u, v);
 }
 
 void MakePoly(ModelReader& reader)
@@ -109,14 +108,14 @@ void MakePoly(ModelReader& reader)
     const std::int32_t points = reader.In.Long();
     const std::int32_t colour = reader.In.Long();
     const std::uint8_t visible = reader.In.Byte();
-    reader.Result.Current = modPrimitive::MakePoly(reader.Scene, points, colour, visible);
+    reader.Result.Current = render::MakePoly(reader.Scene, points, colour, visible);
 }
 
 void EditPolyPt(ModelReader& reader)
 {
     const std::int16_t point = reader.In.Integer();
     const Vector at = ReadVector(reader.In);
-    modPrimitive::EditPolyPt(reader.Scene, reader.Result.Current, point, at.X, at.Y, at.Z);
+    render::EditPolyPt(reader.Scene, reader.Result.Current, point, at.X, at.Y, at.Z);
 }
 
 struct Command
@@ -139,10 +138,10 @@ void RunCommands(ModelReader& reader)
         FindCommand(Commands, reader.In.Text()).Run(reader);
 }
 
-void KeepUndamaged(Mod3D::Scene& scene, const std::vector<std::int16_t>& objects)
+void KeepUndamaged(render::Scene& scene, const std::vector<std::int16_t>& objects)
 {
     for (const std::int16_t object : objects)
-        modPrimitive::KeepUndamaged(scene, object);
+        render::KeepUndamaged(scene, object);
 }
 
 struct NoMessages final : base::MessageSink
@@ -151,7 +150,7 @@ struct NoMessages final : base::MessageSink
 };
 }
 
-ModelFile RunModelFile(Mod3D::Scene& scene, base::MessageSink& messages, const base::Files& files,
+ModelFile RunModelFile(render::Scene& scene, base::MessageSink& messages, const base::Files& files,
                        const std::string& path)
 {
     ModelFile result;
@@ -176,7 +175,7 @@ ModelFile RunModelFile(Mod3D::Scene& scene, base::MessageSink& messages, const b
     return result;
 }
 
-std::int16_t LoadObject(Mod3D::Scene& scene, base::MessageSink& messages, const base::Files& files,
+std::int16_t LoadObject(render::Scene& scene, base::MessageSink& messages, const base::Files& files,
                         const std::string& path)
 {
     return RunModelFile(scene, messages, files, path).Current;

@@ -8,7 +8,7 @@
 #include <cstdint>
 #include <string>
 
-namespace modOggetti
+namespace world
 {
 // How the run of a model file ended.
 struct ModelFile
@@ -18,7 +18,7 @@ struct ModelFile
 };
 
 // LoadObject, telling also whether it failed.
-ModelFile RunModelFile(Mod3D::Scene& scene, base::MessageSink& messages, const base::Files& files,
+ModelFile RunModelFile(render::Scene& scene, base::MessageSink& messages, const base::Files& files,
                        const std::string& path);
 
 // The entry of a table of commands; RuntimeError 514 for a keyword that is not in it.

@@ -6,7 +6,7 @@
 #include <bit>
 #include <cmath>
 
-namespace modDinamica
+namespace world
 {
 namespace
 {

@@ -7,7 +7,7 @@
 #include <cstdint>
 #include <vector>
 
-namespace modDinamica
+namespace world
 {
 // The strips that a body reaches into, in both directions: `Count` from `First` on, in turn.
 struct Footprint

@@ -7,7 +7,7 @@
 #include <cmath>
 #include <limits>
 
-namespace modDinamica
+namespace world
 {
 namespace
 {
@@ -22,7 +22,7 @@ std::int32_t NextSmoke(std::int32_t now, double wait)
     return now + base::RoundEven(wait);
 }
 
-void SmokeOrBurn(Simulation& sim, world::Player& player, const Mod3D::Obj& car)
+void SmokeOrBurn(Simulation& sim, Player& player, const render::Obj& car)
 {
     const double x = car.X - base::Sin(car.AngleA);
     const double z = car.Z + base::Cos(car.AngleA);
@@ -31,12 +31,12 @@ void SmokeOrBurn(Simulation& sim, world::Player& player, const Mod3D::Obj& car)
     if (player.Damage < 7.0f)
     {
         const double size = std::min(player.Damage * 4.0, 20.0);
-        Spawn(sim, Emission{sim.Assets.Smoke, modEffects::Smoke, size, x, car.Y + 1.0, z, 0.03, size / 80.0 / s + 0.5});
+        Spawn(sim, Emission{sim.Assets.Smoke, render::Smoke, size, x, car.Y + 1.0, z, 0.03, size / 80.0 / s + 0.5});
     }
     else
     {
-        Spawn(sim, Emission{sim.Assets.FireRed, modEffects::Fire, 25.0, x, car.Y + 0.8, z, 0.04, 0.7 / s});
-        Spawn(sim, Emission{sim.Assets.FireYellow, modEffects::Fire, 25.0, x, car.Y + 0.8, z, 0.03, 0.7 / s});
+        Spawn(sim, Emission{sim.Assets.FireRed, render::Fire, 25.0, x, car.Y + 0.8, z, 0.04, 0.7 / s});
+        Spawn(sim, Emission{sim.Assets.FireYellow, render::Fire, 25.0, x, car.Y + 0.8, z, 0.03, 0.7 / s});
         delay = 140.0;
     }
     player.NextSmoke = NextSmoke(sim.Race.GameTime, delay / s / sim.EffQuality);
@@ -49,8 +49,8 @@ void Spawn(Simulation& sim, const Emission& emission)
         return;
     constexpr double longest = std::numeric_limits<std::int16_t>::max();
     const auto life = static_cast<std::int16_t>(base::RoundEven(std::min(emission.Life, longest)));
-    modEffects::AddParticle(sim.Scene, life, emission.Kind, emission.Picture, Single(emission.X), Single(emission.Y),
-                            Single(emission.Z), Single(emission.Scale), Single(emission.Alpha));
+    render::AddParticle(sim.Scene, life, emission.Kind, emission.Picture, Single(emission.X), Single(emission.Y),
+                        Single(emission.Z), Single(emission.Scale), Single(emission.Alpha));
 }
 
 void DamageSmoke(Simulation& sim)
@@ -58,11 +58,11 @@ void DamageSmoke(Simulation& sim)
     if (sim.EffQuality > 0.0f)
         for (std::int16_t index = 0; index < sim.Race.NumPlayers; ++index)
         {
-            world::Player& player = *PlayerAt(sim.Race, index);
-            const Mod3D::Obj* car = ObjectAt(sim.Scene, player.Obj);
+            Player& player = *PlayerAt(sim.Race, index);
+            const render::Obj* car = ObjectAt(sim.Scene, player.Obj);
             if (car != nullptr && player.Damage > 1.0f && sim.Race.GameTime > player.NextSmoke)
                 SmokeOrBurn(sim, player, *car);
         }
-    modEffects::AdvanceParticles(sim.Scene, sim.Random);
+    render::AdvanceParticles(sim.Scene, sim.Random);
 }
 }

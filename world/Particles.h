@@ -3,12 +3,12 @@
 #include "render/Effects.h"
 #include "world/Dynamics.h"
 
-namespace modDinamica
+namespace world
 {
 struct Emission
 {
-    const ModBitmap::PicReference& Picture;
-    modEffects::Kind Kind;
+    const render::PicReference& Picture;
+    render::Kind Kind;
     double Life; // ticks, rounded, at most 32767
     double X, Y, Z;
     double Scale, Alpha;

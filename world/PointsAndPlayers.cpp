@@ -6,7 +6,7 @@
 
 #include <limits>
 
-namespace modOggetti
+namespace world
 {
 namespace
 {
@@ -14,7 +14,7 @@ constexpr std::size_t MostRecords = std::numeric_limits<std::int16_t>::max(); //
 }
 
 std::int16_t LoadTargets(base::MessageSink& messages, const base::Files& files, const std::string& path,
-                         std::vector<world::Target>& list)
+                         std::vector<Target>& list)
 {
     list.clear();
     base::Trapped(messages, "LoadTargets",
@@ -25,7 +25,7 @@ std::int16_t LoadTargets(base::MessageSink& messages, const base::Files& files, 
                       {
                           if (list.size() == MostRecords)
                               throw base::RuntimeError(base::ErrorOverflow);
-                          list.push_back(world::Target{in.Single(), in.Single(), in.Single(), in.Single()});
+                          list.push_back(Target{in.Single(), in.Single(), in.Single(), in.Single()});
                       }
                   });
     const auto count = static_cast<std::int16_t>(list.size());
@@ -35,7 +35,7 @@ std::int16_t LoadTargets(base::MessageSink& messages, const base::Files& files, 
 }
 
 std::int16_t MakePlayer(base::MessageSink& messages, const base::Files& files, const std::string& path,
-                        std::int16_t object, world::Race& race)
+                        std::int16_t object, Race& race)
 {
     std::int16_t made = -1;
     base::Trapped(messages, "MakePlayer",
@@ -44,7 +44,7 @@ std::int16_t MakePlayer(base::MessageSink& messages, const base::Files& files, c
                       if (race.NumPlayers == std::numeric_limits<std::int16_t>::max())
                           throw base::RuntimeError(base::ErrorOverflow);
                       FieldReader in(files, path);
-                      world::Player player;
+                      Player player;
                       player.WRS = player.CurWRS = in.Single();
                       player.MaxSpeed = player.CurMaxSpeed = in.Single();
                       player.MaxSpeedR = player.CurMaxSpeedR = in.Single();

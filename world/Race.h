@@ -49,19 +49,19 @@ struct Standing
 struct KnownRotation
 {
     float AngleA = 0, AngleB = 0;
-    Mod3D::Rotation Rotation; // of the angles above
+    render::Rotation Rotation; // of the angles above
 };
 
 // What the procedures of a tick derive, kept so that no tick allocates. Nothing here needs to be reset or saved.
 struct TickScratch
 {
     std::vector<Standing> Standings;
-    std::vector<std::int16_t> CarOf;                // by object: the player that drives it, -1 for none
-    std::vector<KnownRotation> Rotations;           // by object
-    std::vector<std::int16_t> Bodies;               // the objects that can touch
-    std::vector<modDinamica::Footprint> Footprints; // by body, as it stands
-    modDinamica::NearStrips Strips;
-    std::vector<Mod3D::Point3> Centres; // of the spheres of the second of a pair
+    std::vector<std::int16_t> CarOf;      // by object: the player that drives it, -1 for none
+    std::vector<KnownRotation> Rotations; // by object
+    std::vector<std::int16_t> Bodies;     // the objects that can touch
+    std::vector<Footprint> Footprints;    // by body, as it stands
+    NearStrips Strips;
+    std::vector<render::Point3> Centres; // of the spheres of the second of a pair
 };
 
 struct Race
@@ -87,7 +87,7 @@ struct RaceAssets
 {
     std::int16_t GlassTexture = -1, BrokenGlassTexture = -1;
     std::int16_t ArrowObj = -1, CupObj = -1;
-    ModBitmap::PicReference Smoke, Water, FireRed, FireYellow;
+    render::PicReference Smoke, Water, FireRed, FireYellow;
 };
 }
 

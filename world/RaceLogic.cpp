@@ -7,38 +7,38 @@
 #include <cmath>
 #include <limits>
 
-namespace modDinamica
+namespace world
 {
 namespace
 {
 constexpr std::int16_t FinishView = 5; // the side camera
 
 // Ground distance from the player's car to its next checkpoint; NaN where either is missing.
-double DistanceToGo(const Mod3D::Scene& scene, const world::Map& map, const world::Player& player)
+double DistanceToGo(const render::Scene& scene, const Map& map, const Player& player)
 {
-    const Mod3D::Obj* car = ObjectAt(scene, player.Obj);
-    const world::Target* next = CheckpointAt(map, player.NextCheckpoint);
+    const render::Obj* car = ObjectAt(scene, player.Obj);
+    const Target* next = CheckpointAt(map, player.NextCheckpoint);
     return car != nullptr && next != nullptr ? GroundDistance(*car, *next) : std::numeric_limits<double>::quiet_NaN();
 }
 
 // The order in which places are given: who has no distance comes behind those who passed as many checkpoints.
-bool ComesBefore(const world::Standing& a, const world::Standing& b)
+bool ComesBefore(const Standing& a, const Standing& b)
 {
     if (a.Passed != b.Passed)
         return a.Passed > b.Passed;
     return !std::isnan(a.ToGo) && (std::isnan(b.ToGo) || a.ToGo < b.ToGo);
 }
 
-bool PassesCheckpoint(const world::Map& map, const world::Player& player, const Mod3D::Obj& car)
+bool PassesCheckpoint(const Map& map, const Player& player, const render::Obj& car)
 {
-    const world::Target* checkpoint = CheckpointAt(map, player.NextCheckpoint);
+    const Target* checkpoint = CheckpointAt(map, player.NextCheckpoint);
     if (checkpoint == nullptr)
         return false;
     const auto index = static_cast<std::size_t>(player.NextCheckpoint);
     return IsInside(car, *checkpoint) || (index < map.ACheckpoints.size() && IsInside(car, map.ACheckpoints[index]));
 }
 
-void CountCheckpoint(world::Player& player, const world::Map& map, base::Random& random)
+void CountCheckpoint(Player& player, const Map& map, base::Random& random)
 {
     CountUp(player.Passed);
     CountUp(player.NextCheckpoint);
@@ -69,16 +69,16 @@ std::string FinishMessage(std::int16_t place)
 void AwardTrophy(Simulation& sim, std::int16_t place)
 {
     constexpr std::int32_t metals[] = {65535, 210 + 216 * 256 + 219 * 65536, 198 + 82 * 256 + 26 * 65536};
-    Mod3D::Obj* trophy = ObjectAt(sim.Scene, sim.Assets.CupObj);
+    render::Obj* trophy = ObjectAt(sim.Scene, sim.Assets.CupObj);
     if (trophy == nullptr || place < 1 || place > 3)
         return;
     trophy->Visible = 1;
     const std::int32_t metal = metals[place - 1];
-    const Mod3D::Rgb colour = Mod3D::SplitRGB(metal);
+    const render::Rgb colour = render::SplitRGB(metal);
     for (const std::size_t index : {6u, 7u})
         if (index < trophy->Mesh.size())
         {
-            Mod3D::ObjMesh& mesh = trophy->Mesh[index];
+            render::ObjMesh& mesh = trophy->Mesh[index];
             mesh.Colour = metal;
             mesh.ColR = colour.R;
             mesh.ColG = colour.G;
@@ -87,7 +87,7 @@ void AwardTrophy(Simulation& sim, std::int16_t place)
 }
 
 // The user's car has done its laps: the computer drives it on.
-void Finish(Simulation& sim, world::Player& player, FinishSink& finish)
+void Finish(Simulation& sim, Player& player, FinishSink& finish)
 {
     player.Control = 1;
     sim.Race.RaceOver = base::True;
@@ -97,13 +97,13 @@ void Finish(Simulation& sim, world::Player& player, FinishSink& finish)
 }
 }
 
-void ComputePlaces(const Mod3D::Scene& scene, world::Race& race)
+void ComputePlaces(const render::Scene& scene, Race& race)
 {
-    std::vector<world::Standing>& standings = race.Scratch.Standings;
+    std::vector<Standing>& standings = race.Scratch.Standings;
     standings.clear();
     for (std::int16_t index = 0; index < race.NumPlayers; ++index)
     {
-        const world::Player& player = *PlayerAt(race, index);
+        const Player& player = *PlayerAt(race, index);
         standings.push_back({player.Passed, index, DistanceToGo(scene, race.Map, player)});
     }
     std::sort(standings.begin(), standings.end(), ComesBefore);
@@ -112,7 +112,7 @@ void ComputePlaces(const Mod3D::Scene& scene, world::Race& race)
     std::size_t equal = 0; // the first of those as near
     for (std::size_t at = 0; at < standings.size(); ++at)
     {
-        const world::Standing& here = standings[at];
+        const Standing& here = standings[at];
         if (here.Passed != standings[group].Passed)
             group = at;
         if (ComesBefore(standings[equal], here))
@@ -125,12 +125,12 @@ void ComputePlaces(const Mod3D::Scene& scene, world::Race& race)
 
 void RaceStep(Simulation& sim, FinishSink& finish)
 {
-    world::Race& race = sim.Race;
+    Race& race = sim.Race;
     sim.InBox = false;
     for (std::int16_t index = 0; index < race.NumPlayers; ++index)
     {
-        world::Player& player = *PlayerAt(race, index);
-        const Mod3D::Obj* car = ObjectAt(sim.Scene, player.Obj);
+        Player& player = *PlayerAt(race, index);
+        const render::Obj* car = ObjectAt(sim.Scene, player.Obj);
         if (car != nullptr && PassesCheckpoint(race.Map, player, *car))
             CountCheckpoint(player, race.Map, sim.Random);
         if (index == race.UserPlayer && player.Lap >= race.Laps && race.RaceOver == base::False)

@@ -4,10 +4,10 @@
 
 #include <string>
 
-namespace modDinamica
+namespace world
 {
 // Place of every player: 1 + the number of players ahead.
-void ComputePlaces(const Mod3D::Scene& scene, world::Race& race);
+void ComputePlaces(const render::Scene& scene, Race& race);
 
 // What the race step asks of the display when the user's car finishes.
 struct FinishSink

@@ -7,20 +7,20 @@
 #include <algorithm>
 #include <cmath>
 
-namespace modDinamica
+namespace world
 {
 namespace
 {
 // Whether one of the first `count` zones contains the car.
-bool IsInsideAny(const Mod3D::Obj& car, const std::vector<world::Target>& zones, std::int16_t count)
+bool IsInsideAny(const render::Obj& car, const std::vector<Target>& zones, std::int16_t count)
 {
     const auto end = zones.begin() + std::min<std::ptrdiff_t>(count, std::ssize(zones));
-    return std::any_of(zones.begin(), end, [&](const world::Target& zone) { return IsInside(car, zone); });
+    return std::any_of(zones.begin(), end, [&](const Target& zone) { return IsInside(car, zone); });
 }
 
-void Darken(Mod3D::Ground& ground, std::int32_t column, std::int32_t row, double strength)
+void Darken(render::Ground& ground, std::int32_t column, std::int32_t row, double strength)
 {
-    ModBitmap::PicArray2D& pixels = ground.Sharp.Pixels;
+    render::PicArray2D& pixels = ground.Sharp.Pixels;
     if (column < 0 || column >= ground.Width || row < 0 || row >= ground.Height || pixels.Empty())
         return;
     std::uint8_t* texel = pixels.Row(row) + static_cast<std::ptrdiff_t>(column) * 3;
@@ -29,11 +29,11 @@ void Darken(Mod3D::Ground& ground, std::int32_t column, std::int32_t row, double
 }
 
 // One puff beside the car.
-void Splash(Simulation& sim, const world::Player& player, const Mod3D::Obj& car)
+void Splash(Simulation& sim, const Player& player, const render::Obj& car)
 {
     const double angle = car.AngleA;
     Spawn(sim, Emission{.Picture = sim.Assets.Water,
-                        .Kind = modEffects::Puff,
+                        .Kind = render::Puff,
                         .Life = 3.0 * std::fabs(player.Speed) + 5.0,
                         .X = car.X + base::Cos(angle),
                         .Y = car.Y + 0.2,
@@ -43,12 +43,12 @@ void Splash(Simulation& sim, const world::Player& player, const Mod3D::Obj& car)
 }
 }
 
-void TyreMarks(Simulation& sim, const world::Player& player, double strength)
+void TyreMarks(Simulation& sim, const Player& player, double strength)
 {
-    const Mod3D::Obj* car = ObjectAt(sim.Scene, player.Obj);
+    const render::Obj* car = ObjectAt(sim.Scene, player.Obj);
     if (car == nullptr)
         return;
-    Mod3D::Ground& ground = sim.Scene.Ground;
+    render::Ground& ground = sim.Scene.Ground;
     const double cosA = base::Cos(car->AngleA);
     const double sinA = base::Sin(car->AngleA);
     for (const int side : {1, -1})
@@ -58,11 +58,11 @@ void TyreMarks(Simulation& sim, const world::Player& player, double strength)
 
 void ApplyZones(Simulation& sim, std::int16_t index)
 {
-    world::Player* player = PlayerAt(sim.Race, index);
-    const Mod3D::Obj* car = player != nullptr ? ObjectAt(sim.Scene, player->Obj) : nullptr;
+    Player* player = PlayerAt(sim.Race, index);
+    const render::Obj* car = player != nullptr ? ObjectAt(sim.Scene, player->Obj) : nullptr;
     if (car == nullptr)
         return;
-    const world::Map& map = sim.Race.Map;
+    const Map& map = sim.Race.Map;
 
     const bool repairs = player->Speed == 0.0f && IsInsideAny(*car, map.Boxes, map.NumBoxes);
     if (index == sim.Camera.ViewPlayer)

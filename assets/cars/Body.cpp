@@ -2,7 +2,7 @@
 #include "cars/Fittings.h"
 #include "cars/Paint.h"
 
-namespace Assets
+namespace assets
 {
 namespace
 {

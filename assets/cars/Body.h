@@ -2,7 +2,7 @@
 #pragma once
 #include "cars/Design.h"
 
-namespace Assets
+namespace assets
 {
 struct BodyPanel
 {

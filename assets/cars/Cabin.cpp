@@ -3,7 +3,7 @@
 #include "cars/Pieces.h"
 #include <cmath>
 
-namespace Assets
+namespace assets
 {
 namespace
 {

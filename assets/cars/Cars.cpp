@@ -1,7 +1,7 @@
 #include "cars/Cars.h"
 #include "cars/Body.h"
 
-namespace Assets
+namespace assets
 {
 void BuildCars(const std::string& root)
 {

@@ -2,7 +2,7 @@
 #pragma once
 #include <string>
 
-namespace Assets
+namespace assets
 {
 // Writes data/models/car_1 … car_8 below `root`, each car.3dm with its texture body.bmp.
 // Throws std::runtime_error when a file cannot be written.

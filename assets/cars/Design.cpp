@@ -2,7 +2,7 @@
 #include "common/Numbers.h"
 #include <cmath>
 
-namespace Assets
+namespace assets
 {
 namespace
 {

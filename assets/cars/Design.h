@@ -4,7 +4,7 @@
 #include <string>
 #include <vector>
 
-namespace Assets
+namespace assets
 {
 enum class Front
 {
@@ -52,15 +52,15 @@ struct Design
 {
     std::string Folder;
     int Number;
-    Assets::Shape Shape;
-    Assets::Livery Livery;
+    assets::Shape Shape;
+    assets::Livery Livery;
     Rgb Base, Second, Third;
     Rgb Plate, Figures; // behind and of the race number
     bool Roundel;       // a disc behind the number; else the number stands on the paint
-    Assets::Front Front;
-    Assets::Rear Rear;
-    Assets::Spoiler Spoiler;
-    Assets::Rim Rim;
+    assets::Front Front;
+    assets::Rear Rear;
+    assets::Spoiler Spoiler;
+    assets::Rim Rim;
     Rgb RimColour;
     bool Louvres; // over the rear window
     Rgb Helmet;

@@ -2,7 +2,7 @@
 #pragma once
 #include "cars/Design.h"
 
-namespace Assets
+namespace assets
 {
 // The flat panels of the cabin, and the dials and steering wheel (texels from the atlas). From mesh 10 on; at least ten
 // meshes.

@@ -1,10 +1,10 @@
 // cars/Lettering.h: words and numbers as areas, for painting on a body.
 #pragma once
-#include "shell/forms/Typeface.h"
+#include "typeface/Typeface.h"
 #include <string_view>
 #include <vector>
 
-namespace Assets
+namespace assets
 {
 class Lettering
 {
@@ -15,7 +15,7 @@ public:
     bool Inside(double x, double y, double border = 0) const;
 
 private:
-    std::vector<Typeface::Segment> _strokes;
+    std::vector<typeface::Segment> _strokes;
     double _scale, _centreX, _centreY;
 };
 }

@@ -4,7 +4,7 @@
 #include <memory>
 #include <string>
 
-namespace Assets
+namespace assets
 {
 namespace
 {

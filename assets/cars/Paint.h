@@ -2,7 +2,7 @@
 #pragma once
 #include "cars/Design.h"
 
-namespace Assets
+namespace assets
 {
 // The paint's colour on a surface with this outward direction, lit from above. `gloss` 0 (cloth) to 1 (fresh paint).
 Rgb Lit(Rgb paint, Vec3 normal, double gloss);

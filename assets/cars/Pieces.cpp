@@ -1,7 +1,7 @@
 #include "cars/Pieces.h"
 #include <algorithm>
 
-namespace Assets
+namespace assets
 {
 namespace
 {

@@ -2,7 +2,7 @@
 #pragma once
 #include "cars/Surface.h"
 
-namespace Assets
+namespace assets
 {
 // The driver sits left of the middle; the eye of the player in the car is at (-0.30, 1.10, -0.05), looking ahead:
 // nothing may stand close before it.

@@ -2,7 +2,7 @@
 #include <algorithm>
 #include <cmath>
 
-namespace Assets
+namespace assets
 {
 namespace
 {

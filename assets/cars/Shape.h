@@ -3,7 +3,7 @@
 #pragma once
 #include "cars/Surface.h"
 
-namespace Assets
+namespace assets
 {
 struct Shape
 {

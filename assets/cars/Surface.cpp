@@ -3,7 +3,7 @@
 #include <cmath>
 #include <stdexcept>
 
-namespace Assets
+namespace assets
 {
 double Dot(Vec3 a, Vec3 b)
 {

@@ -8,7 +8,7 @@
 #include <utility>
 #include <vector>
 
-namespace Assets
+namespace assets
 {
 struct Vec3
 {

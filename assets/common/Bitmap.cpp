@@ -5,7 +5,7 @@
 #include <array>
 #include <cstdint>
 
-namespace Assets
+namespace assets
 {
 static std::uint8_t ByteOf(double value, double offset)
 {

@@ -2,7 +2,7 @@
 
 #include <algorithm>
 
-namespace Assets
+namespace assets
 {
 Canvas::Canvas(int width, int height, Rgb fill) : Canvas(width, height)
 {

@@ -8,7 +8,7 @@
 #include <string>
 #include <vector>
 
-namespace Assets
+namespace assets
 {
 struct Rgb
 {

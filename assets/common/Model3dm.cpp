@@ -6,7 +6,7 @@
 #include <stdexcept>
 #include <system_error>
 
-namespace Assets
+namespace assets
 {
 namespace
 {

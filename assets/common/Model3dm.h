@@ -7,7 +7,7 @@
 #include <string>
 #include <vector>
 
-namespace Assets
+namespace assets
 {
 struct ModelPoint
 {

@@ -2,7 +2,7 @@
 
 #include "common/Numbers.h"
 
-namespace Assets
+namespace assets
 {
 static int Lattice(int value, int period)
 {

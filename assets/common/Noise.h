@@ -2,7 +2,7 @@
 #pragma once
 #include <cstdint>
 
-namespace Assets
+namespace assets
 {
 // Smooth noise, about -1 .. 1. With periods above 0 (in cells) the pattern repeats without a seam.
 double Noise(double x, double y, std::uint32_t seed, int periodX = 0, int periodY = 0);

@@ -4,7 +4,7 @@
 #include <cmath>
 #include <cstdint>
 
-namespace Assets
+namespace assets
 {
 constexpr double Pi = 3.14159265358979323846;
 

@@ -3,7 +3,7 @@
 #include <fstream>
 #include <stdexcept>
 
-namespace Assets
+namespace assets
 {
 void WriteBytes(const std::string& path, std::span<const std::uint8_t> bytes)
 {

@@ -4,7 +4,7 @@
 #include <span>
 #include <string>
 
-namespace Assets
+namespace assets
 {
 // Makes the folders of `path` that are missing. Throws std::runtime_error when the file cannot be written.
 void WriteBytes(const std::string& path, std::span<const std::uint8_t> bytes);

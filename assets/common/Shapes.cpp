@@ -2,7 +2,7 @@
 #include "common/Canvas.h"
 #include <algorithm>
 
-namespace Assets
+namespace assets
 {
 // Whole pixel range that [low, high] touches, cut to 0 .. size - 1; empty when First > Last.
 struct PixelRange

@@ -2,7 +2,7 @@
 #pragma once
 #include "hud/Portrait.h"
 
-namespace Assets
+namespace assets
 {
 // Directions and places are those of the scene: y up, the eye above the origin, the road leading toward the sun.
 struct Dusk

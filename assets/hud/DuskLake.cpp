@@ -4,7 +4,7 @@
 #include <array>
 #include <cmath>
 
-namespace Assets
+namespace assets
 {
 namespace
 {

@@ -3,7 +3,7 @@
 #include <algorithm>
 #include <cmath>
 
-namespace Assets
+namespace assets
 {
 namespace
 {

@@ -4,13 +4,13 @@
 #include "hud/Font.h"
 #include "base/Text.h"
 #include "common/Canvas.h"
-#include "shell/forms/TypefaceShape.h"
+#include "typeface/Shape.h"
 #include <array>
 #include <cmath>
 #include <optional>
 #include <string>
 
-namespace Assets
+namespace assets
 {
 namespace
 {
@@ -66,11 +66,11 @@ struct Bounds
     double Left = 1e9, Top = -1e9;
 };
 
-Bounds Extent(const Typeface::Pieces& pieces)
+Bounds Extent(const typeface::Pieces& pieces)
 {
     Bounds bounds;
-    for (const Typeface::Piece& piece : pieces.Items())
-        for (const Typeface::Point& p : {piece.A, piece.Shape == Typeface::Kind::Dot ? piece.A : piece.D})
+    for (const typeface::Piece& piece : pieces.Items())
+        for (const typeface::Point& p : {piece.A, piece.Shape == typeface::Kind::Dot ? piece.A : piece.D})
         {
             bounds.Left = std::min(bounds.Left, p.X);
             bounds.Top = std::max(bounds.Top, p.Y);
@@ -97,7 +97,7 @@ std::optional<double> SharedLevel(double unit, bool accented)
 
 // Rising places for the anchors of one axis: `ideal` says where they would like to be, strokes that lie apart keep two
 // pixels of air.
-template <class Ideal> void Place(Typeface::AxisMap& map, Ideal&& ideal)
+template <class Ideal> void Place(typeface::AxisMap& map, Ideal&& ideal)
 {
     double last = -1e9, pixel = -1e9;
     map.Fit(
@@ -115,16 +115,16 @@ bool IsDigit(char32_t code)
     return code >= U'0' && code <= U'9';
 }
 
-Mask Render(const Typeface::Glyph& glyph)
+Mask Render(const typeface::Glyph& glyph)
 {
-    const Typeface::Pieces pieces = Typeface::ReadPieces(glyph);
+    const typeface::Pieces pieces = typeface::ReadPieces(glyph);
     const Bounds bounds = Extent(pieces);
     const bool digit = IsDigit(glyph.Code);
     const bool accented = bounds.Top > 80;
     const double left = digit ? 8 : bounds.Left;
     const double unitX = digit ? 10.0 / 38 : Unit;
-    Typeface::AxisMap across(unitX), up(Unit);
-    Typeface::CollectAnchors(pieces, across, up);
+    typeface::AxisMap across(unitX), up(Unit);
+    typeface::CollectAnchors(pieces, across, up);
     Place(across, [&](double unit, double least)
           { return glyph.Code == U'1' ? 7.5 : BestCentre(2.5 + (unit - left) * unitX, least); });
     Place(up,
@@ -138,20 +138,20 @@ Mask Render(const Typeface::Glyph& glyph)
 
     // Without stems the map is a plain scale from 0: shift the leftmost stroke to its column.
     const double shiftX = across.Empty() ? 2.5 - left * unitX : 0, shiftY = up.Empty() ? Base : 0;
-    Typeface::Segments strokes;
-    for (const Typeface::Piece& piece : pieces.Items())
+    typeface::Segments strokes;
+    for (const typeface::Piece& piece : pieces.Items())
     {
-        const auto move = [&](Typeface::Point p) { return Typeface::Point{across(p.X) + shiftX, up(p.Y) + shiftY}; };
-        Typeface::Flatten({piece.Shape, move(piece.A), move(piece.B), move(piece.C), move(piece.D)}, Radius, 8,
+        const auto move = [&](typeface::Point p) { return typeface::Point{across(p.X) + shiftX, up(p.Y) + shiftY}; };
+        typeface::Flatten({piece.Shape, move(piece.A), move(piece.B), move(piece.C), move(piece.D)}, Radius, 8,
                           strokes);
     }
     double right = 0;
-    for (const Typeface::Segment& s : strokes.Items())
+    for (const typeface::Segment& s : strokes.Items())
         right = std::max({right, s.X1, s.X2});
     const int blank = RoundToInt(glyph.Advance * Unit);
     const int width = digit ? DigitWidth : strokes.Count() == 0 ? blank : FloorToInt(right + Radius) + 1;
     Mask ink(std::max(width, 1), CellHeight);
-    for (const Typeface::Segment& s : strokes.Items())
+    for (const typeface::Segment& s : strokes.Items())
         for (int y = 0; y < ink.Height; ++y)
             for (int x = 0; x < ink.Width; ++x)
             {
@@ -171,8 +171,8 @@ void WriteFont(const std::string& folder)
     {
         const std::string text = base::FromCodePage(std::string(1, static_cast<char>(code)));
         std::string_view rest = text;
-        const Typeface::Glyph& glyph = Typeface::FindGlyph(Typeface::NextCode(rest));
-        if (&glyph == &Typeface::MissingGlyph())
+        const typeface::Glyph& glyph = typeface::FindGlyph(typeface::NextCode(rest));
+        if (&glyph == &typeface::MissingGlyph())
             continue;
         const Mask ink = Render(glyph);
         Canvas picture(ink.Width, ink.Height, {1, 1, 1});

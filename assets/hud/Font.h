@@ -2,7 +2,7 @@
 #pragma once
 #include <string>
 
-namespace Assets
+namespace assets
 {
 // Writes FOLDER/33.bmp and so on: black ink on white, all 30 pixels high, baseline ink in rows 7 to 9 from the bottom.
 void WriteFont(const std::string& folder);

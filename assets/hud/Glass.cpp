@@ -2,7 +2,7 @@
 #include "common/Canvas.h"
 #include <cmath>
 
-namespace Assets
+namespace assets
 {
 namespace
 {

@@ -2,7 +2,7 @@
 #pragma once
 #include <string>
 
-namespace Assets
+namespace assets
 {
 // Writes glass.bmp and glass_b.bmp, 128 x 64 each, mostly see-through: the driver looks through them.
 void WriteGlass(const std::string& folder);

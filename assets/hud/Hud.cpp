@@ -7,7 +7,7 @@
 #include "hud/Models.h"
 #include "hud/Sprites.h"
 
-namespace Assets
+namespace assets
 {
 void BuildHud(const std::string& root)
 {

@@ -2,7 +2,7 @@
 #pragma once
 #include <string>
 
-namespace Assets
+namespace assets
 {
 // Writes data/fonts, data/images (but the sky), data/sprites, data/textures, the models of the display and the icon.
 // Throws std::runtime_error when a file cannot be written.

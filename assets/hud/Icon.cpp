@@ -6,7 +6,7 @@
 #include <cmath>
 #include <vector>
 
-namespace Assets
+namespace assets
 {
 namespace
 {

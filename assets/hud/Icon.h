@@ -2,7 +2,7 @@
 #pragma once
 #include <string>
 
-namespace Assets
+namespace assets
 {
 // 16, 32, 48 and 256 pixels, each drawn for its size, 32-bit with coverage.
 void WriteIcon(const std::string& path);

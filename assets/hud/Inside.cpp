@@ -2,7 +2,7 @@
 #include "common/Canvas.h"
 #include "common/Noise.h"
 
-namespace Assets
+namespace assets
 {
 namespace
 {

@@ -2,7 +2,7 @@
 #pragma once
 #include <string>
 
-namespace Assets
+namespace assets
 {
 // 107 x 80: the rear of the cabin, seen from the dashboard.
 void WriteInside(const std::string& path);

@@ -1,11 +1,11 @@
 #include "hud/MenuPictures.h"
 #include "hud/Dusk.h"
 #include "hud/Neon.h"
-#include "shell/forms/Typeface.h"
+#include "typeface/Typeface.h"
 #include <algorithm>
 #include <cmath>
 
-namespace Assets
+namespace assets
 {
 namespace
 {
@@ -87,7 +87,7 @@ Canvas MenuScene(const std::vector<Design>& designs)
 void Write(Canvas& canvas, std::string_view text, double x, double y, double size, Rgb colour)
 {
     Mask ink(canvas.Width, canvas.Height);
-    for (const Typeface::Segment& s : Typeface::Outline(text, {size, 1, 0.01}))
+    for (const typeface::Segment& s : typeface::Outline(text, {size, 1, 0.01}))
         Stroke(ink, std::vector<Point>{{x + s.X1, y + s.Y1}, {x + s.X2, y + s.Y2}}, 2 * s.Radius);
     for (int row = 0; row < canvas.Height; ++row)
         for (int column = 0; column < canvas.Width; ++column)

@@ -2,7 +2,7 @@
 #pragma once
 #include <string>
 
-namespace Assets
+namespace assets
 {
 // Writes menu.bmp, splash.bmp and logo.bmp. The title's glow is dots of colour on see-through black: shown smaller than
 // it is, or smoothed, it blends with what lies behind.

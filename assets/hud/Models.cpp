@@ -1,10 +1,10 @@
 #include "hud/Models.h"
 #include "common/Canvas.h"
 #include "common/Model3dm.h"
-#include "shell/forms/Typeface.h"
+#include "typeface/Typeface.h"
 #include <cmath>
 
-namespace Assets
+namespace assets
 {
 namespace
 {
@@ -97,11 +97,11 @@ void PaintPlinth(Canvas& picture, int left, int bottom, int width, int height)
                 colour = Mix(Hex(0xB08A3C), Hex(0xF2DC9A), SmoothStep(0.0, 1.0, (x + y * 0.7) / width));
             picture.Set(left + x, bottom + y, colour);
         }
-    const auto letters = Typeface::Outline("VELKAR", {9.5, 1.2, 0.01});
+    const auto letters = typeface::Outline("VELKAR", {9.5, 1.2, 0.01});
     double wide = 0;
-    for (const Typeface::Segment& s : letters)
+    for (const typeface::Segment& s : letters)
         wide = std::max({wide, s.X1, s.X2});
-    for (const Typeface::Segment& s : letters)
+    for (const typeface::Segment& s : letters)
         Stroke(picture,
                std::vector<Point>{{left + (width - wide) / 2 + s.X1, bottom + height / 2.0 - 3.5 + s.Y1},
                                   {left + (width - wide) / 2 + s.X2, bottom + height / 2.0 - 3.5 + s.Y2}},

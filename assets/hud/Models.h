@@ -2,7 +2,7 @@
 #pragma once
 #include <string>
 
-namespace Assets
+namespace assets
 {
 // cup.3dm, hidden at first, with cup.bmp. The game colours meshes 6 (cup) and 7 (handles) gold, silver or bronze.
 void WriteCup(const std::string& folder);

@@ -1,14 +1,14 @@
 #include "hud/Neon.h"
-#include "shell/forms/Typeface.h"
+#include "typeface/Typeface.h"
 #include <algorithm>
 #include <cmath>
 #include <vector>
 
-namespace Assets
+namespace assets
 {
 namespace
 {
-using Typeface::Segment;
+using typeface::Segment;
 
 std::vector<Segment> Letters(std::string_view word, const Tubes& tubes, double& width)
 {
@@ -16,14 +16,14 @@ std::vector<Segment> Letters(std::string_view word, const Tubes& tubes, double& 
     double pen = 0;
     for (std::size_t i = 0; i < word.size(); ++i)
     {
-        const Typeface::Style style{tubes.Size, 1, 0.16};
-        for (Segment s : Typeface::Outline(word.substr(i, 1), style))
+        const typeface::Style style{tubes.Size, 1, 0.16};
+        for (Segment s : typeface::Outline(word.substr(i, 1), style))
         {
             s.X1 += pen;
             s.X2 += pen;
             all.push_back(s);
         }
-        pen += Typeface::Width(word.substr(i, 1), style) + tubes.Tracking;
+        pen += typeface::Width(word.substr(i, 1), style) + tubes.Tracking;
     }
     width = pen - tubes.Tracking;
     return all;

@@ -3,7 +3,7 @@
 #include "common/Canvas.h"
 #include <string_view>
 
-namespace Assets
+namespace assets
 {
 struct Tubes
 {

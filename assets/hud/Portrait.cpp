@@ -4,7 +4,7 @@
 #include <array>
 #include <cmath>
 
-namespace Assets
+namespace assets
 {
 Vec3 SceneView::ToCamera(Vec3 p) const
 {

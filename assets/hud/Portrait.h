@@ -4,7 +4,7 @@
 #include "common/Canvas.h"
 #include <functional>
 
-namespace Assets
+namespace assets
 {
 // A camera that looks along `Yaw` without tilt; the horizon lies at row HorizonY.
 struct SceneView

@@ -4,7 +4,7 @@
 #include <cmath>
 #include <functional>
 
-namespace Assets
+namespace assets
 {
 namespace
 {

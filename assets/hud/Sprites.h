@@ -2,7 +2,7 @@
 #pragma once
 #include <string>
 
-namespace Assets
+namespace assets
 {
 // Writes smoke.bmp, water.bmp, fireR.bmp and fireY.bmp, round with an edge that dissolves into single pixels.
 void WriteSprites(const std::string& folder);

@@ -5,7 +5,7 @@
 #include <cmath>
 #include <complex>
 
-namespace Assets::Sound
+namespace assets::sound
 {
 namespace
 {

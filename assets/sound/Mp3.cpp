@@ -4,7 +4,7 @@
 #include <memory>
 #include <stdexcept>
 
-namespace Assets::Sound
+namespace assets::sound
 {
 namespace
 {

@@ -3,7 +3,7 @@
 #include "sound/synth/Stereo.h"
 #include <string>
 
-namespace Assets::Sound
+namespace assets::sound
 {
 struct Tags
 {

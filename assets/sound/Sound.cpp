@@ -4,26 +4,26 @@
 #include "sound/Mp3.h"
 #include "sound/Tracks.h"
 
-namespace Assets
+namespace assets
 {
 namespace
 {
 struct Piece
 {
     const char* Title; // the game shows the file's name
-    Sound::Stereo (*Play)();
+    sound::Stereo (*Play)();
 };
-constexpr Piece Pieces[] = {{"Luci sul lago", Sound::LuciSulLago},
-                            {"Limonata sul molo", Sound::LimonataSulMolo},
-                            {"Tornanti", Sound::Tornanti}};
+constexpr Piece Pieces[] = {{"Luci sul lago", sound::LuciSulLago},
+                            {"Limonata sul molo", sound::LimonataSulMolo},
+                            {"Tornanti", sound::Tornanti}};
 }
 
 void BuildSound(const std::string& root)
 {
-    WriteBytes(root + "/data/sounds/engine_01.pcm", Sound::EngineLoop());
+    WriteBytes(root + "/data/sounds/engine_01.pcm", sound::EngineLoop());
     int number = 0;
     for (const Piece& piece : Pieces)
-        Sound::WriteMp3(root + "/soundtracks/" + piece.Title + ".mp3", piece.Play(),
+        sound::WriteMp3(root + "/soundtracks/" + piece.Title + ".mp3", piece.Play(),
                         {piece.Title, "Velkar Team", "Velkar", ++number});
 }
 }

@@ -2,7 +2,7 @@
 #pragma once
 #include <string>
 
-namespace Assets
+namespace assets
 {
 // Writes data/sounds and soundtracks. Throws std::runtime_error when a file cannot be made.
 void BuildSound(const std::string& root);

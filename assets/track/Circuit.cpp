@@ -2,7 +2,7 @@
 
 #include <algorithm>
 
-namespace Assets
+namespace assets
 {
 namespace
 {

@@ -3,7 +3,7 @@
 #include "common/Canvas.h"
 #include <vector>
 
-namespace Assets
+namespace assets
 {
 // One point of the centre line, about one unit from the next.
 struct RoadPoint

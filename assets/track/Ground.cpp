@@ -3,7 +3,7 @@
 #include <thread>
 #include <vector>
 
-namespace Assets
+namespace assets
 {
 static void PaintRows(Canvas& ground, const Plan& plan, const Terrain& terrain, int first, int step)
 {

@@ -3,7 +3,7 @@
 #include "track/Terrain.h"
 #include <string>
 
-namespace Assets
+namespace assets
 {
 // One texel of the land or of the lake, without road and shadows.
 Rgb LandColour(const Plan& plan, const Terrain& terrain, int x, int z);

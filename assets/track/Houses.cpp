@@ -4,7 +4,7 @@
 #include "track/Models.h"
 #include <array>
 
-namespace Assets
+namespace assets
 {
 namespace
 {

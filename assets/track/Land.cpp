@@ -3,7 +3,7 @@
 #include "track/Ground.h"
 #include <algorithm>
 
-namespace Assets
+namespace assets
 {
 namespace
 {

@@ -3,7 +3,7 @@
 #include <array>
 #include <string>
 
-namespace Assets
+namespace assets
 {
 namespace
 {

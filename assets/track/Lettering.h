@@ -4,7 +4,7 @@
 #include <string_view>
 #include <vector>
 
-namespace Assets
+namespace assets
 {
 // The strokes of a text whose letters are 1 high and about 0.6 wide, from x = 0, base line at y = 0.
 // Letters A to Z, digits, blank, "-", "." and "'"; others are left out.

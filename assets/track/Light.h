@@ -2,7 +2,7 @@
 #pragma once
 #include "common/Canvas.h"
 
-namespace Assets
+namespace assets
 {
 // Late afternoon: the sun stands in the west-north-west, across the lake. x is east, z is north, y is up.
 constexpr double SunX = -0.80, SunZ = 0.60; // unit vector on the ground, toward the sun

@@ -8,7 +8,7 @@
 #include <map>
 #include <stdexcept>
 
-namespace Assets
+namespace assets
 {
 namespace
 {

@@ -3,7 +3,7 @@
 #include "track/Plan.h"
 #include <string>
 
-namespace Assets
+namespace assets
 {
 // Writes into the map's folder. Throws std::runtime_error when a file cannot be written.
 void WriteMap(const Plan& plan, const std::string& folder);

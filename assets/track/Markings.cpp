@@ -4,7 +4,7 @@
 #include "track/Lettering.h"
 #include <algorithm>
 
-namespace Assets
+namespace assets
 {
 namespace
 {

@@ -1,6 +1,6 @@
 #include "track/Models.h"
 
-namespace Assets
+namespace assets
 {
 static Corner3 Between(Corner3 a, Corner3 b, double t)
 {

@@ -5,7 +5,7 @@
 #include "common/Model3dm.h"
 #include <string>
 
-namespace Assets
+namespace assets
 {
 // A corner of a face: place and texel.
 struct Corner3

@@ -4,7 +4,7 @@
 #include <algorithm>
 #include <stdexcept>
 
-namespace Assets
+namespace assets
 {
 const std::vector<Kind>& Kinds()
 {

@@ -5,7 +5,7 @@
 #include <string>
 #include <vector>
 
-namespace Assets
+namespace assets
 {
 enum class Shadow
 {

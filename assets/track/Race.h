@@ -2,7 +2,7 @@
 #pragma once
 #include "track/Plan.h"
 
-namespace Assets
+namespace assets
 {
 // A round zone on the ground.
 struct Zone

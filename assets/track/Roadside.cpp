@@ -4,7 +4,7 @@
 #include "track/Light.h"
 #include "track/Models.h"
 
-namespace Assets
+namespace assets
 {
 namespace
 {

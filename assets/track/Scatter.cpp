@@ -3,7 +3,7 @@
 #include "common/Noise.h"
 #include <algorithm>
 
-namespace Assets
+namespace assets
 {
 namespace
 {

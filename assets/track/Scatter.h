@@ -2,7 +2,7 @@
 #pragma once
 #include "track/Plan.h"
 
-namespace Assets
+namespace assets
 {
 // Adds what grows where there is room: never on the road, in the water, on a path or in a building.
 void ScatterTrees(Plan& plan);

@@ -4,7 +4,7 @@
 #include "track/Light.h"
 #include <algorithm>
 
-namespace Assets
+namespace assets
 {
 namespace
 {

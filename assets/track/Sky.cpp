@@ -5,7 +5,7 @@
 #include "track/Light.h"
 #include <algorithm>
 
-namespace Assets
+namespace assets
 {
 namespace
 {

@@ -2,7 +2,7 @@
 #pragma once
 #include <string>
 
-namespace Assets
+namespace assets
 {
 // 820 pixels wide, one full turn; rows span the whole screen, the horizon at 59 per cent.
 void WriteSky(const std::string& path);

@@ -2,7 +2,7 @@
 
 #include <algorithm>
 
-namespace Assets
+namespace assets
 {
 Terrain::Terrain()
     : Offset(GroundSize, GroundSize, FarAway), Along(GroundSize, GroundSize), HalfWidth(GroundSize, GroundSize),

@@ -3,7 +3,7 @@
 #pragma once
 #include "track/Plan.h"
 
-namespace Assets
+namespace assets
 {
 constexpr int TexelsPerUnit = 4;
 constexpr int GroundSize = 2560;

@@ -5,7 +5,7 @@
 #include "track/Models.h"
 #include "track/Sky.h"
 
-namespace Assets
+namespace assets
 {
 void BuildTrack(const std::string& root)
 {

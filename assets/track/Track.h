@@ -2,7 +2,7 @@
 #pragma once
 #include <string>
 
-namespace Assets
+namespace assets
 {
 // Writes data/maps/map_01, data/images/sky.bmp and data/models/world below `root`.
 // Throws std::runtime_error when a file cannot be written.

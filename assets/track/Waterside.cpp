@@ -3,7 +3,7 @@
 #include "track/Light.h"
 #include "track/Models.h"
 
-namespace Assets
+namespace assets
 {
 namespace
 {

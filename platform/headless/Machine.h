@@ -86,7 +86,7 @@ public:
     std::unique_ptr<platform::MusicPlayer> MakeMusicPlayer(platform::Window& window) override;
     void PumpEvents() override;
     void WaitEvents(std::uint32_t milliseconds) override;
-    Webcam& Camera() override { return TheWebcam; }
+    Webcam& WebcamDevice() override { return TheWebcam; }
 
     const std::vector<Window*>& OpenWindows() const { return Windows; } // in the order in which they were made
 

@@ -43,7 +43,7 @@ public:
     std::unique_ptr<MusicPlayer> MakeMusicPlayer(Window& window) override;
     void PumpEvents() override;
     void WaitEvents(std::uint32_t milliseconds) override;
-    Webcam& Camera() override { return TheWebcam; }
+    Webcam& WebcamDevice() override { return TheWebcam; }
 
 private:
     static constexpr std::uint32_t NoUserEvent = 0xFFFFFFFFu;

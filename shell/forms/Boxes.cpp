@@ -2,7 +2,7 @@
 
 #include "base/Numbers.h"
 #include "shell/forms/LineEdit.h"
-#include "shell/forms/Typeface.h"
+#include "typeface/Typeface.h"
 
 #include <algorithm>
 
@@ -13,7 +13,7 @@ namespace
 constexpr std::int32_t Border = 1; // of a list
 constexpr std::int32_t ShortestThumb = 8;
 
-Typeface::Style StyleOf(const Control& box)
+typeface::Style StyleOf(const Control& box)
 {
     return {static_cast<double>(box.TextSize), 1, 0};
 }
@@ -43,12 +43,12 @@ Rect TickSquare(const Control& box, const Rect& place)
 std::int32_t CaretColumn(const Control& box, std::size_t caret)
 {
     const std::string_view shown = ShownPart(box.Text);
-    return base::RoundEven(Typeface::Width(shown.substr(0, caret), StyleOf(box)));
+    return base::RoundEven(typeface::Width(shown.substr(0, caret), StyleOf(box)));
 }
 
 std::size_t CaretAt(const Control& box, std::int32_t column)
 {
-    return Typeface::GapAt(ShownPart(box.Text), StyleOf(box), column);
+    return typeface::GapAt(ShownPart(box.Text), StyleOf(box), column);
 }
 
 std::int32_t CaretWidth(const Control& box)

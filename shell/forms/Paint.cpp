@@ -2,7 +2,7 @@
 
 #include "base/Math.h"
 #include "base/Numbers.h"
-#include "shell/forms/Typeface.h"
+#include "typeface/Typeface.h"
 
 #include <algorithm>
 
@@ -33,7 +33,7 @@ Rect ClippedTo(const Canvas& canvas, const Rect& rect)
 // The box of a line holds accents above and descenders below, so that its middle is the middle of the letters.
 std::int32_t LineTop(const Rect& rect, double size)
 {
-    return rect.Y + base::RoundEven((rect.H - Typeface::LineHeight(size)) / 2);
+    return rect.Y + base::RoundEven((rect.H - typeface::LineHeight(size)) / 2);
 }
 
 // A box with round corners, measured from its middle.
@@ -61,8 +61,8 @@ struct RoundBox
 
 void Canvas::Resize(std::int32_t width, std::int32_t height)
 {
-    width = std::clamp(width, 1, ModBitmap::LargestPicture);
-    height = std::clamp(height, 1, ModBitmap::LargestPicture);
+    width = std::clamp(width, 1, render::LargestPicture);
+    height = std::clamp(height, 1, render::LargestPicture);
     if (width == Width && height == Height)
         return;
     Width = width;
@@ -182,7 +182,7 @@ void Stretch(Canvas& canvas, const Rect& rect, std::int32_t width, std::int32_t 
 
 std::int32_t MeasureText(std::string_view text, double size, double weight)
 {
-    return base::RoundEven(Typeface::Width(ShownPart(text), {size, weight, 0}));
+    return base::RoundEven(typeface::Width(ShownPart(text), {size, weight, 0}));
 }
 
 void DrawText(Canvas& canvas, const Rect& rect, std::string_view text, double size, double weight, Colour colour,
@@ -193,15 +193,15 @@ void DrawText(Canvas& canvas, const Rect& rect, std::string_view text, double si
         size -= 0.5;
     const std::int32_t spare = rect.W - width;
     const std::int32_t x = rect.X + (align == Align::Left ? 0 : align == Align::Right ? spare : spare / 2);
-    const Typeface::Surface surface = {canvas.Bytes, canvas.Width, canvas.Height, canvas.RowBytes};
-    Typeface::Draw(surface, x, LineTop(rect, size), {size, weight, 0}, ShownPart(text), {colour.R, colour.G, colour.B});
+    const typeface::Surface surface = {canvas.Bytes, canvas.Width, canvas.Height, canvas.RowBytes};
+    typeface::Draw(surface, x, LineTop(rect, size), {size, weight, 0}, ShownPart(text), {colour.R, colour.G, colour.B});
 }
 
 void DrawLine(Canvas& canvas, const Rect& rect, std::int32_t x, std::string_view text, double size, Colour colour)
 {
-    const Typeface::Surface surface = {canvas.Bytes, canvas.Width, canvas.Height, canvas.RowBytes};
-    const Typeface::Clip clip = {rect.X, rect.Y, rect.X + rect.W, rect.Y + rect.H};
-    Typeface::Draw(surface, x, LineTop(rect, size), {size, 1, 0}, ShownPart(text), {colour.R, colour.G, colour.B},
+    const typeface::Surface surface = {canvas.Bytes, canvas.Width, canvas.Height, canvas.RowBytes};
+    const typeface::Clip clip = {rect.X, rect.Y, rect.X + rect.W, rect.Y + rect.H};
+    typeface::Draw(surface, x, LineTop(rect, size), {size, 1, 0}, ShownPart(text), {colour.R, colour.G, colour.B},
                    clip);
 }
 
@@ -237,7 +237,7 @@ void DrawParagraph(Canvas& canvas, const Rect& rect, std::string_view text, doub
             break;
         lines = std::move(narrower);
     }
-    const std::int32_t height = base::RoundEven(Typeface::LineHeight(size));
+    const std::int32_t height = base::RoundEven(typeface::LineHeight(size));
     std::int32_t y = rect.Y + (rect.H - height * static_cast<std::int32_t>(lines.size())) / 2;
     for (const std::string_view line : lines)
     {

@@ -38,7 +38,7 @@ struct Image
 };
 
 // Area average where it shrinks, linear where it grows. seeThrough: exactly black pixels are not painted.
-Image Scale(const ModBitmap::Picture& picture, std::int32_t width, std::int32_t height, bool seeThrough);
+Image Scale(const render::Picture& picture, std::int32_t width, std::int32_t height, bool seeThrough);
 
 // alpha: 0 nothing, 255 covers. All drawing is clipped to the canvas.
 void Fill(Canvas& canvas, const Rect& rect, Colour colour, int alpha = 255);

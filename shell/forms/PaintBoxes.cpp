@@ -2,7 +2,7 @@
 #include "base/Numbers.h"
 #include "shell/forms/Boxes.h"
 #include "shell/forms/Style.h"
-#include "shell/forms/Typeface.h"
+#include "typeface/Typeface.h"
 
 #include <algorithm>
 
@@ -24,7 +24,7 @@ void PaintField(Canvas& canvas, const Rect& place, double radius, const State& s
 // The band of the line in which caret and selection stand.
 Rect LineBand(const Control& box, const Rect& room)
 {
-    const std::int32_t height = std::min(room.H, base::RoundEven(Typeface::LineHeight(box.TextSize)));
+    const std::int32_t height = std::min(room.H, base::RoundEven(typeface::LineHeight(box.TextSize)));
     return {room.X, room.Y + (room.H - height) / 2, room.W, height};
 }
 

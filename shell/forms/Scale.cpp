@@ -54,7 +54,7 @@ struct Sum
 };
 
 // The source rows, each as wide as the destination.
-std::vector<Sum> ScaleAcross(const ModBitmap::Picture& picture, const Taps& across, bool seeThrough)
+std::vector<Sum> ScaleAcross(const render::Picture& picture, const Taps& across, bool seeThrough)
 {
     std::vector<Sum> rows;
     rows.reserve(across.Each.size() * static_cast<std::size_t>(picture.Info.Height));
@@ -90,7 +90,7 @@ Image::Pixel Finish(const Sum& sum)
 }
 }
 
-Image Scale(const ModBitmap::Picture& picture, std::int32_t width, std::int32_t height, bool seeThrough)
+Image Scale(const render::Picture& picture, std::int32_t width, std::int32_t height, bool seeThrough)
 {
     Image image;
     if (width <= 0 || height <= 0 || picture.Info.Width <= 0 || picture.Info.Height <= 0 || picture.Pixels.Empty())

@@ -30,8 +30,7 @@ struct Difference
 };
 
 // Fills `shown` with the distances, eight times brighter.
-Difference Compare(const ModBitmap::Picture& a, const ModBitmap::Picture& b, int tolerance,
-                   ModBitmap::PicArray2D& shown)
+Difference Compare(const render::Picture& a, const render::Picture& b, int tolerance, render::PicArray2D& shown)
 {
     Difference difference;
     for (int row = 0; row < a.Info.Height; ++row)
@@ -65,9 +64,9 @@ int main(int count, char** words)
     }
     const base::Files files(std::filesystem::current_path());
     ToStandardError messages;
-    ModBitmap::Picture expected, actual;
-    if (!ModBitmap::LoadPicArray2D(messages, files, words[1], expected.Info, expected.Pixels) ||
-        !ModBitmap::LoadPicArray2D(messages, files, words[2], actual.Info, actual.Pixels))
+    render::Picture expected, actual;
+    if (!render::LoadPicArray2D(messages, files, words[1], expected.Info, expected.Pixels) ||
+        !render::LoadPicArray2D(messages, files, words[2], actual.Info, actual.Pixels))
         return 1;
     if (expected.Info.Width != actual.Info.Width || expected.Info.Height != actual.Info.Height)
     {
@@ -75,7 +74,7 @@ int main(int count, char** words)
                     actual.Info.Height);
         return 1;
     }
-    ModBitmap::PicArray2D shown;
+    render::PicArray2D shown;
     shown.Allocate(actual.Info.Height, actual.Info.RowBytes);
     const Difference difference = Compare(expected, actual, count > 4 ? std::atoi(words[4]) : 0, shown);
     if (difference.Pixels == 0)

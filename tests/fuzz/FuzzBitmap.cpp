@@ -8,8 +8,8 @@ int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size)
     static const fuzz::Folder folder;
     folder.Write("t.bmp", fuzz::Text(data, size));
     fuzz::NoMessages messages;
-    Mod3D::Scene scene;
-    modPrimitive::LoadTexture(scene, messages, folder.Files(), "t.bmp");
-    Mod3D::LoadGround(messages, folder.Files(), "t.bmp", 1.0f, true, scene.Ground);
+    render::Scene scene;
+    render::LoadTexture(scene, messages, folder.Files(), "t.bmp");
+    render::LoadGround(messages, folder.Files(), "t.bmp", 1.0f, true, scene.Ground);
     return 0;
 }

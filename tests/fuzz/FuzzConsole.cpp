@@ -15,7 +15,7 @@ namespace
 constexpr int MostLines = 40; // so that an input takes milliseconds
 constexpr int Open = 220, Close = 27, Recall = 38;
 
-struct Finish final : modDinamica::FinishSink
+struct Finish final : world::FinishSink
 {
     void Finished(const std::string&) override {}
 };
@@ -23,29 +23,29 @@ struct Finish final : modDinamica::FinishSink
 struct Desk final : console::Host
 {
     test::World World;
-    Mod3D::Screen Screen;
+    render::Screen Screen;
     std::string LastCommand = "\\";
     std::string Clipboard;
     console::Console Console{World.Scene, Label(1), Label(2), World.Race, World.Camera, Screen, LastCommand, *this};
-    ModBitmap::Font Font;
+    render::Font Font;
     std::vector<std::uint8_t> Bits = std::vector<std::uint8_t>(96 * 64 * 3);
 
     Desk()
     {
         fuzz::NoMessages messages;
-        Mod3D::ApplyResolution(messages, Screen, World.Camera, 96, 64);
+        render::ApplyResolution(messages, Screen, World.Camera, 96, 64);
         for (const float x : {0.0f, 6.0f, 12.0f})
         {
             World.AddCar(x, 4);
-            const std::int16_t body = modPrimitive::MakeObj(World.Scene, x, 0, 4, 0, 0, 1, 0, 1, 1);
-            modPrimitive::EditObjMesh(World.Scene, body, 0, 2, 2, 255, 0);
+            const std::int16_t body = render::MakeObj(World.Scene, x, 0, 4, 0, 0, 1, 0, 1, 1);
+            render::EditObjMesh(World.Scene, body, 0, 2, 2, 255, 0);
             for (int i = 0; i < 2; ++i)
                 for (int j = 0; j < 2; ++j)
-                    modPrimitive::EditObjMeshPt(World.Scene, body, 0, i, j, static_cast<float>(i), 1,
-                                                static_cast<float>(j), 0, 0);
+                    render::EditObjMeshPt(World.Scene, body, 0, i, j, static_cast<float>(i), 1, static_cast<float>(j),
+                                          0, 0);
         }
         World.Keys.KeyAccel = World.Keys.KeyLeft = base::True;
-        for (ModBitmap::Glyph& glyph : Font.Glyphs)
+        for (render::Glyph& glyph : Font.Glyphs)
             glyph = {1, 5, 7, std::vector<std::uint8_t>(5 * 7, 255)};
         Font.LineHeight = 7;
         Font.WidestGlyph = 5;
@@ -55,21 +55,21 @@ struct Desk final : console::Host
     void Tick()
     {
         Finish finish;
-        modDinamica::Simulation sim = World.Sim();
-        modDinamica::ComputePlaces(World.Scene, World.Race);
-        modDinamica::RaceStep(sim, finish);
-        modDinamica::Collide(sim);
-        modDinamica::DamageSmoke(sim);
-        modDinamica::ComputerDrive(sim);
-        modDinamica::UserDrive(sim);
-        Mod3D::DrawObjects(World.Scene, World.Camera, Screen);
+        world::Simulation sim = World.Sim();
+        world::ComputePlaces(World.Scene, World.Race);
+        world::RaceStep(sim, finish);
+        world::Collide(sim);
+        world::DamageSmoke(sim);
+        world::ComputerDrive(sim);
+        world::UserDrive(sim);
+        render::DrawObjects(World.Scene, World.Camera, Screen);
     }
     void DrawAnswer()
     {
-        const Mod3D::Label2D& label = World.Scene.Labels.At(Console.Line);
-        const std::int32_t tab = ModBitmap::TabPixels(Font, label.Scale, label.TabWidth);
-        ModBitmap::DrawTextLeft({Bits.data(), 96 * 3, 96, 64}, Font, 1, 50, label.Scale, tab, {255, 255, 255}, 1,
-                                label.Text);
+        const render::Label2D& label = World.Scene.Labels.At(Console.Line);
+        const std::int32_t tab = render::TabPixels(Font, label.Scale, label.TabWidth);
+        render::DrawTextLeft({Bits.data(), 96 * 3, 96, 64}, Font, 1, 50, label.Scale, tab, {255, 255, 255}, 1,
+                             label.Text);
     }
     // The line is a whole text of bounded length, and no longer than what can be typed unless it is an answer.
     void Check()
@@ -87,7 +87,7 @@ struct Desk final : console::Host
 private:
     std::int16_t Label(std::int16_t y)
     {
-        return modPrimitive::MakeLabel2D(World.Scene, 1, y, 0, 0.5f, 4, {255, 255, 255}, 0, "\\");
+        return render::MakeLabel2D(World.Scene, 1, y, 0, 0.5f, 4, {255, 255, 255}, 0, "\\");
     }
     std::string ClipboardText() override { return Clipboard; }
     void SetClipboardText(const std::string& text) override { Clipboard = text; }

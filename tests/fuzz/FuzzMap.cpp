@@ -9,26 +9,26 @@
 
 namespace
 {
-struct NoFinish final : modDinamica::FinishSink
+struct NoFinish final : world::FinishSink
 {
     void Finished(const std::string&) override {}
 };
 
 struct Game
 {
-    Mod3D::Scene Scene;
+    render::Scene Scene;
     world::Race Race;
-    Mod3D::Camera Camera;
+    render::Camera Camera;
     world::HeldKeys Keys;
     world::RaceAssets Assets;
     base::Random Random;
     float Shake = 0;
     bool InBox = false;
 
-    modDinamica::Simulation Sim() { return {Scene, Race, Camera, Keys, Assets, Random, 1.0f, true, Shake, InBox}; }
+    world::Simulation Sim() { return {Scene, Race, Camera, Keys, Assets, Random, 1.0f, true, Shake, InBox}; }
 };
 
-bool SamePlace(const Mod3D::Obj& a, const Mod3D::Obj& b)
+bool SamePlace(const render::Obj& a, const render::Obj& b)
 {
     const auto same = [](float x, float y)
     { return std::bit_cast<std::uint32_t>(x) == std::bit_cast<std::uint32_t>(y); };
@@ -38,22 +38,22 @@ bool SamePlace(const Mod3D::Obj& a, const Mod3D::Obj& b)
 void Tick(Game& game)
 {
     NoFinish finish;
-    modDinamica::Simulation sim = game.Sim();
+    world::Simulation sim = game.Sim();
     game.Race.GameTime += 25;
-    modDinamica::ComputePlaces(game.Scene, game.Race);
-    modDinamica::RaceStep(sim, finish);
+    world::ComputePlaces(game.Scene, game.Race);
+    world::RaceStep(sim, finish);
 
     Game judge = game;
-    modDinamica::Simulation judgeSim = judge.Sim();
-    modDinamica::CollidePlain(judgeSim);
-    modDinamica::Collide(sim);
+    world::Simulation judgeSim = judge.Sim();
+    world::CollidePlain(judgeSim);
+    world::Collide(sim);
     for (std::size_t object = 0; object < game.Scene.Objects.Items.size(); ++object)
         if (!SamePlace(game.Scene.Objects.Items[object], judge.Scene.Objects.Items[object]))
             std::abort();
 
-    modDinamica::DamageSmoke(sim);
-    modDinamica::ComputerDrive(sim);
-    modDinamica::UserDrive(sim);
+    world::DamageSmoke(sim);
+    world::ComputerDrive(sim);
+    world::UserDrive(sim);
 }
 
 void WriteCompanions(const fuzz::Folder& folder)
@@ -77,7 +77,7 @@ int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size)
     fuzz::NoMessages messages;
     Game game;
     game.Keys.KeyAccel = game.Keys.KeyLeft = base::True;
-    modOggetti::LoadMap(game.Scene, game.Race, messages, folder.Files(), "map.loader", true);
+    world::LoadMap(game.Scene, game.Race, messages, folder.Files(), "map.loader", true);
     if (game.Scene.Bytes < (1u << 20)) // larger scenes are copied too slowly
         for (int tick = 0; tick < 4; ++tick)
             Tick(game);

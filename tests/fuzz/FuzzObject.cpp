@@ -9,18 +9,18 @@ int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size)
     folder.Write("m.3dm", fuzz::Text(data, size));
     folder.Write("t.bmp", fuzz::OneTexel());
     fuzz::NoMessages messages;
-    Mod3D::Scene scene;
-    modOggetti::LoadObject(scene, messages, folder.Files(), "m.3dm");
+    render::Scene scene;
+    world::LoadObject(scene, messages, folder.Files(), "m.3dm");
 
-    static Mod3D::Screen screen;
-    static Mod3D::Camera camera;
+    static render::Screen screen;
+    static render::Camera camera;
     if (screen.ScreenW == 0)
-        Mod3D::ApplyResolution(messages, screen, camera, 240, 200);
+        render::ApplyResolution(messages, screen, camera, 240, 200);
     std::size_t points = 0;
-    for (const Mod3D::Obj& object : scene.Objects.Items)
-        for (const Mod3D::ObjMesh& mesh : object.Mesh)
+    for (const render::Obj& object : scene.Objects.Items)
+        for (const render::ObjMesh& mesh : object.Mesh)
             points += mesh.Pts.Points.size();
     if (points < 10000) // more would only be slow
-        Mod3D::DrawObjects(scene, camera, screen);
+        render::DrawObjects(scene, camera, screen);
     return 0;
 }

@@ -11,10 +11,11 @@ declare -A may=(
     [platform]="base platform"
     [render]="base render"
     [world]="base render world"
-    [console]="base render world console"
+    [console]="base platform render world console"
     [audio]="base platform audio"
     [webcam]="base platform render webcam"
-    [shell]="base platform render world console audio webcam shell"
+    [typeface]="base typeface"
+    [shell]="base typeface platform render world console audio webcam shell"
 )
 wrong=0
 seen=0

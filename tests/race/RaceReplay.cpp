@@ -49,10 +49,10 @@ shell::Game& Game(drive::Driver& driver)
 // Whatever the machine has, this many bands and their walkers.
 void WalkWith(drive::Driver& driver, int threads)
 {
-    Mod3D::Screen& screen = Game(driver).Screen;
+    render::Screen& screen = Game(driver).Screen;
     screen.ThreadCount = static_cast<std::int16_t>(threads);
-    Mod3D::ApplyResolution(driver.State().Form()->Window(), screen, Game(driver).Camera, screen.ScreenW,
-                           screen.ScreenH);
+    render::ApplyResolution(driver.State().Form()->Window(), screen, Game(driver).Camera, screen.ScreenW,
+                            screen.ScreenH);
 }
 
 // The upper half of the sum after the next tick. It is enough: a race that has gone astray stays astray.

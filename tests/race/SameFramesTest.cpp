@@ -32,7 +32,7 @@ struct Race
     {
         shell::Game& game = Game();
         game.Screen.ThreadCount = threads;
-        Mod3D::ApplyResolution(Driver.State().Form()->Window(), game.Screen, game.Camera, 600, 312);
+        render::ApplyResolution(Driver.State().Form()->Window(), game.Screen, game.Camera, 600, 312);
     }
 };
 

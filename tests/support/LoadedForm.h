@@ -17,9 +17,9 @@ struct LoadedForm
     shell::Game& Game() { return Form.State(); }
     headless::Window& Window() { return static_cast<headless::Window&>(Form.Window()); }
     forms::Control& Control(std::string_view name, std::int16_t index = -1) { return Form.Controls().Get(name, index); }
-    Mod3D::Label2D& Label(std::int16_t shell::Hud::*which) { return Game().Scene.Labels.At(Game().Hud.*which); }
+    render::Label2D& Label(std::int16_t shell::Hud::*which) { return Game().Scene.Labels.At(Game().Hud.*which); }
     world::Player& Player(std::size_t index) { return Game().Race.Players.at(index); }
-    Mod3D::Obj& Car(std::size_t index) { return Game().Scene.Objects.At(Player(index).Obj); }
+    render::Obj& Car(std::size_t index) { return Game().Scene.Objects.At(Player(index).Obj); }
 
     void Load()
     {

@@ -21,9 +21,9 @@ inline Rgb ToRgb(forms::Colour colour)
     return {colour.R, colour.G, colour.B};
 }
 
-inline ModBitmap::Picture Checker(std::int32_t width, std::int32_t height)
+inline render::Picture Checker(std::int32_t width, std::int32_t height)
 {
-    ModBitmap::Picture picture;
+    render::Picture picture;
     picture.Info.Width = width;
     picture.Info.Height = height;
     picture.Pixels.Allocate(height, (width * 3 + 3) / 4 * 4);

@@ -22,18 +22,18 @@ inline int DrawWhole(base::Random& random, int least, int most)
     return least + base::Floor(random.Next() * (most - least + 1));
 }
 
-inline ModBitmap::Picture Blank(int width, int height)
+inline render::Picture Blank(int width, int height)
 {
-    ModBitmap::Picture picture;
+    render::Picture picture;
     picture.Info = {width, height, (width * 3 + 3) & ~3, 1, 24};
     picture.Pixels.Allocate(height, picture.Info.RowBytes);
     return picture;
 }
 
 // Every byte drawn; blackShare of the pixels are (0, 0, 0).
-inline ModBitmap::Picture Noise(base::Random& random, int width, int height, double blackShare = 0.0)
+inline render::Picture Noise(base::Random& random, int width, int height, double blackShare = 0.0)
 {
-    ModBitmap::Picture picture = Blank(width, height);
+    render::Picture picture = Blank(width, height);
     for (int y = 0; y < height; ++y)
         for (int x = 0; x < width; ++x)
         {
@@ -44,28 +44,28 @@ inline ModBitmap::Picture Noise(base::Random& random, int width, int height, dou
     return picture;
 }
 
-inline void SetGround(Mod3D::Scene& scene, ModBitmap::Picture picture, float scale = 1.0f)
+inline void SetGround(render::Scene& scene, render::Picture picture, float scale = 1.0f)
 {
     scene.Ground.Width = picture.Info.Width;
     scene.Ground.Height = picture.Info.Height;
     scene.Ground.GroundScale = scale;
     scene.Ground.Sharp = std::move(picture);
-    Mod3D::BlurGround(scene.Ground);
+    render::BlurGround(scene.Ground);
 }
 
 // A screen with its camera, as the options panel would have made it.
 struct View
 {
     support::Messages Messages;
-    Mod3D::Camera Camera;
-    Mod3D::Screen Screen;
+    render::Camera Camera;
+    render::Screen Screen;
 
     View(int width, int height, int filter = 0, int threads = 3)
     {
         Screen.TxtFilter = static_cast<std::int16_t>(filter);
         Screen.ThreadCount = static_cast<std::int16_t>(threads);
         Screen.GroundLimit = 600000; // a busy machine must not cut a pass off
-        Mod3D::ApplyResolution(Messages, Screen, Camera, width, height);
+        render::ApplyResolution(Messages, Screen, Camera, width, height);
     }
     void Look(float x, float y, float z, float yaw, float pitch)
     {
@@ -74,7 +74,7 @@ struct View
         Camera.CamZ = z;
         Camera.CamYaw = yaw;
         Camera.CamPitch = pitch;
-        Mod3D::UpdateCameraTrig(Camera);
+        render::UpdateCameraTrig(Camera);
     }
     const std::uint8_t* Pixel(int x, int y) const { return Screen.Frame.Row(y) + x * 3; }
     float Depth(int x, int y) const

@@ -19,10 +19,10 @@ void ShippedRace::Step()
     Form().GameT_Tick();
 }
 
-std::vector<Mod3D::Camera> ShippedRace::RecordPath(int ticks)
+std::vector<render::Camera> ShippedRace::RecordPath(int ticks)
 {
     constexpr int TicksAPicture = 40, PicturesAView = 8;
-    std::vector<Mod3D::Camera> path;
+    std::vector<render::Camera> path;
     for (int tick = 0; tick < ticks; ++tick)
     {
         Step();

@@ -21,7 +21,7 @@ public:
     // One step of 25 ms.
     void Step();
     // The camera of every 40th tick of the next `ticks`, in the views 0, 1 and 2 by turns: what a player sees.
-    std::vector<Mod3D::Camera> RecordPath(int ticks);
+    std::vector<render::Camera> RecordPath(int ticks);
 
 private:
     headless::Machine Machine{base::Files(VELKAR_ROOT)};

@@ -46,9 +46,9 @@ template <class Element> std::span<const std::uint8_t> Memory(const std::vector<
     return {reinterpret_cast<const std::uint8_t*>(list.data()), list.size() * sizeof(Element)};
 }
 
-void Add(Digest& digest, const Mod3D::PointGrid& grid)
+void Add(Digest& digest, const render::PointGrid& grid)
 {
-    static_assert(IsDense<Mod3D::MeshPt>());
+    static_assert(IsDense<render::MeshPt>());
     digest.Bytes(Memory(grid.Points));
 }
 
@@ -77,7 +77,7 @@ template <class T> void Add(Digest& digest, const std::vector<T>& list)
         Add(digest, element);
 }
 
-template <class T> void Add(Digest& digest, const Mod3D::SlotList<T>& list)
+template <class T> void Add(Digest& digest, const render::SlotList<T>& list)
 {
     Add(digest, list.Items);
 }
@@ -87,9 +87,9 @@ template <base::Described Record> void Add(Digest& digest, const Record& record)
     base::ForEachField(record, [&](const auto&, const auto& member) { Add(digest, member); });
 }
 
-void AddTexels(Digest& digest, const Mod3D::Ground& ground)
+void AddTexels(Digest& digest, const render::Ground& ground)
 {
-    const ModBitmap::PicArray2D& pixels = ground.Sharp.Pixels;
+    const render::PicArray2D& pixels = ground.Sharp.Pixels;
     const std::size_t row = static_cast<std::size_t>(ground.Width) * 3; // without the padding
     if (ground.Width < 1 || pixels.RowBytes < ground.Width * 3)
         return;

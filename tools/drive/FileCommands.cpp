@@ -25,7 +25,7 @@ void Save(Session& session, const std::string& name, std::string_view bytes)
 void Frame(Session& session, Words& words, Object&)
 {
     const std::string name = FileName(words);
-    const Mod3D::Screen& screen = session.Form()->State().Screen;
+    const render::Screen& screen = session.Form()->State().Screen;
     Require(screen.ScreenW > 0 && screen.ScreenH > 0, "there is no frame");
     Save(session, name, base::BitmapFile(screen.ScreenW, screen.ScreenH, screen.Frame.Bytes));
 }

@@ -36,7 +36,7 @@ auto AudioOf(shell::Game& game)
                   Named{"MediaFile", music.Media.FileName});
 }
 
-auto ConsoleOf(Mod3D::Label2D& label, std::string& lastCommand)
+auto ConsoleOf(render::Label2D& label, std::string& lastCommand)
 {
     return Merged(Named{"Open", label.Visible}, Named{"Text", label.Text}, Named{"TabWidth", label.TabWidth},
                   Named{"LastCommand", lastCommand});
@@ -45,7 +45,7 @@ auto ConsoleOf(Mod3D::Label2D& label, std::string& lastCommand)
 auto RootsOf(shell::Form1& form, headless::Machine& machine)
 {
     shell::Game& game = form.State();
-    Mod3D::Scene& scene = game.Scene;
+    render::Scene& scene = game.Scene;
     world::Map& map = game.Race.Map;
     return Merged(Named{"players", game.Race.Players}, Named{"objects", scene.Objects}, Named{"polys", scene.Polys},
                   Named{"sprites", scene.Sprites}, Named{"particles", scene.Particles}, Named{"pics", scene.Pics},
@@ -91,7 +91,7 @@ Outcome Poke(shell::Form1& form, headless::Machine& machine, std::string_view pa
     const Outcome outcome = FollowFromRoots(form, machine, *steps, Writer{text});
     const bool turned = path == "camera.CamYaw" || path == "camera.CamPitch";
     if (outcome == Outcome::Done && turned)
-        Mod3D::UpdateCameraTrig(form.State().Camera);
+        render::UpdateCameraTrig(form.State().Camera);
     return outcome;
 }
 }

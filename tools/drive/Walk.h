@@ -85,14 +85,14 @@ template <class T>
 concept Scalar = std::is_arithmetic_v<T> || std::same_as<T, std::string>;
 
 // Records that are shown as an array of their fields.
-template <class T> inline constexpr bool IsTuple = std::same_as<T, Mod3D::SfereLink>;
+template <class T> inline constexpr bool IsTuple = std::same_as<T, render::SfereLink>;
 
 // The elements of a list; overloads say what a list is.
 template <class T> std::span<T> Elements(std::vector<T>& list)
 {
     return list;
 }
-template <class T> std::span<T> Elements(Mod3D::SlotList<T>& list)
+template <class T> std::span<T> Elements(render::SlotList<T>& list)
 {
     return list.Items;
 }
@@ -104,9 +104,9 @@ template <class T> std::span<T> Elements(std::span<T>& list)
 {
     return list;
 }
-inline std::vector<std::span<Mod3D::MeshPt>> Elements(Mod3D::PointGrid& grid)
+inline std::vector<std::span<render::MeshPt>> Elements(render::PointGrid& grid)
 {
-    std::vector<std::span<Mod3D::MeshPt>> rows;
+    std::vector<std::span<render::MeshPt>> rows;
     const auto cols = static_cast<std::size_t>(grid.Cols);
     for (std::size_t i = 0; i < static_cast<std::size_t>(grid.Rows); ++i)
         rows.push_back(std::span(grid.Points).subspan(i * cols, cols));

@@ -28,11 +28,11 @@ void CaptureDevices(Session& session, Words& words, Object&)
 // The picture as a device delivers it: 4 bytes a pixel, the top row first.
 std::vector<std::uint8_t> ReadFrame(const std::string& path)
 {
-    ModBitmap::PicInfo info;
-    ModBitmap::PicArray2D pixels;
+    render::PicInfo info;
+    render::PicArray2D pixels;
     Silence silence;
-    Require(ModBitmap::LoadPicArray2D(silence, base::Files("."), path, info, pixels) &&
-                info.Width == modEscapi::CaptureWidth && info.Height == modEscapi::CaptureHeight && info.BitCount == 24,
+    Require(render::LoadPicArray2D(silence, base::Files("."), path, info, pixels) &&
+                info.Width == webcam::CaptureWidth && info.Height == webcam::CaptureHeight && info.BitCount == 24,
             "the file is no 24-bit bitmap of 107 x 80 pixels");
     std::vector<std::uint8_t> frame;
     frame.reserve(static_cast<std::size_t>(info.Width) * static_cast<std::size_t>(info.Height) * 4);

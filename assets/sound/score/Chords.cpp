@@ -6,7 +6,7 @@
 #include <map>
 #include <stdexcept>
 
-namespace Assets::Sound
+namespace assets::sound
 {
 namespace
 {

@@ -3,7 +3,7 @@
 #include <string>
 #include <vector>
 
-namespace Assets::Sound
+namespace assets::sound
 {
 struct Chord
 {

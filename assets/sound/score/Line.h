@@ -2,7 +2,7 @@
 #pragma once
 #include <vector>
 
-namespace Assets::Sound
+namespace assets::sound
 {
 struct Note
 {

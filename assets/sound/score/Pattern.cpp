@@ -4,7 +4,7 @@
 #include <sstream>
 #include <stdexcept>
 
-namespace Assets::Sound
+namespace assets::sound
 {
 namespace
 {

@@ -4,7 +4,7 @@
 #include <string>
 #include <vector>
 
-namespace Assets::Sound
+namespace assets::sound
 {
 // The pieces between the bars, without empty ones.
 std::vector<std::string> Bars(const std::string& text);

@@ -5,7 +5,7 @@
 #include <sstream>
 #include <stdexcept>
 
-namespace Assets::Sound
+namespace assets::sound
 {
 namespace
 {

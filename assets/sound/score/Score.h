@@ -21,7 +21,7 @@
 #include <string>
 #include <vector>
 
-namespace Assets::Sound
+namespace assets::sound
 {
 // What each drum plays, by its name.
 using Kit = std::map<std::string, Line>;

@@ -2,7 +2,7 @@
 #include "sound/synth/Loudness.h"
 #include <stdexcept>
 
-namespace Assets::Sound
+namespace assets::sound
 {
 namespace
 {

@@ -4,7 +4,7 @@
 #include "sound/synth/Effects.h"
 #include "sound/synth/Tone.h"
 
-namespace Assets::Sound
+namespace assets::sound
 {
 struct RidePoint
 {

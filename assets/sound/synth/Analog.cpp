@@ -3,7 +3,7 @@
 #include "sound/synth/Wave.h"
 #include <array>
 
-namespace Assets::Sound
+namespace assets::sound
 {
 namespace
 {

@@ -3,7 +3,7 @@
 #include "sound/synth/Envelope.h"
 #include "sound/synth/Tone.h"
 
-namespace Assets::Sound
+namespace assets::sound
 {
 struct AnalogSettings
 {

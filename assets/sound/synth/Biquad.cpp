@@ -1,6 +1,6 @@
 #include "sound/synth/Biquad.h"
 
-namespace Assets::Sound
+namespace assets::sound
 {
 namespace
 {

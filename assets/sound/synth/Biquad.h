@@ -2,7 +2,7 @@
 #pragma once
 #include "sound/synth/Stereo.h"
 
-namespace Assets::Sound
+namespace assets::sound
 {
 struct Biquad
 {

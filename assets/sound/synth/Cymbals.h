@@ -2,7 +2,7 @@
 #pragma once
 #include "sound/synth/Tone.h"
 
-namespace Assets::Sound
+namespace assets::sound
 {
 // Sounds until `ring` has passed or the next one closes it: the tone's length.
 Instrument Hat(double ring);

@@ -2,7 +2,7 @@
 #include "sound/synth/Filter.h"
 #include "sound/synth/Wave.h"
 
-namespace Assets::Sound
+namespace assets::sound
 {
 namespace
 {

@@ -2,7 +2,7 @@
 #pragma once
 #include "sound/synth/Tone.h"
 
-namespace Assets::Sound
+namespace assets::sound
 {
 struct KickSettings
 {

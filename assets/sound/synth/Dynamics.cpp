@@ -3,7 +3,7 @@
 #include "sound/synth/Oversample.h"
 #include <deque>
 
-namespace Assets::Sound
+namespace assets::sound
 {
 void Compress(Stereo& sound, double threshold, double ratio, double attack, double release)
 {

@@ -4,7 +4,7 @@
 #include "sound/synth/Oversample.h"
 #include "sound/synth/Wave.h"
 
-namespace Assets::Sound
+namespace assets::sound
 {
 void CutLow(Stereo& sound, double hz)
 {

@@ -2,7 +2,7 @@
 #pragma once
 #include "sound/synth/Stereo.h"
 
-namespace Assets::Sound
+namespace assets::sound
 {
 // Removes what lies below (above) the frequency, 12 dB an octave.
 void CutLow(Stereo& sound, double hz);

@@ -3,7 +3,7 @@
 #include <algorithm>
 #include <cmath>
 
-namespace Assets::Sound
+namespace assets::sound
 {
 struct Envelope
 {

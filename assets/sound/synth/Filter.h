@@ -3,7 +3,7 @@
 #include "sound/synth/Stereo.h"
 #include <cmath>
 
-namespace Assets::Sound
+namespace assets::sound
 {
 inline double FilterGain(double hz)
 {

@@ -1,7 +1,7 @@
 #include "sound/synth/Loudness.h"
 #include "sound/synth/Biquad.h"
 
-namespace Assets::Sound
+namespace assets::sound
 {
 namespace
 {

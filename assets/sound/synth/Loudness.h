@@ -2,7 +2,7 @@
 #pragma once
 #include "sound/synth/Stereo.h"
 
-namespace Assets::Sound
+namespace assets::sound
 {
 // LUFS of all passages that are not much quieter than the rest; -100 for silence.
 double Loudness(const Stereo& sound);

@@ -1,7 +1,7 @@
 #include "sound/synth/Oversample.h"
 #include "common/Numbers.h"
 
-namespace Assets::Sound
+namespace assets::sound
 {
 namespace
 {

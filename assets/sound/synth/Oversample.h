@@ -4,7 +4,7 @@
 #include <cstddef>
 #include <vector>
 
-namespace Assets::Sound
+namespace assets::sound
 {
 constexpr std::size_t Times = 4;
 

@@ -1,7 +1,7 @@
 #include "sound/synth/Plucked.h"
 #include "sound/synth/Filter.h"
 
-namespace Assets::Sound
+namespace assets::sound
 {
 namespace
 {

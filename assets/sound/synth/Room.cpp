@@ -4,7 +4,7 @@
 #include "sound/synth/Wave.h"
 #include <array>
 
-namespace Assets::Sound
+namespace assets::sound
 {
 namespace
 {

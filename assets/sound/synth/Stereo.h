@@ -5,7 +5,7 @@
 #include <cstddef>
 #include <vector>
 
-namespace Assets::Sound
+namespace assets::sound
 {
 constexpr int Rate = 44100; // frames a second of everything but the engine
 

@@ -3,7 +3,7 @@
 #include "sound/synth/Stereo.h"
 #include <functional>
 
-namespace Assets::Sound
+namespace assets::sound
 {
 struct Tone
 {

@@ -4,7 +4,7 @@
 #include <array>
 #include <cmath>
 
-namespace Assets::Sound
+namespace assets::sound
 {
 namespace
 {

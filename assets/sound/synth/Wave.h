@@ -3,7 +3,7 @@
 #include <functional>
 #include <vector>
 
-namespace Assets::Sound
+namespace assets::sound
 {
 class Wave
 {

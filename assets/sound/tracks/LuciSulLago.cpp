@@ -6,7 +6,7 @@
 #include "sound/synth/Keys.h"
 #include "sound/Tracks.h"
 
-namespace Assets::Sound
+namespace assets::sound
 {
 namespace
 {

@@ -8,7 +8,7 @@
 #include "sound/synth/Plucked.h"
 #include "sound/Tracks.h"
 
-namespace Assets::Sound
+namespace assets::sound
 {
 namespace
 {

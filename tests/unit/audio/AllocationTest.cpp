@@ -20,17 +20,17 @@ struct Accepting final : platform::WaveOut
 
 TEST(Allocation, NoneInARefill)
 {
-    waveOut_Module::EngineSound engine;
+    audio::EngineSound engine;
     engine.Table.fill(100);
     engine.Step = 0.4f;
     engine.Gain = 20;
     Accepting device;
     support::Messages messages;
-    waveOut_Module::Stream stream{engine, device, messages};
-    waveOut_Module::StartStream(stream);
+    audio::Stream stream{engine, device, messages};
+    audio::StartStream(stream);
     const std::size_t before = support::Allocations();
     for (int k = 0; k < 400; ++k)
-        waveOut_Module::EngineWndProc(stream, k % 4);
+        audio::EngineWndProc(stream, k % 4);
     EXPECT_EQ(support::Allocations() - before, 0u);
     EXPECT_EQ(engine.Buffers[0], 2000 & 0xFF);
     EXPECT_EQ(engine.Buffers[1], 2000 >> 8);

@@ -10,9 +10,9 @@
 
 namespace
 {
+using audio::EngineSound;
+using audio::FillEngineBuffer;
 using testing::ElementsAre;
-using waveOut_Module::EngineSound;
-using waveOut_Module::FillEngineBuffer;
 
 // Entry i of the table is i - 128, over and over.
 struct EngineTest : testing::Test
@@ -41,7 +41,7 @@ struct EngineTest : testing::Test
     // As a car of that speed sounds with a factor of 25.
     void Drive(float speed)
     {
-        Engine.Step = static_cast<float>(modDinamica::EngineNote(speed));
+        Engine.Step = static_cast<float>(world::EngineNote(speed));
         Engine.Gain = static_cast<std::int16_t>((std::abs(speed) + 5) * 25);
     }
     // The entries that a buffer was made from.
@@ -59,7 +59,7 @@ TEST_F(EngineTest, AFileOfBytesBecomesATableAroundZero)
 {
     const support::TempFolder folder;
     folder.Write("engine.pcm", std::string("\x00\x01\x7F\x80\x81\xFF", 6));
-    waveOut_Module::LoadSample(Engine, folder.Files(), "engine.pcm");
+    audio::LoadSample(Engine, folder.Files(), "engine.pcm");
     EXPECT_THAT(std::vector<int>(Engine.Table.begin(), Engine.Table.begin() + 7),
                 ElementsAre(-128, -127, -1, 0, 1, 127, 0));
 }
@@ -68,12 +68,12 @@ TEST_F(EngineTest, AShortSampleEndsInSilenceAndNothingOfAnEarlierOneStays)
 {
     const support::TempFolder folder;
     folder.Write("short.pcm", std::string(2, '\xFF'));
-    waveOut_Module::LoadSample(Engine, folder.Files(), "short.pcm");
+    audio::LoadSample(Engine, folder.Files(), "short.pcm");
     Engine.Step = 1;
     FillEngineBuffer(Engine, 0);
     EXPECT_THAT(Frames(5), ElementsAre(127, 127, 0, 0, 0));
     folder.Write("empty.pcm", "");
-    waveOut_Module::LoadSample(Engine, folder.Files(), "empty.pcm");
+    audio::LoadSample(Engine, folder.Files(), "empty.pcm");
     Engine.ReadPosition = 0;
     FillEngineBuffer(Engine, 0);
     EXPECT_THAT(Frames(512), testing::Each(0));
@@ -85,7 +85,7 @@ TEST_F(EngineTest, OnlyTheFirst1024BytesAreEverPlayed)
     std::string bytes(1024, '\x90');
     bytes.append(5000, '\xFF');
     folder.Write("long.pcm", bytes);
-    waveOut_Module::LoadSample(Engine, folder.Files(), "long.pcm");
+    audio::LoadSample(Engine, folder.Files(), "long.pcm");
     Engine.Step = 1;
     for (int buffer = 0; buffer < 4; ++buffer)
     {
@@ -97,7 +97,7 @@ TEST_F(EngineTest, OnlyTheFirst1024BytesAreEverPlayed)
 TEST_F(EngineTest, AMissingSampleIsAnError)
 {
     const support::TempFolder folder;
-    EXPECT_THROW(waveOut_Module::LoadSample(Engine, folder.Files(), "none.pcm"), base::RuntimeError);
+    EXPECT_THROW(audio::LoadSample(Engine, folder.Files(), "none.pcm"), base::RuntimeError);
 }
 
 TEST_F(EngineTest, BothChannelsTakeTheSampleAndOtherBuffersStay)
@@ -253,7 +253,7 @@ TEST_F(EngineTest, AHeaderHoldsItsQuarterAndItsIndex)
 {
     for (int k = 0; k < 4; ++k)
     {
-        const platform::WaveHeader header = waveOut_Module::HeaderOf(Engine, k);
+        const platform::WaveHeader header = audio::HeaderOf(Engine, k);
         EXPECT_EQ(header.Data.data(), Engine.Buffers.data() + k * 2048);
         EXPECT_EQ(header.Data.size(), 2048u);
         EXPECT_EQ(header.User, k);

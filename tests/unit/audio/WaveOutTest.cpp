@@ -54,10 +54,10 @@ struct Device final : platform::WaveOut
 
 struct WaveOutTest : testing::Test
 {
-    waveOut_Module::EngineSound Engine;
+    audio::EngineSound Engine;
     Device TheDevice;
     support::Messages Messages;
-    waveOut_Module::Stream Stream{Engine, TheDevice, Messages};
+    audio::Stream Stream{Engine, TheDevice, Messages};
 
     std::vector<std::string> Texts() const
     {
@@ -74,7 +74,7 @@ struct WaveOutTest : testing::Test
 
 TEST_F(WaveOutTest, StartOpensPreparesAndQueuesInOrder)
 {
-    waveOut_Module::StartStream(Stream);
+    audio::StartStream(Stream);
     EXPECT_THAT(TheDevice.Calls, ElementsAre("open", "prepare0", "prepare1", "prepare2", "prepare3", "write0", "write1",
                                              "write2", "write3"));
     EXPECT_EQ(TheDevice.Format.Channels, 2);
@@ -86,21 +86,21 @@ TEST_F(WaveOutTest, StartOpensPreparesAndQueuesInOrder)
 
 TEST_F(WaveOutTest, StartDoesNothingWhileOpen)
 {
-    waveOut_Module::StartStream(Stream);
+    audio::StartStream(Stream);
     TheDevice.Calls.clear();
-    waveOut_Module::StartStream(Stream);
+    audio::StartStream(Stream);
     EXPECT_TRUE(TheDevice.Calls.empty());
 }
 
 TEST_F(WaveOutTest, StopResetsUnpreparesAndClosesInOrder)
 {
-    waveOut_Module::StartStream(Stream);
+    audio::StartStream(Stream);
     TheDevice.Calls.clear();
-    waveOut_Module::StopStream(Stream);
+    audio::StopStream(Stream);
     EXPECT_THAT(TheDevice.Calls, ElementsAre("reset", "unprepare0", "unprepare1", "unprepare2", "unprepare3", "close"));
     EXPECT_EQ(Engine.Handle, platform::NoWave);
     TheDevice.Calls.clear();
-    waveOut_Module::StopStream(Stream);
+    audio::StopStream(Stream);
     EXPECT_TRUE(TheDevice.Calls.empty());
 }
 
@@ -108,7 +108,7 @@ TEST_F(WaveOutTest, TheBuffersAreQueuedAsTheyAre)
 {
     for (std::size_t k = 0; k < 4; ++k)
         Engine.Buffers[k * 2048] = static_cast<std::uint8_t>(10 + k);
-    waveOut_Module::StartStream(Stream);
+    audio::StartStream(Stream);
     EXPECT_THAT(TheDevice.Written, ElementsAre(10, 11, 12, 13));
 }
 
@@ -119,7 +119,7 @@ TEST_F(WaveOutTest, AFailedOpenYieldsNineBoxes)
     for (const char* call : {"prepare", "write"})
         for (int k = 0; k < 4; ++k)
             TheDevice.Codes[call + std::to_string(k) + " invalid"] = 5;
-    waveOut_Module::StartStream(Stream);
+    audio::StartStream(Stream);
     EXPECT_THAT(Texts(), ElementsAre("Errore 2 in WaveOutOpen", "Errore 5 in WaveOutPrepareHeader(0)",
                                      "Errore 5 in WaveOutPrepareHeader(1)", "Errore 5 in WaveOutPrepareHeader(2)",
                                      "Errore 5 in WaveOutPrepareHeader(3)", "Errore 5 in WaveOutWrite(0)",
@@ -131,8 +131,8 @@ TEST_F(WaveOutTest, AFailedOpenYieldsNineBoxes)
 TEST_F(WaveOutTest, EveryFailureIsReportedAndTheLoopsGoOn)
 {
     TheDevice.Codes = {{"prepare1", 7}, {"write2", 34}, {"reset", 5}, {"unprepare3", 33}, {"close", -1}};
-    waveOut_Module::StartStream(Stream);
-    waveOut_Module::StopStream(Stream);
+    audio::StartStream(Stream);
+    audio::StopStream(Stream);
     EXPECT_THAT(Texts(), ElementsAre("Errore 7 in WaveOutPrepareHeader(1)", "Errore 34 in WaveOutWrite(2)",
                                      "Errore 5 in WaveOutReset", "Errore 33 in WaveOutUnprepareHeader(3)",
                                      "Errore -1 in WaveOutClose"));
@@ -142,12 +142,12 @@ TEST_F(WaveOutTest, EveryFailureIsReportedAndTheLoopsGoOn)
 
 TEST_F(WaveOutTest, ABufferThatComesBackIsFilledAndQueuedAgain)
 {
-    waveOut_Module::StartStream(Stream);
+    audio::StartStream(Stream);
     TheDevice.Calls.clear();
     TheDevice.Written.clear();
     Engine.Table.fill(3);
     Engine.Gain = 5;
-    waveOut_Module::EngineWndProc(Stream, 2);
+    audio::EngineWndProc(Stream, 2);
     EXPECT_THAT(TheDevice.Calls, ElementsAre("write2"));
     EXPECT_THAT(TheDevice.Written, ElementsAre(15));
     EXPECT_EQ(Engine.Buffers[0], 0);
@@ -155,29 +155,29 @@ TEST_F(WaveOutTest, ABufferThatComesBackIsFilledAndQueuedAgain)
 
 TEST_F(WaveOutTest, TheRequeueingIsNotExamined)
 {
-    waveOut_Module::StartStream(Stream);
+    audio::StartStream(Stream);
     TheDevice.Codes = {{"write1", 33}};
-    waveOut_Module::EngineWndProc(Stream, 1);
+    audio::EngineWndProc(Stream, 1);
     EXPECT_TRUE(Messages.Boxes.empty());
 }
 
 TEST_F(WaveOutTest, ABufferThatComesBackAfterTheCloseIsLeftAlone)
 {
-    waveOut_Module::StartStream(Stream);
-    waveOut_Module::StopStream(Stream);
+    audio::StartStream(Stream);
+    audio::StopStream(Stream);
     TheDevice.Calls.clear();
     Engine.Step = 1;
-    waveOut_Module::EngineWndProc(Stream, 0);
+    audio::EngineWndProc(Stream, 0);
     EXPECT_TRUE(TheDevice.Calls.empty());
     EXPECT_EQ(Engine.ReadPosition, 0);
 }
 
 TEST_F(WaveOutTest, AnIndexOfNoBufferIsLeftAlone)
 {
-    waveOut_Module::StartStream(Stream);
+    audio::StartStream(Stream);
     TheDevice.Calls.clear();
-    waveOut_Module::EngineWndProc(Stream, -1);
-    waveOut_Module::EngineWndProc(Stream, 4);
+    audio::EngineWndProc(Stream, -1);
+    audio::EngineWndProc(Stream, 4);
     EXPECT_TRUE(TheDevice.Calls.empty());
 }
 }

@@ -94,7 +94,7 @@ TEST_F(Commands, DecelerationNeverReachesTheDriving)
 
 TEST_F(Commands, APositionIsTheObjectsAndKeepsItsHeight)
 {
-    Mod3D::Obj& car = TheWorld.Object(Player(2).Obj);
+    render::Obj& car = TheWorld.Object(Player(2).Obj);
     car.Y = 7;
     ExpectDone("\\set player 2 position 3,5 -4.25");
     EXPECT_EQ(car.X, 3.5f);

@@ -14,15 +14,15 @@ namespace test
 struct Desk : testing::Test, private console::Host
 {
     World TheWorld;
-    Mod3D::Screen Screen;
+    render::Screen Screen;
     std::string LastCommand = "\\";
     std::string Clipboard;
     std::optional<std::int32_t> Elapsed; // as last set
     console::Console Console{TheWorld.Scene,  Label("\\"), Label(""),   TheWorld.Race,
                              TheWorld.Camera, Screen,      LastCommand, *this};
 
-    Mod3D::Label2D& Line() { return TheWorld.Scene.Labels.At(Console.Line); }
-    Mod3D::Label2D& Information() { return TheWorld.Scene.Labels.At(Console.Information); }
+    render::Label2D& Line() { return TheWorld.Scene.Labels.At(Console.Line); }
+    render::Label2D& Information() { return TheWorld.Scene.Labels.At(Console.Information); }
     bool IsOpen() { return Line().Visible != 0; }
 
     void KeyUp(int code) { console::ConsoleKeyUp(Console, static_cast<std::int16_t>(code)); }
@@ -43,7 +43,7 @@ struct Desk : testing::Test, private console::Host
 private:
     std::int16_t Label(std::string_view text)
     {
-        return modPrimitive::MakeLabel2D(TheWorld.Scene, 1, 1, 0, 0.5f, 4, {255, 255, 255}, 0, text);
+        return render::MakeLabel2D(TheWorld.Scene, 1, 1, 0, 0.5f, 4, {255, 255, 255}, 0, text);
     }
     std::string ClipboardText() override { return Clipboard; }
     void SetClipboardText(const std::string& text) override { Clipboard = text; }

@@ -12,21 +12,21 @@ const base::Files Tree{VELKAR_ROOT};
 
 struct Shipped
 {
-    Mod3D::Scene Scene;
+    render::Scene Scene;
     support::Messages Messages;
     std::int16_t Index = -1;
 
-    explicit Shipped(const std::string& path) { Index = modOggetti::LoadObject(Scene, Messages, Tree, path); }
-    const Mod3D::Obj& Object() const { return Scene.Objects.At(Index); }
-    const Mod3D::Texture& TextureOf(const Mod3D::ObjMesh& mesh) const { return Scene.Textures.At(mesh.TexIndex); }
+    explicit Shipped(const std::string& path) { Index = world::LoadObject(Scene, Messages, Tree, path); }
+    const render::Obj& Object() const { return Scene.Objects.At(Index); }
+    const render::Texture& TextureOf(const render::ObjMesh& mesh) const { return Scene.Textures.At(mesh.TexIndex); }
 
     void ExpectSound() const
     {
         for (const support::Box& box : Messages.Boxes)
             ADD_FAILURE() << box.Title << ": " << box.Text;
         ASSERT_EQ(Index, 0);
-        for (const Mod3D::ObjMesh& mesh : Object().Mesh)
-            for (const Mod3D::MeshPt& p : mesh.Pts.Points)
+        for (const render::ObjMesh& mesh : Object().Mesh)
+            for (const render::MeshPt& p : mesh.Pts.Points)
             {
                 EXPECT_LE(std::hypot(p.X, p.Y, p.Z), Object().Radius + 0.001);
                 if (mesh.Colour >= 0)
@@ -38,7 +38,7 @@ struct Shipped
     int Triangles() const
     {
         int count = 0;
-        for (const Mod3D::ObjMesh& mesh : Object().Mesh)
+        for (const render::ObjMesh& mesh : Object().Mesh)
             count += (mesh.Rows - 1) * (mesh.Cols - 1) * 2;
         return count;
     }
@@ -69,7 +69,7 @@ TEST_P(ShippedCar, HasTheMeasuresOfACar)
     const Shipped car(CarPath(GetParam()));
     float left = 9, right = -9, high = -9, low = 9, tail = 9, nose = -9;
     for (std::size_t m = 0; m < 10; ++m) // the body
-        for (const Mod3D::MeshPt& p : car.Object().Mesh.at(m).Pts.Points)
+        for (const render::MeshPt& p : car.Object().Mesh.at(m).Pts.Points)
         {
             left = std::min(left, p.X);
             right = std::max(right, p.X);
@@ -90,7 +90,7 @@ TEST_P(ShippedCar, Mesh20IsTheGlassThatBreaks)
 {
     Shipped car(CarPath(GetParam()));
     ASSERT_GE(car.Object().NumMesh, 21);
-    const Mod3D::ObjMesh& glass = car.Object().Mesh[20];
+    const render::ObjMesh& glass = car.Object().Mesh[20];
     ASSERT_LT(glass.Colour, 0);
     EXPECT_TRUE(car.TextureOf(glass).Path.ends_with("textures\\glass.bmp")) << car.TextureOf(glass).Path;
 }
@@ -101,10 +101,10 @@ TEST_P(ShippedCar, EverySphereDentsTheBody)
     ASSERT_GE(car.Object().NumSfere, 7);
     for (std::size_t s = 0; s < car.Object().Sfere.size(); ++s)
     {
-        const Mod3D::Sfera& sphere = car.Object().Sfere[s];
+        const render::Sfera& sphere = car.Object().Sfere[s];
         EXPECT_GE(sphere.NumLinks, 8) << s;
         EXPECT_EQ(sphere.Y > 0.7, s >= 6) << s; // low on the body, then the cabin
-        for (const Mod3D::SfereLink& link : sphere.Links)
+        for (const render::SfereLink& link : sphere.Links)
             EXPECT_TRUE(car.Object().Mesh.at(static_cast<std::size_t>(link.M)).Pts.Has(link.I, link.J));
     }
 }
@@ -114,7 +114,7 @@ TEST_P(ShippedCar, LeavesTheDriverHisView)
     // No opaque corner close before the eye, where it would hide the road.
     const Shipped car(CarPath(GetParam()));
     for (std::size_t m = 0; m < car.Object().Mesh.size(); ++m)
-        for (const Mod3D::MeshPt& p : car.Object().Mesh[m].Pts.Points)
+        for (const render::MeshPt& p : car.Object().Mesh[m].Pts.Points)
         {
             if (m == 20)
                 continue; // the windscreen itself
@@ -151,8 +151,8 @@ TEST(ShippedModels, TheArrowPointsAhead)
     EXPECT_EQ(arrow.Object().Visible, 1);
     EXPECT_EQ(arrow.Object().NumSfere, 0); // nothing collides with it
     double tip = 0, tail = 0;
-    for (const Mod3D::ObjMesh& mesh : arrow.Object().Mesh)
-        for (const Mod3D::MeshPt& p : mesh.Pts.Points)
+    for (const render::ObjMesh& mesh : arrow.Object().Mesh)
+        for (const render::MeshPt& p : mesh.Pts.Points)
         {
             tip = std::max(tip, static_cast<double>(p.Z));
             tail = std::min(tail, static_cast<double>(p.Z));

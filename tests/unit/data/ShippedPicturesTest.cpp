@@ -14,21 +14,21 @@ namespace
 {
 const base::Files Tree{VELKAR_ROOT};
 
-ModBitmap::Picture Load(const std::string& path)
+render::Picture Load(const std::string& path)
 {
     support::Messages messages;
-    ModBitmap::Picture picture;
-    EXPECT_TRUE(ModBitmap::LoadPicArray2D(messages, Tree, path, picture.Info, picture.Pixels)) << path;
+    render::Picture picture;
+    EXPECT_TRUE(render::LoadPicArray2D(messages, Tree, path, picture.Info, picture.Pixels)) << path;
     return picture;
 }
 
-bool IsClear(const ModBitmap::Picture& picture, int x, int y)
+bool IsClear(const render::Picture& picture, int x, int y)
 {
     const std::uint8_t* p = picture.Pixels.Bytes.data() + y * picture.Info.RowBytes + x * 3;
     return p[0] == 0 && p[1] == 0 && p[2] == 0;
 }
 
-double ClearShare(const ModBitmap::Picture& picture)
+double ClearShare(const render::Picture& picture)
 {
     int clear = 0;
     for (int y = 0; y < picture.Info.Height; ++y)
@@ -40,12 +40,12 @@ double ClearShare(const ModBitmap::Picture& picture)
 struct ShippedFont : testing::Test
 {
     support::Messages Messages;
-    ModBitmap::Font Font;
+    render::Font Font;
 
-    ShippedFont() { ModBitmap::LoadFont(Messages, Tree, "data\\fonts\\Font_01", Font); }
-    const ModBitmap::Glyph& Glyph(int code) const
+    ShippedFont() { render::LoadFont(Messages, Tree, "data\\fonts\\Font_01", Font); }
+    const render::Glyph& Glyph(int code) const
     {
-        return Font.Glyphs.at(static_cast<std::size_t>(code - ModBitmap::FirstCode));
+        return Font.Glyphs.at(static_cast<std::size_t>(code - render::FirstCode));
     }
 };
 }
@@ -72,7 +72,7 @@ TEST_F(ShippedFont, LettersKeepTheirInkAtTheSmallestScale)
     // At 0.4 every fifth pair of rows and columns is left: no letter may lose more than half of what it should keep.
     for (int code = 33; code < 127; ++code)
     {
-        const ModBitmap::Glyph& glyph = Glyph(code);
+        const render::Glyph& glyph = Glyph(code);
         double all = 0, kept = 0;
         for (int y = 0; y < glyph.GlyphH; ++y)
             for (int x = 0; x < glyph.GlyphW; ++x)
@@ -98,8 +98,8 @@ TEST_F(ShippedFont, EveryAnswerOfTheConsoleStandsOnTheFirstFrame)
     {
         // The widest tab stop may still hold from another answer.
         const std::int16_t tabWidth = answer.TabWidth != 0 ? answer.TabWidth : std::int16_t{8};
-        const std::int32_t tab = ModBitmap::TabPixels(Font, scale, tabWidth);
-        EXPECT_LT(ModBitmap::TextWidth(Font, scale, answer.Text, tab), 600) << answer.Text;
+        const std::int32_t tab = render::TabPixels(Font, scale, tabWidth);
+        EXPECT_LT(render::TextWidth(Font, scale, answer.Text, tab), 600) << answer.Text;
         const auto lines = std::count(answer.Text.begin(), answer.Text.end(), '\r');
         EXPECT_GE(272 - static_cast<double>(lines) * (Font.LineHeight / 2.0 + 1), 0) << answer.Text;
         // A name and what it means never share a tab stop: every name ends before the first.
@@ -110,7 +110,7 @@ TEST_F(ShippedFont, EveryAnswerOfTheConsoleStandsOnTheFirstFrame)
             const std::string_view name = line.substr(0, line.find('\t'));
             if (answer.TabWidth > 1)
             {
-                EXPECT_LT(ModBitmap::TextWidth(Font, scale, name, tab), tab) << name;
+                EXPECT_LT(render::TextWidth(Font, scale, name, tab), tab) << name;
             }
             left.remove_prefix(std::min(left.size(), line.size() + 2));
         }
@@ -119,7 +119,7 @@ TEST_F(ShippedFont, EveryAnswerOfTheConsoleStandsOnTheFirstFrame)
 
 TEST(ShippedPictures, BothGlassesHaveOneSizeAndLetTheDriverSee)
 {
-    const ModBitmap::Picture whole = Load("data\\textures\\glass.bmp"), broken = Load("data\\textures\\glass_b.bmp");
+    const render::Picture whole = Load("data\\textures\\glass.bmp"), broken = Load("data\\textures\\glass_b.bmp");
     EXPECT_EQ(whole.Info.Width, broken.Info.Width);
     EXPECT_EQ(whole.Info.Height, broken.Info.Height);
     EXPECT_GT(ClearShare(whole), 0.8);
@@ -131,7 +131,7 @@ TEST(ShippedPictures, PuffsAreRound)
 {
     for (const char* name : {"smoke", "water", "fireR", "fireY"})
     {
-        const ModBitmap::Picture puff = Load("data\\sprites\\" + std::string(name) + ".bmp");
+        const render::Picture puff = Load("data\\sprites\\" + std::string(name) + ".bmp");
         const int right = puff.Info.Width - 1, top = puff.Info.Height - 1;
         for (const auto& [x, y] : {std::pair{0, 0}, {right, 0}, {0, top}, {right, top}})
             EXPECT_TRUE(IsClear(puff, x, y)) << name;
@@ -141,7 +141,7 @@ TEST(ShippedPictures, PuffsAreRound)
 
 TEST(ShippedPictures, TheBackdropFitsTheWebcam)
 {
-    const ModBitmap::Picture inside = Load("data\\images\\inside.bmp");
+    const render::Picture inside = Load("data\\images\\inside.bmp");
     EXPECT_EQ(inside.Info.Width, 107);
     EXPECT_EQ(inside.Info.Height, 80);
 }
@@ -150,7 +150,7 @@ TEST(ShippedPictures, TheMenuFillsAndTheTitleStandsOnNothing)
 {
     EXPECT_EQ(ClearShare(Load("data\\images\\menu.bmp")), 0);
     EXPECT_EQ(ClearShare(Load("data\\images\\splash.bmp")), 0);
-    const ModBitmap::Picture logo = Load("data\\images\\logo.bmp");
+    const render::Picture logo = Load("data\\images\\logo.bmp");
     EXPECT_GT(ClearShare(logo), 0.25);
     EXPECT_TRUE(IsClear(logo, 0, 0));
 }

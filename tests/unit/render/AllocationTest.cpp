@@ -12,7 +12,7 @@
 
 namespace
 {
-struct NoSink : Mod3D::FrameSink
+struct NoSink : render::FrameSink
 {
     void Present(int, int, std::span<const std::uint8_t>) override {}
 };
@@ -22,30 +22,30 @@ TEST(Allocation, NoneInAFrameWithTextSpritesAndParticles)
 {
     base::Random random;
     random.Seed(6);
-    Mod3D::Scene scene;
-    scene.Sky = scenes::Noise(random, Mod3D::SkyWidth, 60);
+    render::Scene scene;
+    scene.Sky = scenes::Noise(random, render::SkyWidth, 60);
     scenes::SetGround(scene, scenes::Noise(random, 200, 200));
     for (int code = 'A'; code <= 'Z'; ++code)
-        scene.Font.Glyphs[static_cast<std::size_t>(code - ModBitmap::FirstCode)] = {1, 6, 8,
-                                                                                    std::vector<std::uint8_t>(48, 255)};
+        scene.Font.Glyphs[static_cast<std::size_t>(code - render::FirstCode)] = {1, 6, 8,
+                                                                                 std::vector<std::uint8_t>(48, 255)};
     scene.Font.LineHeight = 8;
     scene.Font.WidestGlyph = 6;
-    const auto smoke = std::make_shared<const ModBitmap::Picture>(scenes::Noise(random, 20, 20, 0.3));
-    const std::int16_t object = modPrimitive::MakeObj(scene, 100, 0, 110, 1, 0, 1, 0, 1, 1);
-    modPrimitive::SetObjR(scene, object, 9);
-    modPrimitive::EditObjMesh(scene, object, 0, 5, 5, 0x445566, 0);
+    const auto smoke = std::make_shared<const render::Picture>(scenes::Noise(random, 20, 20, 0.3));
+    const std::int16_t object = render::MakeObj(scene, 100, 0, 110, 1, 0, 1, 0, 1, 1);
+    render::SetObjR(scene, object, 9);
+    render::EditObjMesh(scene, object, 0, 5, 5, 0x445566, 0);
     for (int i = 0; i < 5; ++i)
         for (int j = 0; j < 5; ++j)
-            modPrimitive::EditObjMeshPt(scene, object, 0, i, j, static_cast<float>(i), static_cast<float>(j), 1, 0, 0);
-    modPrimitive::MakePoly(scene, 2, 0x223344, 1);
-    modPrimitive::EditPolyPt(scene, 0, 0, 95, 1, 110);
-    modPrimitive::EditPolyPt(scene, 0, 1, 105, 1, 110);
-    modPrimitive::MakeSprite3D(scene, smoke, 100, 1, 105, 0.03f, 0.5f, 1);
+            render::EditObjMeshPt(scene, object, 0, i, j, static_cast<float>(i), static_cast<float>(j), 1, 0, 0);
+    render::MakePoly(scene, 2, 0x223344, 1);
+    render::EditPolyPt(scene, 0, 0, 95, 1, 110);
+    render::EditPolyPt(scene, 0, 1, 105, 1, 110);
+    render::MakeSprite3D(scene, smoke, 100, 1, 105, 0.03f, 0.5f, 1);
     support::Messages messages;
-    modPrimitive::MakePic2D(scene, messages, 5, 5, 20, 20, 1);
-    modPrimitive::MakeRect2D(scene, 5, 5, 20, 20, 0, {1, 2, 3}, 1);
+    render::MakePic2D(scene, messages, 5, 5, 20, 20, 1);
+    render::MakeRect2D(scene, 5, 5, 20, 20, 0, {1, 2, 3}, 1);
     for (std::int16_t style = 0; style < 3; ++style)
-        modPrimitive::MakeLabel2D(scene, 120, 100, style, 1.5f, 4, {9, 9, 9}, 1, "PRIMA\tRIGA\r\nSECONDA RIGA");
+        render::MakeLabel2D(scene, 120, 100, style, 1.5f, 4, {9, 9, 9}, 1, "PRIMA\tRIGA\r\nSECONDA RIGA");
     scenes::View view(600, 312, 0, 5);
     view.Look(100, 3, 100, 0.1f, -0.1f);
     NoSink sink;
@@ -54,10 +54,10 @@ TEST(Allocation, NoneInAFrameWithTextSpritesAndParticles)
     {
         view.Screen.TxtFilter = static_cast<std::int16_t>(number % 3);
         // As the game does between frames: particles come and go, read-outs change.
-        modEffects::AddParticle(scene, 5, modEffects::Smoke, smoke, 100, 1, 108, 0.03f, 0.9f);
-        modEffects::AdvanceParticles(scene, random);
+        render::AddParticle(scene, 5, render::Smoke, smoke, 100, 1, 108, 0.03f, 0.9f);
+        render::AdvanceParticles(scene, random);
         text.assign(static_cast<std::size_t>(number % 30), 'X');
-        modPrimitive::SetLabelText(scene, 0, text);
+        render::SetLabelText(scene, 0, text);
         RenderFrame(scene, view.Camera, view.Screen, &sink);
     };
     for (int number = 0; number < 60; ++number)

@@ -7,8 +7,8 @@
 #include <cmath>
 #include <limits>
 
-using Mod3D::Camera;
-using Mod3D::Point3;
+using render::Camera;
+using render::Point3;
 
 namespace
 {
@@ -94,71 +94,71 @@ TEST(WorldToCamera, ResultsAreSinglesAlsoWhereTheyAreUsedAtOnce)
 TEST(RotatePoint, HeadingTurnsLocalZAndPitchComesAfter)
 {
     const float h = 0.7f;
-    ExpectNear(RotatePoint(Mod3D::MakeRotation(h, 0), 10, 20, 30, 0, 0, 1), 10 - std::sin(h), 20, 30 + std::cos(h));
-    ExpectNear(RotatePoint(Mod3D::MakeRotation(QuarterTurn, 0), 0, 0, 0, 1, 0, 0), 0, 0, 1);
-    ExpectNear(RotatePoint(Mod3D::MakeRotation(0, QuarterTurn), 0, 0, 0, 0, 1, 0), 0, 0, 1);
-    ExpectNear(RotatePoint(Mod3D::MakeRotation(0, QuarterTurn), 0, 0, 0, 0, 0, 1), 0, -1, 0);
+    ExpectNear(RotatePoint(render::MakeRotation(h, 0), 10, 20, 30, 0, 0, 1), 10 - std::sin(h), 20, 30 + std::cos(h));
+    ExpectNear(RotatePoint(render::MakeRotation(QuarterTurn, 0), 0, 0, 0, 1, 0, 0), 0, 0, 1);
+    ExpectNear(RotatePoint(render::MakeRotation(0, QuarterTurn), 0, 0, 0, 0, 1, 0), 0, 0, 1);
+    ExpectNear(RotatePoint(render::MakeRotation(0, QuarterTurn), 0, 0, 0, 0, 0, 1), 0, -1, 0);
 }
 
 TEST(Project, RoundsTiesToEven)
 {
-    const Mod3D::ScreenPoint at = Mod3D::Project(1, 3, 4, 10.0f, 120.0f, 100.0f);
+    const render::ScreenPoint at = render::Project(1, 3, 4, 10.0f, 120.0f, 100.0f);
     EXPECT_EQ(at.X, 122); // 122.5
     EXPECT_EQ(at.Y, 108); // 107.5
 }
 
 TEST(Project, WhatIsOnNoScreenIsOutOfRange)
 {
-    EXPECT_EQ(Mod3D::Project(1, 1, 0, 10.0f, 120.0f, 100.0f).X, base::OutOfRange);
-    EXPECT_EQ(Mod3D::Project(0, 0, 0, 10.0f, 120.0f, 100.0f).Y, base::OutOfRange);
-    EXPECT_EQ(Mod3D::Project(NaN, 1, 1, 10.0f, 120.0f, 100.0f).X, base::OutOfRange);
-    EXPECT_EQ(Mod3D::Project(1e20, 1, 1, 10.0f, 120.0f, 100.0f).X, base::OutOfRange);
+    EXPECT_EQ(render::Project(1, 1, 0, 10.0f, 120.0f, 100.0f).X, base::OutOfRange);
+    EXPECT_EQ(render::Project(0, 0, 0, 10.0f, 120.0f, 100.0f).Y, base::OutOfRange);
+    EXPECT_EQ(render::Project(NaN, 1, 1, 10.0f, 120.0f, 100.0f).X, base::OutOfRange);
+    EXPECT_EQ(render::Project(1e20, 1, 1, 10.0f, 120.0f, 100.0f).X, base::OutOfRange);
 }
 
 TEST(Distances, AreEuclidean)
 {
-    EXPECT_EQ(Mod3D::Dist2D(1, 1, 4, 5), 5.0);
-    EXPECT_EQ(Mod3D::Dist3D(1, 1, 1, 2, 3, 3), 3.0);
-    EXPECT_EQ(Mod3D::VecLen(2, 3, 6), 7.0);
+    EXPECT_EQ(render::Dist2D(1, 1, 4, 5), 5.0);
+    EXPECT_EQ(render::Dist3D(1, 1, 1, 2, 3, 3), 3.0);
+    EXPECT_EQ(render::VecLen(2, 3, 6), 7.0);
     // Pixels far apart: the difference needs more than 32 bits.
-    EXPECT_EQ(Mod3D::Dist2D(-2147483647, 0, 2147483647, 0), 4294967294.0);
+    EXPECT_EQ(render::Dist2D(-2147483647, 0, 2147483647, 0), 4294967294.0);
 }
 
 TEST(AngleOf, QuadrantsWithTheConstantsOfTheGame)
 {
-    EXPECT_EQ(Mod3D::AngleOf(1, 0), 1.570796);
-    EXPECT_EQ(Mod3D::AngleOf(-1, 0), -1.570796);
-    EXPECT_EQ(Mod3D::AngleOf(0, 0), 0.0);
-    EXPECT_EQ(Mod3D::AngleOf(0, 3), 0.0);
-    EXPECT_EQ(Mod3D::AngleOf(0, -3), 3.141592);
-    EXPECT_NEAR(Mod3D::AngleOf(1, 1), 0.785398163, 1e-9);
-    EXPECT_NEAR(Mod3D::AngleOf(1, -1), -0.785398163 + 3.141592, 1e-9);
-    EXPECT_NEAR(Mod3D::AngleOf(-1, -1), 0.785398163 - 3.141592, 1e-9);
-    EXPECT_NEAR(Mod3D::AngleOf(-1, 1), -0.785398163, 1e-9);
+    EXPECT_EQ(render::AngleOf(1, 0), 1.570796);
+    EXPECT_EQ(render::AngleOf(-1, 0), -1.570796);
+    EXPECT_EQ(render::AngleOf(0, 0), 0.0);
+    EXPECT_EQ(render::AngleOf(0, 3), 0.0);
+    EXPECT_EQ(render::AngleOf(0, -3), 3.141592);
+    EXPECT_NEAR(render::AngleOf(1, 1), 0.785398163, 1e-9);
+    EXPECT_NEAR(render::AngleOf(1, -1), -0.785398163 + 3.141592, 1e-9);
+    EXPECT_NEAR(render::AngleOf(-1, -1), 0.785398163 - 3.141592, 1e-9);
+    EXPECT_NEAR(render::AngleOf(-1, 1), -0.785398163, 1e-9);
 }
 
 TEST(WrapAngle, WorksInWholeMilliradians)
 {
-    EXPECT_EQ(Mod3D::WrapAngle(0.0004), 0.0);
-    EXPECT_EQ(Mod3D::WrapAngle(0.0005), 0.0); // ties to even
-    EXPECT_EQ(Mod3D::WrapAngle(0.0015), 0.002);
-    EXPECT_EQ(Mod3D::WrapAngle(3.141), 3.141);
-    EXPECT_EQ(Mod3D::WrapAngle(3.142), 3.142 - 6.283184);
-    EXPECT_EQ(Mod3D::WrapAngle(-3.142), -3.142 + 6.283184);
-    EXPECT_EQ(Mod3D::WrapAngle(7.0), 0.717);
-    EXPECT_EQ(Mod3D::WrapAngle(-7.0), -0.717);
-    EXPECT_EQ(Mod3D::WrapAngle(6.283), 0.0);
+    EXPECT_EQ(render::WrapAngle(0.0004), 0.0);
+    EXPECT_EQ(render::WrapAngle(0.0005), 0.0); // ties to even
+    EXPECT_EQ(render::WrapAngle(0.0015), 0.002);
+    EXPECT_EQ(render::WrapAngle(3.141), 3.141);
+    EXPECT_EQ(render::WrapAngle(3.142), 3.142 - 6.283184);
+    EXPECT_EQ(render::WrapAngle(-3.142), -3.142 + 6.283184);
+    EXPECT_EQ(render::WrapAngle(7.0), 0.717);
+    EXPECT_EQ(render::WrapAngle(-7.0), -0.717);
+    EXPECT_EQ(render::WrapAngle(6.283), 0.0);
 }
 
 TEST(WrapAngle, WhatIsNoAngleStaysNone)
 {
     for (const double angle : {NaN, Infinity, -Infinity, 1e12})
-        EXPECT_TRUE(std::isnan(Mod3D::WrapAngle(angle)));
+        EXPECT_TRUE(std::isnan(render::WrapAngle(angle)));
 }
 
 TEST(SplitRGB, RedIsTheLowByte)
 {
-    const Mod3D::Rgb colour = Mod3D::SplitRGB(0x123456);
+    const render::Rgb colour = render::SplitRGB(0x123456);
     EXPECT_EQ(colour.R, 0x56);
     EXPECT_EQ(colour.G, 0x34);
     EXPECT_EQ(colour.B, 0x12);

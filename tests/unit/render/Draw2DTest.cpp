@@ -13,7 +13,7 @@ namespace
 struct Paper : scenes::View
 {
     Paper() : View(6, 4) {}
-    ModBitmap::Surface Surface() { return Mod3D::FrameSurface(Screen); }
+    render::Surface Surface() { return render::FrameSurface(Screen); }
     std::string Rows() const
     {
         std::string text;
@@ -28,9 +28,9 @@ struct Paper : scenes::View
 };
 
 // 3 x 2: 1 2 3 below, 4 5 6 above.
-ModBitmap::Picture Six()
+render::Picture Six()
 {
-    ModBitmap::Picture picture = scenes::Blank(3, 2);
+    render::Picture picture = scenes::Blank(3, 2);
     for (int i = 0; i < 6; ++i)
         picture.Pixels.Row(i / 3)[i % 3 * 3] = static_cast<std::uint8_t>(i + 1);
     return picture;
@@ -39,14 +39,14 @@ ModBitmap::Picture Six()
 std::string Pic(std::int32_t x, std::int32_t y)
 {
     Paper paper;
-    Mod3D::DrawPic2D(paper.Surface(), Six(), x, y);
+    render::DrawPic2D(paper.Surface(), Six(), x, y);
     return paper.Rows();
 }
 
 std::string Rect(std::int16_t x, std::int16_t y, std::int16_t w, std::int16_t h)
 {
     Paper paper;
-    Mod3D::FillRect2D(paper.Surface(), x, y, w, h, {3, 2, 1});
+    render::FillRect2D(paper.Surface(), x, y, w, h, {3, 2, 1});
     return paper.Rows();
 }
 
@@ -61,8 +61,8 @@ TEST(DrawPic2D, StandsWithItsBottomLeftPixelAtThePlace)
 TEST(DrawPic2D, BlackIsNotTransparent)
 {
     Paper paper;
-    Mod3D::FillRect2D(paper.Surface(), 0, 0, 5, 3, {1, 1, 1});
-    Mod3D::DrawPic2D(paper.Surface(), scenes::Blank(2, 1), 1, 1);
+    render::FillRect2D(paper.Surface(), 0, 0, 5, 3, {1, 1, 1});
+    render::DrawPic2D(paper.Surface(), scenes::Blank(2, 1), 1, 1);
     EXPECT_EQ(paper.Rows(), "111111\n111111\n100111\n111111\n");
 }
 
@@ -82,7 +82,7 @@ TEST(DrawPic2D, IsClippedOnAllFourSides)
 TEST(DrawPic2D, AnEmptyPictureDrawsNothing)
 {
     Paper paper;
-    Mod3D::DrawPic2D(paper.Surface(), {}, 0, 0);
+    render::DrawPic2D(paper.Surface(), {}, 0, 0);
     EXPECT_EQ(paper.Rows(), Empty);
 }
 
@@ -96,7 +96,7 @@ TEST(FillRect2D, BothEndsAreIncluded)
 TEST(FillRect2D, ColourBytesAreBlueGreenRed)
 {
     Paper paper;
-    Mod3D::FillRect2D(paper.Surface(), 0, 0, 0, 0, {3, 2, 1});
+    render::FillRect2D(paper.Surface(), 0, 0, 0, 0, {3, 2, 1});
     EXPECT_EQ(scenes::Bytes(paper.Pixel(0, 0)), 0x010203u);
 }
 

@@ -5,17 +5,17 @@
 
 #include <gtest/gtest.h>
 
-using namespace modEffects;
-using Mod3D::Scene;
-using Mod3D::Sprite3D;
+using namespace render;
+using render::Scene;
+using render::Sprite3D;
 
 namespace
 {
 struct Effects : testing::Test
 {
-    Mod3D::Scene Scene;
+    render::Scene Scene;
     base::Random Random;
-    ModBitmap::PicReference Picture = std::make_shared<const ModBitmap::Picture>(scenes::Blank(2, 2));
+    render::PicReference Picture = std::make_shared<const render::Picture>(scenes::Blank(2, 2));
 
     std::int16_t Add(int life, std::int32_t kind, float alpha = 1.0f)
     {

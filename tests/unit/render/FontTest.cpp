@@ -23,10 +23,10 @@ TEST(LoadFont, OnlyExactlyBlackIsInkAndRow0IsTheBottom)
     folder.Write("font/65.bmp", support::BitmapHeader(2, 2) + std::string("\0\0\0\x80\x80\x80\0\0"
                                                                           "\0\0\1\0\0\0\0\0",
                                                                           16));
-    ModBitmap::Font font;
-    ModBitmap::LoadFont(messages, folder.Files(), "font", font);
+    render::Font font;
+    render::LoadFont(messages, folder.Files(), "font", font);
     EXPECT_TRUE(messages.Boxes.empty());
-    const ModBitmap::Glyph* glyph = font.Find('A');
+    const render::Glyph* glyph = font.Find('A');
     ASSERT_NE(glyph, nullptr);
     EXPECT_EQ(glyph->GlyphW, 2);
     EXPECT_EQ(glyph->GlyphH, 2);
@@ -40,8 +40,8 @@ TEST(LoadFont, AMissingGlyphIsAbsentAndNoError)
     folder.Write("font/32.bmp", support::BitmapHeader(3, 1) + std::string(12, '\xFF'));
     folder.Write("font/255.bmp", support::BitmapHeader(1, 5) + std::string(20, '\0'));
     folder.Write("font/31.bmp", OnePixel(0, 0, 0)); // below the array
-    ModBitmap::Font font;
-    ModBitmap::LoadFont(messages, folder.Files(), "font\\", font);
+    render::Font font;
+    render::LoadFont(messages, folder.Files(), "font\\", font);
     EXPECT_TRUE(messages.Boxes.empty());
     EXPECT_NE(font.Find(32), nullptr);
     EXPECT_NE(font.Find(255), nullptr);
@@ -58,8 +58,8 @@ TEST(LoadFont, AGlyphThatFailsIsReportedAndAbsent)
     support::Messages messages;
     folder.Write("font/65.bmp", "BM");
     folder.Write("font/66.bmp", OnePixel(0, 0, 0));
-    ModBitmap::Font font;
-    ModBitmap::LoadFont(messages, folder.Files(), "font", font);
+    render::Font font;
+    render::LoadFont(messages, folder.Files(), "font", font);
     ASSERT_EQ(messages.Boxes.size(), 1u);
     EXPECT_EQ(messages.Boxes[0].Text, "Input oltre la fine del file in LoadPicArray2D");
     EXPECT_EQ(font.Find('A'), nullptr);

@@ -11,8 +11,8 @@
 #include <memory>
 #include <utility>
 
-using Mod3D::Band;
-using Mod3D::GroundView;
+using render::Band;
+using render::GroundView;
 
 namespace
 {
@@ -23,19 +23,19 @@ struct GroundCase
 
 // Draws the ground of one view twice, by the plain and by the fast routines, over frames of rubbish, and compares every
 // byte and depth cell.
-void Compare(const Mod3D::Scene& scene, scenes::View& view)
+void Compare(const render::Scene& scene, scenes::View& view)
 {
-    Mod3D::Screen& screen = view.Screen;
-    Mod3D::UpdateSkyOffset(view.Camera, screen);
-    Mod3D::UpdateRowTables(view.Camera, screen);
+    render::Screen& screen = view.Screen;
+    render::UpdateSkyOffset(view.Camera, screen);
+    render::UpdateRowTables(view.Camera, screen);
     std::fill(screen.Frame.Bytes.begin(), screen.Frame.Bytes.end(), std::uint8_t{77});
     std::fill(screen.Depth.begin(), screen.Depth.end(), 1.0f);
-    Mod3D::GroundPlain(Mod3D::MakeGroundView(scene, view.Camera, screen), {0, screen.ScreenMaxX}, screen.TxtFilter);
+    render::GroundPlain(render::MakeGroundView(scene, view.Camera, screen), {0, screen.ScreenMaxX}, screen.TxtFilter);
     const std::vector<std::uint8_t> plain = screen.Frame.Bytes;
     const std::vector<float> depth = screen.Depth;
     std::fill(screen.Frame.Bytes.begin(), screen.Frame.Bytes.end(), std::uint8_t{77});
     std::fill(screen.Depth.begin(), screen.Depth.end(), 1.0f);
-    Mod3D::DrawGround(scene, view.Camera, screen);
+    render::DrawGround(scene, view.Camera, screen);
     const auto differs = std::mismatch(plain.begin(), plain.end(), screen.Frame.Bytes.begin());
     ASSERT_EQ(differs.first, plain.end())
         << "first other byte in row " << (differs.first - plain.begin()) / screen.Frame.RowBytes << ", column "
@@ -44,22 +44,22 @@ void Compare(const Mod3D::Scene& scene, scenes::View& view)
 }
 
 // Pixels of the frame that are not the sky's.
-std::size_t CountGround(const Mod3D::Scene& scene, scenes::View& view)
+std::size_t CountGround(const render::Scene& scene, scenes::View& view)
 {
-    const GroundView ground = Mod3D::MakeGroundView(scene, view.Camera, view.Screen);
+    const GroundView ground = render::MakeGroundView(scene, view.Camera, view.Screen);
     std::size_t count = 0;
     for (int y = 0; y < view.Screen.ScreenH; ++y)
         for (int x = 0; x < view.Screen.ScreenW; ++x)
-            count +=
-                scenes::Bytes(view.Pixel(x, y)) != scenes::Bytes(Mod3D::SkyPixel(ground, x, Mod3D::SkyRow(ground, y)));
+            count += scenes::Bytes(view.Pixel(x, y)) !=
+                     scenes::Bytes(render::SkyPixel(ground, x, render::SkyRow(ground, y)));
     return count;
 }
 
 // Texel (u, v) is blue u, green v, red 7; the sky's pixel (column, row) is blue column / 4, green row, red 200.
-Mod3D::Scene CountedScene(int width, int height, int skyRows = 100)
+render::Scene CountedScene(int width, int height, int skyRows = 100)
 {
-    Mod3D::Scene scene;
-    ModBitmap::Picture ground = scenes::Blank(width, height);
+    render::Scene scene;
+    render::Picture ground = scenes::Blank(width, height);
     for (int v = 0; v < height; ++v)
         for (int u = 0; u < width; ++u)
         {
@@ -69,9 +69,9 @@ Mod3D::Scene CountedScene(int width, int height, int skyRows = 100)
             texel[2] = 7;
         }
     scenes::SetGround(scene, std::move(ground));
-    scene.Sky = scenes::Blank(Mod3D::SkyWidth, skyRows);
+    scene.Sky = scenes::Blank(render::SkyWidth, skyRows);
     for (int row = 0; row < skyRows; ++row)
-        for (int column = 0; column < Mod3D::SkyWidth; ++column)
+        for (int column = 0; column < render::SkyWidth; ++column)
         {
             std::uint8_t* texel = scene.Sky.Pixels.Row(row) + column * 3;
             texel[0] = static_cast<std::uint8_t>(column / 4);
@@ -91,21 +91,21 @@ constexpr unsigned SkyAt(unsigned column, unsigned row)
 }
 
 // One pass at the view's place; the row tables are made first.
-void Draw(const Mod3D::Scene& scene, scenes::View& view)
+void Draw(const render::Scene& scene, scenes::View& view)
 {
-    Mod3D::UpdateSkyOffset(view.Camera, view.Screen);
-    Mod3D::UpdateRowTables(view.Camera, view.Screen);
-    Mod3D::DrawGround(scene, view.Camera, view.Screen);
+    render::UpdateSkyOffset(view.Camera, view.Screen);
+    render::UpdateRowTables(view.Camera, view.Screen);
+    render::DrawGround(scene, view.Camera, view.Screen);
 }
 
 // A ground of one grey, sharp and blurred, with the row weight given.
-std::unique_ptr<scenes::View> DrawWeighted(Mod3D::Scene& scene, int filter, float aux)
+std::unique_ptr<scenes::View> DrawWeighted(render::Scene& scene, int filter, float aux)
 {
     auto view = std::make_unique<scenes::View>(240, 200, filter);
     view->Look(100, 1, 100, 0, 0);
-    Mod3D::UpdateRowTables(view->Camera, view->Screen);
+    render::UpdateRowTables(view->Camera, view->Screen);
     std::fill(view->Screen.RowAux.begin(), view->Screen.RowAux.end(), aux);
-    Mod3D::DrawGround(scene, view->Camera, view->Screen);
+    render::DrawGround(scene, view->Camera, view->Screen);
     return view;
 }
 }
@@ -113,7 +113,7 @@ std::unique_ptr<scenes::View> DrawWeighted(Mod3D::Scene& scene, int filter, floa
 // 240 x 200, zoom 200: row 0 is ground 2 ahead, its ray 2.236 long; column 220 is half a zoom to the right.
 TEST(Ground, NearestTakesTheRoundedTexel)
 {
-    const Mod3D::Scene scene = CountedScene(200, 200);
+    const render::Scene scene = CountedScene(200, 200);
     scenes::View view(240, 200);
     view.Look(50, 1, 60, 0, 0);
     Draw(scene, view);
@@ -125,7 +125,7 @@ TEST(Ground, NearestTakesTheRoundedTexel)
 
 TEST(Ground, TexelsRoundTiesToEven)
 {
-    const Mod3D::Scene scene = CountedScene(200, 200);
+    const render::Scene scene = CountedScene(200, 200);
     scenes::View view(240, 200);
     for (const auto& [place, texel] : {std::pair{50.5f, 50u}, std::pair{51.5f, 52u}})
     {
@@ -137,7 +137,7 @@ TEST(Ground, TexelsRoundTiesToEven)
 
 TEST(Ground, YawTurnsTheGroundTheWayTheCameraTurns)
 {
-    const Mod3D::Scene scene = CountedScene(200, 200);
+    const render::Scene scene = CountedScene(200, 200);
     scenes::View view(240, 200);
     view.Look(50, 1, 60, 1.57079637f, 0); // along -x
     Draw(scene, view);
@@ -146,7 +146,7 @@ TEST(Ground, YawTurnsTheGroundTheWayTheCameraTurns)
 
 TEST(Ground, ScaleIsTexelsPerUnit)
 {
-    Mod3D::Scene scene = CountedScene(200, 200);
+    render::Scene scene = CountedScene(200, 200);
     scene.Ground.GroundScale = 2.5f;
     scenes::View view(240, 200);
     view.Look(20, 1, 20, 0, 0);
@@ -157,7 +157,7 @@ TEST(Ground, ScaleIsTexelsPerUnit)
 // The sky shows beyond the texture's edge, not a clamped or wrapped texel.
 TEST(Ground, EndsAtTheTexturesEdge)
 {
-    const Mod3D::Scene scene = CountedScene(100, 80);
+    const render::Scene scene = CountedScene(100, 80);
     scenes::View view(240, 200);
     const auto at = [&](float x, float z)
     {
@@ -178,7 +178,7 @@ TEST(Ground, EndsAtTheTexturesEdge)
 
 TEST(Ground, WithAnisotropicTheGroundEnds15TexelsEarlier)
 {
-    const Mod3D::Scene scene = CountedScene(100, 80);
+    const render::Scene scene = CountedScene(100, 80);
     scenes::View view(240, 200, 2);
     const auto at = [&](float x, float z)
     {
@@ -198,7 +198,7 @@ TEST(Ground, WithAnisotropicTheGroundEnds15TexelsEarlier)
 
 TEST(Ground, ATextureNarrowerThanTheMarginShowsNoAnisotropicGround)
 {
-    const Mod3D::Scene scene = CountedScene(30, 29);
+    const render::Scene scene = CountedScene(30, 29);
     scenes::View view(240, 200, 2);
     view.Look(15, 1, 13, 0, 0);
     Draw(scene, view);
@@ -210,7 +210,7 @@ TEST(Ground, ATextureNarrowerThanTheMarginShowsNoAnisotropicGround)
 
 TEST(Sky, RowsSpanThePanoramaFromTheBottom)
 {
-    const Mod3D::Scene scene = CountedScene(10, 10);
+    const render::Scene scene = CountedScene(10, 10);
     scenes::View view(240, 200);
     view.Look(0, 1, 0, 0, 1.5f); // nothing but sky
     Draw(scene, view);
@@ -221,7 +221,7 @@ TEST(Sky, RowsSpanThePanoramaFromTheBottom)
 
 TEST(Sky, ColumnsScrollAndWrapAt820)
 {
-    const Mod3D::Scene scene = CountedScene(10, 10);
+    const render::Scene scene = CountedScene(10, 10);
     scenes::View view(1200, 200);
     view.Look(0, 1, 0, 1.0f, 1.5f); // offset 689
     Draw(scene, view);
@@ -233,7 +233,7 @@ TEST(Sky, ColumnsScrollAndWrapAt820)
 
 TEST(Sky, IsBlackWhereThePanoramaDoesNotReach)
 {
-    Mod3D::Scene scene = CountedScene(10, 10);
+    render::Scene scene = CountedScene(10, 10);
     scene.Sky = scenes::Blank(100, 5);
     std::fill(scene.Sky.Pixels.Bytes.begin(), scene.Sky.Pixels.Bytes.end(), std::uint8_t{50});
     scenes::View view(240, 200);
@@ -249,7 +249,7 @@ TEST(Sky, IsBlackWhereThePanoramaDoesNotReach)
 
 TEST(Ground, EmptiesEveryDepthCell)
 {
-    const Mod3D::Scene scene = CountedScene(100, 100);
+    const render::Scene scene = CountedScene(100, 100);
     scenes::View view(241, 201, 2);
     view.Look(50, 1, 20, 0, 0);
     std::fill(view.Screen.Depth.begin(), view.Screen.Depth.end(), 1.0f);
@@ -260,7 +260,7 @@ TEST(Ground, EmptiesEveryDepthCell)
 // With the weight at its limit one eighth of the sharp texel still shows.
 TEST(Ground, LinearKeepsAnEighthOfTheSharpTexel)
 {
-    Mod3D::Scene scene = CountedScene(200, 200);
+    render::Scene scene = CountedScene(200, 200);
     std::fill(scene.Ground.Sharp.Pixels.Bytes.begin(), scene.Ground.Sharp.Pixels.Bytes.end(), std::uint8_t{80});
     std::fill(scene.Ground.GroundBlur.Bytes.begin(), scene.Ground.GroundBlur.Bytes.end(), std::uint8_t{0});
     EXPECT_EQ(scenes::Bytes(DrawWeighted(scene, 1, 0.875f)->Pixel(120, 0)), 0x0A0A0Au);
@@ -272,7 +272,7 @@ TEST(Ground, LinearKeepsAnEighthOfTheSharpTexel)
 
 TEST(Ground, LinearWithoutABlurredCopyIsSharp)
 {
-    Mod3D::Scene scene = CountedScene(200, 200);
+    render::Scene scene = CountedScene(200, 200);
     scene.Ground.GroundBlur.Clear();
     EXPECT_EQ(scenes::Bytes(DrawWeighted(scene, 1, 0.875f)->Pixel(120, 0)), GroundAt(100, 102));
 }
@@ -283,20 +283,20 @@ TEST(Ground, AnisotropicTentOf29Texels)
 {
     for (int k = -16; k <= 16; ++k)
     {
-        Mod3D::Scene scene = CountedScene(200, 200);
+        render::Scene scene = CountedScene(200, 200);
         std::fill(scene.Ground.Sharp.Pixels.Bytes.begin(), scene.Ground.Sharp.Pixels.Bytes.end(), std::uint8_t{0});
         scene.Ground.Sharp.Pixels.Row(102 + k)[300] = 225;
         const int weight = std::max(15 - std::abs(k), 0);
         EXPECT_EQ(DrawWeighted(scene, 2, 14.0f)->Pixel(120, 0)[0], weight) << k;
     }
-    Mod3D::Scene scene = CountedScene(200, 200);
+    render::Scene scene = CountedScene(200, 200);
     std::fill(scene.Ground.Sharp.Pixels.Bytes.begin(), scene.Ground.Sharp.Pixels.Bytes.end(), std::uint8_t{201});
     EXPECT_EQ(DrawWeighted(scene, 2, 14.0f)->Pixel(120, 0)[0], 201);
 }
 
 TEST(Ground, AnisotropicBelowOneBlendsThreeTexels)
 {
-    Mod3D::Scene scene = CountedScene(200, 200);
+    render::Scene scene = CountedScene(200, 200);
     std::fill(scene.Ground.Sharp.Pixels.Bytes.begin(), scene.Ground.Sharp.Pixels.Bytes.end(), std::uint8_t{0});
     const auto set = [&](int v, int value)
     { scene.Ground.Sharp.Pixels.Row(v)[300] = static_cast<std::uint8_t>(value); };
@@ -319,7 +319,7 @@ TEST(Ground, StepsThatEndBetweenTexelsFollowThePlainRule)
 {
     base::Random random;
     random.Seed(5);
-    Mod3D::Scene scene;
+    render::Scene scene;
     scenes::SetGround(scene, scenes::Noise(random, 200, 200));
     for (const float cosYaw : {0.5f, 0.25f, 0.125f, -0.5f})
         for (const float place : {100.0f, 101.0f})
@@ -327,12 +327,12 @@ TEST(Ground, StepsThatEndBetweenTexelsFollowThePlainRule)
             scenes::View view(241, 201, 2);
             view.Look(place, 1, place, 0, 0);
             view.Camera.CamCosYaw = cosYaw; // a = 0 in the middle column: dv is the cosine itself
-            Mod3D::UpdateRowTables(view.Camera, view.Screen);
+            render::UpdateRowTables(view.Camera, view.Screen);
             std::fill(view.Screen.RowAux.begin(), view.Screen.RowAux.end(), 14.0f);
             const Band all{0, view.Screen.ScreenMaxX};
-            Mod3D::GroundPlain(Mod3D::MakeGroundView(scene, view.Camera, view.Screen), all, 2);
+            render::GroundPlain(render::MakeGroundView(scene, view.Camera, view.Screen), all, 2);
             const std::vector<std::uint8_t> plain = view.Screen.Frame.Bytes;
-            Mod3D::DrawGround(scene, view.Camera, view.Screen);
+            render::DrawGround(scene, view.Camera, view.Screen);
             EXPECT_NE(view.Screen.Taps[120].HasTies, 0);
             EXPECT_EQ(view.Screen.Taps[3].HasTies, 0);
             EXPECT_EQ(plain, view.Screen.Frame.Bytes);
@@ -341,7 +341,7 @@ TEST(Ground, StepsThatEndBetweenTexelsFollowThePlainRule)
 
 TEST(Ground, UnknownFiltersDrawAsNone)
 {
-    const Mod3D::Scene scene = CountedScene(200, 200);
+    const render::Scene scene = CountedScene(200, 200);
     scenes::View none(240, 200, 0);
     none.Look(50, 1, 60, 0.3f, 0);
     Draw(scene, none);
@@ -356,7 +356,7 @@ TEST(Ground, UnknownFiltersDrawAsNone)
 
 TEST(Ground, AnyNumberOfThreadsDrawsTheSame)
 {
-    const Mod3D::Scene scene = CountedScene(200, 200);
+    const render::Scene scene = CountedScene(200, 200);
     for (const int filter : {0, 1, 2})
     {
         scenes::View one(601, 313, filter, 1);
@@ -375,7 +375,7 @@ TEST(Ground, AnyNumberOfThreadsDrawsTheSame)
 
 TEST(Ground, SingleThreadWalksTheFirstBandOnly)
 {
-    const Mod3D::Scene scene = CountedScene(200, 200);
+    const render::Scene scene = CountedScene(200, 200);
     scenes::View view(240, 200, 1, 3);
     view.Screen.SingleThread = -1;
     view.Screen.GroundLimit = 0; // no limit applies
@@ -388,7 +388,7 @@ TEST(Ground, SingleThreadWalksTheFirstBandOnly)
 
 TEST(Ground, CamerasThatAreNoNumbersShowTheSky)
 {
-    const Mod3D::Scene scene = CountedScene(200, 200);
+    const render::Scene scene = CountedScene(200, 200);
     const float nan = std::numeric_limits<float>::quiet_NaN(), inf = std::numeric_limits<float>::infinity();
     for (const int filter : {0, 1, 2})
         for (const float odd : {nan, inf, -inf, 1e30f})
@@ -425,15 +425,15 @@ TEST(Ground, FastIsPlainForRandomViews)
     for (int round = 0; round < 120; ++round)
     {
         const GroundCase size = round % 40 == 39 ? sizes[4] : sizes[round % 4];
-        Mod3D::Scene scene;
-        scene.Sky = scenes::Noise(random, Mod3D::SkyWidth, scenes::DrawWhole(random, 1, 300));
+        render::Scene scene;
+        scene.Sky = scenes::Noise(random, render::SkyWidth, scenes::DrawWhole(random, 1, 300));
         scenes::SetGround(scene,
                           scenes::Noise(random, scenes::DrawWhole(random, 1, 300), scenes::DrawWhole(random, 20, 300)),
                           static_cast<float>(scenes::Draw(random, 0.3, 3.0)));
         scenes::View view(size.Width, size.Height, round % 3, scenes::DrawWhole(random, 1, 16));
         if (round % 5 == 0)
             view.Camera.Zoom *= static_cast<float>(scenes::Draw(random, 0.5, 8.0));
-        const Mod3D::Ground& ground = scene.Ground;
+        const render::Ground& ground = scene.Ground;
         view.Look(
             static_cast<float>(scenes::Draw(random, -0.2, 1.2) * ground.Width / ground.GroundScale),
             static_cast<float>(scenes::Draw(random, 0.5, round % 2 == 0 ? 10.0 : 120.0)),

@@ -6,7 +6,7 @@
 
 #include <gtest/gtest.h>
 
-using Mod3D::Ground;
+using render::Ground;
 
 namespace
 {
@@ -24,7 +24,7 @@ Ground MakeGround(const std::vector<std::vector<int>>& rows)
             texel[0] = static_cast<std::uint8_t>(rows[static_cast<std::size_t>(v)][static_cast<std::size_t>(u)]);
             texel[1] = 255;
         }
-    Mod3D::BlurGround(ground);
+    render::BlurGround(ground);
     return ground;
 }
 
@@ -72,13 +72,13 @@ TEST(LoadGround, TakesPictureScaleAndBlur)
     support::Messages messages;
     folder.Write("g.bmp", support::BitmapHeader(2, 1) + std::string("\1\2\3\4\5\6\0\0", 8));
     Ground ground;
-    Mod3D::LoadGround(messages, folder.Files(), "g.bmp", 2.5f, true, ground);
+    render::LoadGround(messages, folder.Files(), "g.bmp", 2.5f, true, ground);
     EXPECT_EQ(ground.Width, 2);
     EXPECT_EQ(ground.Height, 1);
     EXPECT_EQ(ground.GroundScale, 2.5f);
     EXPECT_EQ(ground.Sharp.Pixels.Row(0)[5], 6);
     EXPECT_EQ(ground.GroundBlur.Rows, 1);
-    Mod3D::LoadGround(messages, folder.Files(), "g.bmp", 1.0f, false, ground);
+    render::LoadGround(messages, folder.Files(), "g.bmp", 1.0f, false, ground);
     EXPECT_TRUE(ground.GroundBlur.Empty());
     EXPECT_TRUE(messages.Boxes.empty());
 }
@@ -92,9 +92,9 @@ TEST(LoadGround, APictureThatFailsLeavesNoGround)
     Ground ground;
     for (const char* name : {"none.bmp", "short.bmp"})
     {
-        Mod3D::LoadGround(messages, folder.Files(), "g.bmp", 1.0f, true, ground);
+        render::LoadGround(messages, folder.Files(), "g.bmp", 1.0f, true, ground);
         messages.Boxes.clear();
-        Mod3D::LoadGround(messages, folder.Files(), name, 3.0f, true, ground);
+        render::LoadGround(messages, folder.Files(), name, 3.0f, true, ground);
         EXPECT_EQ(messages.Boxes.size(), 1u);
         EXPECT_EQ(ground.Width, 0);
         EXPECT_EQ(ground.Height, 0);

@@ -7,9 +7,9 @@
 #include <thread>
 #include <vector>
 
-using Mod3D::Band;
-using Mod3D::GroundWalkers;
-using Mod3D::WalkGate;
+using render::Band;
+using render::GroundWalkers;
+using render::WalkGate;
 using namespace std::chrono_literals;
 
 namespace
@@ -17,7 +17,7 @@ namespace
 constexpr auto Long = std::chrono::milliseconds(600000);
 
 // Counts the visits of each band and who is walking.
-struct CountingWalk : Mod3D::BandWalk
+struct CountingWalk : render::BandWalk
 {
     mutable std::vector<std::atomic<int>> Visits;
     mutable std::atomic<int> Walking{0};
@@ -32,7 +32,7 @@ struct CountingWalk : Mod3D::BandWalk
 };
 
 // The bands from `From` on never end by themselves: they wait for the gate to close, ten seconds at most.
-struct StuckWalk : Mod3D::BandWalk
+struct StuckWalk : render::BandWalk
 {
     int From;
     mutable std::atomic<int> Ended{0}, Cut{0}, Walking{0};

@@ -9,14 +9,14 @@
 #include <limits>
 #include <set>
 
-using Mod3D::Point3;
+using render::Point3;
 
 namespace
 {
 // 240 x 200, zoom 200, centre (120, 100): at depth 200 a unit is a pixel.
 struct Lines : scenes::View
 {
-    Mod3D::Scene Scene;
+    render::Scene Scene;
     Lines() : View(240, 200) { Look(0, 0, 0, 0, 0); }
     void Draw(const Point3& from, const Point3& to) { DrawLine3D(Scene, Camera, Screen, from, to, {10, 20, 30}); }
     std::set<std::pair<int, int>> Drawn() const
@@ -24,7 +24,7 @@ struct Lines : scenes::View
         std::set<std::pair<int, int>> places;
         for (int y = 0; y < 200; ++y)
             for (int x = 0; x < 240; ++x)
-                if (Depth(x, y) != Mod3D::FarDepth)
+                if (Depth(x, y) != render::FarDepth)
                     places.insert({x, y});
         return places;
     }
@@ -127,9 +127,9 @@ TEST(DrawLine3D, LeavingTheScreenEndsTheWalkWithTheSamePixels)
         const Point3 to{static_cast<float>(scenes::Draw(random, -2000, 2000)),
                         static_cast<float>(scenes::Draw(random, -2000, 2000)), 200};
         view.Draw(from, to);
-        const Mod3D::ScreenPoint p = Mod3D::Project(from.X, from.Y, 200, 200, 120, 100);
-        const Mod3D::ScreenPoint q = Mod3D::Project(to.X, to.Y, 200, 200, 120, 100);
-        const double length = Mod3D::Dist2D(p.X, p.Y, q.X, q.Y);
+        const render::ScreenPoint p = render::Project(from.X, from.Y, 200, 200, 120, 100);
+        const render::ScreenPoint q = render::Project(to.X, to.Y, 200, 200, 120, 100);
+        const double length = render::Dist2D(p.X, p.Y, q.X, q.Y);
         std::set<std::pair<int, int>> expected;
         for (int t = 0; t <= length; ++t)
         {

@@ -7,8 +7,8 @@
 
 #include <limits>
 
-using ModBitmap::PicArray2D;
-using ModBitmap::PicInfo;
+using render::PicArray2D;
+using render::PicInfo;
 using support::BitmapHeader;
 
 namespace
@@ -23,7 +23,7 @@ struct LoadPic : testing::Test
     bool Load(const std::string& bytes)
     {
         Folder.Write("a.bmp", bytes);
-        return ModBitmap::LoadPicArray2D(Messages, Folder.Files(), "a.bmp", Info, Pixels);
+        return render::LoadPicArray2D(Messages, Folder.Files(), "a.bmp", Info, Pixels);
     }
     void ExpectError(int number, const std::string& text) const
     {
@@ -49,33 +49,33 @@ TEST(WidthBytes, RowsArePaddedToFourBytes)
     support::Messages messages;
     const int expected[][2] = {{1, 4}, {2, 8}, {3, 12}, {4, 12}, {5, 16}, {0, 0}};
     for (const auto& pair : expected)
-        EXPECT_EQ(ModBitmap::WidthBytes(messages, pair[0]), pair[1]) << pair[0];
+        EXPECT_EQ(render::WidthBytes(messages, pair[0]), pair[1]) << pair[0];
     EXPECT_TRUE(messages.Boxes.empty());
 }
 
 TEST(WidthBytes, OverflowIsReportedWithoutTheBlank)
 {
     support::Messages messages;
-    EXPECT_EQ(ModBitmap::WidthBytes(messages, std::numeric_limits<std::int32_t>::max()), 0);
+    EXPECT_EQ(render::WidthBytes(messages, std::numeric_limits<std::int32_t>::max()), 0);
     ASSERT_EQ(messages.Boxes.size(), 1u);
     EXPECT_EQ(messages.Boxes[0].Title, "Errore 6");
     EXPECT_EQ(messages.Boxes[0].Text, "Overflowin WidthBytes");
-    EXPECT_EQ(ModBitmap::WidthBytes(messages, std::numeric_limits<std::int32_t>::min()), 0);
+    EXPECT_EQ(render::WidthBytes(messages, std::numeric_limits<std::int32_t>::min()), 0);
     EXPECT_EQ(messages.Boxes.size(), 2u);
-    EXPECT_EQ(ModBitmap::WidthBytes(messages, 715827881), 2147483644); // the widest that fits
+    EXPECT_EQ(render::WidthBytes(messages, 715827881), 2147483644); // the widest that fits
     EXPECT_EQ(messages.Boxes.size(), 2u);
 }
 
 TEST(MakePicArray2D, FillsTheHeaderAndClearsThePixels)
 {
     support::Messages messages;
-    ModBitmap::PicHeader header;
+    render::PicHeader header;
     header.biWidth = 5;
     header.biHeight = 3;
     header.biClrUsed = 9;
     PicArray2D pixels;
     pixels.Bytes = {1, 2, 3};
-    ModBitmap::MakePicArray2D(messages, header, pixels);
+    render::MakePicArray2D(messages, header, pixels);
     EXPECT_EQ(header.biSize, 40);
     EXPECT_EQ(header.biWidth, 5);
     EXPECT_EQ(header.biHeight, 3);
@@ -95,16 +95,16 @@ TEST(MakePicArray2D, ASizeThatCannotBeIsReported)
     PicArray2D pixels;
     for (const std::int32_t width : {0, -4})
     {
-        ModBitmap::PicHeader header;
+        render::PicHeader header;
         header.biWidth = width;
         header.biHeight = 3;
-        ModBitmap::MakePicArray2D(messages, header, pixels);
+        render::MakePicArray2D(messages, header, pixels);
         EXPECT_TRUE(pixels.Empty());
         EXPECT_EQ(messages.Boxes.back().Text, "Indice non compreso nell'intervallo in MakePicArray2D");
     }
-    ModBitmap::PicHeader header;
+    render::PicHeader header;
     header.biWidth = header.biHeight = 100000;
-    ModBitmap::MakePicArray2D(messages, header, pixels);
+    render::MakePicArray2D(messages, header, pixels);
     EXPECT_TRUE(pixels.Empty());
     EXPECT_EQ(messages.Boxes.back().Text, "Memoria esaurita in MakePicArray2D");
 }
@@ -146,7 +146,7 @@ TEST_F(LoadPic, PlanesAndBitsAreTakenAsTheyStand)
 TEST_F(LoadPic, AMissingFileIsError53)
 {
     Pixels.Allocate(1, 4);
-    EXPECT_FALSE(ModBitmap::LoadPicArray2D(Messages, Folder.Files(), "none.bmp", Info, Pixels));
+    EXPECT_FALSE(render::LoadPicArray2D(Messages, Folder.Files(), "none.bmp", Info, Pixels));
     ExpectError(53, "Impossibile trovare il file");
     ExpectEmpty();
 }
@@ -200,10 +200,10 @@ TEST_F(LoadPic, ALargeClaimWithinProportionKeepsItsBlackRows)
 
 TEST(PicArrayKill, TheSharedPixelsStayWithTheirOwner)
 {
-    const auto picture = std::make_shared<const ModBitmap::Picture>();
-    ModBitmap::PicReference reference = picture;
-    ModBitmap::PicArrayKill(reference);
+    const auto picture = std::make_shared<const render::Picture>();
+    render::PicReference reference = picture;
+    render::PicArrayKill(reference);
     EXPECT_EQ(reference, nullptr);
     EXPECT_EQ(picture.use_count(), 1);
-    ModBitmap::PicArrayKill(reference); // once more does no harm
+    render::PicArrayKill(reference); // once more does no harm
 }

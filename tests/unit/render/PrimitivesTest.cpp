@@ -8,8 +8,8 @@
 
 #include <string>
 
-using Mod3D::Scene;
-using namespace modPrimitive;
+using render::Scene;
+using namespace render;
 
 namespace
 {
@@ -36,7 +36,7 @@ struct Textures : testing::Test
 {
     support::TempFolder Folder;
     support::Messages Messages;
-    Mod3D::Scene Scene;
+    render::Scene Scene;
 
     void SetUp() override
     {
@@ -92,7 +92,7 @@ TEST(Slots, TheIndexEndsAt32767)
 TEST(MakeObj, TakesItsFieldsAndLists)
 {
     Scene scene;
-    const Mod3D::Obj& object = scene.Objects.At(MakeObj(scene, 1, 2, 3, 4, 5, 6, 7, 8, 9));
+    const render::Obj& object = scene.Objects.At(MakeObj(scene, 1, 2, 3, 4, 5, 6, 7, 8, 9));
     EXPECT_EQ(object.X, 1.0f);
     EXPECT_EQ(object.Y, 2.0f);
     EXPECT_EQ(object.Z, 3.0f);
@@ -123,7 +123,7 @@ TEST(EditObjMesh, SplitsColoursAndKeepsTextureSlots)
     Scene scene;
     Object(scene, 2);
     EditObjMesh(scene, 0, 0, 3, 2, 0x123456, 9);
-    const Mod3D::ObjMesh& flat = scene.Objects.At(0).Mesh[0];
+    const render::ObjMesh& flat = scene.Objects.At(0).Mesh[0];
     EXPECT_EQ(flat.Rows, 3);
     EXPECT_EQ(flat.Cols, 2);
     EXPECT_EQ(flat.Pts.Rows, 3);
@@ -143,7 +143,7 @@ TEST(EditObjMeshPt, IRunsOverRowsAndJOverColumns)
     Object(scene);
     EditObjMesh(scene, 0, 0, 3, 2, 0, 0);
     EditObjMeshPt(scene, 0, 0, 2, 1, 1, 2, 3, 4, 5);
-    const Mod3D::MeshPt& point = scene.Objects.At(0).Mesh[0].Pts.At(2, 1);
+    const render::MeshPt& point = scene.Objects.At(0).Mesh[0].Pts.At(2, 1);
     EXPECT_EQ(point.X, 1.0f);
     EXPECT_EQ(point.Z, 3.0f);
     EXPECT_EQ(point.U, 4);
@@ -170,7 +170,7 @@ TEST(Spheres, EditingEmptiesTheLinks)
     Object(scene);
     AddSfereLink(scene, 0, 0, 1, 2, 3);
     AddSfereLink(scene, 0, 0, 4, 5, 6);
-    const Mod3D::Sfera& sphere = scene.Objects.At(0).Sfere[0];
+    const render::Sfera& sphere = scene.Objects.At(0).Sfere[0];
     EXPECT_EQ(sphere.NumLinks, 2);
     EXPECT_EQ(sphere.Links[0].M, 1);
     EXPECT_EQ(sphere.Links[1].J, 6);
@@ -180,7 +180,7 @@ TEST(Spheres, EditingEmptiesTheLinks)
     EXPECT_EQ(sphere.R, 4.0f);
     EXPECT_EQ(sphere.NumLinks, 0);
     EXPECT_TRUE(sphere.Links.empty());
-    EXPECT_EQ(scene.Bytes, withLinks - 2 * sizeof(Mod3D::SfereLink));
+    EXPECT_EQ(scene.Bytes, withLinks - 2 * sizeof(render::SfereLink));
 }
 
 TEST(Spheres, LinksEndAt32767)
@@ -229,7 +229,7 @@ TEST(DuplicateObj, CopiesMeshesAndSpheresAtAnotherPlace)
     EXPECT_EQ(copy, 1);
     EXPECT_EQ(scene.Objects.Count, 2);
     EditObjMeshPt(scene, 0, 0, 1, 1, 9, 9, 9, 9, 9); // the copy has its own points
-    const Mod3D::Obj& object = scene.Objects.At(copy);
+    const render::Obj& object = scene.Objects.At(copy);
     EXPECT_EQ(object.X, 10.0f);
     EXPECT_EQ(object.AngleB, 50.0f);
     EXPECT_EQ(object.Visible, 0);
@@ -258,12 +258,12 @@ TEST(Limits, OneListOfMoreThan64MegabytesIsError7)
 TEST(Limits, TheSceneEndsAt512Megabytes)
 {
     Scene scene;
-    scene.Bytes = Mod3D::MostBytes - 1000; // as if other records held it
+    scene.Bytes = render::MostBytes - 1000; // as if other records held it
     EXPECT_EQ(ErrorOf([&] { Object(scene, 100, 0); }), 7);
     EXPECT_EQ(ErrorOf([&] { MakePoly(scene, 100, 0, 1); }), 7);
     EXPECT_TRUE(scene.Objects.Items.empty());
     EXPECT_EQ(ErrorOf([&] { Object(scene, 1, 0); }), 0);
-    scene.Bytes = Mod3D::MostBytes;
+    scene.Bytes = render::MostBytes;
     EXPECT_EQ(ErrorOf([&] { DuplicateObj(scene, 0, 0, 0, 0, 0, 0, 1); }), 7);
     EXPECT_EQ(ErrorOf([&] { EditObjMesh(scene, 0, 0, 2, 2, 0, 0); }), 7);
     EXPECT_EQ(scene.Objects.Count, 1);
@@ -277,8 +277,8 @@ TEST(Limits, WhatIsGivenBackCountsNoMore)
         EditObjMesh(scene, 0, 1, 100, 100, 0, 0); // replaced, not added
     KeepUndamaged(scene, 0);
     AddSfereLink(scene, 0, 1, 0, 0, 0);
-    EXPECT_EQ(scene.Bytes, 3 * sizeof(Mod3D::ObjMesh) + 2 * sizeof(Mod3D::Sfera) + 2 * 10000 * sizeof(Mod3D::MeshPt) +
-                               sizeof(Mod3D::SfereLink));
+    EXPECT_EQ(scene.Bytes, 3 * sizeof(render::ObjMesh) + 2 * sizeof(render::Sfera) +
+                               2 * 10000 * sizeof(render::MeshPt) + sizeof(render::SfereLink));
     DeleteObj(scene, 0);
     EXPECT_EQ(scene.Bytes, 0u);
 }
@@ -300,7 +300,7 @@ TEST(MakePoly, TakesColourAndPoints)
 TEST(Sprites, ShareThePixelsOfTheirPicture)
 {
     Scene scene;
-    const auto picture = std::make_shared<const ModBitmap::Picture>(scenes::Blank(3, 2));
+    const auto picture = std::make_shared<const render::Picture>(scenes::Blank(3, 2));
     EXPECT_EQ(MakeSprite3D(scene, picture, 1, 2, 3, 4, 5, 1), 0);
     EXPECT_EQ(MakeSprite3D(scene, picture, 1, 2, 3, 4, 5, 1), 1);
     EXPECT_EQ(scene.Sprites.At(0).Width, 3);
@@ -318,7 +318,7 @@ TEST(MakePic2D, HasABlankPictureOfItsOwn)
     Scene scene;
     support::Messages messages;
     EXPECT_EQ(MakePic2D(scene, messages, 1, 2, 5, 3, 1), 0);
-    const Mod3D::Pic2D& pic = scene.Pics.At(0);
+    const render::Pic2D& pic = scene.Pics.At(0);
     EXPECT_EQ(pic.Pic.Info.Width, 5);
     EXPECT_EQ(pic.Pic.Info.RowBytes, 16);
     EXPECT_EQ(pic.Pic.Pixels.Bytes, std::vector<std::uint8_t>(48, 0));
@@ -333,7 +333,7 @@ TEST(MakePic2D, HasABlankPictureOfItsOwn)
 TEST(Labels, TakeTheirFieldsAndText)
 {
     Scene scene;
-    const Mod3D::Label2D& label = scene.Labels.At(MakeLabel2D(scene, 1, 2, 1, 3, 4, {5, 6, 7}, 1, "uno"));
+    const render::Label2D& label = scene.Labels.At(MakeLabel2D(scene, 1, 2, 1, 3, 4, {5, 6, 7}, 1, "uno"));
     EXPECT_EQ(label.X, 1);
     EXPECT_EQ(label.Y, 2);
     EXPECT_EQ(label.Style, 1);
@@ -349,7 +349,7 @@ TEST(Labels, TakeTheirFieldsAndText)
 TEST(Rects, TakeTheirFields)
 {
     Scene scene;
-    const Mod3D::Rect2D& rect = scene.Rects.At(MakeRect2D(scene, 1, 2, 3, 4, 5, {6, 7, 8}, 1));
+    const render::Rect2D& rect = scene.Rects.At(MakeRect2D(scene, 1, 2, 3, 4, 5, {6, 7, 8}, 1));
     EXPECT_EQ(rect.X, 1);
     EXPECT_EQ(rect.H, 4);
     EXPECT_EQ(rect.Hidden, 5);
@@ -440,9 +440,9 @@ TEST_F(Textures, TheyCountTowardTheScenesLimit)
 {
     Load("a.bmp");
     EXPECT_EQ(Scene.Bytes, 24u);
-    Scene.Bytes = Mod3D::MostBytes;
+    Scene.Bytes = render::MostBytes;
     EXPECT_EQ(ErrorOf([&] { Load("b.bmp"); }), 7);
     EXPECT_EQ(Scene.Textures.At(1).Width, 0);
     EXPECT_TRUE(Scene.Textures.At(1).Pic.Pixels.Empty());
-    EXPECT_EQ(Scene.Bytes, Mod3D::MostBytes);
+    EXPECT_EQ(Scene.Bytes, render::MostBytes);
 }

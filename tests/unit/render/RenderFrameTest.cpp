@@ -15,14 +15,14 @@
 #include <memory>
 #include <vector>
 
-using Mod3D::Obj;
-using Mod3D::Scene;
+using render::Obj;
+using render::Scene;
 
 namespace
 {
 constexpr unsigned Red = 0x0000FF, Green = 0x00FF00, Blue = 0xFF0000; // as Bytes() gives them
 
-struct Shown : Mod3D::FrameSink
+struct Shown : render::FrameSink
 {
     int Times = 0, Width = 0, Height = 0;
     std::span<const std::uint8_t> Bits;
@@ -38,7 +38,7 @@ struct Shown : Mod3D::FrameSink
 // 240 x 200, zoom 200, centre (120, 100), the eye in the origin: at depth 200 a unit is a pixel.
 struct Eye : scenes::View
 {
-    Mod3D::Scene Scene;
+    render::Scene Scene;
     explicit Eye(int threads = 1) : View(240, 200, 0, threads) { Look(0, 0, 0, 0, 0); }
     unsigned At(int x, int y)
     {
@@ -54,11 +54,11 @@ struct Eye : scenes::View
 };
 
 // A level square of 2 x 2 points from (x, y, z) on, `side` wide and deep: a level face keeps its colour.
-Mod3D::ObjMesh Square(float x, float y, float z, float side, std::int32_t colour)
+render::ObjMesh Square(float x, float y, float z, float side, std::int32_t colour)
 {
-    Mod3D::ObjMesh mesh;
+    render::ObjMesh mesh;
     mesh.Colour = colour;
-    const Mod3D::Rgb split = Mod3D::SplitRGB(colour);
+    const render::Rgb split = render::SplitRGB(colour);
     mesh.ColR = split.R;
     mesh.ColG = split.G;
     mesh.ColB = split.B;
@@ -108,9 +108,9 @@ TEST(RenderFrame, PresentsTheFrameOnceWithItsPaddedRows)
 
 TEST(RenderFrame, WithoutAResolutionNothingHappens)
 {
-    Mod3D::Screen screen;
+    render::Screen screen;
     Shown shown;
-    RenderFrame(Scene(), Mod3D::Camera(), screen, &shown);
+    RenderFrame(Scene(), render::Camera(), screen, &shown);
     EXPECT_EQ(shown.Times, 0);
 }
 
@@ -121,7 +121,7 @@ TEST(RenderFrame, AGroundPassOutOfTimeIsCutOffAndTheFrameIsShown)
     for (const int threads : {1, 3, 5, 16})
     {
         Eye view(threads);
-        modPrimitive::MakeRect2D(view.Scene, 10, 10, 5, 5, 0, {255, 0, 0}, 1);
+        render::MakeRect2D(view.Scene, 10, 10, 5, 5, 0, {255, 0, 0}, 1);
         std::fill(view.Screen.Frame.Bytes.begin(), view.Screen.Frame.Bytes.end(), std::uint8_t{77});
         view.Screen.GroundLimit = 0;
         Shown shown;
@@ -143,7 +143,7 @@ TEST(RenderFrame, ASlowGroundPassLeavesItsLastRowsAsTheyWere)
     base::Random random;
     random.Seed(1);
     Scene scene;
-    scene.Sky = scenes::Noise(random, Mod3D::SkyWidth, 50);
+    scene.Sky = scenes::Noise(random, render::SkyWidth, 50);
     scenes::SetGround(scene, scenes::Noise(random, 500, 500));
     view.Look(250, 40, 250, 0.5f, -1.5f);
     std::fill(view.Screen.Depth.begin(), view.Screen.Depth.end(), 1.0f);
@@ -156,7 +156,7 @@ TEST(RenderFrame, ASlowGroundPassLeavesItsLastRowsAsTheyWere)
 
 TEST(RenderFrame, TheLimitIs60Milliseconds)
 {
-    EXPECT_EQ(Mod3D::Screen().GroundLimit, 60);
+    EXPECT_EQ(render::Screen().GroundLimit, 60);
 }
 
 TEST(DrawObjects, VisibleAndFreeDecide)
@@ -178,7 +178,7 @@ TEST(DrawObjects, MeshesAreHiddenByFreeAlone)
 {
     Eye view;
     Add(view.Scene, Visible(0, 0, 200, 30));
-    Mod3D::ObjMesh& mesh = view.Scene.Objects.At(0).Mesh[0];
+    render::ObjMesh& mesh = view.Scene.Objects.At(0).Mesh[0];
     mesh.Visible = 0;
     EXPECT_TRUE(view.Draws());
     mesh.Free = 1;
@@ -245,12 +245,12 @@ TEST(DrawObjects, TexturesThatAreNotThereDrawNothing)
     for (const std::int16_t slot : {std::int16_t{-1}, std::int16_t{1}, std::int16_t{32767}})
     {
         Eye view;
-        Mod3D::Texture& texture = view.Scene.Textures.At(view.Scene.Textures.Take());
+        render::Texture& texture = view.Scene.Textures.At(view.Scene.Textures.Take());
         texture.Width = texture.Height = 16;
         texture.Pic = scenes::Blank(16, 16);
         std::fill(texture.Pic.Pixels.Bytes.begin(), texture.Pic.Pixels.Bytes.end(), std::uint8_t{200});
         Add(view.Scene, Visible(0, 0, 200, 30));
-        Mod3D::ObjMesh& mesh = view.Scene.Objects.At(0).Mesh[0];
+        render::ObjMesh& mesh = view.Scene.Objects.At(0).Mesh[0];
         mesh.Colour = -1;
         mesh.TexIndex = 0;
         EXPECT_TRUE(view.Draws());
@@ -283,10 +283,10 @@ TEST(RenderFrame, WorldMeshesAreFlatAndInWorldCoordinates)
 TEST(RenderFrame, PolylinesJoinConsecutivePoints)
 {
     Eye view;
-    modPrimitive::MakePoly(view.Scene, 3, 0x0000FF, 1);
-    modPrimitive::EditPolyPt(view.Scene, 0, 0, -10, 0, 200);
-    modPrimitive::EditPolyPt(view.Scene, 0, 1, 10, 0, 200);
-    modPrimitive::EditPolyPt(view.Scene, 0, 2, 10, 20, 200);
+    render::MakePoly(view.Scene, 3, 0x0000FF, 1);
+    render::EditPolyPt(view.Scene, 0, 0, -10, 0, 200);
+    render::EditPolyPt(view.Scene, 0, 1, 10, 0, 200);
+    render::EditPolyPt(view.Scene, 0, 2, 10, 20, 200);
     EXPECT_EQ(view.At(120, 100), Red);
     EXPECT_EQ(view.At(130, 115), Red);
     EXPECT_EQ(view.At(120, 110), 0u); // not closed
@@ -301,25 +301,25 @@ TEST(RenderFrame, TheDisplayIsDrawnOverTheWorldInItsOrder)
     view.Scene.WorldMeshes.push_back(Square(-2, -0.5f, 1, 4, 0x0000FF));
     EXPECT_EQ(view.At(120, 20), Red);
     support::Messages messages;
-    const std::int16_t pic = modPrimitive::MakePic2D(view.Scene, messages, 99.5f, 0.0f, 40, 40, 1);
+    const std::int16_t pic = render::MakePic2D(view.Scene, messages, 99.5f, 0.0f, 40, 40, 1);
     auto& pixels = view.Scene.Pics.At(pic).Pic.Pixels;
     std::fill(pixels.Bytes.begin(), pixels.Bytes.end(), std::uint8_t{40});
     EXPECT_EQ(view.At(120, 20), 0x282828u);
     EXPECT_EQ(view.At(99, 20), Red); // 99.5 is column 100, ties to even
-    modPrimitive::MakeRect2D(view.Scene, 110, 10, 20, 20, 0, {0, 255, 0}, 1);
+    render::MakeRect2D(view.Scene, 110, 10, 20, 20, 0, {0, 255, 0}, 1);
     EXPECT_EQ(view.At(120, 20), Green);
-    modPrimitive::MakeRect2D(view.Scene, 115, 15, 10, 10, 0, {0, 0, 255}, 1);
+    render::MakeRect2D(view.Scene, 115, 15, 10, 10, 0, {0, 0, 255}, 1);
     EXPECT_EQ(view.At(120, 20), Blue);
     view.Scene.Rects.At(1).Hidden = 1;
     EXPECT_EQ(view.At(120, 20), Green);
     view.Scene.Rects.At(1).Hidden = 0;
     view.Scene.Rects.At(1).Visible = 0;
     EXPECT_EQ(view.At(120, 20), Green);
-    Mod3D::Scene& scene = view.Scene;
-    ModBitmap::Glyph& glyph = scene.Font.Glyphs['A' - ModBitmap::FirstCode];
+    render::Scene& scene = view.Scene;
+    render::Glyph& glyph = scene.Font.Glyphs['A' - render::FirstCode];
     glyph = {1, 1, 1, {255}};
     scene.Font.LineHeight = scene.Font.WidestGlyph = 1;
-    modPrimitive::MakeLabel2D(scene, 120, 20, 0, 1, 4, {9, 8, 7}, 1, "A");
+    render::MakeLabel2D(scene, 120, 20, 0, 1, 4, {9, 8, 7}, 1, "A");
     EXPECT_EQ(view.At(120, 20), 0x070809u);
     scene.Labels.At(0).Fade = 0.5f;
     EXPECT_EQ(view.At(120, 20), 0x030404u);
@@ -328,11 +328,11 @@ TEST(RenderFrame, TheDisplayIsDrawnOverTheWorldInItsOrder)
 TEST(RenderFrame, LabelsGoByTheirStyle)
 {
     Eye view;
-    view.Scene.Font.Glyphs['A' - ModBitmap::FirstCode] = {1, 3, 1, {255, 255, 255}};
+    view.Scene.Font.Glyphs['A' - render::FirstCode] = {1, 3, 1, {255, 255, 255}};
     view.Scene.Font.LineHeight = 1;
     view.Scene.Font.WidestGlyph = 3;
-    modPrimitive::MakeLabel2D(view.Scene, 120, 20, 0, 1, 2, {0, 255, 0}, 1, "A\tA");
-    Mod3D::Label2D& label = view.Scene.Labels.At(0);
+    render::MakeLabel2D(view.Scene, 120, 20, 0, 1, 2, {0, 255, 0}, 1, "A\tA");
+    render::Label2D& label = view.Scene.Labels.At(0);
     EXPECT_EQ(view.At(122, 20), Green); // from x on: 120 … 122
     EXPECT_EQ(view.At(128, 20), Green); // and from the tab stop at 2 x 4
     EXPECT_EQ(view.At(124, 20), 0u);
@@ -358,53 +358,52 @@ Scene CrowdedScene(base::Random& random)
 {
     Scene scene;
     const auto draw = [&](double least, double most) { return static_cast<float>(scenes::Draw(random, least, most)); };
-    scene.Sky = scenes::Noise(random, Mod3D::SkyWidth, 60);
+    scene.Sky = scenes::Noise(random, render::SkyWidth, 60);
     scenes::SetGround(scene, scenes::Noise(random, 120, 90));
-    Mod3D::Texture& texture = scene.Textures.At(scene.Textures.Take());
+    render::Texture& texture = scene.Textures.At(scene.Textures.Take());
     texture.Pic = scenes::Noise(random, 30, 20, 0.1);
     texture.Width = 30;
     texture.Height = 20;
     for (int n = 0; n < 25; ++n)
     {
         const std::int16_t object =
-            modPrimitive::MakeObj(scene, draw(0, 120), draw(0, 3), draw(0, 90), draw(-4, 4), draw(-1, 1), 2, 0, 1, 1);
-        modPrimitive::SetObjR(scene, object, 5);
+            render::MakeObj(scene, draw(0, 120), draw(0, 3), draw(0, 90), draw(-4, 4), draw(-1, 1), 2, 0, 1, 1);
+        render::SetObjR(scene, object, 5);
         for (int m = 0; m < 2; ++m)
         {
             const auto rows = static_cast<std::int16_t>(scenes::DrawWhole(random, 1, 4));
             const auto cols = static_cast<std::int16_t>(scenes::DrawWhole(random, 1, 4));
-            modPrimitive::EditObjMesh(scene, object, m, rows, cols,
-                                      n % 3 == m ? -1 : scenes::DrawWhole(random, 1, 1 << 23), 0);
+            render::EditObjMesh(scene, object, m, rows, cols, n % 3 == m ? -1 : scenes::DrawWhole(random, 1, 1 << 23),
+                                0);
             for (int i = 0; i < rows; ++i)
                 for (int j = 0; j < cols; ++j)
-                    modPrimitive::EditObjMeshPt(scene, object, m, i, j, draw(-4, 4), draw(-1, 4), draw(-4, 4),
-                                                scenes::DrawWhole(random, -2, 31), scenes::DrawWhole(random, -2, 21));
+                    render::EditObjMeshPt(scene, object, m, i, j, draw(-4, 4), draw(-1, 4), draw(-4, 4),
+                                          scenes::DrawWhole(random, -2, 31), scenes::DrawWhole(random, -2, 21));
         }
         scene.Objects.At(object).Mesh[0].Free = n % 8 == 0;
     }
     scene.WorldMeshes.push_back(Square(20, 1, 20, 30, 0x334455));
     for (int n = 0; n < 10; ++n)
     {
-        modPrimitive::MakePoly(scene, 3, scenes::DrawWhole(random, 1, 1 << 23), 1);
+        render::MakePoly(scene, 3, scenes::DrawWhole(random, 1, 1 << 23), 1);
         for (int i = 0; i < 3; ++i)
-            modPrimitive::EditPolyPt(scene, n, i, draw(0, 120), draw(0, 5), draw(0, 90));
+            render::EditPolyPt(scene, n, i, draw(0, 120), draw(0, 5), draw(0, 90));
     }
-    const auto smoke = std::make_shared<const ModBitmap::Picture>(scenes::Noise(random, 20, 20, 0.3));
+    const auto smoke = std::make_shared<const render::Picture>(scenes::Noise(random, 20, 20, 0.3));
     for (int n = 0; n < 10; ++n)
-        modPrimitive::MakeSprite3D(scene, smoke, draw(0, 120), draw(0, 4), draw(0, 90), 0.05f, n % 2 == 0 ? 1 : 0.4f,
-                                   1);
+        render::MakeSprite3D(scene, smoke, draw(0, 120), draw(0, 4), draw(0, 90), 0.05f, n % 2 == 0 ? 1 : 0.4f, 1);
     return scene;
 }
 
 // The whole world part of a frame from the plain routines, triangle by triangle, in the order of the lists.
-void DrawPlain(const Scene& scene, const Mod3D::Camera& camera, Mod3D::Screen& screen)
+void DrawPlain(const Scene& scene, const render::Camera& camera, render::Screen& screen)
 {
     UpdateSkyOffset(camera, screen);
     UpdateRowTables(camera, screen);
     GroundPlain(MakeGroundView(scene, camera, screen), {0, screen.ScreenMaxX}, screen.TxtFilter);
     for (const Obj& object : scene.Objects.Items)
     {
-        const Mod3D::Point3 c = WorldToCamera(camera, object.X, object.Y, object.Z);
+        const render::Point3 c = WorldToCamera(camera, object.X, object.Y, object.Z);
         const double d = static_cast<double>(c.Z) + object.Radius, r = object.Radius / d * camera.Zoom;
         if (d < screen.NearZ)
             continue;
@@ -412,20 +411,20 @@ void DrawPlain(const Scene& scene, const Mod3D::Camera& camera, Mod3D::Screen& s
         const double sy = base::RoundEven(c.Y / d * camera.Zoom + screen.CenterY);
         if (sx + r < 0 || sx - r > screen.ScreenW || sy + r < 0 || sy - r >= screen.ScreenH)
             continue;
-        const Mod3D::Rotation rotation = Mod3D::MakeRotation(object.AngleA, object.AngleB);
-        for (const Mod3D::ObjMesh& mesh : object.Mesh)
+        const render::Rotation rotation = render::MakeRotation(object.AngleA, object.AngleB);
+        for (const render::ObjMesh& mesh : object.Mesh)
         {
             const auto corner = [&](int i, int j)
             {
-                const Mod3D::MeshPt& p = mesh.Pts.At(i, j);
+                const render::MeshPt& p = mesh.Pts.At(i, j);
                 return SeeCorner(camera, screen, RotatePoint(rotation, object.X, object.Y, object.Z, p.X, p.Y, p.Z),
                                  p.U, p.V);
             };
-            const auto triangle = [&](const Mod3D::Corner& p, const Mod3D::Corner& q, const Mod3D::Corner& s)
+            const auto triangle = [&](const render::Corner& p, const render::Corner& q, const render::Corner& s)
             {
                 if (mesh.Colour < 0)
                     DrawTriTex(camera, screen, p, q, s,
-                               Mod3D::MakeTexelField(scene.Textures.At(mesh.TexIndex).Pic.Pixels, 30, 20));
+                               render::MakeTexelField(scene.Textures.At(mesh.TexIndex).Pic.Pixels, 30, 20));
                 else
                     DrawTriFlat(scene, camera, screen, p.World, q.World, s.World, {mesh.ColR, mesh.ColG, mesh.ColB});
             };
@@ -437,22 +436,22 @@ void DrawPlain(const Scene& scene, const Mod3D::Camera& camera, Mod3D::Screen& s
                 }
         }
     }
-    for (const Mod3D::ObjMesh& mesh : scene.WorldMeshes)
+    for (const render::ObjMesh& mesh : scene.WorldMeshes)
     {
         const auto world = [&](int i, int j) {
-            return Mod3D::Point3{mesh.Pts.At(i, j).X, mesh.Pts.At(i, j).Y, mesh.Pts.At(i, j).Z};
+            return render::Point3{mesh.Pts.At(i, j).X, mesh.Pts.At(i, j).Y, mesh.Pts.At(i, j).Z};
         };
-        const Mod3D::Rgb colour{mesh.ColR, mesh.ColG, mesh.ColB};
+        const render::Rgb colour{mesh.ColR, mesh.ColG, mesh.ColB};
         DrawTriFlat(scene, camera, screen, world(0, 0), world(1, 0), world(0, 1), colour);
         DrawTriFlat(scene, camera, screen, world(1, 1), world(1, 0), world(0, 1), colour);
     }
-    for (const Mod3D::Poly& poly : scene.Polys.Items)
+    for (const render::Poly& poly : scene.Polys.Items)
         for (std::size_t i = 0; i + 1 < poly.Pts.size(); ++i)
         {
-            const Mod3D::PolyPt &a = poly.Pts[i], &b = poly.Pts[i + 1];
+            const render::PolyPt &a = poly.Pts[i], &b = poly.Pts[i + 1];
             DrawLine3D(scene, camera, screen, {a.X, a.Y, a.Z}, {b.X, b.Y, b.Z}, {poly.ColR, poly.ColG, poly.ColB});
         }
-    for (const Mod3D::Sprite3D& sprite : scene.Sprites.Items)
+    for (const render::Sprite3D& sprite : scene.Sprites.Items)
         DrawSprite3DPlain(camera, screen, sprite);
 }
 }
@@ -509,8 +508,8 @@ TEST(RenderFrame, NumbersThatAreNoneDoNoHarm)
         {
             for (float* field : {&object.X, &object.Y, &object.Z, &object.AngleA, &object.AngleB, &object.Radius})
                 spoil(*field);
-            for (Mod3D::ObjMesh& mesh : object.Mesh)
-                for (Mod3D::MeshPt& point : mesh.Pts.Points)
+            for (render::ObjMesh& mesh : object.Mesh)
+                for (render::MeshPt& point : mesh.Pts.Points)
                 {
                     for (float* field : {&point.X, &point.Y, &point.Z})
                         spoil(*field);
@@ -518,11 +517,11 @@ TEST(RenderFrame, NumbersThatAreNoneDoNoHarm)
                                                                    : std::numeric_limits<std::int32_t>::max();
                 }
         }
-        for (Mod3D::Poly& poly : scene.Polys.Items)
-            for (Mod3D::PolyPt& point : poly.Pts)
+        for (render::Poly& poly : scene.Polys.Items)
+            for (render::PolyPt& point : poly.Pts)
                 for (float* field : {&point.X, &point.Y, &point.Z})
                     spoil(*field);
-        for (Mod3D::Sprite3D& sprite : scene.Sprites.Items)
+        for (render::Sprite3D& sprite : scene.Sprites.Items)
             for (float* field : {&sprite.X, &sprite.Y, &sprite.Z, &sprite.Scale, &sprite.Alpha})
                 spoil(*field);
         for (float* field : {&scene.LightR, &scene.LightG, &scene.LightB, &scene.Ground.GroundScale})

@@ -6,8 +6,8 @@
 
 #include <limits>
 
-using Mod3D::UpdateRowTables;
-using Mod3D::UpdateSkyOffset;
+using render::UpdateRowTables;
+using render::UpdateSkyOffset;
 
 namespace
 {

@@ -7,12 +7,12 @@
 
 #include <string>
 
-using Mod3D::Band;
+using render::Band;
 
 TEST(ApplyResolution, DerivesEverythingFromTheSize)
 {
     const scenes::View view(601, 313, 0, 5);
-    const Mod3D::Screen& screen = view.Screen;
+    const render::Screen& screen = view.Screen;
     EXPECT_EQ(screen.ScreenMaxX, 600);
     EXPECT_EQ(screen.ScreenMaxY, 312);
     EXPECT_EQ(screen.RowBytes, 1803);
@@ -40,7 +40,7 @@ TEST(ApplyResolution, TheNarrowSideGivesTheZoom)
 TEST(ApplyResolution, ANewSizeReplacesTheOldOne)
 {
     scenes::View view(240, 200);
-    Mod3D::ApplyResolution(view.Messages, view.Screen, view.Camera, 600, 312);
+    render::ApplyResolution(view.Messages, view.Screen, view.Camera, 600, 312);
     EXPECT_EQ(view.Screen.Frame.Rows, 312);
     EXPECT_EQ(view.Screen.RowDist.size(), 312u);
     EXPECT_EQ(view.Screen.Bands.back().Last, 599);
@@ -53,14 +53,14 @@ TEST(ApplyResolution, AnImpossibleSizeIsReportedAndDrawsNothing)
         scenes::View view(width, 200);
         EXPECT_EQ(view.Messages.Boxes.size(), 1u);
         EXPECT_EQ(view.Screen.ScreenW, 0);
-        Mod3D::RenderFrame(Mod3D::Scene(), view.Camera, view.Screen, nullptr);
+        render::RenderFrame(render::Scene(), view.Camera, view.Screen, nullptr);
     }
 }
 
 TEST(Bands, FollowTheRoundedQuotients)
 {
     // 240 / 7 = 34.2857…: 0, 34.29, 68.57, 102.86, …
-    const std::vector<Band> bands = Mod3D::MakeBands(240, 7);
+    const std::vector<Band> bands = render::MakeBands(240, 7);
     const int firsts[] = {0, 34, 69, 103, 137, 171, 206}, lasts[] = {33, 68, 102, 136, 170, 205, 239};
     ASSERT_EQ(bands.size(), 7u);
     for (std::size_t i = 0; i < 7; ++i)
@@ -76,7 +76,7 @@ TEST(Bands, LastColumnsAreThoseOfTheirOwnFormula)
     for (int width = 240; width <= 1200; width += 7)
         for (int count = 3; count <= 65; count += 2)
         {
-            const std::vector<Band> bands = Mod3D::MakeBands(width, static_cast<std::int16_t>(count));
+            const std::vector<Band> bands = render::MakeBands(width, static_cast<std::int16_t>(count));
             const double b = static_cast<float>(width) / static_cast<float>(count);
             for (int i = 0; i < count; ++i)
                 ASSERT_EQ(bands[static_cast<std::size_t>(i)].Last, base::RoundEven((i + 1) * b - 1.0))
@@ -90,7 +90,7 @@ TEST(Bands, CoverEveryColumnOnceAtAnyCount)
         for (const int count : {-5, 0, 1, 2, 3, 4, 5, 8, 16, 48, 1999})
         {
             std::int32_t next = 0;
-            for (const Band& band : Mod3D::MakeBands(width, static_cast<std::int16_t>(count)))
+            for (const Band& band : render::MakeBands(width, static_cast<std::int16_t>(count)))
             {
                 ASSERT_EQ(band.First, next) << width << " " << count;
                 next = band.Last + 1;
@@ -101,9 +101,9 @@ TEST(Bands, CoverEveryColumnOnceAtAnyCount)
 
 TEST(FilterName, IsItalianAndEmptyForOthers)
 {
-    EXPECT_EQ(std::string(Mod3D::FilterName(0)), "nessuno");
-    EXPECT_EQ(std::string(Mod3D::FilterName(1)), "lineare");
-    EXPECT_EQ(std::string(Mod3D::FilterName(2)), "anisotropico");
-    EXPECT_EQ(std::string(Mod3D::FilterName(3)), "");
-    EXPECT_EQ(std::string(Mod3D::FilterName(-1)), "");
+    EXPECT_EQ(std::string(render::FilterName(0)), "nessuno");
+    EXPECT_EQ(std::string(render::FilterName(1)), "lineare");
+    EXPECT_EQ(std::string(render::FilterName(2)), "anisotropico");
+    EXPECT_EQ(std::string(render::FilterName(3)), "");
+    EXPECT_EQ(std::string(render::FilterName(-1)), "");
 }

@@ -9,14 +9,14 @@
 #include <memory>
 #include <string>
 
-using Mod3D::Sprite3D;
+using render::Sprite3D;
 
 namespace
 {
 // 240 x 200, zoom 200, centre (120, 100). At depth 1.5625 a unit is 128 pixels, so scale 1 / 128 draws texel by pixel.
 constexpr float NearDepth = 1.5625f;
 
-Sprite3D MakeSprite(ModBitmap::Picture picture, float scale, float alpha = 1.0f)
+Sprite3D MakeSprite(render::Picture picture, float scale, float alpha = 1.0f)
 {
     Sprite3D sprite;
     sprite.Visible = 1;
@@ -25,13 +25,13 @@ Sprite3D MakeSprite(ModBitmap::Picture picture, float scale, float alpha = 1.0f)
     sprite.Alpha = alpha;
     sprite.Width = picture.Info.Width;
     sprite.Height = picture.Info.Height;
-    sprite.Pixels = std::make_shared<const ModBitmap::Picture>(std::move(picture));
+    sprite.Pixels = std::make_shared<const render::Picture>(std::move(picture));
     return sprite;
 }
 
-ModBitmap::Picture OneColour(int width, int height, int value)
+render::Picture OneColour(int width, int height, int value)
 {
-    ModBitmap::Picture picture = scenes::Blank(width, height);
+    render::Picture picture = scenes::Blank(width, height);
     std::fill(picture.Pixels.Bytes.begin(), picture.Pixels.Bytes.end(), static_cast<std::uint8_t>(value));
     return picture;
 }
@@ -67,12 +67,12 @@ TEST(DrawSprite3D, IsCentredOnTheProjectedPoint)
     Sprites even;
     even.Draw(MakeSprite(OneColour(4, 2, 9), 1.0f / 128));
     EXPECT_EQ(even.Box(), "118-121 99-100");
-    EXPECT_EQ(even.Depth(119, 99), Mod3D::FarDepth); // sprites leave the depth buffer alone
+    EXPECT_EQ(even.Depth(119, 99), render::FarDepth); // sprites leave the depth buffer alone
 }
 
 TEST(DrawSprite3D, SamplesTheTexelBelowEachPixel)
 {
-    ModBitmap::Picture picture = scenes::Blank(2, 2);
+    render::Picture picture = scenes::Blank(2, 2);
     const int values[2][2] = {{1, 2}, {3, 4}};
     for (int v = 0; v < 2; ++v)
         for (int u = 0; u < 2; ++u)
@@ -119,7 +119,7 @@ TEST(DrawSprite3D, IsHiddenByWhatIsNotFarther)
 
 TEST(DrawSprite3D, BlackTexelsAreTransparent)
 {
-    ModBitmap::Picture picture = OneColour(3, 1, 9);
+    render::Picture picture = OneColour(3, 1, 9);
     std::fill_n(picture.Pixels.Row(0) + 3, 3, std::uint8_t{0});
     std::fill_n(picture.Pixels.Row(0) + 6, 2, std::uint8_t{0}); // red is left
     Sprites view;

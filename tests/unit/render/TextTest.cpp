@@ -7,9 +7,9 @@
 #include <string>
 #include <vector>
 
-using ModBitmap::Colour;
-using ModBitmap::Font;
-using ModBitmap::Glyph;
+using render::Colour;
+using render::Font;
+using render::Glyph;
 
 namespace
 {
@@ -22,7 +22,7 @@ struct Paper
     Paper(int width, int height) : Width(width), Height(height), Bytes(static_cast<std::size_t>(width * 3 * height), 99)
     {
     }
-    ModBitmap::Surface Surface() { return {Bytes.data(), Width * 3, Width, Height}; }
+    render::Surface Surface() { return {Bytes.data(), Width * 3, Width, Height}; }
     std::string Rows() const
     {
         std::string text;
@@ -56,7 +56,7 @@ void Put(Font& font, int code, Glyph glyph)
 {
     font.LineHeight = std::max(font.LineHeight, glyph.GlyphH);
     font.WidestGlyph = std::max(font.WidestGlyph, glyph.GlyphW);
-    font.Glyphs[static_cast<std::size_t>(code - ModBitmap::FirstCode)] = std::move(glyph);
+    font.Glyphs[static_cast<std::size_t>(code - render::FirstCode)] = std::move(glyph);
 }
 
 // 'i' is 1 x 2, 'w' 3 x 1, '?' 2 x 1; all ink.
@@ -75,7 +75,7 @@ constexpr Colour White{255, 254, 253};
 TEST(DrawGlyph, EveryInkedRunHasADarkEdgeAboveIt)
 {
     Paper paper(5, 5);
-    ModBitmap::DrawGlyph(paper.Surface(), MakeGlyph({"...", "#.#", "...", "##."}), 1, 0, 1.0f, White, 1.0f);
+    render::DrawGlyph(paper.Surface(), MakeGlyph({"...", "#.#", "...", "##."}), 1, 0, 1.0f, White, 1.0f);
     EXPECT_EQ(paper.Rows(), ".....\n"
                             ".-.-.\n"
                             ".#.#.\n"
@@ -86,7 +86,7 @@ TEST(DrawGlyph, EveryInkedRunHasADarkEdgeAboveIt)
 TEST(DrawGlyph, ColourBytesAreBlueGreenRed)
 {
     Paper paper(1, 1);
-    ModBitmap::DrawGlyph(paper.Surface(), MakeGlyph({"#"}), 0, 0, 1.0f, {1, 2, 3}, 1.0f);
+    render::DrawGlyph(paper.Surface(), MakeGlyph({"#"}), 0, 0, 1.0f, {1, 2, 3}, 1.0f);
     EXPECT_EQ(paper.Bytes, (std::vector<std::uint8_t>{3, 2, 1}));
 }
 
@@ -94,7 +94,7 @@ TEST(DrawGlyph, ColourBytesAreBlueGreenRed)
 TEST(DrawGlyph, ScaledGlyphsSampleTheMaskAndKeepAOnePixelEdge)
 {
     Paper paper(5, 6);
-    ModBitmap::DrawGlyph(paper.Surface(), MakeGlyph({"..", "..", "#."}), 1, 1, 2.0f, White, 1.0f);
+    render::DrawGlyph(paper.Surface(), MakeGlyph({"..", "..", "#."}), 1, 1, 2.0f, White, 1.0f);
     EXPECT_EQ(paper.Rows(), ".....\n"
                             ".....\n"
                             ".--..\n"
@@ -107,7 +107,7 @@ TEST(DrawGlyph, ShrunkGlyphsDropRowsAndColumns)
 {
     Paper paper(4, 4);
     // Columns 0 … floor(3 x 0.5) = 1 sample 0 and 2.
-    ModBitmap::DrawGlyph(paper.Surface(), MakeGlyph({"####", "#.#.", "####", "...."}), 0, 0, 0.5f, White, 1.0f);
+    render::DrawGlyph(paper.Surface(), MakeGlyph({"####", "#.#.", "####", "...."}), 0, 0, 0.5f, White, 1.0f);
     EXPECT_EQ(paper.Rows(), "....\n"
                             "....\n"
                             "##..\n"
@@ -118,13 +118,13 @@ TEST(DrawGlyph, ClippedOnAllFourSidesItIsTheSameGlyph)
 {
     const Glyph glyph = MakeGlyph({"....", "#..#", ".##.", "#..#"});
     Paper whole(12, 12);
-    ModBitmap::DrawGlyph(whole.Surface(), glyph, 4, 4, 1.0f, White, 1.0f);
+    render::DrawGlyph(whole.Surface(), glyph, 4, 4, 1.0f, White, 1.0f);
     for (int dx = -4; dx <= 3; ++dx)
         for (int dy = -4; dy <= 3; ++dy)
         {
             // A window of 3 x 3 on the same picture.
             Paper part(3, 3);
-            ModBitmap::DrawGlyph(part.Surface(), glyph, dx, dy, 1.0f, White, 1.0f);
+            render::DrawGlyph(part.Surface(), glyph, dx, dy, 1.0f, White, 1.0f);
             for (int y = 0; y < 3; ++y)
                 for (int x = 0; x < 3; ++x)
                     ASSERT_EQ(part.Bytes[static_cast<std::size_t>((y * 3 + x) * 3)],
@@ -136,16 +136,16 @@ TEST(DrawGlyph, ClippedOnAllFourSidesItIsTheSameGlyph)
 TEST(DrawGlyph, AnotherFactorRoundsEachChannelDownAndKeepsTheEdge)
 {
     Paper paper(1, 2);
-    ModBitmap::DrawGlyph(paper.Surface(), MakeGlyph({".", "#"}), 0, 0, 1.0f, {255, 101, 3}, 0.5f);
+    render::DrawGlyph(paper.Surface(), MakeGlyph({".", "#"}), 0, 0, 1.0f, {255, 101, 3}, 0.5f);
     EXPECT_EQ(paper.Bytes, (std::vector<std::uint8_t>{1, 50, 127, 0, 0, 0}));
 }
 
 TEST(DrawGlyph, FactorsOutsideZeroToOneStayWithinAByte)
 {
     Paper paper(1, 1);
-    ModBitmap::DrawGlyph(paper.Surface(), MakeGlyph({"#"}), 0, 0, 1.0f, {255, 101, 3}, 4.0f);
+    render::DrawGlyph(paper.Surface(), MakeGlyph({"#"}), 0, 0, 1.0f, {255, 101, 3}, 4.0f);
     EXPECT_EQ(paper.Bytes, (std::vector<std::uint8_t>{12, 255, 255}));
-    ModBitmap::DrawGlyph(paper.Surface(), MakeGlyph({"#"}), 0, 0, 1.0f, {255, 101, 3}, -1.0f);
+    render::DrawGlyph(paper.Surface(), MakeGlyph({"#"}), 0, 0, 1.0f, {255, 101, 3}, -1.0f);
     EXPECT_EQ(paper.Bytes, (std::vector<std::uint8_t>{0, 0, 0}));
 }
 
@@ -155,64 +155,64 @@ TEST(DrawGlyph, ScalesAndPlacesThatAreNoNumbersDrawNothing)
     const std::string before = paper.Rows();
     const float nan = std::numeric_limits<float>::quiet_NaN(), inf = std::numeric_limits<float>::infinity();
     for (const float scale : {nan, inf, -inf, 0.0f, -1.0f, 1e30f})
-        ModBitmap::DrawGlyph(paper.Surface(), MakeGlyph({"##", "##"}), 0, 0, scale, White, 1.0f);
-    ModBitmap::DrawGlyph(paper.Surface(), MakeGlyph({"#"}), 0, 0, 1.0f, White, nan);
+        render::DrawGlyph(paper.Surface(), MakeGlyph({"##", "##"}), 0, 0, scale, White, 1.0f);
+    render::DrawGlyph(paper.Surface(), MakeGlyph({"#"}), 0, 0, 1.0f, White, nan);
     constexpr std::int32_t most = std::numeric_limits<std::int32_t>::max();
     for (const std::int32_t far : {most, -most - 1})
-        ModBitmap::DrawGlyph(paper.Surface(), MakeGlyph({"#"}), far, far, 1.0f, White, 1.0f);
+        render::DrawGlyph(paper.Surface(), MakeGlyph({"#"}), far, far, 1.0f, White, 1.0f);
     EXPECT_EQ(paper.Rows(), before);
 }
 
 TEST(TextWidth, TheWidestLineCounts)
 {
     const Font font = SmallFont();
-    EXPECT_EQ(ModBitmap::TextWidth(font, 1.0f, "", 0), 0);
-    EXPECT_EQ(ModBitmap::TextWidth(font, 1.0f, "i", 0), 2);
-    EXPECT_EQ(ModBitmap::TextWidth(font, 1.0f, "iw", 0), 6);
-    EXPECT_EQ(ModBitmap::TextWidth(font, 1.0f, "iw\r\nw\r\ni", 0), 6);
-    EXPECT_EQ(ModBitmap::TextWidth(font, 1.0f, "i\nw", 0), 6); // a line feed alone is skipped
-    EXPECT_EQ(ModBitmap::TextWidth(font, 1.0f, "iZw", 0), 6);  // no such glyph
+    EXPECT_EQ(render::TextWidth(font, 1.0f, "", 0), 0);
+    EXPECT_EQ(render::TextWidth(font, 1.0f, "i", 0), 2);
+    EXPECT_EQ(render::TextWidth(font, 1.0f, "iw", 0), 6);
+    EXPECT_EQ(render::TextWidth(font, 1.0f, "iw\r\nw\r\ni", 0), 6);
+    EXPECT_EQ(render::TextWidth(font, 1.0f, "i\nw", 0), 6); // a line feed alone is skipped
+    EXPECT_EQ(render::TextWidth(font, 1.0f, "iZw", 0), 6);  // no such glyph
 }
 
 // 1.25 + 1 = 2.25 rounds to 2, 2 + 2.25 to 4; 1.5 + 1 = 2.5 rounds to 2, 2 + 2.5 = 4.5 to 4.
 TEST(TextWidth, RoundsAfterEveryCharacterTiesToEven)
 {
     const Font font = SmallFont();
-    EXPECT_EQ(ModBitmap::TextWidth(font, 1.25f, "ii", 0), 4);
-    EXPECT_EQ(ModBitmap::TextWidth(font, 1.5f, "i", 0), 2);
-    EXPECT_EQ(ModBitmap::TextWidth(font, 1.5f, "ii", 0), 4);
-    EXPECT_EQ(ModBitmap::TextWidth(font, 1.5f, "iii", 0), 6);
+    EXPECT_EQ(render::TextWidth(font, 1.25f, "ii", 0), 4);
+    EXPECT_EQ(render::TextWidth(font, 1.5f, "i", 0), 2);
+    EXPECT_EQ(render::TextWidth(font, 1.5f, "ii", 0), 4);
+    EXPECT_EQ(render::TextWidth(font, 1.5f, "iii", 0), 6);
 }
 
 TEST(TextWidth, TabsGoToTheNextStop)
 {
     const Font font = SmallFont();
-    EXPECT_EQ(ModBitmap::TextWidth(font, 1.0f, "\t", 10), 10);
-    EXPECT_EQ(ModBitmap::TextWidth(font, 1.0f, "i\t", 10), 10);
-    EXPECT_EQ(ModBitmap::TextWidth(font, 1.0f, "i\ti", 10), 12);
-    EXPECT_EQ(ModBitmap::TextWidth(font, 1.0f, "iiiii\t", 10), 20); // at the stop already: the next one
-    EXPECT_EQ(ModBitmap::TextWidth(font, 1.0f, "i\ti", 0), 4);
+    EXPECT_EQ(render::TextWidth(font, 1.0f, "\t", 10), 10);
+    EXPECT_EQ(render::TextWidth(font, 1.0f, "i\t", 10), 10);
+    EXPECT_EQ(render::TextWidth(font, 1.0f, "i\ti", 10), 12);
+    EXPECT_EQ(render::TextWidth(font, 1.0f, "iiiii\t", 10), 20); // at the stop already: the next one
+    EXPECT_EQ(render::TextWidth(font, 1.0f, "i\ti", 0), 4);
 }
 
 TEST(TextWidth, UnknownCharactersLookLikeAQuestionMarkAndLongTextsSaturate)
 {
     const Font font = SmallFont();
-    EXPECT_EQ(ModBitmap::TextWidth(font, 1.0f, "\xE2\x82\xBF", 0), 3);
-    EXPECT_EQ(ModBitmap::TextWidth(font, 1.0f, std::string(20000, 'i'), 0), 32767);
+    EXPECT_EQ(render::TextWidth(font, 1.0f, "\xE2\x82\xBF", 0), 3);
+    EXPECT_EQ(render::TextWidth(font, 1.0f, std::string(20000, 'i'), 0), 32767);
 }
 
 TEST(TabPixels, CellsOfTheWidestGlyph)
 {
     const Font font = SmallFont();
-    EXPECT_EQ(ModBitmap::TabPixels(font, 1.0f, 5), 20);
-    EXPECT_EQ(ModBitmap::TabPixels(font, 1.5f, 5), 28); // 5 x 5.5 = 27.5, ties to even
-    EXPECT_EQ(ModBitmap::TabPixels(font, 1.0f, -5), 0);
+    EXPECT_EQ(render::TabPixels(font, 1.0f, 5), 20);
+    EXPECT_EQ(render::TabPixels(font, 1.5f, 5), 28); // 5 x 5.5 = 27.5, ties to even
+    EXPECT_EQ(render::TabPixels(font, 1.0f, -5), 0);
 }
 
 TEST(DrawTextLeft, LinesGoDownFromTheAnchor)
 {
     Paper paper(8, 7);
-    ModBitmap::DrawTextLeft(paper.Surface(), SmallFont(), 1, 4, 1.0f, 0, White, 1.0f, "iw\r\nwi");
+    render::DrawTextLeft(paper.Surface(), SmallFont(), 1, 4, 1.0f, 0, White, 1.0f, "iw\r\nwi");
     EXPECT_EQ(paper.Rows(), "........\n"
                             ".#......\n"
                             ".#.###..\n"
@@ -225,7 +225,7 @@ TEST(DrawTextLeft, LinesGoDownFromTheAnchor)
 TEST(DrawTextLeft, TabsCountFromTheAnchor)
 {
     Paper paper(10, 2);
-    ModBitmap::DrawTextLeft(paper.Surface(), SmallFont(), 2, 0, 1.0f, 5, White, 1.0f, "i\ti");
+    render::DrawTextLeft(paper.Surface(), SmallFont(), 2, 0, 1.0f, 5, White, 1.0f, "i\ti");
     EXPECT_EQ(paper.Rows(), "..#....#..\n"
                             "..#....#..\n");
 }
@@ -233,7 +233,7 @@ TEST(DrawTextLeft, TabsCountFromTheAnchor)
 TEST(DrawTextRight, EndsAtTheAnchorAndStacksEarlierLinesAbove)
 {
     Paper paper(8, 6);
-    ModBitmap::DrawTextRight(paper.Surface(), SmallFont(), 7, 1, 1.0f, White, 1.0f, "wi\r\nw\tw");
+    render::DrawTextRight(paper.Surface(), SmallFont(), 7, 1, 1.0f, White, 1.0f, "wi\r\nw\tw");
     // The tab is ignored; the first "w" of the last line is cut by the border.
     EXPECT_EQ(paper.Rows(), ".....#..\n"
                             ".###.#..\n"
@@ -246,7 +246,7 @@ TEST(DrawTextRight, EndsAtTheAnchorAndStacksEarlierLinesAbove)
 TEST(DrawTextCentred, EachLineIsCentredTheFirstOnTheAnchor)
 {
     Paper paper(9, 5);
-    ModBitmap::DrawTextCentred(paper.Surface(), SmallFont(), 4, 3, 1.0f, 0, White, 1.0f, "ww\r\ni");
+    render::DrawTextCentred(paper.Surface(), SmallFont(), 4, 3, 1.0f, 0, White, 1.0f, "ww\r\ni");
     // "ww" is 8 wide: from 4 - 4; "i" is 2 wide: from 4 - 1.
     EXPECT_EQ(paper.Rows(), ".........\n"
                             "###.###..\n"

@@ -10,12 +10,12 @@
 #include <limits>
 #include <string>
 
-using Mod3D::ScreenCorner;
-using Mod3D::TexelField;
+using render::ScreenCorner;
+using render::TexelField;
 
 namespace
 {
-constexpr Mod3D::Rgb Ink{1, 2, 3};
+constexpr render::Rgb Ink{1, 2, 3};
 
 ScreenCorner At(std::int32_t x, std::int32_t y, float z = 1, double u = 0, double v = 0)
 {
@@ -29,7 +29,7 @@ std::string Rows(const scenes::View& view)
     for (int y = 7; y >= 0; --y)
     {
         for (int x = 0; x < 12; ++x)
-            text += view.Depth(x, y) == Mod3D::FarDepth ? '.' : '#';
+            text += view.Depth(x, y) == render::FarDepth ? '.' : '#';
         text += '\n';
     }
     return text;
@@ -43,9 +43,9 @@ std::string Flat(const ScreenCorner& a, const ScreenCorner& b, const ScreenCorne
 }
 
 // 16 x 16; texel (u, v) is blue 16 u + v, green 1.
-ModBitmap::Picture Numbered()
+render::Picture Numbered()
 {
-    ModBitmap::Picture picture = scenes::Blank(16, 16);
+    render::Picture picture = scenes::Blank(16, 16);
     for (int v = 0; v < 16; ++v)
         for (int u = 0; u < 16; ++u)
         {
@@ -108,9 +108,9 @@ TEST(FillTri, ATriangleOfOneColumnDrawsIt)
     FillTriFlat(view.Screen, At(5, 0, 1), At(5, 4, 5), At(5, 2, 9), Ink);
     for (int y = 0; y <= 4; ++y)
         EXPECT_EQ(view.Depth(5, y), 1.0f + static_cast<float>(y)); // the long edge's values
-    EXPECT_EQ(
-        std::count_if(view.Screen.Depth.begin(), view.Screen.Depth.end(), [](float z) { return z != Mod3D::FarDepth; }),
-        5);
+    EXPECT_EQ(std::count_if(view.Screen.Depth.begin(), view.Screen.Depth.end(),
+                            [](float z) { return z != render::FarDepth; }),
+              5);
 }
 
 TEST(FillTri, IsClampedToTheScreen)
@@ -166,10 +166,10 @@ TEST(FillTri, TheFirstOfTwoEqualDepthsStays)
 // Texels are affine on the screen: depth has no part in them. Column 1 of 0 … 4 is a quarter of the way.
 TEST(FillTri, TexelsAreAffineAndNearest)
 {
-    const ModBitmap::Picture picture = Numbered();
+    const render::Picture picture = Numbered();
     scenes::View view(12, 8, 2);
     FillTriTex(view.Screen, At(0, 0, 1, 0, 0), At(4, 0, 100, 8, 0), At(0, 4, 1, 0, 8),
-               Mod3D::MakeTexelField(picture.Pixels, 16, 16));
+               render::MakeTexelField(picture.Pixels, 16, 16));
     EXPECT_EQ(view.Pixel(0, 0)[0], 0);
     EXPECT_EQ(view.Pixel(1, 0)[0], 16 * 2);
     EXPECT_EQ(view.Pixel(4, 0)[0], 16 * 8);
@@ -180,22 +180,22 @@ TEST(FillTri, TexelsAreAffineAndNearest)
 // The texels of both ends are rounded before they are interpolated: 2.5 is 2 and 3.5 is 4, not 3 half way but round(3).
 TEST(FillTri, TexelsOfTheSpanEndsAreRoundedFirst)
 {
-    const ModBitmap::Picture picture = Numbered();
+    const render::Picture picture = Numbered();
     scenes::View view(12, 8);
     FillTriTex(view.Screen, At(0, 0, 1, 2.5, 0), At(8, 0, 1, 3.4, 0), At(0, 4, 1, 2.5, 0),
-               Mod3D::MakeTexelField(picture.Pixels, 16, 16));
+               render::MakeTexelField(picture.Pixels, 16, 16));
     EXPECT_EQ(view.Pixel(4, 0)[0], 16 * 2); // 2.5 between 2 and 3, ties to even; 2.95 otherwise
     EXPECT_EQ(view.Pixel(5, 0)[0], 16 * 3);
 }
 
 TEST(FillTri, ABlackTexelHidesNothing)
 {
-    ModBitmap::Picture picture = Numbered();
+    render::Picture picture = Numbered();
     std::fill_n(picture.Pixels.Row(0), 3, std::uint8_t{0}); // texel (0, 0)
     scenes::View view(12, 8);
     FillTriFlat(view.Screen, At(0, 0, 5), At(4, 0, 5), At(0, 4, 5), Ink);
     FillTriTex(view.Screen, At(0, 0, 1, 0, 0), At(4, 0, 1, 4, 0), At(0, 4, 1, 0, 4),
-               Mod3D::MakeTexelField(picture.Pixels, 16, 16));
+               render::MakeTexelField(picture.Pixels, 16, 16));
     EXPECT_EQ(scenes::Bytes(view.Pixel(0, 0)), 0x030201u);
     EXPECT_EQ(view.Depth(0, 0), 5.0f);
     EXPECT_EQ(view.Pixel(1, 0)[0], 16);
@@ -206,22 +206,22 @@ TEST(FillTri, ABlackTexelHidesNothing)
 
 TEST(FillTri, ATexelOutsideItsTextureDrawsNothing)
 {
-    const ModBitmap::Picture picture = Numbered();
+    const render::Picture picture = Numbered();
     scenes::View view(12, 8);
     FillTriTex(view.Screen, At(0, 0, 1, -2, 1), At(8, 0, 1, 22, 1), At(0, 4, 1, -2, 1),
-               Mod3D::MakeTexelField(picture.Pixels, 16, 16));
-    EXPECT_EQ(view.Depth(0, 0), Mod3D::FarDepth); // u -2
-    EXPECT_EQ(view.Depth(1, 0), 1.0f);            // u 1
-    EXPECT_EQ(view.Depth(5, 0), 1.0f);            // u 13
-    EXPECT_EQ(view.Depth(6, 0), Mod3D::FarDepth); // u 16
+               render::MakeTexelField(picture.Pixels, 16, 16));
+    EXPECT_EQ(view.Depth(0, 0), render::FarDepth); // u -2
+    EXPECT_EQ(view.Depth(1, 0), 1.0f);             // u 1
+    EXPECT_EQ(view.Depth(5, 0), 1.0f);             // u 13
+    EXPECT_EQ(view.Depth(6, 0), render::FarDepth); // u 16
 }
 
 TEST(FillTri, FastIsPlainForRandomTriangles)
 {
     base::Random random;
     random.Seed(21);
-    const ModBitmap::Picture picture = scenes::Noise(random, 40, 30, 0.1);
-    const TexelField texture = Mod3D::MakeTexelField(picture.Pixels, 40, 30);
+    const render::Picture picture = scenes::Noise(random, 40, 30, 0.1);
+    const TexelField texture = render::MakeTexelField(picture.Pixels, 40, 30);
     scenes::View plain(241, 203), fast(241, 203);
     const double reach[] = {3, 30, 300, 5e3, 1e6, 2.1e9};
     std::size_t drawn = 0;
@@ -229,7 +229,7 @@ TEST(FillTri, FastIsPlainForRandomTriangles)
     {
         if (round % 500 == 0)
             for (scenes::View* view : {&plain, &fast})
-                std::fill(view->Screen.Depth.begin(), view->Screen.Depth.end(), Mod3D::FarDepth);
+                std::fill(view->Screen.Depth.begin(), view->Screen.Depth.end(), render::FarDepth);
         ScreenCorner corner[3];
         const double size = reach[round % 6];
         const double x = scenes::Draw(random, 0, 241), y = scenes::Draw(random, 0, 203);
@@ -243,7 +243,7 @@ TEST(FillTri, FastIsPlainForRandomTriangles)
             corner[1].Y = corner[0].Y; // flat bottoms and tops
         if (round % 11 == 0)
             corner[2].X = corner[0].X;
-        const Mod3D::Rgb colour{static_cast<std::uint8_t>(round), 2, 3};
+        const render::Rgb colour{static_cast<std::uint8_t>(round), 2, 3};
         if (round % 3 == 0)
         {
             FillTriFlatPlain(plain.Screen, corner[0], corner[1], corner[2], colour);
@@ -258,7 +258,7 @@ TEST(FillTri, FastIsPlainForRandomTriangles)
         ASSERT_EQ(plain.Screen.Depth, fast.Screen.Depth) << round;
         if (round % 500 == 499)
             drawn += static_cast<std::size_t>(std::count_if(fast.Screen.Depth.begin(), fast.Screen.Depth.end(),
-                                                            [](float z) { return z != Mod3D::FarDepth; }));
+                                                            [](float z) { return z != render::FarDepth; }));
     }
     EXPECT_GT(drawn, 100000u);
 }

@@ -8,47 +8,47 @@
 #include <cmath>
 #include <limits>
 
-using Mod3D::Point3;
-using Mod3D::ScreenCorner;
+using render::Point3;
+using render::ScreenCorner;
 
 namespace
 {
-constexpr Mod3D::Rgb Grey{200, 100, 50};
+constexpr render::Rgb Grey{200, 100, 50};
 
 // 240 x 200, zoom 200, centre (120, 100); the eye in the origin, looking along +z.
 struct Origin : scenes::View
 {
-    Mod3D::Scene Scene;
+    render::Scene Scene;
     Origin() : View(240, 200) { Look(0, 0, 0, 0, 0); }
     void Flat(const Point3& a, const Point3& b, const Point3& c)
     {
-        Mod3D::DrawTriFlat(Scene, Camera, Screen, a, b, c, Grey);
+        render::DrawTriFlat(Scene, Camera, Screen, a, b, c, Grey);
     }
     std::size_t Drawn() const
     {
         return static_cast<std::size_t>(
-            std::count_if(Screen.Depth.begin(), Screen.Depth.end(), [](float z) { return z != Mod3D::FarDepth; }));
+            std::count_if(Screen.Depth.begin(), Screen.Depth.end(), [](float z) { return z != render::FarDepth; }));
     }
 };
 }
 
 TEST(Extent, LargestMinusSmallest)
 {
-    EXPECT_EQ(Mod3D::Extent(3, -2, 1), 5.0);
-    EXPECT_EQ(Mod3D::Extent(4, 4, 4), 0.0);
+    EXPECT_EQ(render::Extent(3, -2, 1), 5.0);
+    EXPECT_EQ(render::Extent(4, 4, 4), 0.0);
 }
 
 // Upright face, extents 1, 1, 0 and so 0.7071, 0.7071, 0: 0.7071 x pi/2 for F(ey, 0); F(0, ex) is 0.
 TEST(FaceShade, UprightFace)
 {
-    EXPECT_NEAR(Mod3D::FaceShade({0, 0, 5}, {1, 0, 5}, {0, 1, 5}), 1.0 - 0.70710678 * 1.570796 / 18.849552154541016,
+    EXPECT_NEAR(render::FaceShade({0, 0, 5}, {1, 0, 5}, {0, 1, 5}), 1.0 - 0.70710678 * 1.570796 / 18.849552154541016,
                 1e-9);
 }
 
 // Level face, extents 1, 0, 1: ex x F(0, ez) and ez x F(0, ex) are 0, ey is 0.
 TEST(FaceShade, LevelFaceKeepsAllItsLight)
 {
-    EXPECT_EQ(Mod3D::FaceShade({0, 2, 0}, {1, 2, 0}, {0, 2, 1}), 1.0);
+    EXPECT_EQ(render::FaceShade({0, 2, 0}, {1, 2, 0}, {0, 2, 1}), 1.0);
 }
 
 // Extents 3, 4, 12 of length 13. F(12, 3) = pi/2 - atan(3 / 12); F(4, 12) = atan(4 / 12); F(4, 3) = pi/2 - atan(3 / 4).
@@ -57,7 +57,7 @@ TEST(FaceShade, SlantedFace)
     const double halfPi = 1.570796;
     const double taken =
         4.0 / 13 * (halfPi - std::atan(0.25)) + 3.0 / 13 * std::atan(4.0 / 12) + 12.0 / 13 * (halfPi - std::atan(0.75));
-    EXPECT_NEAR(Mod3D::FaceShade({0, 0, 0}, {3, 0, 12}, {1, 4, 5}), 1.0 - taken / 18.849552154541016, 1e-12);
+    EXPECT_NEAR(render::FaceShade({0, 0, 0}, {3, 0, 12}, {1, 4, 5}), 1.0 - taken / 18.849552154541016, 1e-12);
 }
 
 TEST(FaceShade, StaysBetween088And1)
@@ -70,7 +70,7 @@ TEST(FaceShade, StaysBetween088And1)
         for (Point3& c : corner)
             c = {static_cast<float>(scenes::Draw(random, -9, 9)), static_cast<float>(scenes::Draw(random, -9, 9)),
                  static_cast<float>(scenes::Draw(random, -9, 9))};
-        const double shade = Mod3D::FaceShade(corner[0], corner[1], corner[2]);
+        const double shade = render::FaceShade(corner[0], corner[1], corner[2]);
         ASSERT_GT(shade, 0.86);
         ASSERT_LE(shade, 1.0);
     }
@@ -83,7 +83,7 @@ TEST(FaceShade, TwoExtentsOfZeroAreNoFace)
     view.Flat({1, -1, 5}, {1, 1, 5}, {1, 0, 5});
     view.Flat({1, 1, 5}, {1, 1, 5}, {1, 1, 5});
     EXPECT_EQ(view.Drawn(), 0u);
-    EXPECT_TRUE(std::isnan(Mod3D::FaceShade({-1, 0, 5}, {1, 0, 5}, {0, 0, 5})));
+    EXPECT_TRUE(std::isnan(render::FaceShade({-1, 0, 5}, {1, 0, 5}, {0, 0, 5})));
 }
 
 TEST(DrawTriFlat, ColourTimesShadeTimesLightRoundedToAByte)
@@ -106,9 +106,9 @@ TEST(DrawTriFlat, ProjectsAroundTheCentreWithYUpward)
     EXPECT_EQ(view.Depth(80, 60), 5.0f);
     EXPECT_EQ(view.Depth(160, 60), 5.0f);
     EXPECT_EQ(view.Depth(80, 140), 5.0f);
-    EXPECT_EQ(view.Depth(79, 60), Mod3D::FarDepth);
-    EXPECT_EQ(view.Depth(80, 59), Mod3D::FarDepth);
-    EXPECT_EQ(view.Depth(160, 61), Mod3D::FarDepth);
+    EXPECT_EQ(view.Depth(79, 60), render::FarDepth);
+    EXPECT_EQ(view.Depth(80, 59), render::FarDepth);
+    EXPECT_EQ(view.Depth(160, 61), render::FarDepth);
 }
 
 TEST(NearPlane, WhollyBehindDrawsNothing)
@@ -128,7 +128,7 @@ TEST(NearPlane, OneCornerBehindLeavesTwoTriangles)
     view.Flat({-0.3f, -0.2f, 1}, {0.3f, -0.2f, 1}, {0, -0.2f, -1});
     Origin expected;
     const ScreenCorner a{60, 60, 1}, b{180, 60, 1}, p{-2910, -3900, 0.01f}, q{3150, -3900, 0.01f};
-    const Mod3D::Rgb colour{200, 100, 50}; // a level face keeps its light
+    const render::Rgb colour{200, 100, 50}; // a level face keeps its light
     FillTriFlat(expected.Screen, a, b, p, colour);
     FillTriFlat(expected.Screen, b, q, p, colour);
     EXPECT_EQ(view.Screen.Frame.Bytes, expected.Screen.Frame.Bytes);
@@ -156,12 +156,12 @@ TEST(NearPlane, CutTexelsAreInterpolatedWithTheCorner)
 {
     base::Random random;
     random.Seed(9);
-    const ModBitmap::Picture picture = scenes::Noise(random, 16, 16);
-    const Mod3D::TexelField texture = Mod3D::MakeTexelField(picture.Pixels, 16, 16);
+    const render::Picture picture = scenes::Noise(random, 16, 16);
+    const render::TexelField texture = render::MakeTexelField(picture.Pixels, 16, 16);
     Origin view;
-    Mod3D::DrawTriTex(view.Camera, view.Screen, SeeCorner(view.Camera, view.Screen, {-0.3f, -0.2f, 1}, 0, 15),
-                      SeeCorner(view.Camera, view.Screen, {0.3f, -0.2f, 1}, 15, 15),
-                      SeeCorner(view.Camera, view.Screen, {0, -0.2f, -1}, 8, 0), texture);
+    render::DrawTriTex(view.Camera, view.Screen, SeeCorner(view.Camera, view.Screen, {-0.3f, -0.2f, 1}, 0, 15),
+                       SeeCorner(view.Camera, view.Screen, {0.3f, -0.2f, 1}, 15, 15),
+                       SeeCorner(view.Camera, view.Screen, {0, -0.2f, -1}, 8, 0), texture);
     Origin expected;
     const double t = (1.0 - 0.01f) / 2.0;
     const ScreenCorner a{60, 60, 1, 0, 15}, b{180, 60, 1, 15, 15};
@@ -175,9 +175,9 @@ TEST(NearPlane, CutTexelsAreInterpolatedWithTheCorner)
 TEST(DrawTriTex, WithoutATextureNothingIsDrawn)
 {
     Origin view;
-    Mod3D::DrawTriTex(view.Camera, view.Screen, SeeCorner(view.Camera, view.Screen, {-1, -1, 5}),
-                      SeeCorner(view.Camera, view.Screen, {1, -1, 5}), SeeCorner(view.Camera, view.Screen, {-1, 1, 5}),
-                      {});
+    render::DrawTriTex(view.Camera, view.Screen, SeeCorner(view.Camera, view.Screen, {-1, -1, 5}),
+                       SeeCorner(view.Camera, view.Screen, {1, -1, 5}), SeeCorner(view.Camera, view.Screen, {-1, 1, 5}),
+                       {});
     EXPECT_EQ(view.Drawn(), 0u);
 }
 

@@ -69,7 +69,7 @@ TEST_F(GameTick, TheTrophyFloatsBeforeTheCameraOnceTheRaceIsOver)
     Game().Camera.View = 7; // the camera stays
     Game().Camera.CamYaw = 0.3f;
     Game().Camera.CamPitch = -0.2f;
-    const Mod3D::Obj& cup = Game().Scene.Objects.At(Game().Assets.CupObj);
+    const render::Obj& cup = Game().Scene.Objects.At(Game().Assets.CupObj);
     TickAt(500);
     EXPECT_EQ(cup.AngleA, 0);
     Game().Race.RaceOver = base::True;

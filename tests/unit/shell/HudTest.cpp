@@ -15,7 +15,7 @@ struct HudTest : testing::Test, support::LoadedForm
         Form.RenderT_Tick();
         return Label(which).Text;
     }
-    Mod3D::Rect2D& Bar() { return Game().Scene.Rects.At(Game().Hud.DamageBar); }
+    render::Rect2D& Bar() { return Game().Scene.Rects.At(Game().Hud.DamageBar); }
     std::string ColourAt(float damage)
     {
         Player(0).Damage = damage;
@@ -231,7 +231,7 @@ TEST_F(HudTest, OneFailingReadOutNeverStopsTheFrame)
 TEST_F(HudTest, SixteenElementsStandAtTheirAnchors)
 {
     Load();
-    const Mod3D::Scene& scene = Game().Scene;
+    const render::Scene& scene = Game().Scene;
     EXPECT_EQ(scene.Pics.Items.size() + scene.Rects.Items.size() + scene.Labels.Items.size(), 16u);
     const auto at = [&](std::int16_t Hud::*which)
     { return std::to_string(Label(which).X) + "," + std::to_string(Label(which).Y); };
@@ -275,7 +275,7 @@ TEST_F(HudTest, AnotherResolutionMovesThem)
 TEST_F(HudTest, TheSpannerIsAPictureOfSeveralColours)
 {
     Load();
-    const Mod3D::Pic2D& pic = Game().Scene.Pics.At(Game().Hud.Repair);
+    const render::Pic2D& pic = Game().Scene.Pics.At(Game().Hud.Repair);
     EXPECT_EQ(pic.Width, 32);
     EXPECT_EQ(pic.Height, 32);
     EXPECT_EQ(pic.Visible, 0);

@@ -2,7 +2,7 @@
 
 #include <gtest/gtest.h>
 
-using modUtilita::KeyName;
+using shell::KeyName;
 
 TEST(KeyName, LettersAndDigitsNameThemselves)
 {

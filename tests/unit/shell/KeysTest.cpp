@@ -302,7 +302,7 @@ TEST_F(Keys, EveryKeyCanBeTaken)
         Form.KeyDown(code); // repeats
         Form.KeyUp(code);
         EXPECT_EQ(Game().Bindings.Bindings[6], code);
-        EXPECT_EQ(Control("cCtrKey", 6).Caption, modUtilita::KeyName(code));
+        EXPECT_EQ(Control("cCtrKey", 6).Caption, shell::KeyName(code));
     }
     EXPECT_EQ(Control("panelCtrOpt").Visible, base::False); // no key has clicked anything
 }
@@ -324,7 +324,7 @@ TEST_F(Keys, CaptionsAreTheNamesOfTheTags)
     Load();
     for (std::int16_t index = 0; index < 11; ++index)
         EXPECT_EQ(Control("cCtrKey", index).Caption,
-                  modUtilita::KeyName(static_cast<std::int16_t>(std::stoi(Control("cCtrKey", index).Tag))));
+                  shell::KeyName(static_cast<std::int16_t>(std::stoi(Control("cCtrKey", index).Tag))));
 }
 
 TEST_F(Keys, OnlyElevenBindingsExist)

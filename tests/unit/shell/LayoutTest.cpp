@@ -1,7 +1,7 @@
 // Where the controls stand, for every size of the window.
 #include "shell/Design.h"
-#include "shell/forms/Typeface.h"
 #include "tests/support/LoadedForm.h"
+#include "typeface/Typeface.h"
 
 #include <gtest/gtest.h>
 
@@ -67,7 +67,7 @@ TEST_P(Layout, TextsFitTheirPlaces)
         if (control.Style == forms::Look::Paragraph)
         {
             lines = forms::BreakLines(control.Caption, control.TextSize, 1, control.Place.W);
-            EXPECT_LE(static_cast<double>(lines.size()) * Typeface::LineHeight(control.TextSize), control.Place.H)
+            EXPECT_LE(static_cast<double>(lines.size()) * typeface::LineHeight(control.TextSize), control.Place.H)
                 << Say(control, control.Place);
         }
         for (const std::string_view line : lines)

@@ -64,7 +64,7 @@ TEST(Paint, TheFrameIsStretchedToTheCanvas)
 {
     Canvas canvas;
     canvas.Resize(6, 4);
-    const ModBitmap::Picture picture = Checker(3, 2);
+    const render::Picture picture = Checker(3, 2);
     forms::Stretch(canvas, {0, 0, canvas.Width, canvas.Height}, 3, 2, picture.Pixels.RowBytes,
                    picture.Pixels.Bytes.data());
     EXPECT_EQ(PixelAt(canvas, 0, 0)[0], 0); // source row 1, the top one

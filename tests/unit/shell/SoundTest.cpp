@@ -12,10 +12,10 @@ using testing::IsEmpty;
 
 struct Sound : testing::Test, support::LoadedForm
 {
-    waveOut_Module::EngineSound& Engine() { return Game().Engine; }
+    audio::EngineSound& Engine() { return Game().Engine; }
     audio::Soundtrack& Music() { return Game().Soundtrack; }
     shell::AudioSettings& Options() { return Game().Audio; }
-    Mod3D::Label2D& Title() { return Label(&shell::Hud::Notice); }
+    render::Label2D& Title() { return Label(&shell::Hud::Notice); }
     std::string Playing() { return Machine.Music->Playing ? Machine.Music->File.filename().string() : ""; }
 
     void Tracks(std::initializer_list<const char*> names)

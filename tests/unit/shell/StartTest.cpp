@@ -192,7 +192,7 @@ TEST_F(Start, ClosingFreesEverything)
     EXPECT_EQ(Game().Assets.FireRed, nullptr);
     EXPECT_EQ(Game().Assets.FireYellow, nullptr);
     EXPECT_EQ(Game().Scene.Objects.Count, 0);
-    for (const Mod3D::Texture& texture : Game().Scene.Textures.Items)
+    for (const render::Texture& texture : Game().Scene.Textures.Items)
         EXPECT_NE(texture.Free, 0);
     EXPECT_EQ(Machine.Boxes.size(), 0u);
 }

@@ -1,6 +1,6 @@
 // Text boxes under mouse, keys and clipboard, and how they are painted.
-#include "shell/forms/Typeface.h"
 #include "tests/support/Panel.h"
+#include "typeface/Typeface.h"
 
 #include <gtest/gtest.h>
 

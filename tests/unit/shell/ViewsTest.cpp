@@ -9,10 +9,10 @@ namespace
 // One car, one checkpoint, one arrow.
 struct ViewTest : testing::Test
 {
-    Mod3D::Scene Scene;
+    render::Scene Scene;
     world::Race Race;
     world::HeldKeys Keys;
-    Mod3D::Camera Camera;
+    render::Camera Camera;
 
     ViewTest()
     {
@@ -28,8 +28,8 @@ struct ViewTest : testing::Test
         Camera.Radius = 14;
     }
 
-    Mod3D::Obj& Car() { return Scene.Objects.Items[0]; }
-    Mod3D::Obj& Arrow() { return Scene.Objects.Items[1]; }
+    render::Obj& Car() { return Scene.Objects.Items[0]; }
+    render::Obj& Arrow() { return Scene.Objects.Items[1]; }
     void Place() { shell::PlaceView(Camera, Scene, Race, Keys, 1); }
 };
 

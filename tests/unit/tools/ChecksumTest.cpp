@@ -12,11 +12,11 @@ namespace
 // One of everything that the simulation reads or writes.
 void Fill(shell::Game& game)
 {
-    Mod3D::Scene& scene = game.Scene;
-    modPrimitive::MakeObj(scene, 1, 2, 3, 0, 0, 1, 1, 1, 10);
-    modPrimitive::EditObjMesh(scene, 0, 0, 2, 2, 255, 0);
-    modPrimitive::AddSfereLink(scene, 0, 0, 0, 1, 1);
-    modPrimitive::MakeSprite3D(scene, nullptr, 0, 0, 0, 1, 1, 1);
+    render::Scene& scene = game.Scene;
+    render::MakeObj(scene, 1, 2, 3, 0, 0, 1, 1, 1, 10);
+    render::EditObjMesh(scene, 0, 0, 2, 2, 255, 0);
+    render::AddSfereLink(scene, 0, 0, 0, 1, 1);
+    render::MakeSprite3D(scene, nullptr, 0, 0, 0, 1, 1, 1);
     scene.Particles.resize(1);
     scene.Ground.Width = scene.Ground.Height = 3;
     scene.Ground.Sharp.Pixels.Allocate(3, 12);

@@ -11,7 +11,7 @@ using drive::Outcome;
 // Two meshes' worth of everything a path can lead through.
 struct Walk : testing::Test
 {
-    Mod3D::SlotList<Mod3D::Obj> Objects;
+    render::SlotList<render::Obj> Objects;
     std::vector<world::Player> Players{2};
     std::array<std::int16_t, 3> Bindings = {17, 9, 66};
     std::string Clipboard = "testo";
@@ -20,13 +20,13 @@ struct Walk : testing::Test
     Walk()
     {
         Objects.Take();
-        Mod3D::Obj& object = Objects.At(0);
+        render::Obj& object = Objects.At(0);
         object.X = 0.1f;
         object.NumMesh = 1;
         object.Sfere.resize(1);
         object.Sfere[0].Links = {{20, 1, 2}, {3, 4, 5}};
         object.Mesh.resize(1);
-        object.Mesh[0].Pts = {2, 3, std::vector<Mod3D::MeshPt>(6)};
+        object.Mesh[0].Pts = {2, 3, std::vector<render::MeshPt>(6)};
         object.Mesh[0].Pts.At(1, 2).U = 77;
     }
 

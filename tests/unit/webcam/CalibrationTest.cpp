@@ -7,8 +7,8 @@ namespace
 {
 struct CalibrationTest : testing::Test
 {
-    modEscapi::Webcam Camera;
-    ModBitmap::Picture Backdrop;
+    webcam::Webcam Camera;
+    render::Picture Backdrop;
     std::uint32_t Now = 5000;
 
     CalibrationTest()
@@ -25,13 +25,13 @@ struct CalibrationTest : testing::Test
     {
         Now += after;
         std::fill(Camera.Frame.Bytes.begin(), Camera.Frame.Bytes.end(), shade);
-        modEscapi::Calibrate(Camera, Backdrop, Now);
+        webcam::Calibrate(Camera, Backdrop, Now);
         return Camera.State;
     }
     void UntilKeyed()
     {
-        Camera.State = modEscapi::Asked;
-        for (int i = 0; i < 100 && Film(100, 50) != modEscapi::Keyed; ++i)
+        Camera.State = webcam::Asked;
+        for (int i = 0; i < 100 && Film(100, 50) != webcam::Keyed; ++i)
         {
         }
     }
@@ -47,7 +47,7 @@ TEST_F(CalibrationTest, IdleLeavesTheFrameAlone)
 
 TEST_F(CalibrationTest, ASecondToLeaveThenOneAndAHalfOfStillness)
 {
-    Camera.State = modEscapi::Asked;
+    Camera.State = webcam::Asked;
     EXPECT_EQ(Film(40, 50), 2);
     EXPECT_EQ(Film(999, 50), 2);
     EXPECT_EQ(Film(1, 50), 3);
@@ -65,9 +65,9 @@ TEST_F(CalibrationTest, AStillSceneWaitsOneAndAHalfSeconds)
 {
     // The detector knows this scene already.
     Film(0, 50);
-    modEscapi::MotionAmount(Camera.Motion, Camera.Frame, Camera.FrameHeader);
-    modEscapi::MotionAmount(Camera.Motion, Camera.Frame, Camera.FrameHeader);
-    Camera.State = modEscapi::Asked;
+    webcam::MotionAmount(Camera.Motion, Camera.Frame, Camera.FrameHeader);
+    webcam::MotionAmount(Camera.Motion, Camera.Frame, Camera.FrameHeader);
+    Camera.State = webcam::Asked;
     EXPECT_EQ(Film(0, 50), 2);
     EXPECT_EQ(Film(1000, 50), 3);
     EXPECT_EQ(Film(1499, 50), 3);
@@ -76,7 +76,7 @@ TEST_F(CalibrationTest, AStillSceneWaitsOneAndAHalfSeconds)
 
 TEST_F(CalibrationTest, MovementPutsItOff)
 {
-    Camera.State = modEscapi::Asked;
+    Camera.State = webcam::Asked;
     Film(0, 50);
     Film(1000, 50);
     Film(40, 50);
@@ -90,7 +90,7 @@ TEST_F(CalibrationTest, AskingAgainStartsAgainAndKeepsTheOldBackgroundMeanwhile)
 {
     UntilKeyed();
     ASSERT_EQ(Camera.State, 4);
-    Camera.State = modEscapi::Asked;
+    Camera.State = webcam::Asked;
     EXPECT_EQ(Film(40, 90), 2);
     EXPECT_EQ(Camera.Background.Frame.Row(3)[3], 50);
     EXPECT_EQ(Camera.Frame.Row(3)[3], 90) << "not keyed while it calibrates";
@@ -99,7 +99,7 @@ TEST_F(CalibrationTest, AskingAgainStartsAgainAndKeepsTheOldBackgroundMeanwhile)
 TEST_F(CalibrationTest, TheDeadlinesHoldWhereTheClockWraps)
 {
     Now = 0xFFFFFF00u;
-    Camera.State = modEscapi::Asked;
+    Camera.State = webcam::Asked;
     EXPECT_EQ(Film(0, 50), 2);
     EXPECT_EQ(Film(500, 50), 2);
     EXPECT_EQ(Film(500, 50), 3);

@@ -9,8 +9,8 @@ namespace
 struct CaptureTest : testing::Test
 {
     headless::Machine Machine{base::Files()};
-    modEscapi::Capture Capture;
-    ModBitmap::PicArray2D Frame;
+    webcam::Capture Capture;
+    render::PicArray2D Frame;
 
     CaptureTest()
     {
@@ -18,10 +18,10 @@ struct CaptureTest : testing::Test
         Capture.DeviceCount = 1;
         Frame.Allocate(80, 324);
     }
-    std::int32_t Init() { return modEscapi::InitCapture(Machine.Camera(), Capture); }
+    std::int32_t Init() { return webcam::InitCapture(Machine.WebcamDevice(), Capture); }
     bool Get(std::int32_t left = 0, std::int32_t top = 0, std::int32_t width = 107, std::int32_t height = 80)
     {
-        return modEscapi::GetFrame(Machine.Camera(), Capture, left, top, width, height, Frame);
+        return webcam::GetFrame(Machine.WebcamDevice(), Capture, left, top, width, height, Frame);
     }
     // Blue is the column, green the row from the top, red their sum.
     bool Film()
@@ -102,7 +102,7 @@ TEST_F(CaptureTest, ClosingWaitsForTheFrameThatWasAskedFor)
 {
     Init();
     Film();
-    EXPECT_EQ(modEscapi::DeinitCapture(Machine, Capture, 1000), 0);
+    EXPECT_EQ(webcam::DeinitCapture(Machine, Capture, 1000), 0);
     EXPECT_EQ(Machine.Clock, 0u) << "it had come";
     EXPECT_EQ(Capture.Open, base::False);
     EXPECT_FALSE(Get());
@@ -111,17 +111,17 @@ TEST_F(CaptureTest, ClosingWaitsForTheFrameThatWasAskedFor)
 TEST_F(CaptureTest, AFrameThatNeverComesEndsInError1024AndAClosedDevice)
 {
     Init();
-    EXPECT_EQ(modEscapi::DeinitCapture(Machine, Capture, 1000), 1024);
+    EXPECT_EQ(webcam::DeinitCapture(Machine, Capture, 1000), 1024);
     EXPECT_GE(Machine.Clock, 1000u);
     EXPECT_LE(Machine.Clock, 1050u);
     EXPECT_EQ(Capture.Open, base::False);
-    EXPECT_EQ(modEscapi::DeinitCapture(Machine, Capture, 1000), 0) << "nothing is open: nothing to wait for";
+    EXPECT_EQ(webcam::DeinitCapture(Machine, Capture, 1000), 0) << "nothing is open: nothing to wait for";
 }
 
 TEST_F(CaptureTest, ATimeoutOfZeroDoesNotWait)
 {
     Init();
-    EXPECT_EQ(modEscapi::DeinitCapture(Machine, Capture, 0), 0);
+    EXPECT_EQ(webcam::DeinitCapture(Machine, Capture, 0), 0);
     EXPECT_EQ(Machine.Clock, 0u);
     EXPECT_EQ(Capture.Open, base::False);
 }
@@ -130,7 +130,7 @@ TEST_F(CaptureTest, TheTimeoutHoldsWhereTheClockWraps)
 {
     Machine.Clock = 0xFFFFFF00u;
     Init();
-    EXPECT_EQ(modEscapi::DeinitCapture(Machine, Capture, 1000), 1024);
+    EXPECT_EQ(webcam::DeinitCapture(Machine, Capture, 1000), 1024);
     EXPECT_LT(Machine.Clock - 0xFFFFFF00u, 1050u);
 }
 
@@ -146,7 +146,7 @@ TEST_F(CaptureTest, OpeningTwiceStartsAnew)
 
 TEST(CaptureErrorText, HasATextForEveryNumber)
 {
-    using modEscapi::CaptureErrorText;
+    using webcam::CaptureErrorText;
     EXPECT_EQ(CaptureErrorText(0), "Completato");
     EXPECT_EQ(CaptureErrorText(513), "Nessuna periferica disponibile");
     EXPECT_EQ(CaptureErrorText(514), "Periferica non pronta o già in uso");

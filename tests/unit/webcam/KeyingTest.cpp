@@ -8,11 +8,11 @@
 
 namespace
 {
-using ModBitmap::PicArray2D;
+using render::PicArray2D;
 
 struct Shot
 {
-    ModBitmap::PicHeader Header;
+    render::PicHeader Header;
     PicArray2D Pixels;
 
     Shot(std::int32_t width, std::int32_t height, std::uint8_t value = 0)
@@ -26,7 +26,7 @@ struct Shot
     std::uint8_t* At(std::int32_t x, std::int32_t y) { return Pixels.Row(y) + 3 * x; }
 };
 
-ModBitmap::Picture Backdrop(std::int32_t width, std::int32_t height, std::uint8_t value)
+render::Picture Backdrop(std::int32_t width, std::int32_t height, std::uint8_t value)
 {
     Shot shot(width, height, value);
     return {{width, height, shot.Pixels.RowBytes, 1, 24}, shot.Pixels};
@@ -34,39 +34,39 @@ ModBitmap::Picture Backdrop(std::int32_t width, std::int32_t height, std::uint8_
 
 struct Keying : testing::Test
 {
-    modEscapi::Background Model;
+    webcam::Background Model;
     Shot Empty{7, 5, 100};
-    ModBitmap::Picture Behind = Backdrop(7, 5, 9);
+    render::Picture Behind = Backdrop(7, 5, 9);
 
-    Keying() { modEscapi::SetBackground(Model, Empty.Pixels, Empty.Header); }
-    void Key(Shot& shot) { modEscapi::ReplaceBackground(Model, shot.Pixels, Behind); }
+    Keying() { webcam::SetBackground(Model, Empty.Pixels, Empty.Header); }
+    void Key(Shot& shot) { webcam::ReplaceBackground(Model, shot.Pixels, Behind); }
 };
 }
 
 TEST(Motion, TheFirstFrameOfASizeAlwaysMoves)
 {
-    modEscapi::MotionDetector detector;
+    webcam::MotionDetector detector;
     Shot shot(107, 80, 50);
-    EXPECT_EQ(modEscapi::MotionAmount(detector, shot.Pixels, shot.Header), 2147483647);
+    EXPECT_EQ(webcam::MotionAmount(detector, shot.Pixels, shot.Header), 2147483647);
     // The second is compared with black: 107 x 80 x 3 x 50 over 80 + 321.
-    EXPECT_EQ(modEscapi::MotionAmount(detector, shot.Pixels, shot.Header), 107 * 80 * 3 * 50 / 401);
-    EXPECT_EQ(modEscapi::MotionAmount(detector, shot.Pixels, shot.Header), 0);
+    EXPECT_EQ(webcam::MotionAmount(detector, shot.Pixels, shot.Header), 107 * 80 * 3 * 50 / 401);
+    EXPECT_EQ(webcam::MotionAmount(detector, shot.Pixels, shot.Header), 0);
     Shot other(107, 79, 50);
-    EXPECT_EQ(modEscapi::MotionAmount(detector, other.Pixels, other.Header), 2147483647);
+    EXPECT_EQ(webcam::MotionAmount(detector, other.Pixels, other.Header), 2147483647);
 }
 
 TEST(Motion, EveryByteCountsUpAndDownAndThePaddingDoesNot)
 {
-    modEscapi::MotionDetector detector;
+    webcam::MotionDetector detector;
     Shot shot(5, 2, 100); // rows of 15 bytes, padded to 16
-    modEscapi::MotionAmount(detector, shot.Pixels, shot.Header);
-    modEscapi::MotionAmount(detector, shot.Pixels, shot.Header);
+    webcam::MotionAmount(detector, shot.Pixels, shot.Header);
+    webcam::MotionAmount(detector, shot.Pixels, shot.Header);
     shot.At(0, 0)[0] = 110;
     shot.At(4, 1)[2] = 90;
     shot.At(2, 1)[1] = 114;
     shot.Pixels.Row(0)[15] = 255;
-    EXPECT_EQ(modEscapi::MotionAmount(detector, shot.Pixels, shot.Header), 2); // 34 over 2 + 15
-    EXPECT_EQ(modEscapi::MotionAmount(detector, shot.Pixels, shot.Header), 0);
+    EXPECT_EQ(webcam::MotionAmount(detector, shot.Pixels, shot.Header), 2); // 34 over 2 + 15
+    EXPECT_EQ(webcam::MotionAmount(detector, shot.Pixels, shot.Header), 0);
 }
 
 TEST_F(Keying, ASumOf699IsBackgroundAndOf700ThePlayer)
@@ -118,7 +118,7 @@ TEST_F(Keying, TheBorderIsAlwaysBackground)
 TEST_F(Keying, TheGreatestDifferencesDoNotWrap)
 {
     Shot black(7, 5, 0), white(7, 5, 255);
-    modEscapi::SetBackground(Model, black.Pixels, black.Header);
+    webcam::SetBackground(Model, black.Pixels, black.Header);
     Key(white);
     EXPECT_EQ(Model.Sum[3 + 2 * 7], 9 * 765);
     EXPECT_EQ(white.At(3, 2)[0], 255);
@@ -139,9 +139,9 @@ TEST_F(Keying, WhereTheBackdropEndsTheFrameStays)
 
 TEST(KeyingFresh, BeforeTheFirstCalibrationNothingIsReplaced)
 {
-    modEscapi::Background model;
+    webcam::Background model;
     Shot shot(7, 5, 100);
-    modEscapi::ReplaceBackground(model, shot.Pixels, Backdrop(7, 5, 9));
+    webcam::ReplaceBackground(model, shot.Pixels, Backdrop(7, 5, 9));
     EXPECT_EQ(shot.At(3, 2)[0], 100);
 }
 
@@ -158,7 +158,7 @@ TEST(Inset, IsTheBlockFromThatColumnAndRowOn)
     for (std::int32_t y = 0; y < 8; ++y)
         for (std::int32_t x = 0; x < 10; ++x)
             frame.At(x, y)[2] = static_cast<std::uint8_t>(10 * y + x);
-    modEscapi::CopyInset(frame.Pixels, 3, 2, 4, 3, inset.Pixels);
+    webcam::CopyInset(frame.Pixels, 3, 2, 4, 3, inset.Pixels);
     EXPECT_EQ(inset.At(0, 0)[2], 23);
     EXPECT_EQ(inset.At(3, 2)[2], 46);
 }
@@ -166,27 +166,27 @@ TEST(Inset, IsTheBlockFromThatColumnAndRowOn)
 TEST(Inset, WhatLiesOutsideTheFrameIsNotCopied)
 {
     Shot frame(10, 8, 50), inset(4, 3, 7);
-    modEscapi::CopyInset(frame.Pixels, 8, 7, 4, 3, inset.Pixels);
+    webcam::CopyInset(frame.Pixels, 8, 7, 4, 3, inset.Pixels);
     EXPECT_EQ(inset.At(1, 0)[0], 50);
     EXPECT_EQ(inset.At(2, 0)[0], 7);
     EXPECT_EQ(inset.At(0, 1)[0], 7);
-    modEscapi::CopyInset(frame.Pixels, 100, 100, 4, 3, inset.Pixels);
-    modEscapi::CopyInset(frame.Pixels, -1, 0, 4, 3, inset.Pixels);
+    webcam::CopyInset(frame.Pixels, 100, 100, 4, 3, inset.Pixels);
+    webcam::CopyInset(frame.Pixels, -1, 0, 4, 3, inset.Pixels);
     EXPECT_EQ(inset.At(3, 2)[0], 7);
 }
 
 TEST(KeyingMemory, NothingIsTakenAfterTheFirstFrame)
 {
-    modEscapi::Background model;
-    modEscapi::MotionDetector detector;
+    webcam::Background model;
+    webcam::MotionDetector detector;
     Shot shot(107, 80, 50), inset(70, 70);
-    const ModBitmap::Picture behind = Backdrop(107, 80, 9);
-    modEscapi::SetBackground(model, shot.Pixels, shot.Header);
-    modEscapi::MotionAmount(detector, shot.Pixels, shot.Header);
+    const render::Picture behind = Backdrop(107, 80, 9);
+    webcam::SetBackground(model, shot.Pixels, shot.Header);
+    webcam::MotionAmount(detector, shot.Pixels, shot.Header);
     const std::size_t before = support::Allocations();
-    modEscapi::MotionAmount(detector, shot.Pixels, shot.Header);
-    modEscapi::SetBackground(model, shot.Pixels, shot.Header);
-    modEscapi::ReplaceBackground(model, shot.Pixels, behind);
-    modEscapi::CopyInset(shot.Pixels, 10, 5, 70, 70, inset.Pixels);
+    webcam::MotionAmount(detector, shot.Pixels, shot.Header);
+    webcam::SetBackground(model, shot.Pixels, shot.Header);
+    webcam::ReplaceBackground(model, shot.Pixels, behind);
+    webcam::CopyInset(shot.Pixels, 10, 5, 70, 70, inset.Pixels);
     EXPECT_EQ(support::Allocations(), before);
 }

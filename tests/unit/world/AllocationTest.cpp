@@ -8,7 +8,7 @@
 
 namespace
 {
-struct NoFinish : modDinamica::FinishSink
+struct NoFinish : world::FinishSink
 {
     void Finished(const std::string&) override {}
 };
@@ -37,14 +37,14 @@ test::World BusyWorld()
 void Tick(test::World& world)
 {
     NoFinish finish;
-    modDinamica::Simulation sim = world.Sim();
+    world::Simulation sim = world.Sim();
     world.Race.GameTime += 25;
-    modDinamica::ComputePlaces(world.Scene, world.Race);
-    modDinamica::RaceStep(sim, finish);
-    modDinamica::Collide(sim);
-    modDinamica::DamageSmoke(sim);
-    modDinamica::ComputerDrive(sim);
-    modDinamica::UserDrive(sim);
+    world::ComputePlaces(world.Scene, world.Race);
+    world::RaceStep(sim, finish);
+    world::Collide(sim);
+    world::DamageSmoke(sim);
+    world::ComputerDrive(sim);
+    world::UserDrive(sim);
 }
 }
 

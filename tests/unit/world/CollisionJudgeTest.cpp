@@ -33,22 +33,22 @@ void AddObject(test::World& world, base::Random& random, const Recipe& recipe, b
     const auto spheres = static_cast<std::int16_t>(1 + base::Floor(random.Next() * 8));
     const float radius = Between(random, 0.2, recipe.Radius);
     const std::int16_t object =
-        modPrimitive::MakeObj(world.Scene, Between(random, 0, recipe.Size), 0, Between(random, 0, recipe.Size),
-                              Between(random, -4, 4), 0, car ? 1 : 0, spheres, 1, Between(random, 0, 3));
-    modPrimitive::SetObjR(world.Scene, object, radius);
+        render::MakeObj(world.Scene, Between(random, 0, recipe.Size), 0, Between(random, 0, recipe.Size),
+                        Between(random, -4, 4), 0, car ? 1 : 0, spheres, 1, Between(random, 0, 3));
+    render::SetObjR(world.Scene, object, radius);
     for (std::int16_t sphere = 0; sphere < spheres; ++sphere)
     {
-        modPrimitive::EditObjSfere(world.Scene, object, sphere, Between(random, -radius, radius) / 2, 0,
-                                   Between(random, -radius, radius) / 2, Between(random, 0.1, radius));
+        render::EditObjSfere(world.Scene, object, sphere, Between(random, -radius, radius) / 2, 0,
+                             Between(random, -radius, radius) / 2, Between(random, 0.1, radius));
         if (car)
-            modPrimitive::AddSfereLink(world.Scene, object, sphere, 0, sphere, 0);
+            render::AddSfereLink(world.Scene, object, sphere, 0, sphere, 0);
     }
     if (!car)
         return;
-    modPrimitive::EditObjMesh(world.Scene, object, 0, 8, 1, 0, 0);
+    render::EditObjMesh(world.Scene, object, 0, 8, 1, 0, 0);
     for (int point = 0; point < 8; ++point)
-        modPrimitive::EditObjMeshPt(world.Scene, object, 0, point, 0, 1, 2, 3, 0, 0);
-    modPrimitive::KeepUndamaged(world.Scene, object);
+        render::EditObjMeshPt(world.Scene, object, 0, point, 0, 1, 2, 3, 0, 0);
+    render::KeepUndamaged(world.Scene, object);
     world::Player player;
     player.Obj = object;
     player.MaxSpeed = 5;
@@ -74,12 +74,12 @@ std::vector<std::uint64_t> Bits(const test::World& world)
 {
     std::vector<std::uint64_t> bits;
     const auto add = [&](float value) { bits.push_back(std::bit_cast<std::uint32_t>(value)); };
-    for (const Mod3D::Obj& object : world.Scene.Objects.Items)
+    for (const render::Obj& object : world.Scene.Objects.Items)
     {
         for (const float value : {object.X, object.Y, object.Z, object.AngleA, object.AngleB})
             add(value);
-        for (const Mod3D::ObjMesh& mesh : object.Mesh)
-            for (const Mod3D::MeshPt& point : mesh.Pts.Points)
+        for (const render::ObjMesh& mesh : object.Mesh)
+            for (const render::MeshPt& point : mesh.Pts.Points)
                 for (const float value : {point.X, point.Y, point.Z})
                     add(value);
     }
@@ -117,17 +117,17 @@ TEST_P(CollisionJudge, EveryTickGivesTheSameBits)
         for (int tick = 0; tick < 12; ++tick)
         {
             const std::vector<std::uint64_t> before = Bits(plain);
-            modDinamica::Simulation fastSim = fast.Sim();
-            modDinamica::Simulation plainSim = plain.Sim();
-            modDinamica::Collide(fastSim);
-            modDinamica::CollidePlain(plainSim);
+            world::Simulation fastSim = fast.Sim();
+            world::Simulation plainSim = plain.Sim();
+            world::Collide(fastSim);
+            world::CollidePlain(plainSim);
             ASSERT_EQ(Bits(fast), Bits(plain)) << "seed " << seed << ", tick " << tick;
             touched += Bits(plain) != before ? 1 : 0;
             // A car that is moved by a script or drives on between the ticks.
             for (world::Player& player : fast.Race.Players)
-                modDinamica::MoveCar(fastSim, player);
+                world::MoveCar(fastSim, player);
             for (world::Player& player : plain.Race.Players)
-                modDinamica::MoveCar(plainSim, player);
+                world::MoveCar(plainSim, player);
         }
     }
     EXPECT_GE(touched, 12); // otherwise nothing was compared
@@ -152,7 +152,7 @@ TEST(CollisionJudgeOddNumbers, GiveTheSameBits)
         test::World fast = Build(recipe, seed);
         for (int n = 0; n < 30; ++n)
         {
-            Mod3D::Obj& object = fast.Object(base::Floor(random.Next() * 80));
+            render::Obj& object = fast.Object(base::Floor(random.Next() * 80));
             float* const fields[] = {&object.X,      &object.Y,    &object.Z,         &object.AngleA,
                                      &object.Radius, &object.Mass, &object.Sfere[0].R};
             *fields[base::Floor(random.Next() * 7)] = odd[base::Floor(random.Next() * 9)];
@@ -160,10 +160,10 @@ TEST(CollisionJudgeOddNumbers, GiveTheSameBits)
         test::World plain = fast;
         for (int tick = 0; tick < 5; ++tick)
         {
-            modDinamica::Simulation fastSim = fast.Sim();
-            modDinamica::Simulation plainSim = plain.Sim();
-            modDinamica::Collide(fastSim);
-            modDinamica::CollidePlain(plainSim);
+            world::Simulation fastSim = fast.Sim();
+            world::Simulation plainSim = plain.Sim();
+            world::Collide(fastSim);
+            world::CollidePlain(plainSim);
             ASSERT_EQ(Bits(fast), Bits(plain)) << "seed " << seed << ", tick " << tick;
         }
     }

@@ -8,27 +8,27 @@
 namespace
 {
 // Every test holds for the fast walk and for the plain one.
-struct Collision : testing::TestWithParam<void (*)(modDinamica::Simulation&)>
+struct Collision : testing::TestWithParam<void (*)(world::Simulation&)>
 {
     test::World World;
     void Collide()
     {
-        modDinamica::Simulation sim = World.Sim();
+        world::Simulation sim = World.Sim();
         GetParam()(sim);
     }
     // Gives an object's only sphere a link to point (i, j) of a new mesh with the undamaged points (10, 20, 40).
     void AddMesh(std::int16_t object, std::int16_t meshes)
     {
-        Mod3D::Obj& body = World.Object(object);
+        render::Obj& body = World.Object(object);
         body.Mesh.resize(static_cast<std::size_t>(meshes));
         body.NumMesh = meshes;
         for (std::int16_t mesh = 0; mesh < meshes; ++mesh)
         {
-            modPrimitive::EditObjMesh(World.Scene, object, mesh, 2, 2, 255, 0);
+            render::EditObjMesh(World.Scene, object, mesh, 2, 2, 255, 0);
             for (int i = 0; i < 4; ++i)
-                modPrimitive::EditObjMeshPt(World.Scene, object, mesh, i / 2, i % 2, 10, 20, 40, 0, 0);
+                render::EditObjMeshPt(World.Scene, object, mesh, i / 2, i % 2, 10, 20, 40, 0, 0);
         }
-        modPrimitive::KeepUndamaged(World.Scene, object);
+        render::KeepUndamaged(World.Scene, object);
     }
 };
 
@@ -37,7 +37,7 @@ constexpr double K = 0.15595829320094023;
 // k of a car that meets what is four times as heavy: atan(4) / 1.570796.
 constexpr double K4 = 0.8440419148431957;
 
-INSTANTIATE_TEST_SUITE_P(Walk, Collision, testing::Values(&modDinamica::Collide, &modDinamica::CollidePlain),
+INSTANTIATE_TEST_SUITE_P(Walk, Collision, testing::Values(&world::Collide, &world::CollidePlain),
                          [](const auto& walk) { return walk.index == 0 ? "Fast" : "Plain"; });
 }
 
@@ -122,7 +122,7 @@ TEST_P(Collision, TwoStaticObjectsChangeOnlyAnglesAndPositions)
 {
     World.AddBall(0, 0, 1, 1);
     World.AddBall(1.5f, 0, 1, 0.5f);
-    const Mod3D::Obj before = World.Object(0);
+    const render::Obj before = World.Object(0);
     Collide(); // ratio 0.5, and the same ratio knocks both over
     EXPECT_EQ(World.Object(0).AngleB, 0.375f);
     EXPECT_EQ(World.Object(1).AngleB, 0.375f);
@@ -191,10 +191,10 @@ TEST_P(Collision, TheBroadTestCountsHeightAndRadius)
     Collide();
     EXPECT_EQ(World.Object(0).X, 0.0f);
     World.Object(1).Y = 0.0f;
-    modPrimitive::SetObjR(World.Scene, 1, 0.25f); // the spheres touch, the bounding spheres do not
+    render::SetObjR(World.Scene, 1, 0.25f); // the spheres touch, the bounding spheres do not
     Collide();
     EXPECT_EQ(World.Object(0).X, 0.0f);
-    modPrimitive::SetObjR(World.Scene, 1, 0.75f);
+    render::SetObjR(World.Scene, 1, 0.75f);
     Collide();
     EXPECT_EQ(World.Object(0).X, -0.5f);
 }
@@ -206,8 +206,8 @@ TEST_P(Collision, FreedObjectsAndThoseWithoutSpheresAreLeftOut)
     World.AddBall(2, 0, 1, 1);
     World.Object(1).Free = 1;
     World.Object(2).Visible = 0; // what is hidden collides all the same
-    const std::int16_t bare = modPrimitive::MakeObj(World.Scene, 0, 0, 0, 0, 0, 0, 0, 1, 1);
-    modPrimitive::SetObjR(World.Scene, bare, 5);
+    const std::int16_t bare = render::MakeObj(World.Scene, 0, 0, 0, 0, 0, 0, 0, 1, 1);
+    render::SetObjR(World.Scene, bare, 5);
     Collide();
     EXPECT_EQ(World.Object(0).X, 0.0f);
     World.Object(2).X = 1.5f;
@@ -220,13 +220,13 @@ TEST_P(Collision, TheFirstPairOfSpheresIsTheContact)
     // Two spheres each; 0 of i is far off, 1 of i meets both of j, 0 first.
     for (const float x : {0.0f, 1.5f})
     {
-        const std::int16_t object = modPrimitive::MakeObj(World.Scene, x, 0, 0, 0, 0, 0, 2, 1, 1);
-        modPrimitive::SetObjR(World.Scene, object, 50);
+        const std::int16_t object = render::MakeObj(World.Scene, x, 0, 0, 0, 0, 0, 2, 1, 1);
+        render::SetObjR(World.Scene, object, 50);
     }
-    modPrimitive::EditObjSfere(World.Scene, 0, 0, 0, 40, 0, 1);
-    modPrimitive::EditObjSfere(World.Scene, 0, 1, 0, 0, 0, 1);
-    modPrimitive::EditObjSfere(World.Scene, 1, 0, 0, 0, 0, 1);
-    modPrimitive::EditObjSfere(World.Scene, 1, 1, -1, 0, 0, 1);
+    render::EditObjSfere(World.Scene, 0, 0, 0, 40, 0, 1);
+    render::EditObjSfere(World.Scene, 0, 1, 0, 0, 0, 1);
+    render::EditObjSfere(World.Scene, 1, 0, 0, 0, 0, 1);
+    render::EditObjSfere(World.Scene, 1, 1, -1, 0, 0, 1);
     Collide();
     EXPECT_EQ(World.Object(0).X, -0.5f); // the depth of sphere 0, not the 1.5 of sphere 1
 }
@@ -234,9 +234,9 @@ TEST_P(Collision, TheFirstPairOfSpheresIsTheContact)
 TEST_P(Collision, SpheresTurnWithTheirObjects)
 {
     // A sphere 10 units along local +z; turned by a right angle it lies along -x.
-    const std::int16_t arm = modPrimitive::MakeObj(World.Scene, 0, 0, 0, 1.570796f, 0, 0, 1, 1, 1);
-    modPrimitive::SetObjR(World.Scene, arm, 20);
-    modPrimitive::EditObjSfere(World.Scene, arm, 0, 0, 0, 10, 1);
+    const std::int16_t arm = render::MakeObj(World.Scene, 0, 0, 0, 1.570796f, 0, 0, 1, 1, 1);
+    render::SetObjR(World.Scene, arm, 20);
+    render::EditObjSfere(World.Scene, arm, 0, 0, 0, 10, 1);
     World.AddBall(-11.5f, 0, 1, 1);
     World.AddBall(0, 11.5f, 1, 1);
     Collide();
@@ -273,11 +273,11 @@ TEST_P(Collision, DentsAreMadeFromTheUndamagedPoints)
     World.AddCar(0, 0, 0.5f);
     World.AddCar(1.5f, 0);
     AddMesh(0, 1);
-    modPrimitive::AddSfereLink(World.Scene, 0, 0, 0, 1, 0);
+    render::AddSfereLink(World.Scene, 0, 0, 0, 1, 0);
     World.Player(0).Speed = 2.0f;
     World.Random.Script = {0.0, 0.5, 1.0};
     Collide();
-    const Mod3D::PointGrid& points = World.Object(0).Mesh[0].Pts;
+    const render::PointGrid& points = World.Object(0).Mesh[0].Pts;
     EXPECT_FLOAT_EQ(points.At(1, 0).X, 9.5f);  // 0.95
     EXPECT_FLOAT_EQ(points.At(1, 0).Y, 17.5f); // 0.95 - 0.075
     EXPECT_FLOAT_EQ(points.At(1, 0).Z, 32.0f); // 0.95 - 0.15
@@ -293,7 +293,7 @@ TEST_P(Collision, OnlyCarsAreDented)
     World.AddCar(0, 0);
     World.AddBall(1.5f, 0, 1, 1);
     AddMesh(1, 1);
-    modPrimitive::AddSfereLink(World.Scene, 1, 0, 0, 0, 0);
+    render::AddSfereLink(World.Scene, 1, 0, 0, 0, 0);
     World.Player(0).Speed = 2.0f;
     Collide();
     EXPECT_EQ(World.Object(1).Mesh[0].Pts.At(0, 0).X, 10.0f);
@@ -306,9 +306,9 @@ TEST_P(Collision, LinksThatLeadNowhereAreSkipped)
     AddMesh(0, 1);
     for (const std::int16_t odd : std::initializer_list<std::int16_t>{-1, 2, 32767, -32768})
     {
-        modPrimitive::AddSfereLink(World.Scene, 0, 0, odd, 0, 0);
-        modPrimitive::AddSfereLink(World.Scene, 0, 0, 0, odd, 0);
-        modPrimitive::AddSfereLink(World.Scene, 0, 0, 0, 0, odd);
+        render::AddSfereLink(World.Scene, 0, 0, odd, 0, 0);
+        render::AddSfereLink(World.Scene, 0, 0, 0, odd, 0);
+        render::AddSfereLink(World.Scene, 0, 0, 0, 0, odd);
     }
     World.Random.ScriptNext = 0;
     Collide();
@@ -323,8 +323,8 @@ TEST_P(Collision, AGridMadeAnewAfterTheModelHasNoUndamagedPoints)
     World.AddCar(0, 0);
     World.AddCar(1.5f, 0);
     AddMesh(0, 1);
-    modPrimitive::AddSfereLink(World.Scene, 0, 0, 0, 3, 3);
-    modPrimitive::EditObjMesh(World.Scene, 0, 0, 4, 4, 255, 0);
+    render::AddSfereLink(World.Scene, 0, 0, 0, 3, 3);
+    render::EditObjMesh(World.Scene, 0, 0, 4, 4, 255, 0);
     Collide();
     EXPECT_EQ(World.Object(0).X, -0.5f);
     EXPECT_EQ(World.Object(0).Mesh[0].Pts.At(3, 3).X, 0.0f);
@@ -336,9 +336,9 @@ namespace
 void AddGlassCar(test::World& world, std::size_t hit)
 {
     world.AddCar(0, 0);
-    Mod3D::Obj& car = world.Object(0);
+    render::Obj& car = world.Object(0);
     car.NumSfere = 7;
-    car.Sfere.assign(7, Mod3D::Sfera{});
+    car.Sfere.assign(7, render::Sfera{});
     car.Sfere[hit].R = 1.0f;
     car.Mesh.resize(21);
     car.NumMesh = 21;

@@ -19,11 +19,11 @@ struct ComputerDrive : testing::Test
         World.SetGround(64, 64, 1, 100);
     }
     world::Player& Car() { return World.Player(0); }
-    Mod3D::Obj& Body() { return World.Object(0); }
+    render::Obj& Body() { return World.Object(0); }
     void Drive()
     {
-        modDinamica::Simulation sim = World.Sim();
-        modDinamica::ComputerDrive(sim);
+        world::Simulation sim = World.Sim();
+        world::ComputerDrive(sim);
     }
 };
 }
@@ -66,7 +66,7 @@ TEST_F(ComputerDrive, TurnsTowardTheTargetWithoutOvershooting)
     EXPECT_EQ(Car().Speed, 0.5f - 2 * 0.03125f);
 
     World.SetCheckpoints({{1, 0, 100, 5}, {1, 0, 200, 5}});
-    Body() = Mod3D::Obj{};
+    Body() = render::Obj{};
     Car().Speed = 0.5f;
     Drive();
     EXPECT_FLOAT_EQ(Body().AngleA, -0.01f); // in whole milliradians, and not farther than needed
@@ -173,7 +173,7 @@ TEST_F(ComputerDrive, CheckpointsAtOnePlaceTurnTheFollowingLegFromAngleZero)
     Car().Speed = 3.0f;
     Drive();
     EXPECT_GT(Car().Speed, 3.0f);
-    Body() = Mod3D::Obj{};
+    Body() = render::Obj{};
     Body().AngleA = 1.0f;
     World.SetCheckpoints({{-8.4147f, 0, 5.4030f, 5}, {-8.4147f, 0, 5.4030f, 5}}); // straight ahead again
     Car().Speed = 2.0f;
@@ -219,7 +219,7 @@ TEST_F(ComputerDrive, OddNumbersDoNoHarm)
             *field = odd;
             Drive();
             Drive();
-            Body() = Mod3D::Obj{};
+            Body() = render::Obj{};
             Car().Speed = 1.0f;
             *field = before;
         }

@@ -5,9 +5,9 @@
 #include <cmath>
 #include <limits>
 
-using modDinamica::EngineNote;
-using modDinamica::Gear;
-using modDinamica::SteerFactor;
+using world::EngineNote;
+using world::Gear;
+using world::SteerFactor;
 
 namespace
 {
@@ -21,11 +21,11 @@ struct Driving : testing::Test
         World.SetGround(64, 64, 2, 100);
     }
     world::Player& Car() { return World.Player(0); }
-    Mod3D::Obj& Body() { return World.Object(Car().Obj); }
+    render::Obj& Body() { return World.Object(Car().Obj); }
     void Drive()
     {
-        modDinamica::Simulation sim = World.Sim();
-        modDinamica::UserDrive(sim);
+        world::Simulation sim = World.Sim();
+        world::UserDrive(sim);
     }
     // The texel under the side of the car that lies toward +x.
     int Mark() { return World.Texel(22, 20); }
@@ -98,7 +98,7 @@ TEST(EngineNote, FallsAtEveryBreakpoint)
 TEST_F(Driving, DamageOfOneHalvesAllButSteeringAndFriction)
 {
     Car().Damage = 1.0f;
-    modDinamica::ApplyDamage(Car());
+    world::ApplyDamage(Car());
     EXPECT_EQ(Car().CurMaxSpeed, 2.0f);
     EXPECT_EQ(Car().CurMaxSpeedR, 0.5f);
     EXPECT_EQ(Car().CurAcceleration, 0.125f);
@@ -210,7 +210,7 @@ TEST_F(Driving, LeftAndRightAreMirrorImages)
     World.Keys = {};
     World.Keys.KeyRight = -1;
     World.Camera.CamSway = 0.0f;
-    Body() = Mod3D::Obj{};
+    Body() = render::Obj{};
     Car().Speed = 1.0f;
     Drive();
     EXPECT_EQ(Body().AngleA, -0.0625f);
@@ -352,9 +352,9 @@ TEST_F(Driving, IndicesOutOfRangeDriveNothing)
     {
         Car().Obj = object;
         Drive();
-        modDinamica::Simulation sim = World.Sim();
-        modDinamica::MoveCar(sim, Car());
-        modDinamica::TyreMarks(sim, Car(), 0.5);
+        world::Simulation sim = World.Sim();
+        world::MoveCar(sim, Car());
+        world::TyreMarks(sim, Car(), 0.5);
     }
     EXPECT_EQ(Car().Speed, 0.0f);
 }

@@ -8,7 +8,7 @@
 
 namespace
 {
-using modOggetti::FieldReader;
+using world::FieldReader;
 
 // The texts of all fields.
 std::vector<std::string> Texts(const std::string& bytes)

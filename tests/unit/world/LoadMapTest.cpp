@@ -12,7 +12,7 @@ struct LoadMap : testing::Test
 {
     support::TempFolder Folder;
     support::Messages Messages;
-    Mod3D::Scene Scene;
+    render::Scene Scene;
     world::Race Race;
 
     LoadMap()
@@ -30,7 +30,7 @@ struct LoadMap : testing::Test
     void Load(const std::string& script, bool blurred = false)
     {
         Folder.Write("data/maps/m/map.loader", script);
-        modOggetti::LoadMap(Scene, Race, Messages, Folder.Files(), "data\\maps\\m\\map.loader", blurred);
+        world::LoadMap(Scene, Race, Messages, Folder.Files(), "data\\maps\\m\\map.loader", blurred);
     }
     void ExpectBoxes(const std::vector<std::string>& texts) const
     {
@@ -57,7 +57,7 @@ TEST_F(LoadMap, AScriptWithoutHeaderBuildsTheWorld)
     EXPECT_EQ(Scene.Ground.GroundScale, 2.5f);
     EXPECT_FALSE(Scene.Ground.GroundBlur.Empty());
     ASSERT_EQ(Scene.Objects.Size(), 3);
-    const Mod3D::Obj& tree = Scene.Objects.At(0);
+    const render::Obj& tree = Scene.Objects.At(0);
     EXPECT_EQ(tree.X, 10.0f);
     EXPECT_EQ(tree.Y, 1.0f);
     EXPECT_EQ(tree.Z, 20.0f);
@@ -105,7 +105,7 @@ TEST_F(LoadMap, TheHeaderOfAModelIsNoKeyword)
 
 TEST_F(LoadMap, AMissingScriptIsReported)
 {
-    modOggetti::LoadMap(Scene, Race, Messages, Folder.Files(), "data\\maps\\m\\none.loader", false);
+    world::LoadMap(Scene, Race, Messages, Folder.Files(), "data\\maps\\m\\none.loader", false);
     ExpectBoxes({"Impossibile trovare il file in LoadMap"});
 }
 

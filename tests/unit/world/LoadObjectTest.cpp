@@ -12,12 +12,12 @@ struct LoadObject : testing::Test
 {
     support::TempFolder Folder;
     support::Messages Messages;
-    Mod3D::Scene Scene;
+    render::Scene Scene;
 
     std::int16_t Load(const std::string& text)
     {
         Folder.Write("data/obj/car.3dm", text);
-        return modOggetti::LoadObject(Scene, Messages, Folder.Files(), "data\\obj\\car.3dm");
+        return world::LoadObject(Scene, Messages, Folder.Files(), "data\\obj\\car.3dm");
     }
 
     // One message box, of an error in LoadObject.
@@ -49,7 +49,7 @@ TEST_F(LoadObject, EveryCommandActsOnTheCurrentRecord)
                             "EditObjMeshPt,0,1,2,0.5,1.5,2.5,-7,8\r\n"),
               0);
     ExpectNoError();
-    const Mod3D::Obj& object = Scene.Objects.At(0);
+    const render::Obj& object = Scene.Objects.At(0);
     EXPECT_EQ(object.X, 1.0f);
     EXPECT_EQ(object.Y, 2.0f);
     EXPECT_EQ(object.Z, 3.0f);
@@ -82,7 +82,7 @@ TEST_F(LoadObject, PolylinesTakeTheirPoints)
 {
     EXPECT_EQ(Load(Header + "MakePoly,2,65535,1\nEditPolyPt,1,4,5,6\n"), 0);
     ExpectNoError();
-    const Mod3D::Poly& poly = Scene.Polys.At(0);
+    const render::Poly& poly = Scene.Polys.At(0);
     EXPECT_EQ(poly.Visible, 1);
     EXPECT_EQ(poly.ColR, 255);
     EXPECT_EQ(poly.ColG, 255);
@@ -146,8 +146,8 @@ TEST_F(LoadObject, AnEmptyLineIsAnEmptyKeyword)
 TEST_F(LoadObject, MissingFilesAndFolders)
 {
     Folder.Write("data/obj/other.3dm", "");
-    EXPECT_EQ(modOggetti::LoadObject(Scene, Messages, Folder.Files(), "data\\obj\\none.3dm"), -1);
-    EXPECT_EQ(modOggetti::LoadObject(Scene, Messages, Folder.Files(), "data\\none\\none.3dm"), -1);
+    EXPECT_EQ(world::LoadObject(Scene, Messages, Folder.Files(), "data\\obj\\none.3dm"), -1);
+    EXPECT_EQ(world::LoadObject(Scene, Messages, Folder.Files(), "data\\none\\none.3dm"), -1);
     ASSERT_EQ(Messages.Boxes.size(), 2u);
     EXPECT_EQ(Messages.Boxes[0].Title, "Errore 53");
     EXPECT_EQ(Messages.Boxes[0].Text, "Impossibile trovare il file in LoadObject");
@@ -238,7 +238,7 @@ TEST_F(LoadObject, TheWholeSceneHasALimit)
         text += "EditObjMesh," + std::to_string(mesh) + ",2000,1600,0\n";
     EXPECT_EQ(Load(text), 0);
     ExpectError("Errore 7", "Memoria esaurita");
-    EXPECT_LE(Scene.Bytes, Mod3D::MostBytes);
+    EXPECT_LE(Scene.Bytes, render::MostBytes);
 }
 
 TEST_F(LoadObject, ANegativeShadeConsumesOneMoreField)
@@ -279,7 +279,7 @@ TEST_F(LoadObject, PathMarksAreReplacedEverywhereInAField)
 TEST_F(LoadObject, APathWithoutAFolderStandsForItself)
 {
     Folder.Write("car.3dm", Header + "MakeTexture,<path>x\n");
-    modOggetti::LoadObject(Scene, Messages, Folder.Files(), "car.3dm");
+    world::LoadObject(Scene, Messages, Folder.Files(), "car.3dm");
     EXPECT_EQ(Scene.Textures.At(0).Path, "car.3dmx");
 }
 

@@ -11,9 +11,9 @@
 
 namespace
 {
-using modDinamica::Footprint;
-using modDinamica::FootprintOf;
-using modDinamica::NearStrips;
+using world::Footprint;
+using world::FootprintOf;
+using world::NearStrips;
 
 struct Disc
 {

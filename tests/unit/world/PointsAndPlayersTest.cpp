@@ -16,12 +16,12 @@ struct PointsAndPlayers : testing::Test
     std::int16_t Targets(const std::string& text)
     {
         Folder.Write("f", text);
-        return modOggetti::LoadTargets(Messages, Folder.Files(), "f", List);
+        return world::LoadTargets(Messages, Folder.Files(), "f", List);
     }
     std::int16_t Player(const std::string& text, std::int16_t object = 5)
     {
         Folder.Write("f", text);
-        return modOggetti::MakePlayer(Messages, Folder.Files(), "f", object, Race);
+        return world::MakePlayer(Messages, Folder.Files(), "f", object, Race);
     }
     void ExpectBox(const std::string& title, const std::string& text) const
     {
@@ -63,7 +63,7 @@ TEST_F(PointsAndPlayers, AFailingListKeepsItsCompleteRecords)
 
 TEST_F(PointsAndPlayers, AMissingListIsEmpty)
 {
-    EXPECT_EQ(modOggetti::LoadTargets(Messages, Folder.Files(), "none", List), 0);
+    EXPECT_EQ(world::LoadTargets(Messages, Folder.Files(), "none", List), 0);
     ExpectBox("Errore 53", "Impossibile trovare il file in LoadTargets");
     ASSERT_EQ(List.size(), 1u);
     EXPECT_EQ(List[0].R, 0.0f);

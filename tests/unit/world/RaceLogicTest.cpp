@@ -7,7 +7,7 @@
 
 namespace
 {
-struct Sink : modDinamica::FinishSink
+struct Sink : world::FinishSink
 {
     std::vector<std::string> Messages;
     void Finished(const std::string& message) override { Messages.push_back(message); }
@@ -22,12 +22,12 @@ struct RaceLogic : testing::Test
     world::Player& Car(std::int32_t index = 0) { return World.Player(index); }
     void Step()
     {
-        modDinamica::Simulation sim = World.Sim();
-        modDinamica::RaceStep(sim, Finish);
+        world::Simulation sim = World.Sim();
+        world::RaceStep(sim, Finish);
     }
     std::vector<int> Places()
     {
-        modDinamica::ComputePlaces(World.Scene, World.Race);
+        world::ComputePlaces(World.Scene, World.Race);
         std::vector<int> places;
         for (const world::Player& player : World.Race.Players)
             places.push_back(player.Place);
@@ -40,9 +40,9 @@ struct RaceLogic : testing::Test
         World.Race.Laps = 1;
         Car().NextCheckpoint = 1;
         Car().Place = place;
-        World.Assets.CupObj = modPrimitive::MakeObj(World.Scene, 0, 0, 0, 0, 0, 8, 0, 0, 1);
+        World.Assets.CupObj = render::MakeObj(World.Scene, 0, 0, 0, 0, 0, 8, 0, 0, 1);
     }
-    Mod3D::Obj& Cup() { return World.Object(World.Assets.CupObj); }
+    render::Obj& Cup() { return World.Object(World.Assets.CupObj); }
 };
 
 using Ints = std::vector<int>;
@@ -90,7 +90,7 @@ TEST_F(RaceLogic, PlacesAgreeWithTheirDefinition)
     const auto toGo = [&](std::int32_t n)
     {
         return Car(n).NextCheckpoint == 77 ? std::numeric_limits<double>::quiet_NaN()
-                                           : Mod3D::Dist2D(World.Object(n).X, World.Object(n).Z, 0, 100);
+                                           : render::Dist2D(World.Object(n).X, World.Object(n).Z, 0, 100);
     };
     const Ints places = Places();
     for (int i = 0; i < 60; ++i)
@@ -120,7 +120,7 @@ TEST_F(RaceLogic, ManyPlayersStopAtTheGreatestPlace)
     for (world::Player& player : World.Race.Players)
         player.Passed = 1;
     Car(0).Passed = 0;
-    modDinamica::ComputePlaces(World.Scene, World.Race);
+    world::ComputePlaces(World.Scene, World.Race);
     EXPECT_EQ(Car(0).Place, 32767);
 }
 

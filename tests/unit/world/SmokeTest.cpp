@@ -22,10 +22,10 @@ struct Smoke : testing::Test
     world::Player& Car() { return World.Player(0); }
     void Tick()
     {
-        modDinamica::Simulation sim = World.Sim();
-        modDinamica::DamageSmoke(sim);
+        world::Simulation sim = World.Sim();
+        world::DamageSmoke(sim);
     }
-    const Mod3D::Sprite3D& Sprite(std::size_t particle)
+    const render::Sprite3D& Sprite(std::size_t particle)
     {
         return World.Scene.Sprites.At(World.Scene.Particles.at(particle).Sprite);
     }
@@ -129,7 +129,7 @@ TEST_F(Smoke, WithoutEffectsNothingIsBornButTheOldOnesAge)
 
 TEST_F(Smoke, SmokePalesByATwentiethEveryTick)
 {
-    modEffects::AddParticle(World.Scene, 100, modEffects::Smoke, World.Assets.Smoke, 0, 0, 0, 1, 1);
+    render::AddParticle(World.Scene, 100, render::Smoke, World.Assets.Smoke, 0, 0, 0, 1, 1);
     for (int tick = 0; tick < 20; ++tick)
         Tick();
     EXPECT_NEAR(Sprite(0).Alpha, 0.3584859f, 1e-6f);

@@ -12,9 +12,9 @@ namespace test
 {
 struct World
 {
-    Mod3D::Scene Scene;
+    render::Scene Scene;
     world::Race Race;
-    Mod3D::Camera Camera;
+    render::Camera Camera;
     world::HeldKeys Keys;
     world::RaceAssets Assets;
     base::Random Random;
@@ -25,20 +25,17 @@ struct World
 
     World() { Random.Script = {0.75}; }
 
-    modDinamica::Simulation Sim()
-    {
-        return {Scene, Race, Camera, Keys, Assets, Random, EffQuality, WebcamOn, Shake, InBox};
-    }
+    world::Simulation Sim() { return {Scene, Race, Camera, Keys, Assets, Random, EffQuality, WebcamOn, Shake, InBox}; }
 
-    Mod3D::Obj& Object(std::int32_t index) { return Scene.Objects.At(index); }
+    render::Obj& Object(std::int32_t index) { return Scene.Objects.At(index); }
     world::Player& Player(std::int32_t index) { return Race.Players.at(static_cast<std::size_t>(index)); }
 
     // An object with one sphere of that radius at its centre; its bounding radius is the same.
     std::int16_t AddBall(float x, float z, float radius, float mass)
     {
-        const std::int16_t object = modPrimitive::MakeObj(Scene, x, 0, z, 0, 0, 0, 1, 1, mass);
-        modPrimitive::SetObjR(Scene, object, radius);
-        modPrimitive::EditObjSfere(Scene, object, 0, 0, 0, 0, radius);
+        const std::int16_t object = render::MakeObj(Scene, x, 0, z, 0, 0, 0, 1, 1, mass);
+        render::SetObjR(Scene, object, radius);
+        render::EditObjSfere(Scene, object, 0, 0, 0, 0, radius);
         return object;
     }
 
@@ -81,9 +78,9 @@ struct World
         return Scene.Ground.Sharp.Pixels.Row(row) + column * 3;
     }
 
-    static ModBitmap::PicReference MakePicture()
+    static render::PicReference MakePicture()
     {
-        auto picture = std::make_shared<ModBitmap::Picture>();
+        auto picture = std::make_shared<render::Picture>();
         picture->Info.Width = picture->Info.Height = 1;
         picture->Pixels.Allocate(1, 4);
         return picture;

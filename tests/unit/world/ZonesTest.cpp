@@ -22,8 +22,8 @@ struct Zones : testing::Test
     void AddWater() { Add(World.Race.Map.Water, World.Race.Map.NumWater); }
     void Apply(std::int16_t player = 0)
     {
-        modDinamica::Simulation sim = World.Sim();
-        modDinamica::ApplyZones(sim, player);
+        world::Simulation sim = World.Sim();
+        world::ApplyZones(sim, player);
     }
 };
 }
@@ -131,10 +131,10 @@ TEST_F(Zones, WaterSplashesBesideTheCar)
     Car().Speed = 2.0f; // 1.88 after the water: 3 x 1.88 + 5 is 10.64
     Apply();
     ASSERT_EQ(World.Scene.ParticleCount, 1);
-    const Mod3D::Particle& particle = World.Scene.Particles[0];
+    const render::Particle& particle = World.Scene.Particles[0];
     EXPECT_EQ(particle.Life, 11);
     EXPECT_EQ(particle.Kind, 2);
-    const Mod3D::Sprite3D& sprite = World.Scene.Sprites.At(particle.Sprite);
+    const render::Sprite3D& sprite = World.Scene.Sprites.At(particle.Sprite);
     EXPECT_FLOAT_EQ(sprite.X, 10.877583f); // cos 0.5
     EXPECT_FLOAT_EQ(sprite.Y, 2.2f);
     EXPECT_FLOAT_EQ(sprite.Z, 10.479426f); // sin 0.5
@@ -194,14 +194,14 @@ TEST(TyreMarks, DarkenTheTexelsUnderBothSides)
     test::World world;
     world.AddCar(10, 10, 1.570796f); // heading along -x: its sides lie along z
     world.SetGround(32, 32, 1, 101);
-    modDinamica::Simulation sim = world.Sim();
-    modDinamica::TyreMarks(sim, world.Player(0), 0.7);
+    world::Simulation sim = world.Sim();
+    world::TyreMarks(sim, world.Player(0), 0.7);
     EXPECT_EQ(world.Texel(10, 11), 71); // 70.7
     EXPECT_EQ(world.Texel(10, 9), 71);
     const std::uint8_t* texel = world.TexelAt(10, 11);
     EXPECT_EQ(texel[1], 71);
     EXPECT_EQ(texel[2], 71);
-    modDinamica::TyreMarks(sim, world.Player(0), 0.9);
+    world::TyreMarks(sim, world.Player(0), 0.9);
     EXPECT_EQ(world.Texel(10, 11), 64); // 63.9
     int marked = 0;
     for (int row = 0; row < 32; ++row)
@@ -215,8 +215,8 @@ TEST(TyreMarks, RoundToTheNearestTexelTiesToEven)
     test::World world;
     world.AddCar(11.5f, 10);
     world.SetGround(32, 32, 1, 100);
-    modDinamica::Simulation sim = world.Sim();
-    modDinamica::TyreMarks(sim, world.Player(0), 0.5);
+    world::Simulation sim = world.Sim();
+    world::TyreMarks(sim, world.Player(0), 0.5);
     EXPECT_EQ(world.Texel(12, 10), 50); // 12.5
     EXPECT_EQ(world.Texel(10, 10), 50); // 10.5
 }
@@ -226,14 +226,14 @@ TEST(TyreMarks, OutsideTheGroundThereIsNothingToMark)
     test::World world;
     world.AddCar(0, 0);
     world.SetGround(4, 4, 1, 100);
-    modDinamica::Simulation sim = world.Sim();
+    world::Simulation sim = world.Sim();
     for (const float x : {-1.6f, 4.6f, 1e30f, -1e30f, 2147483648.0f, float(INFINITY), float(NAN)})
     {
         world.Object(0).X = x;
-        modDinamica::TyreMarks(sim, world.Player(0), 0.5);
+        world::TyreMarks(sim, world.Player(0), 0.5);
         world.Object(0).X = 1.0f;
         world.Object(0).Z = x;
-        modDinamica::TyreMarks(sim, world.Player(0), 0.5);
+        world::TyreMarks(sim, world.Player(0), 0.5);
         world.Object(0).Z = 0.0f;
     }
     for (int row = 0; row < 4; ++row)
@@ -241,5 +241,5 @@ TEST(TyreMarks, OutsideTheGroundThereIsNothingToMark)
             EXPECT_EQ(world.Texel(column, row), 100);
 
     world.Scene.Ground = {}; // no ground at all
-    modDinamica::TyreMarks(sim, world.Player(0), 0.5);
+    world::TyreMarks(sim, world.Player(0), 0.5);
 }

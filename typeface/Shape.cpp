@@ -1,8 +1,8 @@
-#include "shell/forms/TypefaceShape.h"
+#include "typeface/Shape.h"
 #include "base/Numbers.h"
 #include <cmath>
 
-namespace Typeface
+namespace typeface
 {
 namespace
 {

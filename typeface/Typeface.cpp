@@ -1,10 +1,10 @@
-#include "shell/forms/Typeface.h"
+#include "typeface/Typeface.h"
 #include "base/Numbers.h"
-#include "shell/forms/TypefaceShape.h"
+#include "typeface/Shape.h"
 #include <algorithm>
 #include <cmath>
 
-namespace Typeface
+namespace typeface
 {
 namespace
 {

@@ -1,4 +1,4 @@
-// shell/forms/Typeface.h: the typeface of the menus and panels, drawn from strokes at any size.
+// typeface/Typeface.h: the typeface of the menus and panels, drawn from strokes at any size.
 // Pixels: x to the right, y downward from the top row of the surface, whose bytes are bottom-up blue-green-red rows.
 // Text is UTF-8; what has no glyph (ill-formed bytes too) shows as a box. The same call gives the same bytes
 // everywhere.
@@ -9,7 +9,7 @@
 #include <string_view>
 #include <vector>
 
-namespace Typeface
+namespace typeface
 {
 struct Style
 {

@@ -1,9 +1,9 @@
-#include "shell/forms/TypefaceGlyphs.h"
+#include "typeface/Glyphs.h"
 #include <algorithm>
 #include <array>
 #include <iterator>
 
-namespace Typeface
+namespace typeface
 {
 namespace
 {

@@ -1,14 +1,14 @@
-// shell/forms/TypefaceShape.h: from a glyph's path to strokes in pixels, each axis by a map of its own.
+// typeface/Shape.h: from a glyph's path to strokes in pixels, each axis by a map of its own.
 // Lists have fixed capacity; what a glyph of the table needs fits, more would be left out.
 #pragma once
-#include "shell/forms/Typeface.h"
-#include "shell/forms/TypefaceGlyphs.h"
+#include "typeface/Glyphs.h"
+#include "typeface/Typeface.h"
 #include <algorithm>
 #include <array>
 #include <cstddef>
 #include <span>
 
-namespace Typeface
+namespace typeface
 {
 inline constexpr double StrokeUnits = 9; // regular stroke width in glyph units
 

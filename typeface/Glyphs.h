@@ -1,4 +1,4 @@
-// shell/forms/TypefaceGlyphs.h: the letters of the typeface as strokes, and nothing about pixels.
+// typeface/Glyphs.h: the letters of the typeface as strokes, and nothing about pixels.
 // Units: a hundredth or so of the size; y = 0 the baseline, 50 the small letters, 70 the capitals (centre of the
 // stroke).
 //
@@ -11,7 +11,7 @@
 #pragma once
 #include <cstdint>
 
-namespace Typeface
+namespace typeface
 {
 struct Glyph
 {
