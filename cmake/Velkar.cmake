@@ -24,3 +24,22 @@ if(VELKAR_FUZZ)
         -Wno-sign-conversion) # with clang, part of -Wconversion
     target_link_options(velkar_flags INTERFACE -fsanitize=address,undefined)
 endif()
+
+# The standard library's headers, parsed once for all of the project's own libraries. Off, every file stands by what it
+# includes itself.
+option(VELKAR_PRECOMPILE "Parse the standard library's headers once" ON)
+if(VELKAR_PRECOMPILE)
+    file(WRITE "${CMAKE_BINARY_DIR}/StandardHeaders.cpp" "")
+    add_library(standard_headers OBJECT "${CMAKE_BINARY_DIR}/StandardHeaders.cpp")
+    target_link_libraries(standard_headers PRIVATE velkar_flags)
+    target_precompile_headers(standard_headers PRIVATE <algorithm> <array> <atomic> <chrono> <cmath> <condition_variable>
+        <cstdint> <cstring> <filesystem> <functional> <limits> <memory> <mutex> <optional> <span> <string> <string_view>
+        <thread> <tuple> <utility> <vector>)
+endif()
+function(velkar_precompiled)
+    if(VELKAR_PRECOMPILE)
+        foreach(target IN LISTS ARGN)
+            target_precompile_headers(${target} REUSE_FROM standard_headers)
+        endforeach()
+    endif()
+endfunction()
