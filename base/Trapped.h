@@ -27,16 +27,32 @@ struct MessageSink
 // Call inside a catch only. Critical icon, title "Errore 514", text "… in LoadObject".
 void ReportError(MessageSink& messages, std::string_view procedure);
 
-// Runs body. A thrown error is shown and swallowed: what body built so far stays.
-template <class Body> void Trapped(MessageSink& messages, std::string_view procedure, Body&& body)
+// Runs body. A thrown error is shown and swallowed: what body built so far stays. False where one was thrown.
+template <class Body> bool Trapped(MessageSink& messages, std::string_view procedure, Body&& body)
 {
     try
     {
         body();
+        return true;
     }
     catch (...)
     {
         ReportError(messages, procedure);
+        return false;
+    }
+}
+
+// Runs body. A thrown error is passed over without a word, where somebody else says what is to be said. False then.
+template <class Body> bool Attempted(Body&& body)
+{
+    try
+    {
+        body();
+        return true;
+    }
+    catch (...)
+    {
+        return false;
     }
 }
 }

@@ -2,7 +2,7 @@
 
 #include "base/Numbers.h"
 #include "shell/forms/Paint.h"
-#include "shell/MenuPictures.h"
+#include "shell/panels/MenuPictures.h"
 #include "shell/TickTimer.h"
 
 #include <algorithm>
@@ -15,7 +15,7 @@ class Application::Splash final : public platform::WindowEvents
 public:
     explicit Splash(platform::Platform& platform) : TheWindow(platform.MakeWindow(*this, {600, 312}))
     {
-        Picture = LoadOptionalPicture(*TheWindow, platform.DataFiles(), "data\\images\\splash.bmp");
+        Picture = panels::LoadOptionalPicture(*TheWindow, platform.DataFiles(), "data\\images\\splash.bmp");
         if (Picture.Info.Width > 0)
             TheWindow->SetClientSize(
                 {std::min(Picture.Info.Width, MostWidth), std::min(Picture.Info.Height, MostHeight)});

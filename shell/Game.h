@@ -4,6 +4,7 @@
 #include "audio/Soundtrack.h"
 #include "base/Fields.h"
 #include "base/Random.h"
+#include "platform/Keys.h"
 #include "render/Scene.h"
 #include "render/Screen.h"
 #include "shell/TickTimer.h"
@@ -19,10 +20,10 @@ namespace shell
 // Options; never saved. Laps stands in Race, TxtFilter in Screen.
 struct Settings
 {
-    std::int16_t TargetFps = 20; // 5 to 30
-    float EffQuality = 1.0f;     // 0, 0.3, 0.5, 1.0
-    base::Flag WebcamOn = base::False;
-    base::Flag FullScreen = base::False;
+    std::int16_t TargetFps = 20;         // frames a second, 5 to 30
+    float EffQuality = 1.0f;             // of smoke and fire: 0 none, 0.3, 0.5, 1.0
+    base::Flag WebcamOn = base::False;   // the player is filmed while the race runs
+    base::Flag FullScreen = base::False; // the window covers its display
 };
 
 // The effects are what the engine sounds like; the music has no volume of its own.
@@ -30,13 +31,13 @@ struct AudioSettings
 {
     // Deliberate: 1 at start-up, where it means all, and from 20 to 100, per cent, once the slider was moved.
     float EffectsVolume = 1;
-    std::int16_t EffectsFactor = 0; // of the engine's gain
+    std::int16_t EffectsFactor = 0; // of the engine's gain: 25 times the volume, taken over by the panel's OK
 };
 
 // Key codes of the rebindable actions, by binding index.
 struct KeyBindings
 {
-    enum Action
+    enum Action : std::int16_t
     {
         Autopilot = 0,
         NextMusic = 1,
@@ -48,9 +49,14 @@ struct KeyBindings
         Brake = 7,
         Left = 8,
         Right = 9,
-        Handbrake = 10
+        Handbrake = 10,
+        Count = 11
     };
-    std::array<std::int16_t, 11> Bindings = {17, 9, 66, 34, 33, 67, 38, 40, 37, 39, 32};
+    // As designed; the panel of the keys shows and changes them.
+    std::array<std::int16_t, Count> Bindings = {platform::KeyCtrl,     platform::KeyTab,    'B',
+                                                platform::KeyPageDown, platform::KeyPageUp, 'C',
+                                                platform::KeyUp,       platform::KeyDown,   platform::KeyLeft,
+                                                platform::KeyRight,    platform::KeySpace};
 };
 
 // Indices of the display's elements in the scene lists; -1 until they are made.
@@ -58,24 +64,24 @@ struct Hud
 {
     std::int16_t Webcam = -1, Repair = -1;                     // Pic2D
     std::int16_t DamageBar = -1;                               // Rect2D
-    std::int16_t Unit = -1, Speed = -1, Gear = -1, Place = -1; // Label2D
+    std::int16_t Unit = -1, Speed = -1, Gear = -1, Place = -1; // Label2D, as all that follow
     std::int16_t Message = -1, LapsCaption = -1, LapCounter = -1, FrameRate = -1, Countdown = -1, Notice = -1;
     std::int16_t Console = -1, Pause = -1, Debug = -1;
 };
 
+// What stands as it stands while the program runs. Clocks are the platform's, in milliseconds.
 struct RunState
 {
-    std::int32_t AudioReady = 0; // -1 once the audio initialisation has finished; guards closing
-    std::int32_t OldWndProc = 0; // not 0 while finished wave buffers are told
-    std::string LastCommand;     // the console's recall
-    std::uint32_t StartTick = 0; // when the race was started or resumed
-    std::int32_t Fps = 0;
-    std::uint32_t FpsLastTime = 0, FpsNextTime = 0;
-    std::int32_t Blink = 0;        // of the title
-    std::int16_t RebindIndex = -1; // the action that waits for a key
-    std::int32_t NoticeTime = 0;   // race clock when the notice was posted: when the present track started
-    float Shake = 0;               // amplitude of the webcam picture's jitter
-    bool InBox = false;            // the followed car stands still inside a box
+    bool Ended = false;                             // the program is to end; nothing reacts any more
+    std::int32_t AudioReady = 0;                    // -1 once the audio initialisation has finished; guards closing
+    std::int32_t OldWndProc = 0;                    // not 0 while the wave device notifies of finished buffers
+    std::string LastCommand;                        // the console's recall
+    std::int32_t Fps = 0;                           // frames a second, as last measured
+    std::uint32_t FpsLastTime = 0, FpsNextTime = 0; // clock of the last measurement and of the next
+    std::int32_t Blink = 0;                         // steps of the title's flicker since it began anew
+    std::int32_t NoticeTime = 0; // race clock when the notice was posted: when the present track started
+    float Shake = 0;             // amplitude of the webcam picture's jitter, pixels
+    bool InBox = false;          // the followed car stands still inside a box
 };
 
 // Pictures of start-up that no scene list holds.

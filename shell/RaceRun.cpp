@@ -1,8 +1,13 @@
-// The race run: started, suspended and resumed from the menu; the timers that carry it.
-#include "render/Primitives.h"
-#include "shell/Form1.h"
+#include "shell/RaceRun.h"
 
-#include <algorithm>
+#include "base/Math.h"
+#include "render/Primitives.h"
+#include "render/RenderFrame.h"
+#include "shell/Hud.h"
+#include "shell/HudElements.h"
+#include "shell/Views.h"
+
+#include <cmath>
 
 namespace shell
 {
@@ -13,64 +18,97 @@ void SetLabelVisible(render::Scene& scene, std::int16_t label, bool visible)
     if (scene.Labels.Has(label))
         scene.Labels.At(label).Visible = visible ? 1 : 0;
 }
-}
 
-void Form1::StartProcess()
+void SetPicVisible(render::Scene& scene, std::int16_t pic, bool visible)
 {
-    base::Trapped(*TheWindow, "StartProcess",
-                  [this]
-                  {
-                      Timers& timers = TheGame.Timers;
-                      RunState& run = TheGame.Run;
-                      render::Scene& scene = TheGame.Scene;
-                      if (timers.RenderT.Enabled != base::False)
-                          return;
-                      const std::uint32_t now = ThePlatform.TickCount();
-                      tmrLogo.Disable(now);
-                      const bool filmed = TheGame.Settings.WebcamOn != base::False && OpenWebcam();
-                      if (scene.Pics.Has(TheGame.Hud.Webcam))
-                          scene.Pics.At(TheGame.Hud.Webcam).Visible = filmed ? 1 : 0;
-                      TheWindow->ShowCursor(false);
-                      timers.GameT.Enable(now);
-                      SetLabelVisible(scene, TheGame.Hud.Pause, false); // the race runs, paused before or not
-                      run.StartTick = now;
-                      run.FpsLastTime = run.FpsNextTime = now;
-                      timers.RenderT.Ticks = 0;
-                      timers.RenderT.Enable(now);
-                      if (run.AudioReady == base::True)
-                      {
-                          audio::Stream stream = MakeStream();
-                          audio::StartStream(stream);
-                      }
-                  });
+    if (scene.Pics.Has(pic))
+        scene.Pics.At(pic).Visible = visible ? 1 : 0;
 }
 
-void Form1::StopProcess()
+const world::Player* FindPlayer(const world::Race& race, std::int32_t index)
 {
-    base::Trapped(*TheWindow, "StopProcess",
-                  [this]
-                  {
-                      Timers& timers = TheGame.Timers;
-                      if (timers.RenderT.Enabled == base::False)
-                          return;
-                      const std::uint32_t now = ThePlatform.TickCount();
-                      timers.GameT.Disable(now);
-                      timers.RenderT.Disable(now);
-                      TheWindow->ShowCursor(true);
-                      if (TheGame.Run.AudioReady == base::True)
-                      {
-                          audio::Stream stream = MakeStream();
-                          audio::StopStream(stream);
-                      }
-                      if (TheGame.Settings.WebcamOn != base::False)
-                          CloseWebcam();
-                  });
+    if (index < 0 || static_cast<std::size_t>(index) >= race.Players.size())
+        return nullptr;
+    return &race.Players[static_cast<std::size_t>(index)];
 }
 
-void Form1::TogglePause()
+// The trophy turns before the camera.
+void FloatTrophy(render::Scene& scene, const render::Camera& camera, std::int16_t cup)
+{
+    if (!scene.Objects.Has(cup))
+        return;
+    render::Obj& trophy = scene.Objects.At(cup);
+    trophy.AngleA = static_cast<float>(trophy.AngleA + 0.05);
+    trophy.AngleB = static_cast<float>(camera.CamPitch / 2.0);
+    trophy.X = static_cast<float>(camera.CamX - 5 * base::Sin(camera.CamYaw + 0.4));
+    trophy.Y = static_cast<float>(camera.CamY + 5 * base::Sin(camera.CamPitch + 0.3));
+    trophy.Z = static_cast<float>(camera.CamZ + 5 * base::Cos(camera.CamYaw + 0.4));
+}
+
+// The jitter of the webcam picture fades, but a fast car keeps shaking.
+void DecayShake(float& shake, const world::Player* user)
+{
+    shake = static_cast<float>(shake * 0.96);
+    if (shake < 0.6 && user != nullptr && std::abs(user->Speed) >= 1)
+        shake = 0.6f;
+}
+
+struct WindowSink final : render::FrameSink
+{
+    explicit WindowSink(platform::Window& window) : Window(window) {}
+    void Present(int width, int height, std::span<const std::uint8_t> bits) override
+    {
+        Window.Present(width, height, bits);
+    }
+    platform::Window& Window;
+};
+}
+
+void RaceRun::StartProcess()
+{
+    base::Trapped(Window, "StartProcess", [this] { Start(); });
+}
+
+void RaceRun::Start()
+{
+    if (RaceShows(TheGame))
+        return;
+    Timers& timers = TheGame.Timers;
+    const std::uint32_t now = Platform.TickCount();
+    timers.tmrLogo.Disable(now);
+    const bool filmed = TheGame.Settings.WebcamOn != base::False && Feed.OpenWebcam();
+    SetPicVisible(TheGame.Scene, TheGame.Hud.Webcam, filmed);
+    Window.ShowCursor(false);
+    timers.GameT.Enable(now);
+    SetLabelVisible(TheGame.Scene, TheGame.Hud.Pause, false); // the race runs, paused before or not
+    TheGame.Run.FpsLastTime = TheGame.Run.FpsNextTime = now;
+    timers.RenderT.Ticks = 0;
+    timers.RenderT.Enable(now);
+    TheSound.StartEngine();
+}
+
+void RaceRun::StopProcess()
+{
+    base::Trapped(Window, "StopProcess", [this] { Stop(); });
+}
+
+void RaceRun::Stop()
+{
+    if (!RaceShows(TheGame))
+        return;
+    const std::uint32_t now = Platform.TickCount();
+    TheGame.Timers.GameT.Disable(now);
+    TheGame.Timers.RenderT.Disable(now);
+    Window.ShowCursor(true);
+    TheSound.StopEngine();
+    if (TheGame.Settings.WebcamOn != base::False)
+        Feed.CloseWebcam();
+}
+
+void RaceRun::TogglePause()
 {
     TickTimer& game = TheGame.Timers.GameT;
-    const std::uint32_t now = ThePlatform.TickCount();
+    const std::uint32_t now = Platform.TickCount();
     const bool pauses = game.Enabled != base::False;
     if (pauses)
         game.Disable(now);
@@ -79,8 +117,8 @@ void Form1::TogglePause()
     SetLabelVisible(TheGame.Scene, TheGame.Hud.Pause, pauses);
 }
 
-// The user's car has finished: the message is shown, the lap read-outs vanish.
-void Form1::Finished(const std::string& message)
+// The message is shown, the lap read-outs vanish.
+void RaceRun::Finished(const std::string& message)
 {
     render::Scene& scene = TheGame.Scene;
     const Hud& hud = TheGame.Hud;
@@ -91,33 +129,114 @@ void Form1::Finished(const std::string& message)
     SetLabelVisible(scene, hud.LapCounter, false);
 }
 
-void Form1::AdvanceTimers()
+world::Simulation RaceRun::MakeSimulation()
 {
-    const std::uint32_t now = ThePlatform.TickCount();
-    for (TickTimer* timer : {&TheGame.Timers.GameT, &TheGame.Timers.RenderT, &TheGame.Timers.CaptureT, &tmrLogo})
-        timer->Advance(now);
+    Game& game = TheGame;
+    return {game.Scene,
+            game.Race,
+            game.Camera,
+            game.Keys,
+            game.Assets,
+            game.Random,
+            game.Settings.EffQuality,
+            game.Settings.WebcamOn != base::False,
+            game.Run.Shake,
+            game.Run.InBox};
 }
 
-void Form1::RunTimers()
+void RaceRun::GameT_Tick()
 {
-    AdvanceTimers();
-    if (!HasEnded && TheGame.Timers.GameT.IsDue())
-        GameT_Tick();
-    if (!HasEnded && TheGame.Timers.RenderT.IsDue())
-        RenderT_Tick();
-    if (!HasEnded && TheGame.Timers.CaptureT.IsDue())
-        CaptureT_Tick();
-    if (!HasEnded && tmrLogo.IsDue())
+    constexpr std::int32_t Released = 3000; // milliseconds: before that no car moves
+    TheGame.Timers.Advance(Platform.TickCount());
+    TheGame.Timers.GameT.Tick();
+
+    world::Simulation simulation = MakeSimulation();
+    world::Race& race = TheGame.Race;
+    race.GameTime = TheGame.Timers.GameT.Elapsed;
+    world::ComputePlaces(TheGame.Scene, race);
+    TheSound.SetEngineSound();
+    if (race.RaceOver != base::False)
+        FloatTrophy(TheGame.Scene, TheGame.Camera, TheGame.Assets.CupObj);
+    world::RaceStep(simulation, *this);
+    SetPicVisible(TheGame.Scene, TheGame.Hud.Repair, TheGame.Run.InBox);
+    world::Collide(simulation);
+    world::DamageSmoke(simulation);
+    if (race.GameTime >= Released)
     {
-        tmrLogo.Tick();
-        tmrLogo_Timer();
+        world::ComputerDrive(simulation);
+        world::UserDrive(simulation);
     }
+    if (TheGame.Settings.WebcamOn != base::False)
+        DecayShake(TheGame.Run.Shake, FindPlayer(race, race.UserPlayer));
+    PlaceCamera();
 }
 
-std::uint32_t Form1::NextTimer()
+// Every 500 ms: the frames that were really drawn since the last measurement.
+void RaceRun::MeasureFrameRate(std::uint32_t now)
 {
-    AdvanceTimers();
-    return std::min({TheGame.Timers.GameT.UntilDue(), TheGame.Timers.RenderT.UntilDue(),
-                     TheGame.Timers.CaptureT.UntilDue(), tmrLogo.UntilDue()});
+    RunState& run = TheGame.Run;
+    // Signed differences stay right where the clock wraps.
+    if (static_cast<std::int32_t>(now - run.FpsNextTime) < 0)
+        return;
+    TickTimer& timer = TheGame.Timers.RenderT;
+    const std::uint32_t passed = now - run.FpsLastTime;
+    if (passed != 0)
+        run.Fps = static_cast<std::int32_t>(static_cast<std::int64_t>(timer.Ticks) * 1000 / passed);
+    timer.Ticks = 0;
+    run.FpsLastTime = now;
+    base::Attempted([this] { ShowFrameRate(TheGame); });
+    run.FpsNextTime = now + 500;
+}
+
+// Deliberate: a statement of this tick that fails is passed over without a word, so that one bad read-out never stops
+// the picture.
+void RaceRun::RenderT_Tick()
+{
+    TheGame.Timers.Advance(Platform.TickCount());
+    TheGame.Timers.RenderT.Tick();
+    MeasureFrameRate(Platform.TickCount());
+    if (TheGame.Settings.WebcamOn != base::False)
+        base::Attempted([this] { Feed.ShowInset(); });
+    for (void (*const show)(Game&) : {ShowSpeed, ShowGear, ShowPlace})
+        base::Attempted([&] { show(TheGame); });
+    if (TheGame.Race.RaceOver == base::False)
+        for (void (*const show)(Game&) : {ShowLap, PlaceLapsCaption})
+            base::Attempted([&] { show(TheGame); });
+    for (void (*const show)(Game&) : {ShowCountdown, ShowDamage, ShowDebug, FadeNotice})
+        base::Attempted([&] { show(TheGame); });
+    base::Attempted([this] { ShowFrame(); });
+}
+
+void RaceRun::Draw()
+{
+    render::RenderFrame(TheGame.Scene, TheGame.Camera, TheGame.Screen, nullptr);
+}
+
+void RaceRun::ShowFrame()
+{
+    if (View.IsAnyControlShown())
+    {
+        Draw();
+        View.Repaint();
+        return;
+    }
+    WindowSink sink(Window);
+    render::RenderFrame(TheGame.Scene, TheGame.Camera, TheGame.Screen, &sink);
+}
+
+void RaceRun::PlaceCamera()
+{
+    PlaceView(TheGame.Camera, TheGame.Scene, TheGame.Race, TheGame.Keys, TheGame.Assets.ArrowObj);
+}
+
+void RaceRun::ApplyResolution(std::int32_t width, std::int32_t height)
+{
+    render::Screen& screen = TheGame.Screen;
+    if (width == screen.ScreenW && height == screen.ScreenH)
+        return;
+    render::ApplyResolution(Window, screen, TheGame.Camera, width, height);
+    PlaceHud(TheGame.Scene, TheGame.Hud, width, height);
+    if (TheGame.Race.GameTime > 0)
+        ShowFrame(); // the view behind the menu has the new size
 }
 }

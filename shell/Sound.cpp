@@ -1,7 +1,7 @@
-// What is heard: the engine of the followed car and the music, from start-up to the end.
+#include "shell/Sound.h"
+
 #include "base/Numbers.h"
 #include "render/Primitives.h"
-#include "shell/Form1.h"
 #include "world/Dynamics.h"
 
 #include <cmath>
@@ -14,98 +14,133 @@ constexpr const char* SamplePath = "data\\sounds\\engine_01.pcm";
 constexpr float FirstStep = 0.1f;
 }
 
-bool Form1::InitAudio()
+Sound::Sound(Game& game, platform::Platform& platform, platform::Window& window)
+    : Files(platform.DataFiles()), Messages(window), WaveOut(platform.MakeWaveOut(window)),
+      Music(platform.MakeMusicPlayer(window)), TheGame(game), Engine(game.Engine), Soundtrack(game.Soundtrack),
+      Settings(game.Audio), Run(game.Run)
 {
-    try
-    {
-        LoadAudio();
-        return true;
-    }
-    catch (...)
-    {
-        return false; // Deliberate: the module's own box says all that is said.
-    }
 }
 
-void Form1::LoadAudio()
+bool Sound::InitAudio()
 {
-    audio::EngineSound& engine = TheGame.Engine;
-    audio::Soundtrack& soundtrack = TheGame.Soundtrack;
-    const base::Files& files = ThePlatform.DataFiles();
-    audio::LoadSample(engine, files, SamplePath);
-    engine.Handle = platform::NoWave;
-    engine.Step = FirstStep;
-    TheGame.Audio.EffectsVolume = 1;
-    audio::ListFiles(files, audio::SoundtrackFolder, audio::SoundtrackPatterns, soundtrack.TrackList);
-    const double last = static_cast<double>(soundtrack.TrackList.size() - 1);
-    soundtrack.TrackIndex = base::ToInt16(TheGame.Random.Next() * last);
-    TheGame.Run.AudioReady = base::True;
+    // Deliberate: the box of the module that failed says all that is said.
+    return base::Attempted([this] { LoadAudio(); });
+}
+
+void Sound::LoadAudio()
+{
+    audio::LoadSample(Engine, Files, SamplePath);
+    Engine.Handle = platform::NoWave;
+    Engine.Step = FirstStep;
+    Settings.EffectsVolume = 1;
+    audio::ListFiles(Files, audio::SoundtrackFolder, audio::SoundtrackPatterns, Soundtrack.TrackList);
+    const double last = static_cast<double>(Soundtrack.TrackList.size() - 1);
+    Soundtrack.TrackIndex = base::ToInt16(TheGame.Random.Next() * last);
+    Run.AudioReady = base::True;
     if (TheGame.Screen.SingleThread != 0)
         return;
-    TheGame.Run.OldWndProc = TheWaveOut->Notify(true) ? 1 : 0;
-    if (TheGame.Run.OldWndProc == 0)
-        TheWindow->ShowMessage(base::Icon::Critical, "Errore", "Errore durante il subclassing della finestra!");
+    Run.OldWndProc = WaveOut->Notify(true) ? 1 : 0;
+    if (Run.OldWndProc == 0)
+        Messages.ShowMessage(base::Icon::Critical, "Errore", "Errore durante il subclassing della finestra!");
 }
 
-void Form1::CloseAudio(bool& cancel)
+void Sound::CloseAudio(bool& cancel)
 {
-    if (TheGame.Run.AudioReady != base::True)
+    if (Run.AudioReady != base::True)
     {
         cancel = true;
         return;
     }
-    if (TheGame.Run.OldWndProc != 0)
-        TheWaveOut->Notify(false);
+    if (Run.OldWndProc != 0)
+        WaveOut->Notify(false);
     SetMediaCommand("close");
 }
 
-// Pitch and loudness of the car that the camera follows, not of the user's own.
-void Form1::SetEngineSound()
+void Sound::StartEngine()
+{
+    if (Run.AudioReady != base::True)
+        return;
+    audio::Stream stream = MakeStream();
+    audio::StartStream(stream);
+}
+
+void Sound::StopEngine()
+{
+    if (Run.AudioReady != base::True)
+        return;
+    audio::Stream stream = MakeStream();
+    audio::StopStream(stream);
+}
+
+// Of the followed car, not of the user's own.
+void Sound::SetEngineSound()
 {
     const world::Race& race = TheGame.Race;
     const std::int16_t viewed = TheGame.Camera.ViewPlayer;
     if (viewed < 0 || static_cast<std::size_t>(viewed) >= race.Players.size())
         return;
     const float speed = race.Players[static_cast<std::size_t>(viewed)].Speed;
-    audio::EngineSound& engine = TheGame.Engine;
-    engine.Step = static_cast<float>(world::EngineNote(speed));
+    Engine.Step = static_cast<float>(world::EngineNote(speed));
     // A gain that 16 bits cannot hold keeps its former value.
-    const std::int32_t gain = base::RoundEven((std::fabs(speed) + 5.0) * TheGame.Audio.EffectsFactor);
+    const std::int32_t gain = base::RoundEven((std::fabs(speed) + 5.0) * Settings.EffectsFactor);
     if (base::Wrap16(gain) == gain)
-        engine.Gain = static_cast<std::int16_t>(gain);
+        Engine.Gain = static_cast<std::int16_t>(gain);
 }
 
-void Form1::WaveDone(std::int32_t user)
+void Sound::WaveDone(std::int32_t user)
 {
-    if (HasEnded)
+    if (Run.Ended)
         return;
     audio::Stream stream = MakeStream();
     audio::EngineWndProc(stream, user);
 }
 
-void Form1::SetMediaCommand(const char* command)
+void Sound::SetMediaCommand(const char* command)
 {
-    audio::SetCommand(TheGame.Soundtrack.Media, *TheMusic, ThePlatform.DataFiles(), command);
+    audio::SetCommand(Soundtrack.Media, *Music, Files, command);
 }
 
-void Form1::MediaDone(std::uint32_t number, std::int32_t code)
+void Sound::SetMusic(bool on)
 {
-    if (!HasEnded)
-        MMC_Done(audio::NotifyCodeOf(TheGame.Soundtrack, number, code));
+    if (on == (Soundtrack.MusicOn != base::False))
+        return;
+    if (on)
+    {
+        SetMediaCommand("");
+        SkipTrack(); // Deliberate: so the first one is that after the random start.
+    }
+    else
+        SetMediaCommand("close");
+    Soundtrack.MusicOn = base::ToFlag(on);
+}
+
+void Sound::SkipTrack()
+{
+    Soundtrack.Unplayable = 0;
+    MMC_Done(platform::MediaSuccessful);
+}
+
+void Sound::MediaDone(std::uint32_t number, std::int32_t code)
+{
+    if (!Run.Ended)
+        MMC_Done(audio::NotifyCodeOf(Soundtrack, number, code));
+}
+
+void Sound::MMC_Done(std::int32_t notifyCode)
+{
+    if (audio::NextTrack(Soundtrack, *Music, Files, notifyCode))
+        ShowNotice();
 }
 
 // The title of a track that begins is faded in and out over the race.
-void Form1::MMC_Done(std::int32_t notifyCode)
+void Sound::ShowNotice()
 {
-    audio::Soundtrack& soundtrack = TheGame.Soundtrack;
-    if (!audio::NextTrack(soundtrack, *TheMusic, ThePlatform.DataFiles(), notifyCode))
-        return;
-    TheGame.Run.NoticeTime = TheGame.Race.GameTime;
+    Run.NoticeTime = TheGame.Race.GameTime;
     render::Scene& scene = TheGame.Scene;
     const std::int16_t label = TheGame.Hud.Notice;
     if (!scene.Labels.Has(label))
         return;
-    const std::string& name = soundtrack.TrackList[static_cast<std::size_t>(soundtrack.TrackIndex)];
+    const std::string& name = Soundtrack.TrackList[static_cast<std::size_t>(Soundtrack.TrackIndex)];
     render::SetLabelText(scene, label, audio::StripExtension(name));
     scene.Labels.At(label).Fade = 0;
     scene.Labels.At(label).Visible = 1;

@@ -62,4 +62,15 @@ void TickTimer::Tick()
     Ticks = AddLimited(Ticks, 1);
     SinceTick %= Period(*this);
 }
+
+void Timers::Advance(std::uint32_t now)
+{
+    for (TickTimer* timer : {&GameT, &RenderT, &CaptureT, &tmrLogo})
+        timer->Advance(now);
+}
+
+std::uint32_t Timers::UntilDue() const
+{
+    return std::min({GameT.UntilDue(), RenderT.UntilDue(), CaptureT.UntilDue(), tmrLogo.UntilDue()});
+}
 }

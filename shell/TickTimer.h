@@ -10,14 +10,13 @@ namespace shell
 {
 struct TickTimer
 {
-    base::Flag Enabled = base::False;
-    std::int32_t interval = 40;   // milliseconds
-    std::int32_t mininterval = 1; // never ticks faster
-    std::int32_t resolution = 0;  // asked of the system's clock; 0 as it comes
-    std::int32_t Ticks = 0;       // since it was last set to 0
-    std::int32_t Elapsed = 0;     // milliseconds counted while enabled
-    std::int32_t SinceTick = 0;   // milliseconds counted since the last tick was due
-    std::uint32_t Clock = 0;      // the clock when last told
+    base::Flag Enabled = base::False; // set by Enable and Disable
+    std::int32_t interval = 40;       // milliseconds
+    std::int32_t mininterval = 1;     // never ticks faster
+    std::int32_t Ticks = 0;           // since it was last set to 0
+    std::int32_t Elapsed = 0;         // milliseconds counted while enabled
+    std::int32_t SinceTick = 0;       // milliseconds counted since the last tick was due
+    std::uint32_t Clock = 0;          // the clock when last told
 
     // The next tick comes one whole interval after enabling.
     void Enable(std::uint32_t now);
@@ -31,7 +30,13 @@ struct TickTimer
 
 struct Timers
 {
-    TickTimer GameT, RenderT, CaptureT;
+    TickTimer GameT;    // a step of the simulation
+    TickTimer RenderT;  // a frame; runs while the race is on the screen
+    TickTimer CaptureT; // a webcam picture of the calibration
+    TickTimer tmrLogo;  // the flicker of the menu's title
+
+    void Advance(std::uint32_t now);
+    std::uint32_t UntilDue() const; // of the first that is due
 };
 }
 

@@ -8,7 +8,7 @@ ShippedRace::ShippedRace(std::uint64_t seed) : Application(Machine)
     Machine.Clock += 1000;
     Application.RunTimers();
     Game().Random.Seed(seed);
-    Form().StartProcess();
+    Form().Race().StartProcess();
     for (world::Player& player : Game().Race.Players)
         player.Control = 1;
 }
@@ -16,7 +16,7 @@ ShippedRace::ShippedRace(std::uint64_t seed) : Application(Machine)
 void ShippedRace::Step()
 {
     Machine.Clock += 25;
-    Form().GameT_Tick();
+    Form().Race().GameT_Tick();
 }
 
 std::vector<render::Camera> ShippedRace::RecordPath(int ticks)

@@ -24,7 +24,7 @@ void Game(Session& session, Words& words, Object& answer)
     {
         session.Machine.Clock += GameStep;
         if (form.State().Timers.GameT.Enabled != base::False)
-            form.GameT_Tick();
+            form.Race().GameT_Tick();
     }
     AnswerGameTime(session, answer);
 }
@@ -38,7 +38,7 @@ void Render(Session& session, Words& words, Object&)
         const shell::TickTimer& timer = form.State().Timers.RenderT;
         session.Machine.Clock += static_cast<std::uint32_t>(std::max(timer.interval, 0));
         if (timer.Enabled != base::False)
-            form.RenderT_Tick();
+            form.Race().RenderT_Tick();
     }
 }
 
@@ -53,13 +53,13 @@ void Run(Session& session, Words& words, Object& answer)
 void Draw(Session& session, Words& words, Object&)
 {
     RequireEnd(words);
-    session.Form()->Draw();
+    session.Form()->Race().Draw();
 }
 
 void Place(Session& session, Words& words, Object&)
 {
     RequireEnd(words);
-    session.Form()->PlaceCamera();
+    session.Form()->Race().PlaceCamera();
 }
 }
 

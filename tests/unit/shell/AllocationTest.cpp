@@ -33,7 +33,7 @@ TEST_F(Allocation, NoneInAGameTick)
     for (int tick = 0; tick < 400; ++tick)
     {
         Machine.Clock += 25;
-        Form.GameT_Tick();
+        Form.Race().GameT_Tick();
     }
     EXPECT_EQ(support::Allocations() - before, 0u);
     EXPECT_GT(Player(0).Speed, 1); // a real race went on
@@ -46,7 +46,7 @@ TEST_F(Allocation, NoneInAFrame)
     for (int tick = 0; tick < 40; ++tick)
     {
         Machine.Clock += 50;
-        Form.RenderT_Tick();
+        Form.Race().RenderT_Tick();
     }
     EXPECT_EQ(support::Allocations() - before, 0u);
 }
@@ -60,7 +60,7 @@ TEST_F(Allocation, NoneInAFilmedFrame)
     {
         ASSERT_TRUE(Machine.TheWebcam.Complete(pixels));
         Machine.Clock += 50;
-        Form.RenderT_Tick();
+        Form.Race().RenderT_Tick();
     };
     film();
     const std::size_t before = support::Allocations();

@@ -11,7 +11,7 @@ struct GameTick : testing::Test, support::LoadedForm
     void TickAt(std::int32_t time)
     {
         Game().Timers.GameT.Elapsed = time;
-        Form.GameT_Tick();
+        Form.Race().GameT_Tick();
     }
 };
 
@@ -145,7 +145,7 @@ TEST_F(GameTick, IndicesOutOfRangeAreSurvived)
     Player(2).NextCheckpoint = -5;
     for (std::int32_t time = 3000; time < 4000; time += 25)
         TickAt(time);
-    Form.RenderT_Tick();
+    Form.Race().RenderT_Tick();
     EXPECT_EQ(Machine.Boxes.size(), 0u);
 }
 }

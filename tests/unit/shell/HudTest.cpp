@@ -12,20 +12,20 @@ struct HudTest : testing::Test, support::LoadedForm
 {
     std::string TextOf(std::int16_t Hud::*which)
     {
-        Form.RenderT_Tick();
+        Form.Race().RenderT_Tick();
         return Label(which).Text;
     }
     render::Rect2D& Bar() { return Game().Scene.Rects.At(Game().Hud.DamageBar); }
     std::string ColourAt(float damage)
     {
         Player(0).Damage = damage;
-        Form.RenderT_Tick();
+        Form.Race().RenderT_Tick();
         return std::to_string(Bar().ColR) + "," + std::to_string(Bar().ColG) + "," + std::to_string(Bar().ColB);
     }
     std::int16_t RightEdgeAt(float damage)
     {
         Player(0).Damage = damage;
-        Form.RenderT_Tick();
+        Form.Race().RenderT_Tick();
         return Bar().W;
     }
 };
@@ -75,11 +75,11 @@ TEST_F(HudTest, LapsCountFromOneUntilTheFinish)
 TEST_F(HudTest, TheLapsCaptionStandsSixPixelsLeftOfTheCounter)
 {
     StartRace();
-    Form.RenderT_Tick();
+    Form.Race().RenderT_Tick();
     // "1/5": three glyphs of 10 pixels at scale 0.7, one pixel between.
     EXPECT_EQ(Label(&Hud::LapsCaption).X, 600 - 24 - 6);
     Player(0).Lap = 9;
-    Form.RenderT_Tick();
+    Form.Race().RenderT_Tick();
     EXPECT_EQ(Label(&Hud::LapsCaption).X, 600 - 32 - 6);
 }
 
@@ -144,7 +144,7 @@ TEST_F(HudTest, TheNoticeFadesInAndOut)
     const auto fade = [this](std::int32_t time)
     {
         Game().Race.GameTime = 10000 + time;
-        Form.RenderT_Tick();
+        Form.Race().RenderT_Tick();
         return Label(&Hud::Notice).Visible != 0 ? Label(&Hud::Notice).Fade : -1;
     };
     EXPECT_FLOAT_EQ(fade(0), 0);
@@ -189,7 +189,7 @@ TEST_F(HudTest, TwoBelowTheTargetIsStillGreen)
         Game().Run.FpsLastTime = Machine.Clock - 500;
         Game().Run.FpsNextTime = Machine.Clock;
         Game().Timers.RenderT.Ticks = ticks - 1; // the tick itself counts
-        Form.RenderT_Tick();
+        Form.Race().RenderT_Tick();
         return Label(&Hud::FrameRate).Text + (Label(&Hud::FrameRate).ColG == 200 ? " green" : " red");
     };
     EXPECT_EQ(measure(9), "18 fps green");

@@ -1,8 +1,8 @@
-#include "shell/KeyNames.h"
+#include "shell/panels/KeyNames.h"
 
 #include <gtest/gtest.h>
 
-using shell::KeyName;
+using panels::KeyName;
 
 TEST(KeyName, LettersAndDigitsNameThemselves)
 {

@@ -1,5 +1,5 @@
 // Keys of the race and the changing of their bindings.
-#include "shell/KeyNames.h"
+#include "shell/panels/KeyNames.h"
 #include "tests/support/LoadedForm.h"
 
 #include <gtest/gtest.h>
@@ -302,7 +302,7 @@ TEST_F(Keys, EveryKeyCanBeTaken)
         Form.KeyDown(code); // repeats
         Form.KeyUp(code);
         EXPECT_EQ(Game().Bindings.Bindings[6], code);
-        EXPECT_EQ(Control("cCtrKey", 6).Caption, shell::KeyName(code));
+        EXPECT_EQ(Control("cCtrKey", 6).Caption, panels::KeyName(code));
     }
     EXPECT_EQ(Control("panelCtrOpt").Visible, base::False); // no key has clicked anything
 }
@@ -324,7 +324,7 @@ TEST_F(Keys, CaptionsAreTheNamesOfTheTags)
     Load();
     for (std::int16_t index = 0; index < 11; ++index)
         EXPECT_EQ(Control("cCtrKey", index).Caption,
-                  shell::KeyName(static_cast<std::int16_t>(std::stoi(Control("cCtrKey", index).Tag))));
+                  panels::KeyName(static_cast<std::int16_t>(std::stoi(Control("cCtrKey", index).Tag))));
 }
 
 TEST_F(Keys, OnlyElevenBindingsExist)
@@ -332,10 +332,10 @@ TEST_F(Keys, OnlyElevenBindingsExist)
     Load();
     const auto before = Game().Bindings.Bindings;
     for (const std::int16_t index : {std::int16_t{11}, std::int16_t{-1}, std::int16_t{32767}})
-        Form.ReadKeyBinding(index);
+        Form.Panels().Keys.ReadKeyBinding(index);
     EXPECT_EQ(Game().Bindings.Bindings, before);
     Control("cCtrKey", 3).Tag = "non un numero";
-    Form.ReadKeyBinding(3);
+    Form.Panels().Keys.ReadKeyBinding(3);
     EXPECT_EQ(Game().Bindings.Bindings[3], 0);
 }
 

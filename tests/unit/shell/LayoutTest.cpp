@@ -1,5 +1,4 @@
 // Where the controls stand, for every size of the window.
-#include "shell/Design.h"
 #include "tests/support/LoadedForm.h"
 #include "typeface/Typeface.h"
 
@@ -23,12 +22,9 @@ bool Overlap(const forms::Rect& a, const forms::Rect& b)
 
 struct Layout : testing::TestWithParam<platform::Size>
 {
-    forms::Form Form;
-    Layout()
-    {
-        shell::MakeControls(Form);
-        shell::LayoutControls(Form, GetParam());
-    }
+    support::LoadedForm Window;
+    forms::Form& Form = Window.Form.Controls();
+    Layout() { Window.Form.Panels().Place(GetParam()); }
 };
 
 TEST_P(Layout, EverythingLiesInTheWindow)

@@ -1,5 +1,5 @@
 // The option panels: every message, what is in force after it, and how the settings take effect.
-#include "shell/OptionNames.h"
+#include "shell/panels/VideoOptions.h"
 #include "tests/support/LoadedForm.h"
 
 #include <gtest/gtest.h>
@@ -312,21 +312,21 @@ TEST(OneThread, ItsDefaultsAreModest)
 
 TEST(OptionNames, EachBoundBelongsToTheLowerName)
 {
-    EXPECT_EQ(shell::QualityName(0.0f), "nessuno");
-    EXPECT_EQ(shell::QualityName(0.001f), "bassa");
-    EXPECT_EQ(shell::QualityName(0.3f), "bassa");
-    EXPECT_EQ(shell::QualityName(std::nextafter(0.3f, 1.0f)), "media");
-    EXPECT_EQ(shell::QualityName(0.5f), "media");
-    EXPECT_EQ(shell::QualityName(0.51f), "alta");
-    EXPECT_EQ(shell::QualityName(1.0f), "alta");
-    EXPECT_EQ(shell::QualityName(std::nextafter(1.0f, 2.0f)), "");
-    EXPECT_EQ(shell::FilterName(-1), "");
-    EXPECT_EQ(shell::FilterName(3), "");
+    EXPECT_EQ(panels::QualityName(0.0f), "nessuno");
+    EXPECT_EQ(panels::QualityName(0.001f), "bassa");
+    EXPECT_EQ(panels::QualityName(0.3f), "bassa");
+    EXPECT_EQ(panels::QualityName(std::nextafter(0.3f, 1.0f)), "media");
+    EXPECT_EQ(panels::QualityName(0.5f), "media");
+    EXPECT_EQ(panels::QualityName(0.51f), "alta");
+    EXPECT_EQ(panels::QualityName(1.0f), "alta");
+    EXPECT_EQ(panels::QualityName(std::nextafter(1.0f, 2.0f)), "");
+    EXPECT_EQ(panels::FilterName(-1), "");
+    EXPECT_EQ(panels::FilterName(3), "");
 }
 
 TEST(OptionNames, ALargerQualityIsLeftAsItIs)
 {
-    EXPECT_EQ(shell::NextQuality(2.0f), 2.0f);
-    EXPECT_EQ(shell::NextQuality(0.2f), 0.5f);
+    EXPECT_EQ(panels::NextQuality(2.0f), 2.0f);
+    EXPECT_EQ(panels::NextQuality(0.2f), 0.5f);
 }
 }

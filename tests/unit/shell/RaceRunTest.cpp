@@ -47,10 +47,10 @@ TEST_F(RaceRun, StartingTwiceChangesNothing)
 {
     StartRace();
     Pass(130);
-    const std::uint32_t started = Game().Run.StartTick;
+    const std::uint32_t measured = Game().Run.FpsLastTime;
     const std::int32_t ticks = Game().Timers.RenderT.Ticks;
-    Form.StartProcess();
-    EXPECT_EQ(Game().Run.StartTick, started);
+    Form.Race().StartProcess();
+    EXPECT_EQ(Game().Run.FpsLastTime, measured);
     EXPECT_EQ(Game().Timers.RenderT.Ticks, ticks);
 }
 
@@ -59,7 +59,7 @@ TEST_F(RaceRun, StoppingInTheMenuChangesNothing)
     Load();
     Machine.Boxes.clear();
     Window().ShowCursor(false);
-    Form.StopProcess();
+    Form.Race().StopProcess();
     EXPECT_FALSE(Window().CursorShown);
 }
 
@@ -97,7 +97,7 @@ TEST_F(RaceRun, AStrangeCounterHidesTheTitle)
 {
     Load();
     Game().Run.Blink = 70;
-    Form.tmrLogo_Timer();
+    Form.Panels().Menu.tmrLogo_Timer();
     EXPECT_EQ(Control("imgLogo").Visible, base::False);
     EXPECT_EQ(Game().Run.Blink, 71);
 }

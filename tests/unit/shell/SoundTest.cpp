@@ -39,7 +39,7 @@ struct Sound : testing::Test, support::LoadedForm
     void Tick()
     {
         Machine.Clock += 25;
-        Form.GameT_Tick();
+        Form.Race().GameT_Tick();
     }
     int QueuedSample(std::size_t buffer)
     {
@@ -175,12 +175,12 @@ TEST_F(Sound, TheMenuClosesTheDeviceAndWhatComesBackIsLeftAlone)
     Machine.Wave->FinishBuffer();
     const float position = Engine().ReadPosition;
     EXPECT_GT(position, 0);
-    Form.StopProcess();
+    Form.Race().StopProcess();
     EXPECT_EQ(Engine().Handle, platform::NoWave);
     Machine.PumpEvents();
     EXPECT_EQ(Engine().ReadPosition, position);
     EXPECT_TRUE(Machine.Wave->Queued.empty());
-    Form.StartProcess(); // the phase and what lies in the buffers stay
+    Form.Race().StartProcess(); // the phase and what lies in the buffers stay
     EXPECT_EQ(Engine().ReadPosition, position);
     ASSERT_EQ(Machine.Wave->Queued.size(), 4u);
     EXPECT_EQ(QueuedSample(0), 16 * 125);
@@ -192,11 +192,11 @@ TEST_F(Sound, StartingTwiceOpensOnce)
 {
     StartRace();
     const platform::WaveHandle handle = Engine().Handle;
-    Form.StartProcess();
+    Form.Race().StartProcess();
     EXPECT_EQ(Engine().Handle, handle);
     EXPECT_EQ(Machine.Wave->Queued.size(), 4u);
-    Form.StopProcess();
-    Form.StopProcess();
+    Form.Race().StopProcess();
+    Form.Race().StopProcess();
     EXPECT_THAT(Texts(), IsEmpty());
 }
 
@@ -210,9 +210,9 @@ TEST_F(Sound, AFailedOpenYieldsNineBoxesAndTheRaceGoesOn)
     Machine.Boxes.clear();
     Pass(500);
     EXPECT_GT(Game().Race.GameTime, 400);
-    Form.StopProcess(); // nothing is open, nothing to close
+    Form.Race().StopProcess(); // nothing is open, nothing to close
     EXPECT_THAT(Texts(), IsEmpty());
-    Form.StartProcess();
+    Form.Race().StartProcess();
     EXPECT_NE(Engine().Handle, platform::NoWave);
     EXPECT_THAT(Texts(), IsEmpty());
 }
@@ -221,7 +221,7 @@ TEST_F(Sound, BeforeTheAudioIsReadyNothingIsOpenedAndClosingIsRefused)
 {
     Load();
     Game().Run.AudioReady = 0;
-    Form.StartProcess();
+    Form.Race().StartProcess();
     EXPECT_EQ(Engine().Handle, platform::NoWave);
     EXPECT_FALSE(Form.Form_Unload());
     EXPECT_FALSE(Form.Ended());
@@ -266,7 +266,7 @@ TEST_F(Sound, AnEmptyFolderIsSilenceAndStaysOn)
     EXPECT_EQ(Music().MusicOn, -1);
     EXPECT_EQ(Music().Media.Command, "close");
     EXPECT_EQ(Title().Visible, 0);
-    Form.MMC_Done(1);
+    Form.Audio().MMC_Done(1);
     EXPECT_EQ(Playing(), "");
     EXPECT_THAT(Texts(), IsEmpty());
 }
@@ -384,12 +384,12 @@ TEST_F(Sound, TheTitleFadesInAndOutOverTheRace)
                                  Moment{3500, 1.0f}, Moment{4250, 0.5f}, Moment{4999, 1.0f / 1500}})
     {
         Game().Race.GameTime = moment.Time;
-        Form.RenderT_Tick();
+        Form.Race().RenderT_Tick();
         EXPECT_FLOAT_EQ(Title().Fade, moment.Fade) << moment.Time;
         EXPECT_EQ(Title().Visible, 1) << moment.Time;
     }
     Game().Race.GameTime = 5000;
-    Form.RenderT_Tick();
+    Form.Race().RenderT_Tick();
     EXPECT_EQ(Title().Visible, 0);
 
     Game().Race.GameTime = 60000; // another track, another title
@@ -397,7 +397,7 @@ TEST_F(Sound, TheTitleFadesInAndOutOverTheRace)
     EXPECT_EQ(Title().Visible, 1);
     EXPECT_EQ(Game().Run.NoticeTime, 60000);
     Game().Race.GameTime = 60750;
-    Form.RenderT_Tick();
+    Form.Race().RenderT_Tick();
     EXPECT_FLOAT_EQ(Title().Fade, 0.5f);
 }
 
@@ -406,7 +406,7 @@ TEST_F(Sound, ANameWithoutADotWouldBeShownWhole)
     Tracks({"x.mp3"});
     Load();
     Music().TrackList = {"senza punto"};
-    Form.MMC_Done(1);
+    Form.Audio().MMC_Done(1);
     EXPECT_EQ(Title().Text, "senza punto");
 }
 
@@ -424,12 +424,12 @@ TEST_F(Sound, TheSliderSetsAPercentageFrom20To100)
     for (const Move& move : {Move{0, 20, 20}, Move{-50, 20, 20}, Move{39, 20, 20}, Move{100, 50, 50}, Move{150, 75, 75},
                              Move{200, 100, 100}, Move{999, 100, 100}})
     {
-        Form.picEffVol_MouseMove(move.X, 200);
+        Form.Panels().AudioOptions.picEffVol_MouseMove(move.X, 200);
         EXPECT_EQ(Options().EffectsVolume, move.Volume) << move.X;
         EXPECT_EQ(Control("picEffVol").Value, move.Bar) << move.X;
         EXPECT_EQ(Options().EffectsFactor, 25) << "before the OK";
     }
-    Form.picEffVol_MouseMove(10, 0); // no width, no place
+    Form.Panels().AudioOptions.picEffVol_MouseMove(10, 0); // no width, no place
     EXPECT_EQ(Options().EffectsVolume, 100);
 }
 
@@ -438,10 +438,10 @@ TEST_F(Sound, TheFactorJumpsFrom25ToBetween500And2500)
 {
     Load();
     EXPECT_EQ(Options().EffectsFactor, 25);
-    Form.picEffVol_MouseMove(0, 200);
+    Form.Panels().AudioOptions.picEffVol_MouseMove(0, 200);
     Form.Click("cAudOptOK");
     EXPECT_EQ(Options().EffectsFactor, 500);
-    Form.picEffVol_MouseMove(200, 200);
+    Form.Panels().AudioOptions.picEffVol_MouseMove(200, 200);
     Form.Click("cAudOptOK");
     EXPECT_EQ(Options().EffectsFactor, 2500);
     Options().EffectsVolume = 20.5f; // 512.5
@@ -467,7 +467,7 @@ TEST_F(Sound, ThePanelOpensWithFullBars)
     EXPECT_EQ(Control("panelAudOpt").Visible, -1);
     EXPECT_EQ(Control("picEffVol").Value, 100);
     EXPECT_EQ(Control("picMusVol").Value, 100);
-    Form.picEffVol_MouseMove(100, 200);
+    Form.Panels().AudioOptions.picEffVol_MouseMove(100, 200);
     EXPECT_EQ(Control("picEffVol").Value, 50);
     Form.Click("cAudOptOK");
     EXPECT_EQ(Control("panelAudOpt").Visible, 0);

@@ -207,7 +207,7 @@ TEST_F(Start, ClosingIsRefusedBeforeTheAudioIsReadyAndTheResourcesAreGone)
     EXPECT_EQ(Game().Scene.Objects.Count, 0);
     EXPECT_TRUE(Game().Scene.Sky.Pixels.Empty());
     Pass(4000); // goes on with what is left
-    Form.Draw();
+    Form.Race().Draw();
     EXPECT_EQ(Machine.Boxes.size(), 0u) << BoxText(0);
     Game().Run.AudioReady = -1;
     EXPECT_TRUE(Form.CloseAsked());
