@@ -1,8 +1,9 @@
-// cars/Body.h: the outer skin of a car, as panels with their painters.
+// assets/cars/Body.h: the outer skin of a car, as panels with their painters.
 #pragma once
-#include "cars/Design.h"
+#include "assets/cars/Design.h"
+#include "assets/common/Canvas.h"
 
-namespace assets
+namespace assets::cars
 {
 struct BodyPanel
 {

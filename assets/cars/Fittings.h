@@ -1,8 +1,8 @@
-// cars/Fittings.h: what a car has besides its body: cabin, wheels, mirrors, wing and shadow.
+// assets/cars/Fittings.h: what a car has besides its body: cabin, wheels, mirrors, wing and shadow.
 #pragma once
-#include "cars/Design.h"
+#include "assets/cars/Design.h"
 
-namespace assets
+namespace assets::cars
 {
 // The flat panels of the cabin, and the dials and steering wheel (texels from the atlas). From mesh 10 on; at least ten
 // meshes.

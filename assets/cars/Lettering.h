@@ -1,10 +1,11 @@
-// cars/Lettering.h: words and numbers as areas, for painting on a body.
+// assets/cars/Lettering.h: words and numbers as areas, for painting on a body.
 #pragma once
 #include "typeface/Typeface.h"
+
 #include <string_view>
 #include <vector>
 
-namespace assets
+namespace assets::cars
 {
 class Lettering
 {
@@ -15,7 +16,7 @@ public:
     bool Inside(double x, double y, double border = 0) const;
 
 private:
-    std::vector<typeface::Segment> _strokes;
-    double _scale, _centreX, _centreY;
+    std::vector<typeface::Segment> Strokes;
+    double Scale, CentreX, CentreY;
 };
 }

@@ -1,8 +1,11 @@
-// cars/Paint.h: the painters of a car's panels: livery, number, gaps, lamps, windows, and the light on all of it.
+// assets/cars/Paint.h: the painters of a car's panels: livery, number, gaps, lamps, windows, and the light on all of
+// it.
 #pragma once
-#include "cars/Design.h"
+#include "assets/cars/Design.h"
+#include "assets/common/Colour.h"
+#include "assets/common/Vectors.h"
 
-namespace assets
+namespace assets::cars
 {
 // The paint's colour on a surface with this outward direction, lit from above. `gloss` 0 (cloth) to 1 (fresh paint).
 Rgb Lit(Rgb paint, Vec3 normal, double gloss);

@@ -1,8 +1,10 @@
-// cars/Pieces.h: the simple meshes that fittings are made of.
+// assets/cars/Pieces.h: the simple meshes that fittings are made of.
 #pragma once
-#include "cars/Surface.h"
+#include "assets/cars/Surface.h"
+#include "assets/common/Colour.h"
+#include "assets/common/Vectors.h"
 
-namespace assets
+namespace assets::cars
 {
 // The driver sits left of the middle; the eye of the player in the car is at (-0.30, 1.10, -0.05), looking ahead:
 // nothing may stand close before it.

@@ -1,9 +1,10 @@
-// cars/Shape.h: the outline of a car as a few curves along z, and the panels that follow from them.
+// assets/cars/Shape.h: the outline of a car as a few curves along z, and the panels that follow from them.
 // Metres; nose toward +z, ground y = 0. The front half of the cabin is the same in all cars: the driver sits there.
 #pragma once
-#include "cars/Surface.h"
+#include "assets/cars/Surface.h"
+#include "assets/common/Vectors.h"
 
-namespace assets
+namespace assets::cars
 {
 struct Shape
 {

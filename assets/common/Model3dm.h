@@ -2,8 +2,9 @@
 // World units, y up, ground at y = 0; a car's nose points toward +z. Texels: column 0 left, row 0 at the picture's
 // bottom.
 #pragma once
+#include "assets/common/Colour.h"
+
 #include <array>
-#include <filesystem>
 #include <string>
 #include <vector>
 
@@ -61,10 +62,13 @@ constexpr int FlatColour(int r, int g, int b)
     return r + g * 256 + b * 65536;
 }
 
+// The same from a colour, limited to 0 .. 1.
+int FlatColour(Rgb colour);
+
 // A flat box between two corners as one closed strip of four sides and, on request, its two ends (along z).
 std::vector<ModelMesh> FlatBox(const std::array<double, 3>& low, const std::array<double, 3>& high, int colour,
                                bool ends);
 
 // Writes the model's commands. Makes the folder. Throws std::runtime_error when the file cannot be written.
-void WriteModel(const Model& model, const std::filesystem::path& file);
+void WriteModel(const Model& model, const std::string& path);
 }

@@ -1,10 +1,14 @@
-#include "common/Noise.h"
-#include "hud/Dusk.h"
+#include "assets/hud/Dusk.h"
+
+#include "assets/common/Noise.h"
+#include "assets/common/Shapes.h"
+#include "base/Numbers.h"
+
 #include <algorithm>
 #include <array>
 #include <cmath>
 
-namespace assets
+namespace assets::hud
 {
 namespace
 {
@@ -102,7 +106,7 @@ void PaintWindow(Canvas& canvas, Point at, double waterline, Rgb colour, double 
     {
         const double y = waterline - (at.Y - waterline) * 0.3 - i * 1.1;
         const double sway = 1.6 * Noise(at.X * 0.7 + i * 0.9, i * 0.5, 81);
-        canvas.Blend(FloorToInt(at.X + sway), FloorToInt(y), colour,
+        canvas.Blend(base::Floor(at.X + sway), base::Floor(y), colour,
                      0.55 * (1 - i / 26.0) * (0.5 + 0.5 * Noise(i * 0.8, at.X, 82)));
     }
 }

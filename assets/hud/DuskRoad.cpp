@@ -1,9 +1,13 @@
-#include "common/Noise.h"
-#include "hud/Dusk.h"
+#include "assets/hud/Dusk.h"
+
+#include "assets/common/Noise.h"
+#include "assets/common/Shapes.h"
+#include "base/Numbers.h"
+
 #include <algorithm>
 #include <cmath>
 
-namespace assets
+namespace assets::hud
 {
 namespace
 {
@@ -95,11 +99,11 @@ bool WallColour(const Dusk& dusk, Vec3 eye, Vec3 ray, double& depth, Rgb& colour
     if (at.Y > WallHeight || at.Y < 0 || depth > FarEdge)
         return false;
     const double along = OnRoad(dusk, at.X, at.Z).Along;
-    const int course = FloorToInt(at.Y / 0.2);
+    const int course = base::Floor(at.Y / 0.2);
     const double stone = along / 0.62 + course * 0.43;
     const bool joint = std::abs(stone - std::round(stone)) < 0.035 || std::fmod(at.Y, 0.2) < 0.02;
     const double shade =
-        0.75 + 0.35 * HashUnit(FloorToInt(stone + 0.5), course, 57) + 0.15 * Fbm(along * 5, at.Y * 5, 58, 3);
+        0.75 + 0.35 * HashUnit(base::Floor(stone + 0.5), course, 57) + 0.15 * Fbm(along * 5, at.Y * 5, 58, 3);
     colour = Mix(Hex(0x4A3C46), Hex(0x7A5A58), SmoothStep(0.1, WallHeight, at.Y)) * (shade * (joint ? 0.55 : 0.9)) *
              Lerp(1.0, 0.55, dusk.Night);
     if (at.Y > WallHeight - 0.05)

@@ -1,8 +1,10 @@
-#include "hud/Inside.h"
-#include "common/Canvas.h"
-#include "common/Noise.h"
+#include "assets/hud/Inside.h"
 
-namespace assets
+#include "assets/common/Bitmap.h"
+#include "assets/common/Noise.h"
+#include "assets/common/Shapes.h"
+
+namespace assets::hud
 {
 namespace
 {

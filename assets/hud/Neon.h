@@ -1,9 +1,10 @@
-// hud/Neon.h: words bent from glass tubes.
+// assets/hud/Neon.h: words bent from glass tubes.
 #pragma once
-#include "common/Canvas.h"
+#include "assets/common/Canvas.h"
+
 #include <string_view>
 
-namespace assets
+namespace assets::hud
 {
 struct Tubes
 {

@@ -1,10 +1,13 @@
-#include "hud/Portrait.h"
-#include "cars/Body.h"
+#include "assets/hud/Portrait.h"
+
+#include "assets/cars/Body.h"
+#include "base/Numbers.h"
+
 #include <algorithm>
 #include <array>
 #include <cmath>
 
-namespace assets
+namespace assets::hud
 {
 Vec3 SceneView::ToCamera(Vec3 p) const
 {
@@ -47,11 +50,11 @@ class Raster
 {
 public:
     Raster(const SceneView& view, const CarPose& pose, int width, int height)
-        : _view(view), _pose(pose), _picture(width * Fine, height * Fine), _depth(width * Fine, height * Fine, 1e9f)
+        : View(view), Pose(pose), Picture(width * Fine, height * Fine), Depth(width * Fine, height * Fine, 1e9f)
     {
-        _view.Focal *= Fine;
-        _view.CentreX *= Fine;
-        _view.HorizonY *= Fine;
+        View.Focal *= Fine;
+        View.CentreX *= Fine;
+        View.HorizonY *= Fine;
     }
 
     void Triangle(const std::array<Corner, 3>& corners, const Shader& shader)
@@ -60,18 +63,18 @@ public:
         std::array<Point, 3> screen;
         for (std::size_t i = 0; i < 3; ++i)
         {
-            camera[i] = _view.ToCamera(_pose.ToWorld(corners[i].At));
+            camera[i] = View.ToCamera(Pose.ToWorld(corners[i].At));
             if (camera[i].Z < 0.1)
                 return;
-            screen[i] = _view.Project(camera[i]);
+            screen[i] = View.Project(camera[i]);
         }
         const double area = Twice(screen[0], screen[1], screen[2]);
         if (std::abs(area) < 1e-9)
             return;
         const auto [lowX, highX] = std::minmax({screen[0].X, screen[1].X, screen[2].X});
         const auto [lowY, highY] = std::minmax({screen[0].Y, screen[1].Y, screen[2].Y});
-        for (int y = std::max(0, FloorToInt(lowY)); y <= std::min(_picture.Height - 1, FloorToInt(highY)); ++y)
-            for (int x = std::max(0, FloorToInt(lowX)); x <= std::min(_picture.Width - 1, FloorToInt(highX)); ++x)
+        for (int y = std::max(0, base::Floor(lowY)); y <= std::min(Picture.Height - 1, base::Floor(highY)); ++y)
+            for (int x = std::max(0, base::Floor(lowX)); x <= std::min(Picture.Width - 1, base::Floor(highX)); ++x)
             {
                 const Point p{x + 0.5, y + 0.5};
                 std::array<double, 3> w{Twice(screen[1], screen[2], p) / area, Twice(screen[2], screen[0], p) / area,
@@ -83,7 +86,7 @@ public:
                 for (std::size_t i = 0; i < 3; ++i)
                     inverse += w[i] /= camera[i].Z;
                 const double depth = 1 / inverse;
-                if (depth >= _depth.At(x, y))
+                if (depth >= Depth.At(x, y))
                     continue;
                 double a = 0, b = 0;
                 Vec3 at;
@@ -97,18 +100,18 @@ public:
                 Rgb colour;
                 if (!shader(a, b, at, colour))
                     continue;
-                _depth.At(x, y) = static_cast<float>(depth);
-                _picture.Set(x, y, colour);
+                Depth.At(x, y) = static_cast<float>(depth);
+                Picture.Set(x, y, colour);
             }
     }
 
-    void PasteInto(Canvas& canvas) const { Paste(canvas, Resized(_picture, canvas.Width, canvas.Height), 0, 0); }
+    void PasteInto(Canvas& canvas) const { Paste(canvas, Resized(Picture, canvas.Width, canvas.Height), 0, 0); }
 
 private:
-    SceneView _view;
-    CarPose _pose;
-    Canvas _picture;
-    Mask _depth;
+    SceneView View;
+    CarPose Pose;
+    Canvas Picture;
+    Mask Depth;
 
     static double Twice(Point a, Point b, Point c) { return (b.X - a.X) * (c.Y - a.Y) - (c.X - a.X) * (b.Y - a.Y); }
 };
@@ -125,18 +128,19 @@ template <class CornerAt> void DrawGrid(Raster& raster, int rows, int cols, Corn
 }
 }
 
-void DrawCar(Canvas& canvas, const Design& design, const SceneView& view, const CarPose& pose, const CarLight& light)
+void DrawCar(Canvas& canvas, const cars::Design& design, const SceneView& view, const CarPose& pose,
+             const CarLight& light)
 {
     Raster raster(view, pose, canvas.Width, canvas.Height);
-    const std::vector<BodyPanel> panels = BodyPanels(design);
+    const std::vector<cars::BodyPanel> panels = cars::BodyPanels(design);
     for (std::size_t k = 0; k < panels.size(); ++k)
     {
-        const BodyPanel& panel = panels[k];
+        const cars::BodyPanel& panel = panels[k];
         const Shader shader = [&](double a, double b, Vec3 at, Rgb& colour)
         {
-            const Sample sample = SampleAt(panel.Skin, Clamp01(a), Clamp01(b));
-            const Ink ink = panel.Paint(sample);
-            if (ink.Clear && k < FirstWindow)
+            const cars::Sample sample = cars::SampleAt(panel.Skin, Clamp01(a), Clamp01(b));
+            const cars::Ink ink = panel.Paint(sample);
+            if (ink.Clear && k < cars::FirstWindow)
                 return false;
             colour = light(ink.Colour, ink.Clear ? Surfacing::Glass : Surfacing::Paint, pose.Turned(sample.N),
                            pose.ToWorld(at));
@@ -153,7 +157,7 @@ void DrawCar(Canvas& canvas, const Design& design, const SceneView& view, const 
             shader);
     }
     // Everything else comes from the model itself; the windscreen is dark glass like the other windows.
-    const Car car = BuildCar(design);
+    const cars::Car car = cars::BuildCar(design);
     for (std::size_t k = panels.size(); k < car.Form.Meshes.size(); ++k)
     {
         const ModelMesh& mesh = car.Form.Meshes[k];
@@ -175,8 +179,8 @@ void DrawCar(Canvas& canvas, const Design& design, const SceneView& view, const 
                              (mesh.Colour >> 16 & 255) / 255.0};
             else if (!glass)
             {
-                const int x = std::clamp(RoundToInt(a), 0, car.Texture.Width - 1),
-                          y = std::clamp(RoundToInt(b), 0, car.Texture.Height - 1);
+                const int x = std::clamp(base::RoundEven(a), 0, car.Texture.Width - 1),
+                          y = std::clamp(base::RoundEven(b), 0, car.Texture.Height - 1);
                 if (car.Texture.At(x, y).A < 0.5f)
                     return false;
                 colour = car.Texture.Colour(x, y);

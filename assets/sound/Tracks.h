@@ -1,6 +1,6 @@
-// sound/Tracks.h: the pieces of music that ship. Each is its score and its recording in one file of tracks/.
+// assets/sound/Tracks.h: the pieces of music that ship. Each is its score and its recording in one file of tracks/.
 #pragma once
-#include "sound/synth/Stereo.h"
+#include "assets/sound/synth/Stereo.h"
 
 namespace assets::sound
 {

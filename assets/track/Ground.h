@@ -1,9 +1,11 @@
-// track/Ground.h: the ground bitmap, four texels a unit: row 0 is z = 0, column 0 is x = 0.
+// assets/track/Ground.h: the ground bitmap, four texels a unit: row 0 is z = 0, column 0 is x = 0.
 #pragma once
-#include "track/Terrain.h"
+#include "assets/common/Canvas.h"
+#include "assets/track/Terrain.h"
+
 #include <string>
 
-namespace assets
+namespace assets::track
 {
 // One texel of the land or of the lake, without road and shadows.
 Rgb LandColour(const Plan& plan, const Terrain& terrain, int x, int z);

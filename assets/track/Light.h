@@ -1,8 +1,8 @@
-// track/Light.h: the one sun that every shadow, facade and cloud of the world agrees on.
+// assets/track/Light.h: the one sun that every shadow, facade and cloud of the world agrees on.
 #pragma once
-#include "common/Canvas.h"
+#include "assets/common/Colour.h"
 
-namespace assets
+namespace assets::track
 {
 // Late afternoon: the sun stands in the west-north-west, across the lake. x is east, z is north, y is up.
 constexpr double SunX = -0.80, SunZ = 0.60; // unit vector on the ground, toward the sun

@@ -1,11 +1,13 @@
-// track/Plan.h: what stands where. The ground paints the shadows of it, the map script places it.
+// assets/track/Plan.h: what stands where. The ground paints the shadows of it, the map script places it.
 // x is east, z is north, world units. A model's front is its local -z side.
 #pragma once
-#include "track/Circuit.h"
+#include "assets/common/Vectors.h"
+#include "assets/track/Circuit.h"
+
 #include <string>
 #include <vector>
 
-namespace assets
+namespace assets::track
 {
 enum class Shadow
 {

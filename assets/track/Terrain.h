@@ -1,9 +1,11 @@
-// track/Terrain.h: for every texel of the ground, where it lies relative to road, shore and paths.
+// assets/track/Terrain.h: for every texel of the ground, where it lies relative to road, shore and paths.
 // Texel (x, z) covers a quarter unit; its middle is at ((x + 0.5) / 4, (z + 0.5) / 4).
 #pragma once
-#include "track/Plan.h"
+#include "assets/common/Canvas.h"
+#include "assets/common/Vectors.h"
+#include "assets/track/Plan.h"
 
-namespace assets
+namespace assets::track
 {
 constexpr int TexelsPerUnit = 4;
 constexpr int GroundSize = 2560;

@@ -1,4 +1,4 @@
-// sound/score/Chords.h: chord names and how they are laid out for several voices.
+// assets/sound/score/Chords.h: chord names and how they are laid out for several voices.
 #pragma once
 #include <string>
 #include <vector>

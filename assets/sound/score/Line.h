@@ -1,4 +1,4 @@
-// sound/score/Line.h: notes in musical time.
+// assets/sound/score/Line.h: notes in musical time.
 #pragma once
 #include <vector>
 

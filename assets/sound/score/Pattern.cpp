@@ -1,4 +1,5 @@
-#include "sound/score/Pattern.h"
+#include "assets/sound/score/Pattern.h"
+
 #include <algorithm>
 #include <cmath>
 #include <sstream>

@@ -1,4 +1,6 @@
-#include "sound/synth/Biquad.h"
+#include "assets/sound/synth/Biquad.h"
+
+#include "assets/common/Numbers.h"
 
 namespace assets::sound
 {

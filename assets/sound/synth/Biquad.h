@@ -1,6 +1,6 @@
-// sound/synth/Biquad.h: two poles, two zeros, fixed: the tone controls of a mixing desk.
+// assets/sound/synth/Biquad.h: two poles, two zeros, fixed: the tone controls of a mixing desk.
 #pragma once
-#include "sound/synth/Stereo.h"
+#include "assets/sound/synth/Stereo.h"
 
 namespace assets::sound
 {

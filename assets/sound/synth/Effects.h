@@ -1,6 +1,7 @@
-// sound/synth/Effects.h: what is done to a whole part or bus. Frequencies in Hz, times in seconds, levels in decibels.
+// assets/sound/synth/Effects.h: what is done to a whole part or bus. Frequencies in Hz, times in seconds, levels in
+// decibels.
 #pragma once
-#include "sound/synth/Stereo.h"
+#include "assets/sound/synth/Stereo.h"
 
 namespace assets::sound
 {

@@ -1,4 +1,4 @@
-// sound/synth/Envelope.h: how a note swells and fades. Times in seconds.
+// assets/sound/synth/Envelope.h: how a note swells and fades. Times in seconds.
 #pragma once
 #include <algorithm>
 #include <cmath>
