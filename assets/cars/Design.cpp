@@ -1,6 +1,5 @@
 #include "assets/cars/Design.h"
 
-
 #include <cmath>
 
 namespace assets::cars

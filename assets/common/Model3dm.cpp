@@ -56,6 +56,11 @@ int FlatColour(Rgb colour)
                       base::RoundByte(colour.B * 255));
 }
 
+Rgb ColourOf(int flatColour)
+{
+    return {(flatColour & 255) / 255.0, (flatColour >> 8 & 255) / 255.0, (flatColour >> 16 & 255) / 255.0};
+}
+
 ModelMesh::ModelMesh(int rows, int cols)
     : Rows(rows), Cols(cols), Points(static_cast<std::size_t>(rows) * static_cast<std::size_t>(cols))
 {

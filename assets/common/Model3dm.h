@@ -64,6 +64,8 @@ constexpr int FlatColour(int r, int g, int b)
 
 // The same from a colour, limited to 0 .. 1.
 int FlatColour(Rgb colour);
+// The way back.
+Rgb ColourOf(int flatColour);
 
 // A flat box between two corners as one closed strip of four sides and, on request, its two ends (along z).
 std::vector<ModelMesh> FlatBox(const std::array<double, 3>& low, const std::array<double, 3>& high, int colour,
