@@ -37,7 +37,7 @@ std::string NumberText(double value)
     std::array<char, 64> text{};
     const auto result = std::to_chars(text.data(), text.data() + text.size(), value, std::chars_format::fixed, 4);
     if (result.ec != std::errc())
-        throw std::runtime_error("a number does not fit its text");
+        throw std::runtime_error("a coordinate does not fit its text");
     std::string out(text.data(), result.ptr);
     while (out.back() == '0')
         out.pop_back();

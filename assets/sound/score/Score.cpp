@@ -5,6 +5,7 @@
 #include "base/Numbers.h"
 
 #include <algorithm>
+#include <optional>
 #include <sstream>
 #include <stdexcept>
 
@@ -39,6 +40,37 @@ bool Has(const Chord& chord, int tone)
 int Degree(const Chord& chord, int major, int minor, int otherwise)
 {
     return Has(chord, major) ? major : Has(chord, minor) ? minor : otherwise;
+}
+
+// The key that a sign of a bass pattern asks for over a chord before the next one; nothing for an unknown sign.
+std::optional<int> BassKey(char sign, const Chord& chord, const Chord& next, int lowest)
+{
+    const int bass = AtOrAbove(chord.Bass, lowest), target = AtOrAbove(next.Bass, lowest);
+    // Degrees count from the root, above the bass note.
+    const int root = AtOrAbove(chord.Root, bass);
+    switch (sign)
+    {
+    case '1':
+        return bass;
+    case '3':
+        return root + Degree(chord, 4, 3, 5);
+    case '5':
+        return root + Degree(chord, 7, 6, 7);
+    case '6':
+        return root + 9;
+    case '7':
+        return root + Degree(chord, 11, 10, 12);
+    case '8':
+        return bass + 12;
+    case '0':
+        return root + Degree(chord, 7, 6, 7) - 12;
+    case '<':
+        return target - 1;
+    case '>':
+        return target + 1;
+    default:
+        return std::nullopt;
+    }
 }
 
 std::vector<Chord> Sounding(const auto& placed)
@@ -115,7 +147,6 @@ Line Score::Melody(const std::string& section, const std::string& text) const
 }
 
 Line Score::Beat(const std::string& section, const std::string& pattern) const
-
 {
     constexpr double Key = 60; // what has a pitch of its own does not ask
     Line line;
@@ -159,44 +190,12 @@ Line Score::Bass(const std::string& section, const std::string& pattern, int low
         const std::size_t index = ChordAt(start);
         const Chord& chord = Chords[index].Sounding;
         const Chord& next = Chords[std::min(index + 1, Chords.size() - 1)].Sounding;
-        const int bass = AtOrAbove(chord.Bass, lowest), target = AtOrAbove(next.Bass, lowest);
-        // Degrees count from the root, above the bass note.
-        const int root = AtOrAbove(chord.Root, bass);
-        int key = bass;
-        switch (step.Sign)
-        {
-        case '1':
-            break;
-        case '3':
-            key = root + Degree(chord, 4, 3, 5);
-            break;
-        case '5':
-            key = root + Degree(chord, 7, 6, 7);
-            break;
-        case '6':
-            key = root + 9;
-            break;
-        case '7':
-            key = root + Degree(chord, 11, 10, 12);
-            break;
-        case '8':
-            key = bass + 12;
-            break;
-        case '0':
-            key = root + Degree(chord, 7, 6, 7) - 12;
-            break;
-        case '<':
-            key = target - 1;
-            break;
-        case '>':
-            key = target + 1;
-            break;
-        default:
+        const std::optional<int> bass = BassKey(step.Sign, chord, next, lowest);
+        if (!bass)
             throw std::runtime_error("no degree of a bass: " + pattern);
-        }
+        const double key = *bass;
         const double force = step.At % 4 == 0 ? 0.82 : step.At % 2 == 0 ? 0.74 : 0.66;
-        line.Notes.push_back(
-            {start, step.Steps * StepBeats * 0.92, static_cast<double>(key), static_cast<double>(key), force, 0});
+        line.Notes.push_back({start, step.Steps * StepBeats * 0.92, key, key, force, 0});
     }
     return line;
 }
