@@ -1,4 +1,4 @@
-// assets/cars/Design.h: what makes one car different from another.
+// assets/cars/Design.h: what makes one car different from another: shape, livery, lamps and fittings.
 #pragma once
 #include "assets/cars/Shape.h"
 #include "assets/common/Colour.h"
@@ -49,17 +49,18 @@ enum class Part
     Wing
 };
 struct Design;
+// `p` in metres, as in Shape.h.
 using Livery = Rgb (*)(const Design& design, Part part, Vec3 p);
 
 struct Design
 {
-    std::string Folder;
-    int Number;
+    std::string Folder; // below data/models
+    int Number;         // of the race, one or two figures
     cars::Shape Shape;
     cars::Livery Livery;
-    Rgb Base, Second, Third;
-    Rgb Plate, Figures; // behind and of the race number
-    bool Roundel;       // a disc behind the number; else the number stands on the paint
+    Rgb Base, Second, Third; // paints, as the livery uses them
+    Rgb Plate, Figures;      // behind and of the race number
+    bool Roundel;            // a disc behind the number; else the number stands on the paint
     cars::Front Front;
     cars::Rear Rear;
     cars::Spoiler Spoiler;

@@ -20,7 +20,7 @@ public:
     double operator()(double at) const;
 
 private:
-    std::vector<std::pair<double, double>> Keys;
+    std::vector<std::pair<double, double>> Keys; // at least one
 };
 
 using Surface = std::function<Vec3(double a, double b)>; // a across the texture, b up it; both 0 to 1
@@ -28,8 +28,8 @@ using Surface = std::function<Vec3(double a, double b)>; // a across the texture
 // What the painter is asked about.
 struct Sample
 {
-    Vec3 P, N;
-    double A = 0, B = 0;
+    Vec3 P, N;           // the place and the outward direction, of unit length
+    double A = 0, B = 0; // where on the panel, 0 to 1
 };
 struct Ink
 {
@@ -44,6 +44,7 @@ class Atlas
 public:
     Atlas(int width, int height) : Sheet(width, height) {}
 
+    // Texels; (X, Y) is its lower left one.
     struct Area
     {
         int X, Y, Width, Height;
@@ -54,7 +55,8 @@ public:
 
 private:
     Canvas Sheet;
-    int NextX = 0, NextY = 0, ShelfHeight = 0;
+    int NextX = 0, NextY = 0; // where the next area goes, if it still fits on the shelf
+    int ShelfHeight = 0;      // of the highest area on it
 };
 
 struct Panel
@@ -68,8 +70,9 @@ struct Panel
 // The surface at (a, b) with its outward direction.
 Sample SampleAt(const Panel& panel, double a, double b);
 
-// Reserves the panel's texels, paints them and returns the grid.
+// Reserves the panel's texels, paints them and returns the grid, textured by the file that `texture` names.
 ModelMesh Build(const Panel& panel, const Painter& painter, Atlas& atlas, const std::string& texture);
 
+// 0 to 1 in `cells` equal steps, both ends included.
 std::vector<double> Evenly(int cells);
 }

@@ -7,7 +7,7 @@
 
 namespace assets
 {
-constexpr double Pi = 3.14159265358979323846;
+inline constexpr double Pi = 3.14159265358979323846;
 
 inline double Clamp01(double value)
 {

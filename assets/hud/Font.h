@@ -1,4 +1,5 @@
-// assets/hud/Font.h: the bitmap font of the race display, one bitmap a code of the system code page.
+// assets/hud/Font.h: the bitmap font of the race display, one bitmap a code of the system code page. The glyphs
+// are those of typeface/, fitted to whole pixels.
 #pragma once
 #include <string>
 

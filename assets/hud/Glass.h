@@ -1,4 +1,4 @@
-// assets/hud/Glass.h: the windscreen of all cars, whole and broken.
+// assets/hud/Glass.h: the windscreen of all cars, whole and broken, as textures.
 #pragma once
 #include <string>
 

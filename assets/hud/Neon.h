@@ -1,4 +1,4 @@
-// assets/hud/Neon.h: words bent from glass tubes.
+// assets/hud/Neon.h: words bent from glass tubes, for the title and the icon. Lengths are pixels.
 #pragma once
 #include "assets/common/Canvas.h"
 

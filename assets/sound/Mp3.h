@@ -1,4 +1,4 @@
-// assets/sound/Mp3.h: pieces as MP3 files.
+// assets/sound/Mp3.h: pieces as MP3 files. The only user of the encoder.
 #pragma once
 #include "assets/sound/synth/Stereo.h"
 

@@ -1,4 +1,5 @@
-// assets/sound/Sound.h: the engine sample and the music.
+// assets/sound/Sound.h: the engine sample and the music. The folders below share one namespace: every line of a score
+// names instruments, effects and notations together.
 #pragma once
 #include <string>
 

@@ -37,5 +37,5 @@ struct Circuit
 Circuit MakeCircuit();
 
 // Where the start line crosses the main straight.
-constexpr Point StartLine{236, 219.3};
+inline constexpr Point StartLine{236, 219.3};
 }

@@ -15,7 +15,7 @@ std::vector<std::vector<Point>> Letters(std::string_view text);
 // Width of the text in letter heights.
 double LettersWidth(std::string_view text);
 
-// Paints the text centred on `middle`, `height` pixels high; `stretch` widens it.
+// Paints the text centred on `middle`, `height` pixels high with strokes `thickness` pixels wide; `stretch` widens it.
 void PaintText(Canvas& canvas, std::string_view text, Point middle, double height, double thickness, Rgb colour,
                double opacity = 1, double stretch = 1);
 }

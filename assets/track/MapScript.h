@@ -1,4 +1,4 @@
-// assets/track/MapScript.h: map.loader and the lists and player files beside it.
+// assets/track/MapScript.h: map.loader and the lists and player files beside it, in world units.
 #pragma once
 #include "assets/track/Plan.h"
 

@@ -1,5 +1,6 @@
-// assets/track/Models.h: the models of the world and their textures, written into one folder.
-// Light is painted into the textures; walls are cut into grids, because textures are mapped without perspective.
+// assets/track/Models.h: the models of the world and their textures, written into one folder. Each group has a .cpp of
+// its own. World units, y up; fronts look along local -z. Light is painted into the textures; walls are cut into grids,
+// because textures are mapped without perspective.
 #pragma once
 #include "assets/common/Bitmap.h"
 #include "assets/common/Model3dm.h"
@@ -21,12 +22,12 @@ ModelMesh Face(const std::string& texture, const Region& region, Vec3 lowLeft, V
                int across = 1, int up = 1);
 // A flat-coloured face.
 ModelMesh FlatFace(Rgb colour, Vec3 lowLeft, Vec3 lowRight, Vec3 upRight, Vec3 upLeft);
-// The upright rectangle between two ground points.
+// The upright rectangle between two ground points, from height `low` to `high`.
 ModelMesh Upright(const std::string& texture, const Region& region, double x0, double z0, double x1, double z1,
                   double low, double high, int across = 1, int up = 1);
 
-constexpr double HeavyMass = 1000000; // does not give way
-constexpr double LightMass = 0.001;   // flies
+inline constexpr double HeavyMass = 1000000; // does not give way
+inline constexpr double LightMass = 0.001;   // flies
 
 ModelSphere SphereAt(double x, double y, double z, double radius);
 

@@ -1,4 +1,4 @@
-// assets/track/Scatter.h: the trees, bushes and bales of the plan.
+// assets/track/Scatter.h: the trees, bushes and bales of the plan, the same in every run.
 #pragma once
 #include "assets/track/Plan.h"
 

@@ -7,9 +7,9 @@
 
 namespace assets::track
 {
-constexpr int TexelsPerUnit = 4;
-constexpr int GroundSize = 2560;
-constexpr float FarAway = 1000;
+inline constexpr int TexelsPerUnit = 4;
+inline constexpr int GroundSize = 2560;
+inline constexpr float FarAway = 1000;
 
 struct Terrain
 {

@@ -6,8 +6,8 @@ namespace assets::sound
 {
 struct Biquad
 {
-    double B0 = 1, B1 = 0, B2 = 0, A1 = 0, A2 = 0;
-    double S1 = 0, S2 = 0;
+    double B0 = 1, B1 = 0, B2 = 0, A1 = 0, A2 = 0; // zeros and poles, A0 being 1
+    double S1 = 0, S2 = 0;                         // what the next frames still get
 
     double Run(double in)
     {
@@ -18,6 +18,7 @@ struct Biquad
     }
 };
 
+// Frequencies in Hz; gains in decibels; q: the narrower the larger.
 Biquad HighPassOf(double hz, double q);
 Biquad LowPassOf(double hz, double q);
 Biquad BellOf(double hz, double q, double decibels);

@@ -1,5 +1,5 @@
-// assets/sound/synth/Drums.h: synthesised drums. Skins here, metal and noises of the studio in
-// assets/sound/synth/Cymbals.h.
+// assets/sound/synth/Drums.h: synthesised drums. Hz and seconds; strengths from 0. Skins here, metal and noises of the
+// studio in assets/sound/synth/Cymbals.h.
 #pragma once
 #include "assets/sound/synth/Tone.h"
 

@@ -12,7 +12,7 @@ inline double FilterGain(double hz)
     return std::tan(Pi * std::clamp(hz, 10.0, 0.45 * Rate) / Rate);
 }
 
-// Two poles, swept without clicks (trapezoidal integration).
+// Two poles, swept without clicks (trapezoidal integration). One of Low, Band and High may be called a frame.
 class StateFilter
 {
 public:
@@ -52,7 +52,7 @@ private:
         Ic2 = 2 * LowOut - Ic2;
     }
     double Damp = 1, A1 = 0, A2 = 0, A3 = 0;
-    double Ic1 = 0, Ic2 = 0, BandOut = 0, LowOut = 0;
+    double Ic1 = 0, Ic2 = 0, BandOut = 0, LowOut = 0; // both integrators and their outputs
 };
 
 // Four poles with feedback that bends instead of running away: resonance 0 .. 1.1, it whistles from 1.

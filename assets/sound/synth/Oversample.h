@@ -6,7 +6,7 @@
 
 namespace assets::sound
 {
-constexpr std::size_t Times = 4;
+inline constexpr std::size_t Times = 4;
 
 // The values between: result[Times * i + k] lies k / Times after frame i.
 class Upsampler

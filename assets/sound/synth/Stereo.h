@@ -8,13 +8,15 @@
 
 namespace assets::sound
 {
-constexpr int Rate = 44100; // frames a second of everything but the engine
+inline constexpr int Rate = 44100; // frames a second of everything but the engine
 
+// Rounded; 0 for negative times.
 inline std::size_t Frames(double seconds)
 {
     return static_cast<std::size_t>(std::llrint(std::max(0.0, seconds) * Rate));
 }
 
+// The factor of a level in decibels.
 inline double Decibels(double level)
 {
     return std::pow(10.0, level / 20);
