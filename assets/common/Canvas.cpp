@@ -14,14 +14,13 @@ Pixel Painted(Rgb colour)
 }
 
 // One box pass along a line of `count` values that lie `step` apart.
-void BoxPass(float* values, int count, std::ptrdiff_t step, int reach, bool wrap, std::vector<float>& line)
+void BoxPass(float* values, int count, std::ptrdiff_t step, int reach, std::vector<float>& line)
 {
     line.resize(static_cast<std::size_t>(count));
     for (int i = 0; i < count; ++i)
         line[static_cast<std::size_t>(i)] = values[i * step];
-    const auto value = [&](int i) {
-        return static_cast<double>(line[static_cast<std::size_t>(wrap ? Wrap(i, count) : std::clamp(i, 0, count - 1))]);
-    };
+    const auto value = [&](int i)
+    { return static_cast<double>(line[static_cast<std::size_t>(std::clamp(i, 0, count - 1))]); };
     double sum = 0;
     for (int i = -reach; i <= reach; ++i)
         sum += value(i);
@@ -33,7 +32,7 @@ void BoxPass(float* values, int count, std::ptrdiff_t step, int reach, bool wrap
 }
 
 // Blurs a picture of interleaved channels in place.
-void BlurPlane(float* values, int width, int height, int channels, double radius, bool wrapX, bool wrapY)
+void BlurPlane(float* values, int width, int height, int channels, double radius)
 {
     if (radius <= 0)
         return;
@@ -44,9 +43,9 @@ void BlurPlane(float* values, int width, int height, int channels, double radius
         {
             const std::ptrdiff_t row = static_cast<std::ptrdiff_t>(width) * channels;
             for (int y = 0; y < height; ++y)
-                BoxPass(values + y * row + channel, width, channels, reach, wrapX, line);
+                BoxPass(values + y * row + channel, width, channels, reach, line);
             for (int x = 0; x < width; ++x)
-                BoxPass(values + static_cast<std::ptrdiff_t>(x) * channels + channel, height, row, reach, wrapY, line);
+                BoxPass(values + static_cast<std::ptrdiff_t>(x) * channels + channel, height, row, reach, line);
         }
 }
 
@@ -92,19 +91,19 @@ void Canvas::Shade(int x, int y, Rgb factor, double amount)
     p.B = static_cast<float>(p.B * Lerp(1, factor.B, amount));
 }
 
-void Blur(Mask& mask, double radius, bool wrap)
+void Blur(Mask& mask, double radius)
 {
-    BlurPlane(mask.Cells.data(), mask.Width, mask.Height, 1, radius, wrap, wrap);
+    BlurPlane(mask.Cells.data(), mask.Width, mask.Height, 1, radius);
 }
 
-void Blur(Canvas& canvas, double radius, bool wrapX, bool wrapY)
+void Blur(Canvas& canvas, double radius)
 {
     static_assert(sizeof(Pixel) == 4 * sizeof(float));
     // Colours are weighed by their coverage, so that unpainted pixels do not darken the rim.
     for (Pixel& p : canvas.Cells)
         p = {p.R * p.A, p.G * p.A, p.B * p.A, p.A};
     if (!canvas.Cells.empty())
-        BlurPlane(&canvas.Cells[0].R, canvas.Width, canvas.Height, 4, radius, wrapX, wrapY);
+        BlurPlane(&canvas.Cells[0].R, canvas.Width, canvas.Height, 4, radius);
     for (Pixel& p : canvas.Cells)
         if (p.A > 0)
             p = {p.R / p.A, p.G / p.A, p.B / p.A, p.A};

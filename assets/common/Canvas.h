@@ -32,9 +32,9 @@ struct Mask : base::Grid<float>
     Mask(int width, int height, float fill = 0) { Reset(width, height, fill); }
 };
 
-// Three box passes, close to a Gaussian of this radius (standard deviation, pixels). `wrap` joins the edges.
-void Blur(Mask& mask, double radius, bool wrap = false);
-void Blur(Canvas& canvas, double radius, bool wrapX = false, bool wrapY = false);
+// Three box passes, close to a Gaussian of this radius (standard deviation, pixels). The edges go on as they are.
+void Blur(Mask& mask, double radius);
+void Blur(Canvas& canvas, double radius);
 
 // The picture at another size, each new pixel the mean of what it covers.
 Canvas Resized(const Canvas& canvas, int width, int height);

@@ -76,14 +76,6 @@ const ModelPoint& ModelMesh::At(int row, int col) const
     return Points.at(static_cast<std::size_t>(row) * static_cast<std::size_t>(Cols) + static_cast<std::size_t>(col));
 }
 
-int Model::Triangles() const
-{
-    int count = 0;
-    for (const ModelMesh& mesh : Meshes)
-        count += mesh.Triangles();
-    return count;
-}
-
 double Model::Reach() const
 {
     double reach = 0;
@@ -108,35 +100,6 @@ void Model::LinkNear(ModelSphere& sphere, int first, int last, double reach) con
                     sphere.Links.push_back({m, i, j});
             }
     }
-}
-
-std::vector<ModelMesh> FlatBox(const std::array<double, 3>& low, const std::array<double, 3>& high, int colour,
-                               bool ends)
-{
-    // The four corners of a section, once round and closed.
-    const std::array<std::array<double, 2>, 5> ring{
-        {{low[0], low[1]}, {high[0], low[1]}, {high[0], high[1]}, {low[0], high[1]}, {low[0], low[1]}}};
-    ModelMesh sides(2, 5);
-    sides.Colour = colour;
-    for (int j = 0; j < 5; ++j)
-    {
-        const auto& corner = ring[static_cast<std::size_t>(j)];
-        sides.At(0, j) = {corner[0], corner[1], low[2]};
-        sides.At(1, j) = {corner[0], corner[1], high[2]};
-    }
-    std::vector<ModelMesh> meshes{sides};
-    if (ends)
-        for (const double z : {low[2], high[2]})
-        {
-            ModelMesh end(2, 2);
-            end.Colour = colour;
-            end.At(0, 0) = {low[0], low[1], z};
-            end.At(0, 1) = {high[0], low[1], z};
-            end.At(1, 0) = {low[0], high[1], z};
-            end.At(1, 1) = {high[0], high[1], z};
-            meshes.push_back(end);
-        }
-    return meshes;
 }
 
 void WriteModel(const Model& model, const std::string& path)

@@ -4,7 +4,6 @@
 #pragma once
 #include "assets/common/Colour.h"
 
-#include <array>
 #include <string>
 #include <vector>
 
@@ -28,7 +27,6 @@ struct ModelMesh
     ModelMesh(int rows, int cols); // both at least 1
     ModelPoint& At(int row, int col);
     const ModelPoint& At(int row, int col) const;
-    int Triangles() const { return (Rows - 1) * (Cols - 1) * 2; }
 };
 
 struct SphereLink
@@ -49,7 +47,6 @@ struct Model
     std::vector<ModelMesh> Meshes;
     std::vector<ModelSphere> Spheres;
 
-    int Triangles() const;
     // Distance of the farthest point or sphere edge from the origin.
     double Reach() const;
     // Links every grid point of the meshes first … last that lies within `reach` of the sphere's surface.
@@ -66,10 +63,6 @@ constexpr int FlatColour(int r, int g, int b)
 int FlatColour(Rgb colour);
 // The way back.
 Rgb ColourOf(int flatColour);
-
-// A flat box between two corners as one closed strip of four sides and, on request, its two ends (along z).
-std::vector<ModelMesh> FlatBox(const std::array<double, 3>& low, const std::array<double, 3>& high, int colour,
-                               bool ends);
 
 // Writes the model's commands. Makes the folder. Throws std::runtime_error when the file cannot be written.
 void WriteModel(const Model& model, const std::string& path);

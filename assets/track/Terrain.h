@@ -13,7 +13,7 @@ inline constexpr float FarAway = 1000;
 
 struct Terrain
 {
-    Mask Offset;    // to the left of the nearest centre line; +-FarAway beyond 60 units
+    Mask Offset;    // to the left of the nearest centre line; FarAway where none is within about 48 units
     Mask Along;     // along the lap, units; valid where Offset is
     Mask HalfWidth; // of the road there
     Mask Bend;      // of the road there

@@ -23,7 +23,6 @@ Biquad HighPassOf(double hz, double q);
 Biquad LowPassOf(double hz, double q);
 Biquad BellOf(double hz, double q, double decibels);
 Biquad HighShelfOf(double hz, double decibels);
-Biquad LowShelfOf(double hz, double decibels);
 // The same filter on either side.
 void RunBoth(Stereo& sound, const Biquad& filter);
 }

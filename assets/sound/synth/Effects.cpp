@@ -50,11 +50,6 @@ void HighShelf(Stereo& sound, double hz, double decibels)
     RunBoth(sound, HighShelfOf(hz, decibels));
 }
 
-void LowShelf(Stereo& sound, double hz, double decibels)
-{
-    RunBoth(sound, LowShelfOf(hz, decibels));
-}
-
 void Drive(Stereo& sound, double decibels, double lean)
 {
     DriveSide(sound.Left, Decibels(decibels), lean);

@@ -83,17 +83,6 @@ const Wave& Saw()
     return wave;
 }
 
-const Wave& Triangle()
-{
-    static const Wave wave(
-        [](int harmonic)
-        {
-            const double size = 8 / (Pi * Pi * harmonic * harmonic);
-            return harmonic % 2 == 0 ? 0 : harmonic % 4 == 1 ? size : -size;
-        });
-    return wave;
-}
-
 double Sine(double turns)
 {
     return Between(Sines(), turns - std::floor(turns));

@@ -1,4 +1,5 @@
-// assets/sound/synth/Wave.h: sawtooth and triangle without aliasing: tables with fewer harmonics the higher the note.
+// assets/sound/synth/Wave.h: a sawtooth without aliasing, from tables with fewer harmonics the higher the note, and
+// sines.
 #pragma once
 #include <functional>
 #include <vector>
@@ -20,7 +21,6 @@ private:
 };
 
 const Wave& Saw();
-const Wave& Triangle();
 
 // Sine of `turns` full turns.
 double Sine(double turns);
@@ -33,7 +33,6 @@ public:
     void SetHz(double hz);
     void Advance();
     double SawNow() const { return Saw().At(Phase, Level); }
-    double TriangleNow() const { return Triangle().At(Phase, Level); }
     double SineNow() const { return Sine(Phase); }
     // width: share of the period, 0 .. 1.
     double PulseNow(double width) const;
