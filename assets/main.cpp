@@ -1,9 +1,10 @@
 // velkar-assets ROOT [PART ...]: rebuilds data/ and soundtracks/ below ROOT. Parts: track, cars, hud, sound; all of
 // them when none is named.
-#include "cars/Cars.h"
-#include "hud/Hud.h"
-#include "sound/Sound.h"
-#include "track/Track.h"
+#include "assets/cars/Cars.h"
+#include "assets/hud/Hud.h"
+#include "assets/sound/Sound.h"
+#include "assets/track/Track.h"
+
 #include <algorithm>
 #include <exception>
 #include <iostream>
@@ -11,19 +12,22 @@
 #include <string>
 #include <vector>
 
+namespace
+{
 struct Part
 {
     std::string Name;
     void (*Build)(const std::string& root);
 };
 
-static const std::vector<Part>& Parts()
+const std::vector<Part>& Parts()
 {
-    static const std::vector<Part> parts{{"track", assets::BuildTrack},
-                                         {"cars", assets::BuildCars},
-                                         {"hud", assets::BuildHud},
-                                         {"sound", assets::BuildSound}};
+    static const std::vector<Part> parts{{"track", assets::track::BuildTrack},
+                                         {"cars", assets::cars::BuildCars},
+                                         {"hud", assets::hud::BuildHud},
+                                         {"sound", assets::sound::BuildSound}};
     return parts;
+}
 }
 
 int main(int count, char** values)

@@ -1,8 +1,9 @@
-#include "cars/Body.h"
-#include "cars/Fittings.h"
-#include "cars/Paint.h"
+#include "assets/cars/Body.h"
 
-namespace assets
+#include "assets/cars/Fittings.h"
+#include "assets/cars/Paint.h"
+
+namespace assets::cars
 {
 namespace
 {

@@ -1,9 +1,12 @@
 // The inside of a car, as Fittings.h promises it.
-#include "cars/Fittings.h"
-#include "cars/Pieces.h"
+#include "assets/cars/Fittings.h"
+
+#include "assets/cars/Pieces.h"
+#include "base/Numbers.h"
+
 #include <cmath>
 
-namespace assets
+namespace assets::cars
 {
 namespace
 {
@@ -172,8 +175,8 @@ void AddWindscreen(Model& model, const Design& design)
         for (int j = 0; j < glass.Cols; ++j)
         {
             const Vec3 p = WindscreenPoint(design.Shape, j / 2.0 - 1, i / 2.0);
-            glass.At(i, j) = {p.X, p.Y, p.Z, RoundToInt(j / 4.0 * (GlassWidth - 1)),
-                              RoundToInt(i / 2.0 * (GlassHeight - 1))};
+            glass.At(i, j) = {p.X, p.Y, p.Z, base::RoundEven(j / 4.0 * (GlassWidth - 1)),
+                              base::RoundEven(i / 2.0 * (GlassHeight - 1))};
         }
     model.Meshes.insert(model.Meshes.begin() + GlassMesh, glass);
 }

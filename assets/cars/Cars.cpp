@@ -1,7 +1,9 @@
-#include "cars/Cars.h"
-#include "cars/Body.h"
+#include "assets/cars/Cars.h"
 
-namespace assets
+#include "assets/cars/Body.h"
+#include "assets/common/Bitmap.h"
+
+namespace assets::cars
 {
 void BuildCars(const std::string& root)
 {

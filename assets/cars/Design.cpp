@@ -1,8 +1,8 @@
-#include "cars/Design.h"
-#include "common/Numbers.h"
+#include "assets/cars/Design.h"
+
 #include <cmath>
 
-namespace assets
+namespace assets::cars
 {
 namespace
 {

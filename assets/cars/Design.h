@@ -1,10 +1,13 @@
-// cars/Design.h: what makes one car different from another.
+// assets/cars/Design.h: what makes one car different from another: shape, livery, lamps and fittings.
 #pragma once
-#include "cars/Shape.h"
+#include "assets/cars/Shape.h"
+#include "assets/common/Colour.h"
+#include "assets/common/Vectors.h"
+
 #include <string>
 #include <vector>
 
-namespace assets
+namespace assets::cars
 {
 enum class Front
 {
@@ -46,21 +49,22 @@ enum class Part
     Wing
 };
 struct Design;
+// `p` in metres, as in Shape.h.
 using Livery = Rgb (*)(const Design& design, Part part, Vec3 p);
 
 struct Design
 {
-    std::string Folder;
-    int Number;
-    assets::Shape Shape;
-    assets::Livery Livery;
-    Rgb Base, Second, Third;
-    Rgb Plate, Figures; // behind and of the race number
-    bool Roundel;       // a disc behind the number; else the number stands on the paint
-    assets::Front Front;
-    assets::Rear Rear;
-    assets::Spoiler Spoiler;
-    assets::Rim Rim;
+    std::string Folder; // below data/models
+    int Number;         // of the race, one or two figures
+    cars::Shape Shape;
+    cars::Livery Livery;
+    Rgb Base, Second, Third; // paints, as the livery uses them
+    Rgb Plate, Figures;      // behind and of the race number
+    bool Roundel;            // a disc behind the number; else the number stands on the paint
+    cars::Front Front;
+    cars::Rear Rear;
+    cars::Spoiler Spoiler;
+    cars::Rim Rim;
     Rgb RimColour;
     bool Louvres; // over the rear window
     Rgb Helmet;

@@ -1,9 +1,12 @@
-#include "cars/Fittings.h"
-#include "cars/Paint.h"
-#include "cars/Pieces.h"
+#include "assets/cars/Fittings.h"
+
+#include "assets/cars/Paint.h"
+#include "assets/cars/Pieces.h"
+#include "base/Numbers.h"
+
 #include <cmath>
 
-namespace assets
+namespace assets::cars
 {
 namespace
 {
@@ -108,7 +111,7 @@ Ink ShadowInk(const Sample& s)
     const double x = (s.A - 0.5) * 2, z = (s.B - 0.5) * 2;
     const double out = std::pow(std::pow(std::abs(x), 3.0) + std::pow(std::abs(z), 4.0), 0.3);
     const double density = SmoothStep(1.02, 0.70, out);
-    const int column = RoundToInt(s.A * 55), row = RoundToInt(s.B * 111);
+    const int column = base::RoundEven(s.A * 55), row = base::RoundEven(s.B * 111);
     constexpr int Order[4][4] = {{0, 8, 2, 10}, {12, 4, 14, 6}, {3, 11, 1, 9}, {15, 7, 13, 5}};
     if (density <= (Order[row & 3][column & 3] + 0.5) / 16)
         return {{}, true};

@@ -1,14 +1,16 @@
-// cars/Fittings.h: what a car has besides its body: cabin, wheels, mirrors, wing and shadow.
+// assets/cars/Fittings.h: what a car has besides its body: cabin, wheels, mirrors, wing and shadow. Metres, as in
+// Shape.h. The game knows some meshes by their number, so the order of the calls matters: body, cabin, windscreen,
+// outside, spheres.
 #pragma once
-#include "cars/Design.h"
+#include "assets/cars/Design.h"
 
-namespace assets
+namespace assets::cars
 {
 // The flat panels of the cabin, and the dials and steering wheel (texels from the atlas). From mesh 10 on; at least ten
 // meshes.
 void AddCabin(Model& model, const Design& design, Atlas& atlas, const std::string& texture);
 
-constexpr int GlassMesh = 20;
+inline constexpr int GlassMesh = 20;
 // The glass, inserted as mesh 20: the game puts the broken one there.
 void AddWindscreen(Model& model, const Design& design);
 

@@ -1,10 +1,13 @@
-#include "cars/Paint.h"
-#include "cars/Lettering.h"
+#include "assets/cars/Paint.h"
+
+#include "assets/cars/Lettering.h"
+#include "base/Numbers.h"
+
 #include <cmath>
 #include <memory>
 #include <string>
 
-namespace assets
+namespace assets::cars
 {
 namespace
 {
@@ -73,6 +76,39 @@ std::shared_ptr<Lettering> Figures(const Design& design, double height)
     const bool tight = design.Roundel && design.Number > 9;
     return std::make_shared<Lettering>(std::to_string(design.Number), tight ? height * 0.80 : height, tight ? 1.7 : 2.0,
                                        design.Roundel ? 0.0 : 0.14);
+}
+
+Rgb TailLamps(const Design& design, double x, double y, Rgb lit)
+{
+    constexpr double Middle = 0.635;
+    const double side = std::abs(x);
+    switch (design.Rear)
+    {
+    case Rear::FourRounds:
+        for (const double centre : {0.60, 0.40})
+            if (const double from = Ring(side, y, centre, Middle) / 0.088; from < 1)
+                return from > 0.86 ? Chrome * 0.8 : Lamp(centre > 0.5 ? RedLamp : Mix(RedLamp, AmberLamp, 0.35), from);
+        break;
+    case Rear::Band:
+        if (Near(y, Middle, 0.058) && side < 0.74)
+            return Near(std::fmod(side, 0.148), 0, 0.008)
+                       ? RedLamp * 0.35
+                       : Lamp(side > 0.59 ? AmberLamp : RedLamp, std::abs(y - Middle) * 15);
+        break;
+    case Rear::Blocks:
+        if (Near(y, Middle, 0.075) && Within(side, 0.36, 0.75))
+        {
+            if (Near(side, 0.49, 0.008) || Near(side, 0.62, 0.008) || side < 0.368 || side > 0.742)
+                return Rubber;
+            return Lamp(side > 0.62 ? AmberLamp : side > 0.49 ? RedLamp : Hex(0xE8E4DC), std::abs(y - Middle) * 11);
+        }
+        break;
+    case Rear::Slim:
+        if (Near(y, Middle + 0.03, 0.032) && Within(side, 0.22, 0.76))
+            return Lamp(RedLamp, std::abs(y - Middle - 0.03) * 24);
+        break;
+    }
+    return lit;
 }
 }
 
@@ -240,42 +276,6 @@ Painter NosePainter(const Design& design)
     };
 }
 
-namespace
-{
-Rgb TailLamps(const Design& design, double x, double y, Rgb lit)
-{
-    constexpr double Middle = 0.635;
-    const double side = std::abs(x);
-    switch (design.Rear)
-    {
-    case Rear::FourRounds:
-        for (const double centre : {0.60, 0.40})
-            if (const double from = Ring(side, y, centre, Middle) / 0.088; from < 1)
-                return from > 0.86 ? Chrome * 0.8 : Lamp(centre > 0.5 ? RedLamp : Mix(RedLamp, AmberLamp, 0.35), from);
-        break;
-    case Rear::Band:
-        if (Near(y, Middle, 0.058) && side < 0.74)
-            return Near(std::fmod(side, 0.148), 0, 0.008)
-                       ? RedLamp * 0.35
-                       : Lamp(side > 0.59 ? AmberLamp : RedLamp, std::abs(y - Middle) * 15);
-        break;
-    case Rear::Blocks:
-        if (Near(y, Middle, 0.075) && Within(side, 0.36, 0.75))
-        {
-            if (Near(side, 0.49, 0.008) || Near(side, 0.62, 0.008) || side < 0.368 || side > 0.742)
-                return Rubber;
-            return Lamp(side > 0.62 ? AmberLamp : side > 0.49 ? RedLamp : Hex(0xE8E4DC), std::abs(y - Middle) * 11);
-        }
-        break;
-    case Rear::Slim:
-        if (Near(y, Middle + 0.03, 0.032) && Within(side, 0.22, 0.76))
-            return Lamp(RedLamp, std::abs(y - Middle - 0.03) * 24);
-        break;
-    }
-    return lit;
-}
-}
-
 Painter TailPainter(const Design& design)
 {
     const auto plate = std::make_shared<Lettering>("VK " + std::to_string(design.Number), 0.062, 1.5);
@@ -319,7 +319,7 @@ Painter CabinPainter(const Design& design)
         {
             // A slanting reflection of the sky in every other texel.
             const double slant = a - b * 0.12;
-            const bool odd = ((RoundToInt(a * 159) + RoundToInt(b * 33)) & 1) != 0;
+            const bool odd = ((base::RoundEven(a * 159) + base::RoundEven(b * 33)) & 1) != 0;
             return Within(slant, 0.29, 0.325) && odd ? Ink{Hex(0xA4B4BE)} : Ink{{}, true};
         }
         if (door || pane)

@@ -1,13 +1,16 @@
-#include "cars/Pieces.h"
+#include "assets/cars/Pieces.h"
+
+#include "base/Numbers.h"
+
 #include <algorithm>
 
-namespace assets
+namespace assets::cars
 {
 namespace
 {
 int Flat(Rgb colour)
 {
-    const auto channel = [](double v) { return std::max(1, RoundToInt(Clamp01(v) * 255)); };
+    const auto channel = [](double v) { return std::max(1, base::RoundEven(Clamp01(v) * 255)); };
     return FlatColour(channel(colour.R), channel(colour.G), channel(colour.B));
 }
 }

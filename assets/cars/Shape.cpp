@@ -1,8 +1,9 @@
-#include "cars/Shape.h"
+#include "assets/cars/Shape.h"
+
 #include <algorithm>
 #include <cmath>
 
-namespace assets
+namespace assets::cars
 {
 namespace
 {

@@ -1,10 +1,12 @@
-// cars/Shape.h: the outline of a car as a few curves along z, and the panels that follow from them.
+// assets/cars/Shape.h: the outline of a car as a few curves along z, and the panels that follow from them.
 // Metres; nose toward +z, ground y = 0. The front half of the cabin is the same in all cars: the driver sits there.
 #pragma once
-#include "cars/Surface.h"
+#include "assets/cars/Surface.h"
+#include "assets/common/Vectors.h"
 
-namespace assets
+namespace assets::cars
 {
+// Curves over z.
 struct Shape
 {
     Curve HalfWidth;  // at the widest height
@@ -20,11 +22,11 @@ struct Shape
     double WindowHalf; // its half width there
 };
 
-constexpr double NoseZ = 2.0, TailZ = -2.06; // corners of nose and tail
-constexpr double FrontAxle = 1.30, RearAxle = -1.27, AxleY = 0.315;
-constexpr double ArchRadius = 0.375;
-constexpr double DoorFront = 0.53, DoorRear = -0.60;
-constexpr double RoofHalf = 0.585; // half width of the roof
+inline constexpr double NoseZ = 2.0, TailZ = -2.06; // corners of nose and tail
+inline constexpr double FrontAxle = 1.30, RearAxle = -1.27, AxleY = 0.315;
+inline constexpr double ArchRadius = 0.375;
+inline constexpr double DoorFront = 0.53, DoorRear = -0.60;
+inline constexpr double RoofHalf = 0.585; // half width of the roof
 
 // Points of the surfaces. `side` is -1 left, +1 right; a and b from 0 to 1.
 Vec3 FlankPoint(const Shape& shape, double side, double z, double up);

@@ -1,29 +1,16 @@
-#include "cars/Surface.h"
+#include "assets/cars/Surface.h"
+
+#include "base/Numbers.h"
+
 #include <algorithm>
 #include <cmath>
 #include <stdexcept>
 
-namespace assets
+namespace assets::cars
 {
-double Dot(Vec3 a, Vec3 b)
-{
-    return a.X * b.X + a.Y * b.Y + a.Z * b.Z;
-}
-
-Vec3 Cross(Vec3 a, Vec3 b)
-{
-    return {a.Y * b.Z - a.Z * b.Y, a.Z * b.X - a.X * b.Z, a.X * b.Y - a.Y * b.X};
-}
-
-Vec3 Unit(Vec3 a)
-{
-    const double length = std::sqrt(Dot(a, a));
-    return length > 1e-12 ? a * (1 / length) : Vec3{0, 1, 0};
-}
-
 double Curve::operator()(double at) const
 {
-    const auto& k = _keys;
+    const auto& k = Keys;
     if (at <= k.front().first)
         return k.front().second;
     if (at >= k.back().first)
@@ -45,17 +32,17 @@ double Curve::operator()(double at) const
 
 Atlas::Area Atlas::Reserve(int width, int height)
 {
-    if (_x + width > _picture.Width)
+    if (NextX + width > Sheet.Width)
     {
-        _x = 0;
-        _y += _shelf;
-        _shelf = 0;
+        NextX = 0;
+        NextY += ShelfHeight;
+        ShelfHeight = 0;
     }
-    if (width > _picture.Width || _y + height > _picture.Height)
+    if (width > Sheet.Width || NextY + height > Sheet.Height)
         throw std::runtime_error("a car's texture has no room left");
-    const Area area{_x, _y, width, height};
-    _x += width;
-    _shelf = std::max(_shelf, height);
+    const Area area{NextX, NextY, width, height};
+    NextX += width;
+    ShelfHeight = std::max(ShelfHeight, height);
     return area;
 }
 
@@ -110,8 +97,8 @@ ModelMesh Build(const Panel& panel, const Painter& painter, Atlas& atlas, const 
         {
             const double a = panel.KnotsA[static_cast<std::size_t>(j)], b = panel.KnotsB[static_cast<std::size_t>(i)];
             const Vec3 p = panel.Shape(a, b);
-            mesh.At(i, j) = {p.X, p.Y, p.Z, area.X + RoundToInt(a * (area.Width - 1)),
-                             area.Y + RoundToInt(b * (area.Height - 1))};
+            mesh.At(i, j) = {p.X, p.Y, p.Z, area.X + base::RoundEven(a * (area.Width - 1)),
+                             area.Y + base::RoundEven(b * (area.Height - 1))};
         }
     return mesh;
 }

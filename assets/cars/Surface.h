@@ -1,45 +1,26 @@
-// cars/Surface.h: curved body panels: each is a smooth surface over (a, b), cut into a grid and painted into a texture.
-// Texels are coloured from the smooth surface, so that a coarse grid still looks round.
+// assets/cars/Surface.h: curved body panels: each is a smooth surface over (a, b), cut into a grid and painted into a
+// texture. Texels are coloured from the smooth surface, so that a coarse grid still looks round.
 #pragma once
-#include "common/Canvas.h"
-#include "common/Model3dm.h"
+#include "assets/common/Canvas.h"
+#include "assets/common/Model3dm.h"
+#include "assets/common/Vectors.h"
+
 #include <functional>
 #include <string>
 #include <utility>
 #include <vector>
 
-namespace assets
+namespace assets::cars
 {
-struct Vec3
-{
-    double X = 0, Y = 0, Z = 0;
-};
-
-inline Vec3 operator+(Vec3 a, Vec3 b)
-{
-    return {a.X + b.X, a.Y + b.Y, a.Z + b.Z};
-}
-inline Vec3 operator-(Vec3 a, Vec3 b)
-{
-    return {a.X - b.X, a.Y - b.Y, a.Z - b.Z};
-}
-inline Vec3 operator*(Vec3 a, double k)
-{
-    return {a.X * k, a.Y * k, a.Z * k};
-}
-double Dot(Vec3 a, Vec3 b);
-Vec3 Cross(Vec3 a, Vec3 b);
-Vec3 Unit(Vec3 a); // of a zero vector: straight up
-
 // A smooth curve through (position, value) keys; flat beyond the ends. Positions rise.
 class Curve
 {
 public:
-    Curve(std::initializer_list<std::pair<double, double>> keys) : _keys(keys) {}
+    Curve(std::initializer_list<std::pair<double, double>> keys) : Keys(keys) {}
     double operator()(double at) const;
 
 private:
-    std::vector<std::pair<double, double>> _keys;
+    std::vector<std::pair<double, double>> Keys; // at least one
 };
 
 using Surface = std::function<Vec3(double a, double b)>; // a across the texture, b up it; both 0 to 1
@@ -47,8 +28,8 @@ using Surface = std::function<Vec3(double a, double b)>; // a across the texture
 // What the painter is asked about.
 struct Sample
 {
-    Vec3 P, N;
-    double A = 0, B = 0;
+    Vec3 P, N;           // the place and the outward direction, of unit length
+    double A = 0, B = 0; // where on the panel, 0 to 1
 };
 struct Ink
 {
@@ -61,19 +42,21 @@ using Painter = std::function<Ink(const Sample&)>;
 class Atlas
 {
 public:
-    Atlas(int width, int height) : _picture(width, height) {}
+    Atlas(int width, int height) : Sheet(width, height) {}
 
+    // Texels; (X, Y) is its lower left one.
     struct Area
     {
         int X, Y, Width, Height;
     };
     // Throws std::runtime_error when there is no room left.
     Area Reserve(int width, int height);
-    Canvas& Picture() { return _picture; }
+    Canvas& Picture() { return Sheet; }
 
 private:
-    Canvas _picture;
-    int _x = 0, _y = 0, _shelf = 0;
+    Canvas Sheet;
+    int NextX = 0, NextY = 0; // where the next area goes, if it still fits on the shelf
+    int ShelfHeight = 0;      // of the highest area on it
 };
 
 struct Panel
@@ -87,8 +70,9 @@ struct Panel
 // The surface at (a, b) with its outward direction.
 Sample SampleAt(const Panel& panel, double a, double b);
 
-// Reserves the panel's texels, paints them and returns the grid.
+// Reserves the panel's texels, paints them and returns the grid, textured by the file that `texture` names.
 ModelMesh Build(const Panel& panel, const Painter& painter, Atlas& atlas, const std::string& texture);
 
+// 0 to 1 in `cells` equal steps, both ends included.
 std::vector<double> Evenly(int cells);
 }

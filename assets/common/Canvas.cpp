@@ -1,13 +1,59 @@
-#include "common/Canvas.h"
+#include "assets/common/Canvas.h"
+
+#include "base/Numbers.h"
 
 #include <algorithm>
 
 namespace assets
 {
-Canvas::Canvas(int width, int height, Rgb fill) : Canvas(width, height)
+namespace
 {
-    const Pixel pixel{static_cast<float>(fill.R), static_cast<float>(fill.G), static_cast<float>(fill.B), 1};
-    std::fill(Pixels.begin(), Pixels.end(), pixel);
+Pixel Painted(Rgb colour)
+{
+    return {static_cast<float>(colour.R), static_cast<float>(colour.G), static_cast<float>(colour.B), 1};
+}
+
+// One box pass along a line of `count` values that lie `step` apart.
+void BoxPass(float* values, int count, std::ptrdiff_t step, int reach, std::vector<float>& line)
+{
+    line.resize(static_cast<std::size_t>(count));
+    for (int i = 0; i < count; ++i)
+        line[static_cast<std::size_t>(i)] = values[i * step];
+    const auto value = [&](int i)
+    { return static_cast<double>(line[static_cast<std::size_t>(std::clamp(i, 0, count - 1))]); };
+    double sum = 0;
+    for (int i = -reach; i <= reach; ++i)
+        sum += value(i);
+    for (int i = 0; i < count; ++i)
+    {
+        values[i * step] = static_cast<float>(sum / (2 * reach + 1));
+        sum += value(i + reach + 1) - value(i - reach);
+    }
+}
+
+// Blurs a picture of interleaved channels in place.
+void BlurPlane(float* values, int width, int height, int channels, double radius)
+{
+    if (radius <= 0)
+        return;
+    const int reach = std::max(1, base::RoundEven(radius));
+    std::vector<float> line;
+    for (int pass = 0; pass < 3; ++pass)
+        for (int channel = 0; channel < channels; ++channel)
+        {
+            const std::ptrdiff_t row = static_cast<std::ptrdiff_t>(width) * channels;
+            for (int y = 0; y < height; ++y)
+                BoxPass(values + y * row + channel, width, channels, reach, line);
+            for (int x = 0; x < width; ++x)
+                BoxPass(values + static_cast<std::ptrdiff_t>(x) * channels + channel, height, row, reach, line);
+        }
+}
+
+}
+
+Canvas::Canvas(int width, int height, Rgb fill)
+{
+    Reset(width, height, Painted(fill));
 }
 
 Rgb Canvas::Colour(int x, int y) const
@@ -18,12 +64,12 @@ Rgb Canvas::Colour(int x, int y) const
 
 void Canvas::Set(int x, int y, Rgb colour)
 {
-    At(x, y) = {static_cast<float>(colour.R), static_cast<float>(colour.G), static_cast<float>(colour.B), 1};
+    At(x, y) = Painted(colour);
 }
 
 void Canvas::Blend(int x, int y, Rgb colour, double opacity)
 {
-    if (!Inside(x, y) || opacity <= 0)
+    if (!Has(x, y) || opacity <= 0)
         return;
     Pixel& p = At(x, y);
     const double over = std::min(opacity, 1.0);
@@ -37,7 +83,7 @@ void Canvas::Blend(int x, int y, Rgb colour, double opacity)
 
 void Canvas::Shade(int x, int y, Rgb factor, double amount)
 {
-    if (!Inside(x, y))
+    if (!Has(x, y))
         return;
     Pixel& p = At(x, y);
     p.R = static_cast<float>(p.R * Lerp(1, factor.R, amount));
@@ -45,57 +91,20 @@ void Canvas::Shade(int x, int y, Rgb factor, double amount)
     p.B = static_cast<float>(p.B * Lerp(1, factor.B, amount));
 }
 
-// One box pass along a line of `count` values that lie `step` apart.
-static void BoxPass(float* values, int count, std::ptrdiff_t step, int reach, bool wrap, std::vector<float>& line)
+void Blur(Mask& mask, double radius)
 {
-    line.resize(static_cast<std::size_t>(count));
-    for (int i = 0; i < count; ++i)
-        line[static_cast<std::size_t>(i)] = values[i * step];
-    const auto value = [&](int i) {
-        return static_cast<double>(line[static_cast<std::size_t>(wrap ? Wrap(i, count) : std::clamp(i, 0, count - 1))]);
-    };
-    double sum = 0;
-    for (int i = -reach; i <= reach; ++i)
-        sum += value(i);
-    for (int i = 0; i < count; ++i)
-    {
-        values[i * step] = static_cast<float>(sum / (2 * reach + 1));
-        sum += value(i + reach + 1) - value(i - reach);
-    }
+    BlurPlane(mask.Cells.data(), mask.Width, mask.Height, 1, radius);
 }
 
-// Blurs a picture of interleaved channels in place.
-static void BlurPlane(float* values, int width, int height, int channels, double radius, bool wrapX, bool wrapY)
-{
-    if (radius <= 0)
-        return;
-    const int reach = std::max(1, RoundToInt(radius));
-    std::vector<float> line;
-    for (int pass = 0; pass < 3; ++pass)
-        for (int channel = 0; channel < channels; ++channel)
-        {
-            const std::ptrdiff_t row = static_cast<std::ptrdiff_t>(width) * channels;
-            for (int y = 0; y < height; ++y)
-                BoxPass(values + y * row + channel, width, channels, reach, wrapX, line);
-            for (int x = 0; x < width; ++x)
-                BoxPass(values + static_cast<std::ptrdiff_t>(x) * channels + channel, height, row, reach, wrapY, line);
-        }
-}
-
-void Blur(Mask& mask, double radius, bool wrap)
-{
-    BlurPlane(mask.Values.data(), mask.Width, mask.Height, 1, radius, wrap, wrap);
-}
-
-void Blur(Canvas& canvas, double radius, bool wrapX, bool wrapY)
+void Blur(Canvas& canvas, double radius)
 {
     static_assert(sizeof(Pixel) == 4 * sizeof(float));
     // Colours are weighed by their coverage, so that unpainted pixels do not darken the rim.
-    for (Pixel& p : canvas.Pixels)
+    for (Pixel& p : canvas.Cells)
         p = {p.R * p.A, p.G * p.A, p.B * p.A, p.A};
-    if (!canvas.Pixels.empty())
-        BlurPlane(&canvas.Pixels[0].R, canvas.Width, canvas.Height, 4, radius, wrapX, wrapY);
-    for (Pixel& p : canvas.Pixels)
+    if (!canvas.Cells.empty())
+        BlurPlane(&canvas.Cells[0].R, canvas.Width, canvas.Height, 4, radius);
+    for (Pixel& p : canvas.Cells)
         if (p.A > 0)
             p = {p.R / p.A, p.G / p.A, p.B / p.A, p.A};
 }
@@ -109,8 +118,8 @@ Canvas Resized(const Canvas& canvas, int width, int height)
         {
             const double left = x * stepX, right = left + stepX, low = y * stepY, high = low + stepY;
             double r = 0, g = 0, b = 0, a = 0, total = 0;
-            for (int sy = FloorToInt(low); sy < std::min(canvas.Height, FloorToInt(high - 1e-9) + 1); ++sy)
-                for (int sx = FloorToInt(left); sx < std::min(canvas.Width, FloorToInt(right - 1e-9) + 1); ++sx)
+            for (int sy = base::Floor(low); sy < std::min(canvas.Height, base::Floor(high - 1e-9) + 1); ++sy)
+                for (int sx = base::Floor(left); sx < std::min(canvas.Width, base::Floor(right - 1e-9) + 1); ++sx)
                 {
                     const double weight = (std::min(right, sx + 1.0) - std::max(left, sx * 1.0)) *
                                           (std::min(high, sy + 1.0) - std::max(low, sy * 1.0));

@@ -1,30 +1,15 @@
-#include "Model3dm.h"
+#include "assets/common/Model3dm.h"
+
+#include "assets/common/Output.h"
+#include "base/Numbers.h"
+
 #include <algorithm>
-#include <charconv>
 #include <cmath>
-#include <fstream>
-#include <stdexcept>
-#include <system_error>
 
 namespace assets
 {
 namespace
 {
-// Four decimals without trailing zeros: a tenth of a millimetre, and the same text everywhere.
-std::string Number(double value)
-{
-    std::array<char, 64> text{};
-    const auto result = std::to_chars(text.data(), text.data() + text.size(), value, std::chars_format::fixed, 4);
-    if (result.ec != std::errc())
-        throw std::runtime_error("a coordinate does not fit its text");
-    std::string out(text.data(), result.ptr);
-    while (out.back() == '0')
-        out.pop_back();
-    if (out.back() == '.')
-        out.pop_back();
-    return out == "-0" ? "0" : out;
-}
-
 double Length(double x, double y, double z)
 {
     return std::sqrt(x * x + y * y + z * z);
@@ -49,19 +34,31 @@ void AppendMesh(std::string& out, const ModelMesh& mesh, int index)
         for (int j = 0; j < mesh.Cols; ++j)
         {
             const ModelPoint& p = mesh.At(i, j);
-            out += Joined({"EditObjMeshPt", m, std::to_string(i), std::to_string(j), Number(p.X), Number(p.Y),
-                           Number(p.Z), std::to_string(p.U), std::to_string(p.V)});
+            out += Joined({"EditObjMeshPt", m, std::to_string(i), std::to_string(j), NumberText(p.X), NumberText(p.Y),
+                           NumberText(p.Z), std::to_string(p.U), std::to_string(p.V)});
         }
 }
 
 void AppendSphere(std::string& out, const ModelSphere& sphere, int index)
 {
     const std::string s = std::to_string(index);
-    out += Joined({"EditObjSfere", s, Number(sphere.X), Number(sphere.Y), Number(sphere.Z), Number(sphere.R)});
+    out += Joined(
+        {"EditObjSfere", s, NumberText(sphere.X), NumberText(sphere.Y), NumberText(sphere.Z), NumberText(sphere.R)});
     for (const SphereLink& link : sphere.Links)
         out +=
             Joined({"AddSfereLink", s, std::to_string(link.Mesh), std::to_string(link.Row), std::to_string(link.Col)});
 }
+}
+
+int FlatColour(Rgb colour)
+{
+    return FlatColour(base::RoundByte(colour.R * 255), base::RoundByte(colour.G * 255),
+                      base::RoundByte(colour.B * 255));
+}
+
+Rgb ColourOf(int flatColour)
+{
+    return {(flatColour & 255) / 255.0, (flatColour >> 8 & 255) / 255.0, (flatColour >> 16 & 255) / 255.0};
 }
 
 ModelMesh::ModelMesh(int rows, int cols)
@@ -77,14 +74,6 @@ ModelPoint& ModelMesh::At(int row, int col)
 const ModelPoint& ModelMesh::At(int row, int col) const
 {
     return Points.at(static_cast<std::size_t>(row) * static_cast<std::size_t>(Cols) + static_cast<std::size_t>(col));
-}
-
-int Model::Triangles() const
-{
-    int count = 0;
-    for (const ModelMesh& mesh : Meshes)
-        count += mesh.Triangles();
-    return count;
 }
 
 double Model::Reach() const
@@ -113,36 +102,7 @@ void Model::LinkNear(ModelSphere& sphere, int first, int last, double reach) con
     }
 }
 
-std::vector<ModelMesh> FlatBox(const std::array<double, 3>& low, const std::array<double, 3>& high, int colour,
-                               bool ends)
-{
-    // The four corners of a section, once round and closed.
-    const std::array<std::array<double, 2>, 5> ring{
-        {{low[0], low[1]}, {high[0], low[1]}, {high[0], high[1]}, {low[0], high[1]}, {low[0], low[1]}}};
-    ModelMesh sides(2, 5);
-    sides.Colour = colour;
-    for (int j = 0; j < 5; ++j)
-    {
-        const auto& corner = ring[static_cast<std::size_t>(j)];
-        sides.At(0, j) = {corner[0], corner[1], low[2]};
-        sides.At(1, j) = {corner[0], corner[1], high[2]};
-    }
-    std::vector<ModelMesh> meshes{sides};
-    if (ends)
-        for (const double z : {low[2], high[2]})
-        {
-            ModelMesh end(2, 2);
-            end.Colour = colour;
-            end.At(0, 0) = {low[0], low[1], z};
-            end.At(0, 1) = {high[0], low[1], z};
-            end.At(1, 0) = {low[0], high[1], z};
-            end.At(1, 1) = {high[0], high[1], z};
-            meshes.push_back(end);
-        }
-    return meshes;
-}
-
-void WriteModel(const Model& model, const std::filesystem::path& file)
+void WriteModel(const Model& model, const std::string& path)
 {
     // Every texture is announced once, in order of first use.
     std::vector<std::string> textures;
@@ -154,17 +114,13 @@ void WriteModel(const Model& model, const std::filesystem::path& file)
     for (const std::string& texture : textures)
         out += Joined({"MakeTexture", texture});
     out += Joined({"MakeObj", "0", "0", "0", "0", "0", std::to_string(model.Meshes.size()),
-                   std::to_string(model.Spheres.size()), model.Visible ? "1" : "0", Number(model.Mass)});
-    out += Joined({"SetObjR", Number(model.Reach())});
+                   std::to_string(model.Spheres.size()), model.Visible ? "1" : "0", NumberText(model.Mass)});
+    out += Joined({"SetObjR", NumberText(model.Reach())});
     for (std::size_t m = 0; m < model.Meshes.size(); ++m)
         AppendMesh(out, model.Meshes[m], static_cast<int>(m));
     for (std::size_t s = 0; s < model.Spheres.size(); ++s)
         AppendSphere(out, model.Spheres[s], static_cast<int>(s));
 
-    std::filesystem::create_directories(file.parent_path());
-    std::ofstream stream(file, std::ios::binary);
-    stream << out;
-    if (!stream.flush())
-        throw std::runtime_error("cannot write " + file.string());
+    WriteText(path, out);
 }
 }

@@ -2,8 +2,8 @@
 // World units, y up, ground at y = 0; a car's nose points toward +z. Texels: column 0 left, row 0 at the picture's
 // bottom.
 #pragma once
-#include <array>
-#include <filesystem>
+#include "assets/common/Colour.h"
+
 #include <string>
 #include <vector>
 
@@ -27,7 +27,6 @@ struct ModelMesh
     ModelMesh(int rows, int cols); // both at least 1
     ModelPoint& At(int row, int col);
     const ModelPoint& At(int row, int col) const;
-    int Triangles() const { return (Rows - 1) * (Cols - 1) * 2; }
 };
 
 struct SphereLink
@@ -48,7 +47,6 @@ struct Model
     std::vector<ModelMesh> Meshes;
     std::vector<ModelSphere> Spheres;
 
-    int Triangles() const;
     // Distance of the farthest point or sphere edge from the origin.
     double Reach() const;
     // Links every grid point of the meshes first … last that lies within `reach` of the sphere's surface.
@@ -61,10 +59,11 @@ constexpr int FlatColour(int r, int g, int b)
     return r + g * 256 + b * 65536;
 }
 
-// A flat box between two corners as one closed strip of four sides and, on request, its two ends (along z).
-std::vector<ModelMesh> FlatBox(const std::array<double, 3>& low, const std::array<double, 3>& high, int colour,
-                               bool ends);
+// The same from a colour, limited to 0 .. 1.
+int FlatColour(Rgb colour);
+// The way back.
+Rgb ColourOf(int flatColour);
 
 // Writes the model's commands. Makes the folder. Throws std::runtime_error when the file cannot be written.
-void WriteModel(const Model& model, const std::filesystem::path& file);
+void WriteModel(const Model& model, const std::string& path);
 }

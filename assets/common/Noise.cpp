@@ -1,15 +1,18 @@
-#include "common/Noise.h"
+#include "assets/common/Noise.h"
 
-#include "common/Numbers.h"
+#include "assets/common/Numbers.h"
+#include "base/Numbers.h"
 
 namespace assets
 {
-static int Lattice(int value, int period)
+namespace
+{
+int Lattice(int value, int period)
 {
     return period > 0 ? Wrap(value, period) : value;
 }
 
-static double Gradient(int cellX, int cellY, double dx, double dy, std::uint32_t seed)
+double Gradient(int cellX, int cellY, double dx, double dy, std::uint32_t seed)
 {
     // Eight directions are enough and keep sine and cosine out of the inner loop.
     static constexpr double Diagonal = 0.70710678118654752;
@@ -18,10 +21,11 @@ static double Gradient(int cellX, int cellY, double dx, double dy, std::uint32_t
     const std::uint32_t dir = Hash(cellX, cellY, seed) & 7u;
     return DirX[dir] * dx + DirY[dir] * dy;
 }
+}
 
 double Noise(double x, double y, std::uint32_t seed, int periodX, int periodY)
 {
-    const int x0 = FloorToInt(x), y0 = FloorToInt(y);
+    const int x0 = base::Floor(x), y0 = base::Floor(y);
     const double fx = x - x0, fy = y - y0;
     const int xa = Lattice(x0, periodX), xb = Lattice(x0 + 1, periodX);
     const int ya = Lattice(y0, periodY), yb = Lattice(y0 + 1, periodY);
@@ -50,7 +54,7 @@ double Fbm(double x, double y, std::uint32_t seed, int octaves, int periodX, int
 
 CellDistance Cells(double x, double y, std::uint32_t seed, int periodX, int periodY)
 {
-    const int x0 = FloorToInt(x), y0 = FloorToInt(y);
+    const int x0 = base::Floor(x), y0 = base::Floor(y);
     CellDistance best{1e9, 1e9, 0};
     for (int j = -1; j <= 1; ++j)
         for (int i = -1; i <= 1; ++i)

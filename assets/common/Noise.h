@@ -1,4 +1,4 @@
-// common/Noise.h: gradient noise that can tile. Coordinates are in lattice cells.
+// assets/common/Noise.h: gradient noise that can tile. Coordinates are in lattice cells.
 #pragma once
 #include <cstdint>
 

@@ -1,4 +1,5 @@
-// common/Numbers.h: rounding, clamping and repeatable random numbers for the generators.
+// assets/common/Numbers.h: clamping, mixing and repeatable random numbers for the generators. Rounding is in
+// base/Numbers.h.
 // All randomness comes from hashes of positions, so a picture never depends on drawing order.
 #pragma once
 #include <cmath>
@@ -6,18 +7,7 @@
 
 namespace assets
 {
-constexpr double Pi = 3.14159265358979323846;
-
-// Nearest integer, ties to even.
-inline int RoundToInt(double value)
-{
-    return static_cast<int>(std::lrint(value));
-}
-
-inline int FloorToInt(double value)
-{
-    return static_cast<int>(std::floor(value));
-}
+inline constexpr double Pi = 3.14159265358979323846;
 
 inline double Clamp01(double value)
 {
@@ -67,12 +57,12 @@ inline double HashUnit(int x, int y, std::uint32_t seed)
 class Sequence
 {
 public:
-    explicit Sequence(std::uint32_t seed) : _seed(seed) {}
-    double Next() { return HashUnit(_index++, 17, _seed); }
+    explicit Sequence(std::uint32_t seed) : Seed(seed) {}
+    double Next() { return HashUnit(Index++, 17, Seed); }
     double Between(double low, double high) { return low + (high - low) * Next(); }
 
 private:
-    std::uint32_t _seed;
-    int _index = 0;
+    std::uint32_t Seed;
+    int Index = 0;
 };
 }

@@ -1,19 +1,31 @@
-// Filled shapes of Canvas.h.
-#include "common/Canvas.h"
+#include "assets/common/Shapes.h"
+
+#include "base/Numbers.h"
+
 #include <algorithm>
 
 namespace assets
+{
+namespace
 {
 // Whole pixel range that [low, high] touches, cut to 0 .. size - 1; empty when First > Last.
 struct PixelRange
 {
     int First, Last;
 };
-static PixelRange Touched(double low, double high, int size)
+
+PixelRange Touched(double low, double high, int size)
 {
     if (!(low < size) || !(high > 0))
         return {0, -1};
-    return {FloorToInt(std::max(low, 0.0)), FloorToInt(std::min(high, size - 1e-6))};
+    return {base::Floor(std::max(low, 0.0)), base::Floor(std::min(high, size - 1e-6))};
+}
+
+void Raise(Mask& mask, int x, int y, double value)
+{
+    float& cell = mask.At(x, y);
+    cell = std::max(cell, static_cast<float>(value));
+}
 }
 
 void CoverPolygon(int width, int height, std::span<const Point> outline, const Cover& put)
@@ -78,13 +90,6 @@ void CoverDisc(int width, int height, Point centre, double radius, double softne
         }
 }
 
-static double SegmentDistance(Point a, Point b, double x, double y)
-{
-    const double dx = b.X - a.X, dy = b.Y - a.Y, length = dx * dx + dy * dy;
-    const double t = length > 0 ? Clamp01(((x - a.X) * dx + (y - a.Y) * dy) / length) : 0;
-    return std::hypot(a.X + dx * t - x, a.Y + dy * t - y);
-}
-
 void CoverStroke(int width, int height, std::span<const Point> line, double thickness, bool closed, const Cover& put)
 {
     if (line.empty())
@@ -114,7 +119,7 @@ void CoverStroke(int width, int height, std::span<const Point> line, double thic
             for (int x = c.First; x <= c.Last; ++x)
             {
                 float& cell = nearest.At(x - columns.First, y - rows.First);
-                cell = std::min(cell, static_cast<float>(SegmentDistance(a, b, x + 0.5, y + 0.5)));
+                cell = std::min(cell, static_cast<float>(SegmentDistance(a, b, {x + 0.5, y + 0.5})));
             }
     }
     // A line thinner than a pixel keeps its width and pales instead.
@@ -146,7 +151,7 @@ void FillDisc(Canvas& canvas, Point centre, double radius, Rgb colour, double op
 void FillEllipse(Canvas& canvas, Point centre, double radiusX, double radiusY, Rgb colour, double opacity)
 {
     std::vector<Point> outline;
-    const int corners = std::max(16, RoundToInt(std::max(radiusX, radiusY) * 3));
+    const int corners = std::max(16, base::RoundEven(std::max(radiusX, radiusY) * 3));
     for (int i = 0; i < corners; ++i)
     {
         const double angle = 2 * Pi * i / corners;
@@ -159,12 +164,6 @@ void Stroke(Canvas& canvas, std::span<const Point> line, double thickness, Rgb c
 {
     CoverStroke(canvas.Width, canvas.Height, line, thickness, closed,
                 [&](int x, int y, double c) { canvas.Blend(x, y, colour, c * opacity); });
-}
-
-static void Raise(Mask& mask, int x, int y, double value)
-{
-    float& cell = mask.At(x, y);
-    cell = std::max(cell, static_cast<float>(value));
 }
 
 void FillPolygon(Mask& mask, std::span<const Point> outline, double value)

@@ -1,8 +1,10 @@
-// hud/Dusk.h: the lake after sunset, behind the menu and the splash picture.
+// assets/hud/Dusk.h: the lake after sunset, behind the menu and the splash picture.
 #pragma once
-#include "hud/Portrait.h"
+#include "assets/common/Canvas.h"
+#include "assets/common/Vectors.h"
+#include "assets/hud/Portrait.h"
 
-namespace assets
+namespace assets::hud
 {
 // Directions and places are those of the scene: y up, the eye above the origin, the road leading toward the sun.
 struct Dusk

@@ -1,10 +1,14 @@
-#include "common/Noise.h"
-#include "hud/Dusk.h"
+#include "assets/hud/Dusk.h"
+
+#include "assets/common/Noise.h"
+#include "assets/common/Shapes.h"
+#include "base/Numbers.h"
+
 #include <algorithm>
 #include <array>
 #include <cmath>
 
-namespace assets
+namespace assets::hud
 {
 namespace
 {
@@ -102,9 +106,71 @@ void PaintWindow(Canvas& canvas, Point at, double waterline, Rgb colour, double 
     {
         const double y = waterline - (at.Y - waterline) * 0.3 - i * 1.1;
         const double sway = 1.6 * Noise(at.X * 0.7 + i * 0.9, i * 0.5, 81);
-        canvas.Blend(FloorToInt(at.X + sway), FloorToInt(y), colour,
+        canvas.Blend(base::Floor(at.X + sway), base::Floor(y), colour,
                      0.55 * (1 - i / 26.0) * (0.5 + 0.5 * Noise(i * 0.8, at.X, 82)));
     }
+}
+
+// Sky and mountains at a pixel: `across` and `up` (at least 0) are its line of sight.
+Rgb AboveWater(const Dusk& dusk, double across, double up, int x, int y)
+{
+    Rgb colour = Backdrop(dusk, across, up);
+    if (up <= std::max(FarRidge(across), NearRidge(across)) + 0.001)
+        return colour;
+    const double lit = SmoothStep(0.9, 0.1, std::abs(across - dusk.SunX));
+    const Rgb cloud =
+        Mix(Mix(Hex(0x4A3568), Hex(0x8A4A72), lit), Mix(Hex(0xB05A72), Hex(0xFFB072), lit), SmoothStep(0.26, 0.06, up));
+    colour = Mix(colour, cloud * Lerp(1.0, 0.5, dusk.Night), 0.62 * Cloud(across, up));
+    const double sun = std::hypot(across - dusk.SunX, up - dusk.SunUp);
+    if (dusk.Night < 0.5)
+        colour = Mix(colour, Hex(0xFFF0C0), SmoothStep(0.0305, 0.0285, sun));
+    if (HashUnit(x, y, 90) > 0.9988 && up > 0.24) // a star
+        colour = Mix(colour, {1, 1, 1}, 0.75 * HashUnit(x, y, 91) * SmoothStep(0.24, 0.40, up));
+    return colour;
+}
+
+// The picture upside down, torn by ripples that grow toward the viewer; `down` is above 0.
+Rgb Water(const Dusk& dusk, double across, double down)
+{
+    const double reach = std::min(1.0, down * 9);
+    const double ripple = Fbm(across * 16 / (down + 0.10), 5.0 / (down + 0.022), 66, 3);
+    const double mirrored = std::max(0.0005, down * 1.05 + ripple * 0.055 * (0.15 + reach));
+    const Rgb colour =
+        Backdrop(dusk, across + ripple * 0.02, mirrored) * Mix({0.86, 0.80, 0.82}, {0.56, 0.52, 0.64}, reach);
+    const double path = SmoothStep(0.05 + 0.30 * down, 0.0, std::abs(across - dusk.SunX + 0.02 * ripple));
+    const double spark = SmoothStep(0.10, 0.42, Fbm(across * 42 / (down + 0.16), 9 / (down + 0.026), 67, 3));
+    return colour + Rgb{1.0, 0.70, 0.38} * (path * (0.16 + 0.75 * spark) * Lerp(1.0, 0.25, dusk.Night));
+}
+
+// Windows and lamps under the hill on the right, thick by the water, sparse above.
+void PaintVillage(Canvas& canvas, const SceneView& view)
+{
+    Sequence random(404);
+    for (int i = 0; i < 130; ++i)
+    {
+        const double across = random.Between(0.12, 0.80), high = random.Next() * random.Next();
+        const double height = 0.004 + 0.055 * high * SmoothStep(0.05, 0.5, across);
+        const Rgb colour = Mix(Hex(0xFFB056), Hex(0xFFE9B0), random.Next());
+        const double size = random.Between(0.55, 1.15) * view.Focal / 760;
+        if (height < NearRidge(across) - 0.006)
+            PaintWindow(canvas, {view.CentreX + across * view.Focal, view.HorizonY + height * view.Focal},
+                        view.HorizonY, colour, size);
+    }
+}
+
+// Its lantern is lit.
+void PaintBellTower(Canvas& canvas, const SceneView& view)
+{
+    const double foot = view.CentreX + 0.335 * view.Focal, ground = view.HorizonY + 0.006 * view.Focal;
+    const double unit = view.Focal * 0.001;
+    const Point tower[] = {{foot - 4 * unit, ground},
+                           {foot + 4 * unit, ground},
+                           {foot + 4 * unit, ground + 46 * unit},
+                           {foot, ground + 60 * unit},
+                           {foot - 4 * unit, ground + 46 * unit}};
+    FillPolygon(canvas, tower, Hex(0x2C2340));
+    FillDisc(canvas, {foot, ground + 40 * unit}, 9 * unit, Hex(0xFFC36A), 0.25, 12 * unit);
+    FillRect(canvas, foot - 1.6 * unit, ground + 37 * unit, 3.2 * unit, 6 * unit, Hex(0xFFE2A0));
 }
 }
 
@@ -127,63 +193,13 @@ Rgb SkyColour(const Dusk& dusk, Vec3 direction)
 
 void PaintLake(Canvas& canvas, const Dusk& dusk, const SceneView& view)
 {
-    const auto across = [&](double x) { return (x + 0.5 - view.CentreX) / view.Focal; };
-    const auto up = [&](double y) { return (y + 0.5 - view.HorizonY) / view.Focal; };
     for (int y = 0; y < canvas.Height; ++y)
         for (int x = 0; x < canvas.Width; ++x)
         {
-            const double a = across(x), u = up(y);
-            if (u >= 0)
-            {
-                Rgb colour = Backdrop(dusk, a, u);
-                if (u > std::max(FarRidge(a), NearRidge(a)) + 0.001)
-                {
-                    const double lit = SmoothStep(0.9, 0.1, std::abs(a - dusk.SunX));
-                    const Rgb cloud = Mix(Mix(Hex(0x4A3568), Hex(0x8A4A72), lit),
-                                          Mix(Hex(0xB05A72), Hex(0xFFB072), lit), SmoothStep(0.26, 0.06, u));
-                    colour = Mix(colour, cloud * Lerp(1.0, 0.5, dusk.Night), 0.62 * Cloud(a, u));
-                    const double sun = std::hypot(a - dusk.SunX, u - dusk.SunUp);
-                    if (dusk.Night < 0.5)
-                        colour = Mix(colour, Hex(0xFFF0C0), SmoothStep(0.0305, 0.0285, sun));
-                    if (HashUnit(x, y, 90) > 0.9988 && u > 0.24)
-                        colour = Mix(colour, {1, 1, 1}, 0.75 * HashUnit(x, y, 91) * SmoothStep(0.24, 0.40, u));
-                }
-                canvas.Set(x, y, colour);
-                continue;
-            }
-            // Water: the picture upside down, torn by ripples that grow toward the viewer.
-            const double down = -u, reach = std::min(1.0, down * 9);
-            const double ripple = Fbm(a * 16 / (down + 0.10), 5.0 / (down + 0.022), 66, 3);
-            const double mirrored = std::max(0.0005, down * 1.05 + ripple * 0.055 * (0.15 + reach));
-            Rgb colour =
-                Backdrop(dusk, a + ripple * 0.02, mirrored) * Mix({0.86, 0.80, 0.82}, {0.56, 0.52, 0.64}, reach);
-            const double path = SmoothStep(0.05 + 0.30 * down, 0.0, std::abs(a - dusk.SunX + 0.02 * ripple));
-            const double spark = SmoothStep(0.10, 0.42, Fbm(a * 42 / (down + 0.16), 9 / (down + 0.026), 67, 3));
-            colour = colour + Rgb{1.0, 0.70, 0.38} * (path * (0.16 + 0.75 * spark) * Lerp(1.0, 0.25, dusk.Night));
-            canvas.Set(x, y, colour);
+            const double across = (x + 0.5 - view.CentreX) / view.Focal, up = (y + 0.5 - view.HorizonY) / view.Focal;
+            canvas.Set(x, y, up >= 0 ? AboveWater(dusk, across, up, x, y) : Water(dusk, across, -up));
         }
-    // Windows and lamps of the village under the hill on the right, thick by the water, sparse above.
-    Sequence random(404);
-    for (int i = 0; i < 130; ++i)
-    {
-        const double a = random.Between(0.12, 0.80), high = random.Next() * random.Next();
-        const double height = 0.004 + 0.055 * high * SmoothStep(0.05, 0.5, a);
-        const Rgb colour = Mix(Hex(0xFFB056), Hex(0xFFE9B0), random.Next());
-        const double size = random.Between(0.55, 1.15) * view.Focal / 760;
-        if (height < NearRidge(a) - 0.006)
-            PaintWindow(canvas, {view.CentreX + a * view.Focal, view.HorizonY + height * view.Focal}, view.HorizonY,
-                        colour, size);
-    }
-    // A bell tower, its lantern lit.
-    const double foot = view.CentreX + 0.335 * view.Focal, base = view.HorizonY + 0.006 * view.Focal,
-                 unit = view.Focal * 0.001;
-    const Point tower[] = {{foot - 4 * unit, base},
-                           {foot + 4 * unit, base},
-                           {foot + 4 * unit, base + 46 * unit},
-                           {foot, base + 60 * unit},
-                           {foot - 4 * unit, base + 46 * unit}};
-    FillPolygon(canvas, tower, Hex(0x2C2340));
-    FillDisc(canvas, {foot, base + 40 * unit}, 9 * unit, Hex(0xFFC36A), 0.25, 12 * unit);
-    FillRect(canvas, foot - 1.6 * unit, base + 37 * unit, 3.2 * unit, 6 * unit, Hex(0xFFE2A0));
+    PaintVillage(canvas, view);
+    PaintBellTower(canvas, view);
 }
 }

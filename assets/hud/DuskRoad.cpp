@@ -1,9 +1,13 @@
-#include "common/Noise.h"
-#include "hud/Dusk.h"
+#include "assets/hud/Dusk.h"
+
+#include "assets/common/Noise.h"
+#include "assets/common/Shapes.h"
+#include "base/Numbers.h"
+
 #include <algorithm>
 #include <cmath>
 
-namespace assets
+namespace assets::hud
 {
 namespace
 {
@@ -83,7 +87,7 @@ Rgb GroundColour(const Dusk& dusk, const SceneView& view, const CarPose& car, do
 }
 
 // The stone wall along the lake, where the line of sight meets it; false: it passes above.
-bool WallColour(const Dusk& dusk, Vec3 eye, Vec3 ray, double& depth, Rgb& colour)
+bool WallColour(const Dusk& dusk, Vec3 eye, Vec3 ray, Rgb& colour)
 {
     const double c = std::cos(dusk.RoadHeading), s = std::sin(dusk.RoadHeading);
     const double speed = ray.X * c + ray.Z * s;
@@ -91,15 +95,14 @@ bool WallColour(const Dusk& dusk, Vec3 eye, Vec3 ray, double& depth, Rgb& colour
     if (!(distance > 0))
         return false;
     const Vec3 at = eye + ray * distance;
-    depth = at.Z - eye.Z;
-    if (at.Y > WallHeight || at.Y < 0 || depth > FarEdge)
+    if (at.Y > WallHeight || at.Y < 0 || at.Z - eye.Z > FarEdge)
         return false;
     const double along = OnRoad(dusk, at.X, at.Z).Along;
-    const int course = FloorToInt(at.Y / 0.2);
+    const int course = base::Floor(at.Y / 0.2);
     const double stone = along / 0.62 + course * 0.43;
     const bool joint = std::abs(stone - std::round(stone)) < 0.035 || std::fmod(at.Y, 0.2) < 0.02;
     const double shade =
-        0.75 + 0.35 * HashUnit(FloorToInt(stone + 0.5), course, 57) + 0.15 * Fbm(along * 5, at.Y * 5, 58, 3);
+        0.75 + 0.35 * HashUnit(base::Floor(stone + 0.5), course, 57) + 0.15 * Fbm(along * 5, at.Y * 5, 58, 3);
     colour = Mix(Hex(0x4A3C46), Hex(0x7A5A58), SmoothStep(0.1, WallHeight, at.Y)) * (shade * (joint ? 0.55 : 0.9)) *
              Lerp(1.0, 0.55, dusk.Night);
     if (at.Y > WallHeight - 0.05)
@@ -144,47 +147,38 @@ void PaintTree(Canvas& canvas, Point foot, double height, bool pine, std::uint32
                           {foot.X - trunk, foot.Y + height * 0.8}};
     FillPolygon(canvas, wood, colour);
 }
+
+// Wall or ground on a line of sight that points down; false: neither of them.
+bool RoadColour(const Dusk& dusk, const SceneView& view, const CarPose& car, Vec3 ray, Rgb& colour)
+{
+    if (WallColour(dusk, view.Eye, ray, colour))
+        return true;
+    const double distance = -view.Eye.Y / ray.Y;
+    const Vec3 at = view.Eye + ray * distance;
+    const bool land = at.Z - view.Eye.Z < FarEdge && OnRoad(dusk, at.X, at.Z).Aside > WallAt;
+    if (!land || ray.Y >= 0)
+        return false;
+    colour = GroundColour(dusk, view, car, at.X, at.Z);
+    return true;
 }
 
-void PaintRoad(Canvas& canvas, const Dusk& dusk, const SceneView& view, const CarPose& car)
+// A tree at a place of the road, `height` world units high, paler the farther away.
+void PlaceTree(Canvas& canvas, const Dusk& dusk, const SceneView& view, Point alongAside, double height, bool pine,
+               std::uint32_t seed)
 {
-    constexpr int Fine = 2;
-    for (int y = 0; y < canvas.Height && y < view.HorizonY; ++y)
-        for (int x = 0; x < canvas.Width; ++x)
-        {
-            Rgb sum;
-            int hits = 0;
-            for (int k = 0; k < Fine * Fine; ++k)
-            {
-                const Vec3 ray = view.Ray(x + (k % Fine + 0.5) / Fine, y + (k / Fine + 0.5) / Fine);
-                const double distance = -view.Eye.Y / ray.Y;
-                const Vec3 at = view.Eye + ray * distance;
-                double wallDepth = 0;
-                Rgb colour;
-                if (WallColour(dusk, view.Eye, ray, wallDepth, colour))
-                    ;
-                else if (const bool land = at.Z - view.Eye.Z < FarEdge && OnRoad(dusk, at.X, at.Z).Aside > WallAt;
-                         land && ray.Y < 0)
-                    colour = GroundColour(dusk, view, car, at.X, at.Z);
-                else
-                    continue;
-                sum = sum + colour;
-                ++hits;
-            }
-            if (hits > 0)
-                canvas.Blend(x, y, sum * (1.0 / hits), static_cast<double>(hits) / (Fine * Fine));
-        }
-    // Trees where the road bends away, and some nearer ones that frame the picture.
-    const auto tree = [&](double along, double aside, double height, bool pine, std::uint32_t seed)
-    {
-        const double c = std::cos(dusk.RoadHeading), s = std::sin(dusk.RoadHeading);
-        const Vec3 at{dusk.RoadX - along * s + aside * c, 0, dusk.RoadZ + along * c + aside * s};
-        const Vec3 camera = view.ToCamera(at);
-        if (camera.Z < 2)
-            return;
-        const Rgb colour = Mix(Hex(0x15121F), Hex(0x5A3650), SmoothStep(15, 95, camera.Z)) * Lerp(1.0, 0.6, dusk.Night);
-        PaintTree(canvas, view.Project(camera), height * view.Focal / camera.Z, pine, seed, colour);
-    };
+    const double along = alongAside.X, aside = alongAside.Y;
+    const double c = std::cos(dusk.RoadHeading), s = std::sin(dusk.RoadHeading);
+    const Vec3 at{dusk.RoadX - along * s + aside * c, 0, dusk.RoadZ + along * c + aside * s};
+    const Vec3 camera = view.ToCamera(at);
+    if (camera.Z < 2)
+        return;
+    const Rgb colour = Mix(Hex(0x15121F), Hex(0x5A3650), SmoothStep(15, 95, camera.Z)) * Lerp(1.0, 0.6, dusk.Night);
+    PaintTree(canvas, view.Project(camera), height * view.Focal / camera.Z, pine, seed, colour);
+}
+
+// Where the road bends away, and some nearer ones that frame the picture.
+void PaintTrees(Canvas& canvas, const Dusk& dusk, const SceneView& view)
+{
     for (const auto& [along, aside, height, pine] : {std::tuple{66.0, -3.0, 7.0, true},
                                                      {68.0, 4.0, 8.5, true},
                                                      {64.0, 9.0, 9.5, false},
@@ -198,9 +192,34 @@ void PaintRoad(Canvas& canvas, const Dusk& dusk, const SceneView& view, const Ca
                                                      {69.0, -7.0, 8.0, false},
                                                      {36.0, 17.0, 8.5, false},
                                                      {34.0, 19.5, 10.0, false}})
-        tree(along, aside, height, pine, static_cast<std::uint32_t>(300 + along + 7 * std::abs(aside)));
-    tree(16, 15.5, 10.5, false, 511);
-    tree(13.5, 17.0, 9.0, false, 512);
+        PlaceTree(canvas, dusk, view, {along, aside}, height, pine,
+                  static_cast<std::uint32_t>(300 + along + 7 * std::abs(aside)));
+    PlaceTree(canvas, dusk, view, {16, 15.5}, 10.5, false, 511);
+    PlaceTree(canvas, dusk, view, {13.5, 17.0}, 9.0, false, 512);
+}
+}
+
+void PaintRoad(Canvas& canvas, const Dusk& dusk, const SceneView& view, const CarPose& car)
+{
+    constexpr int Fine = 2; // samples a pixel and axis
+    for (int y = 0; y < canvas.Height && y < view.HorizonY; ++y)
+        for (int x = 0; x < canvas.Width; ++x)
+        {
+            Rgb sum;
+            int hits = 0;
+            for (int k = 0; k < Fine * Fine; ++k)
+            {
+                const Vec3 ray = view.Ray(x + (k % Fine + 0.5) / Fine, y + (k / Fine + 0.5) / Fine);
+                Rgb colour;
+                if (!RoadColour(dusk, view, car, ray, colour))
+                    continue;
+                sum = sum + colour;
+                ++hits;
+            }
+            if (hits > 0)
+                canvas.Blend(x, y, sum * (1.0 / hits), static_cast<double>(hits) / (Fine * Fine));
+        }
+    PaintTrees(canvas, dusk, view);
 }
 
 void Develop(Canvas& canvas, double glow)

@@ -1,16 +1,20 @@
 // The display shrinks its letters by taking every so-manieth row and column, so a stroke three pixels wide comes out
 // one or two wide depending on where it stands. Stems and levels are therefore placed where all the scales in use
 // agree.
-#include "hud/Font.h"
+#include "assets/hud/Font.h"
+
+#include "assets/common/Bitmap.h"
+#include "assets/common/Vectors.h"
+#include "base/Numbers.h"
 #include "base/Text.h"
-#include "common/Canvas.h"
 #include "typeface/Shape.h"
+
 #include <array>
 #include <cmath>
 #include <optional>
 #include <string>
 
-namespace assets
+namespace assets::hud
 {
 namespace
 {
@@ -36,7 +40,7 @@ int Unevenness(int first)
         int hits = 0;
         for (int i = 0; i * 2 <= first + 4; ++i)
         {
-            const int sampled = FloorToInt(i / wanted.Scale);
+            const int sampled = base::Floor(i / wanted.Scale);
             hits += sampled >= first && sampled <= first + 2;
         }
         total += std::abs(hits - wanted.Pixels);
@@ -148,19 +152,14 @@ Mask Render(const typeface::Glyph& glyph)
     double right = 0;
     for (const typeface::Segment& s : strokes.Items())
         right = std::max({right, s.X1, s.X2});
-    const int blank = RoundToInt(glyph.Advance * Unit);
-    const int width = digit ? DigitWidth : strokes.Count() == 0 ? blank : FloorToInt(right + Radius) + 1;
+    const int blank = base::RoundEven(glyph.Advance * Unit);
+    const int width = digit ? DigitWidth : strokes.Count() == 0 ? blank : base::Floor(right + Radius) + 1;
     Mask ink(std::max(width, 1), CellHeight);
     for (const typeface::Segment& s : strokes.Items())
         for (int y = 0; y < ink.Height; ++y)
             for (int x = 0; x < ink.Width; ++x)
-            {
-                const double dx = s.X2 - s.X1, dy = s.Y2 - s.Y1, px = x + 0.5 - s.X1, py = y + 0.5 - s.Y1;
-                const double length = dx * dx + dy * dy;
-                const double t = length > 0 ? Clamp01((px * dx + py * dy) / length) : 0;
-                if (std::hypot(px - t * dx, py - t * dy) <= s.Radius + 0.02)
+                if (SegmentDistance({s.X1, s.Y1}, {s.X2, s.Y2}, {x + 0.5, y + 0.5}) <= s.Radius + 0.02)
                     ink.At(x, y) = 1;
-            }
     return ink;
 }
 }

@@ -1,8 +1,11 @@
-#include "hud/Glass.h"
-#include "common/Canvas.h"
+#include "assets/hud/Glass.h"
+
+#include "assets/common/Bitmap.h"
+#include "assets/common/Shapes.h"
+
 #include <cmath>
 
-namespace assets
+namespace assets::hud
 {
 namespace
 {

@@ -1,13 +1,14 @@
-#include "hud/Hud.h"
-#include "hud/Font.h"
-#include "hud/Glass.h"
-#include "hud/Icon.h"
-#include "hud/Inside.h"
-#include "hud/MenuPictures.h"
-#include "hud/Models.h"
-#include "hud/Sprites.h"
+#include "assets/hud/Hud.h"
 
-namespace assets
+#include "assets/hud/Font.h"
+#include "assets/hud/Glass.h"
+#include "assets/hud/Icon.h"
+#include "assets/hud/Inside.h"
+#include "assets/hud/MenuPictures.h"
+#include "assets/hud/Models.h"
+#include "assets/hud/Sprites.h"
+
+namespace assets::hud
 {
 void BuildHud(const std::string& root)
 {

@@ -1,12 +1,15 @@
-#include "hud/Icon.h"
-#include "common/Canvas.h"
-#include "common/Output.h"
-#include "hud/Neon.h"
+#include "assets/hud/Icon.h"
+
+#include "assets/common/Output.h"
+#include "assets/common/Shapes.h"
+#include "assets/hud/Neon.h"
+#include "base/Numbers.h"
+
 #include <algorithm>
 #include <cmath>
 #include <vector>
 
-namespace assets
+namespace assets::hud
 {
 namespace
 {
@@ -68,37 +71,26 @@ Canvas IconPicture(int shown)
     return Resized(canvas, shown, shown);
 }
 
-std::uint8_t ByteOf(double value)
-{
-    return static_cast<std::uint8_t>(std::clamp(RoundToInt(value * 255), 0, 255));
-}
-
-void PutLittle(std::vector<std::uint8_t>& out, std::uint32_t value, int bytes)
-{
-    for (int i = 0; i < bytes; ++i)
-        out.push_back(static_cast<std::uint8_t>((value >> (8 * i)) & 255u));
-}
-
 // A bitmap header of double height, blue, green, red and coverage from the bottom row, and the mask of older systems.
 std::vector<std::uint8_t> ImageBytes(const Canvas& canvas)
 {
     const auto side = static_cast<std::uint32_t>(canvas.Width);
     const std::uint32_t maskRow = (side + 31) / 32 * 4;
     std::vector<std::uint8_t> out;
-    PutLittle(out, 40, 4);
-    PutLittle(out, side, 4);
-    PutLittle(out, 2 * side, 4);
-    PutLittle(out, 1, 2);
-    PutLittle(out, 32, 2);
-    PutLittle(out, 0, 4); // uncompressed
-    PutLittle(out, side * side * 4 + maskRow * side, 4);
-    PutLittle(out, 0, 4);
-    PutLittle(out, 0, 4);
-    PutLittle(out, 0, 4);
-    PutLittle(out, 0, 4);
-    for (const Pixel& pixel : canvas.Pixels)
+    AppendLittle(out, 40, 4);
+    AppendLittle(out, side, 4);
+    AppendLittle(out, 2 * side, 4);
+    AppendLittle(out, 1, 2);
+    AppendLittle(out, 32, 2);
+    AppendLittle(out, 0, 4); // uncompressed
+    AppendLittle(out, side * side * 4 + maskRow * side, 4);
+    AppendLittle(out, 0, 4);
+    AppendLittle(out, 0, 4);
+    AppendLittle(out, 0, 4);
+    AppendLittle(out, 0, 4);
+    for (const Pixel& pixel : canvas.Cells)
         for (const float value : {pixel.B, pixel.G, pixel.R, pixel.A})
-            out.push_back(ByteOf(value));
+            out.push_back(base::RoundByte(value * 255.0));
     for (int y = 0; y < canvas.Height; ++y)
     {
         std::vector<std::uint8_t> row(maskRow, 0);
@@ -116,21 +108,21 @@ void WriteIcon(const std::string& path)
     std::vector<std::vector<std::uint8_t>> images;
     std::vector<std::uint8_t> out;
     const std::vector<int> sizes = {16, 32, 48, 256};
-    PutLittle(out, 0, 2);
-    PutLittle(out, 1, 2); // an icon
-    PutLittle(out, static_cast<std::uint32_t>(sizes.size()), 2);
+    AppendLittle(out, 0, 2);
+    AppendLittle(out, 1, 2); // an icon
+    AppendLittle(out, static_cast<std::uint32_t>(sizes.size()), 2);
     std::size_t place = 6 + 16 * sizes.size();
     for (const int size : sizes)
     {
         images.push_back(ImageBytes(IconPicture(size)));
         const auto side = static_cast<std::uint32_t>(size % 256); // 256 is written as 0
-        PutLittle(out, side, 1);
-        PutLittle(out, side, 1);
-        PutLittle(out, 0, 2); // no palette
-        PutLittle(out, 1, 2);
-        PutLittle(out, 32, 2);
-        PutLittle(out, static_cast<std::uint32_t>(images.back().size()), 4);
-        PutLittle(out, static_cast<std::uint32_t>(place), 4);
+        AppendLittle(out, side, 1);
+        AppendLittle(out, side, 1);
+        AppendLittle(out, 0, 2); // no palette
+        AppendLittle(out, 1, 2);
+        AppendLittle(out, 32, 2);
+        AppendLittle(out, static_cast<std::uint32_t>(images.back().size()), 4);
+        AppendLittle(out, static_cast<std::uint32_t>(place), 4);
         place += images.back().size();
     }
     for (const std::vector<std::uint8_t>& image : images)

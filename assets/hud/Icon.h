@@ -1,8 +1,8 @@
-// hud/Icon.h: the program's icon on the Windows desktop.
+// assets/hud/Icon.h: the program's icon on the Windows desktop.
 #pragma once
 #include <string>
 
-namespace assets
+namespace assets::hud
 {
 // 16, 32, 48 and 256 pixels, each drawn for its size, 32-bit with coverage.
 void WriteIcon(const std::string& path);

@@ -1,8 +1,8 @@
-// hud/Inside.h: what is seen behind the driver in the webcam's inset.
+// assets/hud/Inside.h: what is seen behind the driver in the webcam's inset.
 #pragma once
 #include <string>
 
-namespace assets
+namespace assets::hud
 {
 // 107 x 80: the rear of the cabin, seen from the dashboard.
 void WriteInside(const std::string& path);

@@ -1,19 +1,24 @@
-#include "hud/MenuPictures.h"
-#include "hud/Dusk.h"
-#include "hud/Neon.h"
+#include "assets/hud/MenuPictures.h"
+
+#include "assets/common/Bitmap.h"
+#include "assets/common/Shapes.h"
+#include "assets/hud/Dusk.h"
+#include "assets/hud/Neon.h"
+#include "base/Numbers.h"
 #include "typeface/Typeface.h"
+
 #include <algorithm>
 #include <cmath>
 
-namespace assets
+namespace assets::hud
 {
 namespace
 {
 void AddGlow(Canvas& canvas, Point at, double radius, Rgb colour)
 {
-    for (int y = FloorToInt(at.Y - radius * 3); y < at.Y + radius * 3; ++y)
-        for (int x = FloorToInt(at.X - radius * 3); x < at.X + radius * 3; ++x)
-            if (canvas.Inside(x, y))
+    for (int y = base::Floor(at.Y - radius * 3); y < at.Y + radius * 3; ++y)
+        for (int x = base::Floor(at.X - radius * 3); x < at.X + radius * 3; ++x)
+            if (canvas.Has(x, y))
             {
                 const double d = std::hypot(x + 0.5 - at.X, y + 0.5 - at.Y) / radius;
                 canvas.Set(x, y, canvas.Colour(x, y) + colour * (std::exp(-d * d * 1.4) + 0.25 * std::exp(-d * 1.6)));
@@ -69,7 +74,7 @@ void HeadGlow(Canvas& canvas, const SceneView& view, const CarPose& pose, double
     }
 }
 
-Canvas MenuScene(const std::vector<Design>& designs)
+Canvas MenuScene(const std::vector<cars::Design>& designs)
 {
     Canvas canvas(1000, 520);
     const SceneView view{{0, 1.55, 0}, 0, 760, 500, 262};
@@ -94,7 +99,7 @@ void Write(Canvas& canvas, std::string_view text, double x, double y, double siz
             canvas.Blend(column, row, colour, ink.At(column, row));
 }
 
-Canvas SplashScene(const std::vector<Design>& designs)
+Canvas SplashScene(const std::vector<cars::Design>& designs)
 {
     constexpr int Fine = 2;
     Canvas canvas(600 * Fine, 312 * Fine);
@@ -119,7 +124,7 @@ Canvas SplashScene(const std::vector<Design>& designs)
 
 void WriteMenuPictures(const std::string& folder)
 {
-    const std::vector<Design> designs = Designs();
+    const std::vector<cars::Design> designs = cars::Designs();
     WriteBmp(folder + "/menu.bmp", MenuScene(designs), Black::Avoid, true);
     WriteBmp(folder + "/splash.bmp", SplashScene(designs), Black::Avoid, true);
     const Canvas title = NeonWord("VELKAR", 1368, 318, {Hex(0xFF8A2C), Hex(0x2CC8FF), 262, 44, 13});

@@ -1,10 +1,14 @@
-#include "hud/Models.h"
-#include "common/Canvas.h"
-#include "common/Model3dm.h"
+#include "assets/hud/Models.h"
+
+#include "assets/common/Bitmap.h"
+#include "assets/common/Model3dm.h"
+#include "assets/common/Shapes.h"
+#include "base/Numbers.h"
 #include "typeface/Typeface.h"
+
 #include <cmath>
 
-namespace assets
+namespace assets::hud
 {
 namespace
 {
@@ -31,8 +35,9 @@ template <std::size_t Rows> ModelMesh Turned(const Profile (&profile)[Rows], dou
             const double angle = 2 * Pi * (j % Around) / Around;
             const Profile& p = profile[static_cast<std::size_t>(i)];
             const double r = p.R + swell;
-            mesh.At(i, j) = {r * std::sin(angle), p.Y, r * std::cos(angle), RoundToInt(j * (ShineWidth - 1.0) / Around),
-                             RoundToInt(i * (ShineHeight - 1.0) / (mesh.Rows - 1))};
+            mesh.At(i, j) = {r * std::sin(angle), p.Y, r * std::cos(angle),
+                             base::RoundEven(j * (ShineWidth - 1.0) / Around),
+                             base::RoundEven(i * (ShineHeight - 1.0) / (mesh.Rows - 1))};
         }
     return mesh;
 }

@@ -1,8 +1,8 @@
-// hud/Models.h: the trophy and the navigation arrow.
+// assets/hud/Models.h: the trophy and the navigation arrow.
 #pragma once
 #include <string>
 
-namespace assets
+namespace assets::hud
 {
 // cup.3dm, hidden at first, with cup.bmp. The game colours meshes 6 (cup) and 7 (handles) gold, silver or bronze.
 void WriteCup(const std::string& folder);

@@ -1,10 +1,12 @@
-#include "hud/Neon.h"
+#include "assets/hud/Neon.h"
+
 #include "typeface/Typeface.h"
+
 #include <algorithm>
 #include <cmath>
 #include <vector>
 
-namespace assets
+namespace assets::hud
 {
 namespace
 {

@@ -1,9 +1,10 @@
-// hud/Neon.h: words bent from glass tubes.
+// assets/hud/Neon.h: words bent from glass tubes, for the title and the icon. Lengths are pixels.
 #pragma once
-#include "common/Canvas.h"
+#include "assets/common/Canvas.h"
+
 #include <string_view>
 
-namespace assets
+namespace assets::hud
 {
 struct Tubes
 {

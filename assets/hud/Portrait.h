@@ -1,10 +1,12 @@
-// hud/Portrait.h: cars drawn finely for the menu's pictures, from the same surfaces as the game's models.
+// assets/hud/Portrait.h: cars drawn finely for the menu's pictures, from the same surfaces as the game's models.
 #pragma once
-#include "cars/Design.h"
-#include "common/Canvas.h"
+#include "assets/cars/Design.h"
+#include "assets/common/Canvas.h"
+#include "assets/common/Vectors.h"
+
 #include <functional>
 
-namespace assets
+namespace assets::hud
 {
 // A camera that looks along `Yaw` without tilt; the horizon lies at row HorizonY.
 struct SceneView
@@ -41,5 +43,6 @@ struct CarPose
     Vec3 Turned(Vec3 direction) const;
 };
 
-void DrawCar(Canvas& canvas, const Design& design, const SceneView& view, const CarPose& pose, const CarLight& light);
+void DrawCar(Canvas& canvas, const cars::Design& design, const SceneView& view, const CarPose& pose,
+             const CarLight& light);
 }

@@ -1,10 +1,12 @@
-#include "hud/Sprites.h"
-#include "common/Canvas.h"
-#include "common/Noise.h"
+#include "assets/hud/Sprites.h"
+
+#include "assets/common/Bitmap.h"
+#include "assets/common/Noise.h"
+
 #include <cmath>
 #include <functional>
 
-namespace assets
+namespace assets::hud
 {
 namespace
 {

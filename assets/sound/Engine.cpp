@@ -1,5 +1,8 @@
-#include "sound/Engine.h"
-#include "common/Numbers.h"
+#include "assets/sound/Engine.h"
+
+#include "assets/common/Numbers.h"
+#include "base/Numbers.h"
+
 #include <algorithm>
 #include <array>
 #include <cmath>
@@ -151,7 +154,7 @@ std::vector<std::uint8_t> EngineLoop()
 
     std::vector<std::uint8_t> bytes;
     for (const double value : loop)
-        bytes.push_back(static_cast<std::uint8_t>(128 + RoundToInt(value)));
+        bytes.push_back(static_cast<std::uint8_t>(128 + base::RoundEven(value)));
     return bytes;
 }
 }

@@ -1,4 +1,4 @@
-// sound/Engine.h: the running engine, as one loop.
+// assets/sound/Engine.h: the running engine, as one loop.
 #pragma once
 #include <cstdint>
 #include <vector>

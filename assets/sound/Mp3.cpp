@@ -1,6 +1,9 @@
-#include "sound/Mp3.h"
-#include "common/Output.h"
+#include "assets/sound/Mp3.h"
+
+#include "assets/common/Output.h"
+
 #include <lame/lame.h>
+
 #include <memory>
 #include <stdexcept>
 

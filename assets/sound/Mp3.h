@@ -1,6 +1,7 @@
-// sound/Mp3.h: pieces as MP3 files.
+// assets/sound/Mp3.h: pieces as MP3 files. The only user of the encoder.
 #pragma once
-#include "sound/synth/Stereo.h"
+#include "assets/sound/synth/Stereo.h"
+
 #include <string>
 
 namespace assets::sound

@@ -1,29 +1,29 @@
-#include "sound/Sound.h"
-#include "common/Output.h"
-#include "sound/Engine.h"
-#include "sound/Mp3.h"
-#include "sound/Tracks.h"
+#include "assets/sound/Sound.h"
 
-namespace assets
+#include "assets/common/Output.h"
+#include "assets/sound/Engine.h"
+#include "assets/sound/Mp3.h"
+#include "assets/sound/Tracks.h"
+
+namespace assets::sound
 {
 namespace
 {
 struct Piece
 {
     const char* Title; // the game shows the file's name
-    sound::Stereo (*Play)();
+    Stereo (*Play)();
 };
-constexpr Piece Pieces[] = {{"Luci sul lago", sound::LuciSulLago},
-                            {"Limonata sul molo", sound::LimonataSulMolo},
-                            {"Tornanti", sound::Tornanti}};
+constexpr Piece Pieces[] = {
+    {"Luci sul lago", LuciSulLago}, {"Limonata sul molo", LimonataSulMolo}, {"Tornanti", Tornanti}};
 }
 
 void BuildSound(const std::string& root)
 {
-    WriteBytes(root + "/data/sounds/engine_01.pcm", sound::EngineLoop());
+    WriteBytes(root + "/data/sounds/engine_01.pcm", EngineLoop());
     int number = 0;
     for (const Piece& piece : Pieces)
-        sound::WriteMp3(root + "/soundtracks/" + piece.Title + ".mp3", piece.Play(),
-                        {piece.Title, "Velkar Team", "Velkar", ++number});
+        WriteMp3(root + "/soundtracks/" + piece.Title + ".mp3", piece.Play(),
+                 {piece.Title, "Velkar Team", "Velkar", ++number});
 }
 }

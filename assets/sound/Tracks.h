@@ -1,6 +1,7 @@
-// sound/Tracks.h: the pieces of music that ship. Each is its score and its recording in one file of tracks/.
+// assets/sound/Tracks.h: the pieces of music that ship. Each is its score and its recording in one file of tracks/; a
+// call plays the whole piece. Throws std::runtime_error where a score is wrong.
 #pragma once
-#include "sound/synth/Stereo.h"
+#include "assets/sound/synth/Stereo.h"
 
 namespace assets::sound
 {

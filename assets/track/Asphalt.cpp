@@ -1,9 +1,12 @@
 // Road, pit lane, kerbs and gravel beds of the ground.
-#include "common/Noise.h"
-#include "track/Ground.h"
+#include "assets/track/Ground.h"
+
+#include "assets/common/Noise.h"
+#include "base/Numbers.h"
+
 #include <algorithm>
 
-namespace assets
+namespace assets::track
 {
 namespace
 {
@@ -42,9 +45,9 @@ Rgb Asphalt(int x, int z, double s, double offset, double line, double bend)
     if (stone > 0.985)
         colour = colour * 1.22;
     // Resurfaced lengths, each a little different, and mended patches.
-    const int stretch = FloorToInt((s + 7 * std::sin(offset / 11)) / 67);
+    const int stretch = base::Floor((s + 7 * std::sin(offset / 11)) / 67);
     colour = colour * (0.955 + 0.10 * HashUnit(stretch, 3, 605));
-    const int cellS = FloorToInt(s / 9), cellO = FloorToInt((offset + 20) / 3.4);
+    const int cellS = base::Floor(s / 9), cellO = base::Floor((offset + 20) / 3.4);
     if (HashUnit(cellS, cellO, 606) > 0.94)
     {
         const double u = s / 9 - cellS, v = (offset + 20) / 3.4 - cellO;
@@ -79,7 +82,7 @@ Rgb Kerb(int x, int z, double s, double across)
 // 0 to 1: is there a kerb here on the left (side +1) or right (side -1)?
 bool HasKerb(const Circuit& road, double s, double side)
 {
-    const int i = RoundToInt(s / road.Length * road.Count());
+    const int i = base::RoundEven(s / road.Length * road.Count());
     for (int k = -12; k <= 12; k += 4)
         if (road.At(i + k).Bend * side > 0.0095)
             return true; // inside of the bend

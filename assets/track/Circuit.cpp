@@ -1,8 +1,10 @@
-#include "track/Circuit.h"
+#include "assets/track/Circuit.h"
+
+#include "base/Numbers.h"
 
 #include <algorithm>
 
-namespace assets
+namespace assets::track
 {
 namespace
 {
@@ -169,7 +171,7 @@ Circuit MakeCircuit()
     std::vector<Point> line = Even(Outline(), 2200);
     Ease(line, 9);
     Ease(line, 6);
-    const int count = RoundToInt(LengthOf(line));
+    const int count = base::RoundEven(LengthOf(line));
     line = Even(line, count);
     RotateToStart(line);
     Circuit circuit;
@@ -204,7 +206,7 @@ Circuit MakeCircuit()
 RoadPoint Circuit::Along(double s) const
 {
     const double place = s / Length * Count();
-    const int i = FloorToInt(place);
+    const int i = base::Floor(place);
     const double t = place - i;
     const RoadPoint &a = At(i), &b = At(i + 1);
     RoadPoint p = a;

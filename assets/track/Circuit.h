@@ -1,9 +1,11 @@
-// track/Circuit.h: the course of the road. x is east, z is north, world units; the lap runs anticlockwise.
+// assets/track/Circuit.h: the course of the road. x is east, z is north, world units; the lap runs anticlockwise.
 #pragma once
-#include "common/Canvas.h"
+#include "assets/common/Numbers.h"
+#include "assets/common/Vectors.h"
+
 #include <vector>
 
-namespace assets
+namespace assets::track
 {
 // One point of the centre line, about one unit from the next.
 struct RoadPoint
@@ -35,5 +37,5 @@ struct Circuit
 Circuit MakeCircuit();
 
 // Where the start line crosses the main straight.
-constexpr Point StartLine{236, 219.3};
+inline constexpr Point StartLine{236, 219.3};
 }

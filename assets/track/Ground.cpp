@@ -1,11 +1,13 @@
-#include "track/Ground.h"
+#include "assets/track/Ground.h"
 
 #include <thread>
 #include <vector>
 
-namespace assets
+namespace assets::track
 {
-static void PaintRows(Canvas& ground, const Plan& plan, const Terrain& terrain, int first, int step)
+namespace
+{
+void PaintRows(Canvas& ground, const Plan& plan, const Terrain& terrain, int first, int step)
 {
     for (int z = first; z < GroundSize; z += step)
         for (int x = 0; x < GroundSize; ++x)
@@ -21,6 +23,7 @@ static void PaintRows(Canvas& ground, const Plan& plan, const Terrain& terrain, 
             colour = Mix(colour, gravel.Colour, gravel.Cover);
             ground.Set(x, z, Mix(colour, road.Colour, road.Cover));
         }
+}
 }
 
 Canvas PaintGround(const Plan& plan)

@@ -1,9 +1,12 @@
-// track/Ground.h: the ground bitmap, four texels a unit: row 0 is z = 0, column 0 is x = 0.
+// assets/track/Ground.h: the ground bitmap, four texels a unit: row 0 is z = 0, column 0 is x = 0. Land.cpp,
+// Asphalt.cpp, Markings.cpp and Shadows.cpp each paint the layer they are named for.
 #pragma once
-#include "track/Terrain.h"
+#include "assets/common/Canvas.h"
+#include "assets/track/Terrain.h"
+
 #include <string>
 
-namespace assets
+namespace assets::track
 {
 // One texel of the land or of the lake, without road and shadows.
 Rgb LandColour(const Plan& plan, const Terrain& terrain, int x, int z);
@@ -12,7 +15,7 @@ Rgb LandColour(const Plan& plan, const Terrain& terrain, int x, int z);
 struct Surface
 {
     Rgb Colour;
-    double Cover = 0;
+    double Cover = 0; // 0 to 1
 };
 Surface RoadSurface(const Plan& plan, const Terrain& terrain, int x, int z); // also pit lane and kerbs
 Surface GravelSurface(const Plan& plan, const Terrain& terrain, int x, int z);
@@ -22,5 +25,6 @@ void PaintMarkings(Canvas& ground, const Plan& plan);
 // Shadows of everything that stands.
 void PaintShadows(Canvas& ground, const Plan& plan);
 
+// All layers, on two threads.
 Canvas PaintGround(const Plan& plan);
 }

@@ -1,10 +1,14 @@
 // Village houses, villa, church and bell tower. Walls stand along the axes: each side has its own light.
-#include "common/Noise.h"
-#include "track/Light.h"
-#include "track/Models.h"
+#include "assets/track/Models.h"
+
+#include "assets/common/Noise.h"
+#include "assets/common/Shapes.h"
+#include "assets/track/Light.h"
+#include "base/Numbers.h"
+
 #include <array>
 
-namespace assets
+namespace assets::track
 {
 namespace
 {
@@ -86,7 +90,7 @@ void Facade(Canvas& sheet, const Region& r, const House& house, int side, double
     const Region whole{0, 0, r.Width, r.Height};
     Plaster(wall, whole, house.Plaster, light, house.Seed * 31u + static_cast<std::uint32_t>(side));
     const double perUnit = r.Width / metres, storey = r.Height / (house.Floors + 0.12);
-    const int columns = std::max(1, RoundToInt(metres / 2.9));
+    const int columns = std::max(1, base::RoundEven(metres / 2.9));
     const double width = 1.0 * perUnit, high = storey * 0.46;
     for (int floor = 0; floor < house.Floors; ++floor)
         for (int column = 0; column < columns; ++column)
@@ -302,10 +306,10 @@ void WriteTower(const ModelFolder& folder)
     folder.Texture("tower", sheet);
     Model model;
     model.Mass = HeavyMass;
-    const Corner3 corners[] = {{-1, 0, -1}, {1, 0, -1}, {1, 0, 1}, {-1, 0, 1}};
+    const Vec3 corners[] = {{-1, 0, -1}, {1, 0, -1}, {1, 0, 1}, {-1, 0, 1}};
     for (int side = 0; side < 4; ++side)
     {
-        const Corner3 a = corners[side], b = corners[(side + 1) % 4];
+        const Vec3 a = corners[side], b = corners[(side + 1) % 4];
         model.Meshes.push_back(Upright("tower", {side * Side, 32, Side, High}, a.X * Half, a.Z * Half, b.X * Half,
                                        b.Z * Half, 0, Top, 1, 4));
         const double eaves = Half + 0.5;

@@ -1,9 +1,11 @@
 // Grass, fields, tracks, streets, shore and water of the ground.
-#include "common/Noise.h"
-#include "track/Ground.h"
+#include "assets/track/Ground.h"
+
+#include "assets/common/Noise.h"
+
 #include <algorithm>
 
-namespace assets
+namespace assets::track
 {
 namespace
 {

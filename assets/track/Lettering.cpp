@@ -1,9 +1,11 @@
-#include "track/Lettering.h"
+#include "assets/track/Lettering.h"
+
+#include "assets/common/Shapes.h"
 
 #include <array>
 #include <string>
 
-namespace assets
+namespace assets::track
 {
 namespace
 {

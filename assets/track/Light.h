@@ -1,16 +1,16 @@
-// track/Light.h: the one sun that every shadow, facade and cloud of the world agrees on.
+// assets/track/Light.h: the one sun that every shadow, facade and cloud of the world agrees on.
 #pragma once
-#include "common/Canvas.h"
+#include "assets/common/Colour.h"
 
-namespace assets
+namespace assets::track
 {
 // Late afternoon: the sun stands in the west-north-west, across the lake. x is east, z is north, y is up.
-constexpr double SunX = -0.80, SunZ = 0.60; // unit vector on the ground, toward the sun
-constexpr double SunYaw = 0.9273;           // the camera yaw that looks into the sun
-constexpr double ShadowLength = 2.2;        // ground length of the shadow of one unit of height (24 degrees)
+inline constexpr double SunX = -0.80, SunZ = 0.60; // unit vector on the ground, toward the sun
+inline constexpr double SunYaw = 0.9273;           // the camera yaw that looks into the sun
+inline constexpr double ShadowLength = 2.2;        // ground length of the shadow of one unit of height (24 degrees)
 
-constexpr Rgb SunLight{1.06, 0.98, 0.84};
-constexpr Rgb ShadeLight{0.56, 0.62, 0.74};
+inline constexpr Rgb SunLight{1.06, 0.98, 0.84};
+inline constexpr Rgb ShadeLight{0.56, 0.62, 0.74};
 
 // Light on a wall with this outward direction on the ground (unit length): 0 in the shade, 1 facing the sun.
 inline double Facing(double normalX, double normalZ)

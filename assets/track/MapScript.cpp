@@ -1,49 +1,27 @@
-#include "track/MapScript.h"
+#include "assets/track/MapScript.h"
 
-#include "track/Models.h"
-#include "track/Race.h"
-#include <cstdio>
-#include <filesystem>
-#include <fstream>
+#include "assets/common/Output.h"
+#include "assets/track/Models.h"
+#include "assets/track/Race.h"
+#include "base/Numbers.h"
+
 #include <map>
-#include <stdexcept>
 
-namespace assets
+namespace assets::track
 {
 namespace
 {
-std::string Number(double value)
-{
-    char text[32];
-    std::snprintf(text, sizeof text, "%.4f", value);
-    std::string result = text;
-    while (result.back() == '0')
-        result.pop_back();
-    if (result.back() == '.')
-        result.pop_back();
-    return result == "-0" ? "0" : result;
-}
-
-void WriteText(const std::string& path, const std::string& text)
-{
-    std::filesystem::create_directories(std::filesystem::path(path).parent_path());
-    std::ofstream stream(path, std::ios::binary);
-    stream << text;
-    if (!stream)
-        throw std::runtime_error("cannot write " + path);
-}
-
 std::string Zones(const std::vector<Zone>& zones)
 {
     std::string text;
     for (const Zone& zone : zones)
-        text += Number(zone.X) + ",0," + Number(zone.Z) + "," + Number(zone.R) + "\n";
+        text += NumberText(zone.X) + ",0," + NumberText(zone.Z) + "," + NumberText(zone.R) + "\n";
     return text;
 }
 
 std::string Place(double x, double z, double angle, bool visible)
 {
-    return Number(x) + ",0," + Number(z) + "," + Number(angle) + ",0," + (visible ? "1" : "0") + "\n";
+    return NumberText(x) + ",0," + NumberText(z) + "," + NumberText(angle) + ",0," + (visible ? "1" : "0") + "\n";
 }
 
 // The first of a kind is loaded, the others copy it.
@@ -64,7 +42,7 @@ std::string Scenery(const Plan& plan)
 
 std::string GuardName(double radius)
 {
-    return "guard_" + std::to_string(RoundToInt(radius * 10));
+    return "guard_" + std::to_string(base::RoundEven(radius * 10));
 }
 
 std::string Guards(const Plan& plan, const std::string& folder)
@@ -96,10 +74,10 @@ std::string Cars(const Plan& plan, const std::string& folder)
     {
         const Driver& d = Drivers()[i];
         const std::string number = std::to_string(i + 1);
-        WriteText(folder + "/p" + number + ".player", Number(d.Steering) + "," + Number(d.TopSpeed) + "," +
-                                                          Number(d.ReverseSpeed) + "," + Number(d.Acceleration) + "," +
-                                                          Number(d.Brake) + "," + Number(d.Friction) + "," +
-                                                          (i == 0 ? "0" : "1") + "\n");
+        WriteText(folder + "/p" + number + ".player", NumberText(d.Steering) + "," + NumberText(d.TopSpeed) + "," +
+                                                          NumberText(d.ReverseSpeed) + "," +
+                                                          NumberText(d.Acceleration) + "," + NumberText(d.Brake) + "," +
+                                                          NumberText(d.Friction) + "," + (i == 0 ? "0" : "1") + "\n");
         const Standing place = GridPlace(plan.Road, GridSlots()[i]);
         text += "LoadPlayer,\"<path>p" + number + ".player\",\"<path>..\\..\\models\\car_" + number + "\\car.3dm\"," +
                 Place(place.X, place.Z, place.Angle, true);

@@ -1,10 +1,14 @@
 // What is painted, worn or laid into the road.
-#include "common/Noise.h"
-#include "track/Ground.h"
-#include "track/Lettering.h"
+#include "assets/track/Ground.h"
+
+#include "assets/common/Noise.h"
+#include "assets/common/Shapes.h"
+#include "assets/track/Lettering.h"
+#include "base/Numbers.h"
+
 #include <algorithm>
 
-namespace assets
+namespace assets::track
 {
 namespace
 {
@@ -13,40 +17,40 @@ constexpr Rgb White{0.93, 0.92, 0.88}, Yellow{0.93, 0.76, 0.22}, Dark{0.16, 0.15
 class Brush
 {
 public:
-    Brush(Canvas& ground, const Circuit& road) : _ground(ground), _road(road) {}
+    Brush(Canvas& ground, const Circuit& road) : Ground(ground), Road(road) {}
 
     Point Texel(double s, double left) const
     {
-        const Point p = _road.Place(s, left);
+        const Point p = Road.Place(s, left);
         return {p.X * TexelsPerUnit, p.Y * TexelsPerUnit};
     }
-    double HalfWidth(double s) const { return _road.Along(s).HalfWidth; }
-    const RoadPoint& Near(double s) const { return _road.At(RoundToInt(s / _road.Length * _road.Count())); }
+    double HalfWidth(double s) const { return Road.Along(s).HalfWidth; }
+    const RoadPoint& Near(double s) const { return Road.At(base::RoundEven(s / Road.Length * Road.Count())); }
 
     // A line that keeps its distance; worn unevenly.
     void Line(double s0, double s1, double left0, double left1, double width, Rgb colour, double opacity = 0.9)
     {
         std::vector<Point> line;
-        const int steps = std::max(1, RoundToInt((s1 - s0) / 2));
+        const int steps = std::max(1, base::RoundEven((s1 - s0) / 2));
         for (int i = 0; i <= steps; ++i)
             line.push_back(Texel(Lerp(s0, s1, 1.0 * i / steps), Lerp(left0, left1, 1.0 * i / steps)));
         Worn(line, width, colour, opacity);
     }
     void Worn(const std::vector<Point>& line, double width, Rgb colour, double opacity)
     {
-        CoverStroke(_ground.Width, _ground.Height, line, width * TexelsPerUnit, false,
+        CoverStroke(Ground.Width, Ground.Height, line, width * TexelsPerUnit, false,
                     [&](int x, int y, double c)
                     {
                         const double wear = 0.8 + 0.35 * Fbm(x / 14.0, y / 14.0, 701, 3) - 0.15 * HashUnit(x, y, 702);
-                        _ground.Blend(x, y, colour, c * opacity * Clamp01(wear));
+                        Ground.Blend(x, y, colour, c * opacity * Clamp01(wear));
                     });
     }
     void Patch(double s0, double s1, double left0, double left1, Rgb colour, double opacity)
     {
         const Point corners[] = {Texel(s0, left0), Texel(s1, left0), Texel(s1, left1), Texel(s0, left1)};
-        CoverPolygon(_ground.Width, _ground.Height, corners,
+        CoverPolygon(Ground.Width, Ground.Height, corners,
                      [&](int x, int y, double c)
-                     { _ground.Blend(x, y, colour, c * opacity * (0.85 + 0.15 * HashUnit(x, y, 703))); });
+                     { Ground.Blend(x, y, colour, c * opacity * (0.85 + 0.15 * HashUnit(x, y, 703))); });
     }
     // Letters `tall` units long along `up` (+1: read along the lap, -1: against it, 0: from the left side).
     void Text(std::string_view text, double s, double left, double tall, double stretch, int up, Rgb colour,
@@ -67,7 +71,7 @@ public:
     // A dark tyre mark that fades in and out.
     void Skid(double s0, double s1, double left0, double left1, double strength, std::uint32_t seed)
     {
-        const int steps = std::max(4, RoundToInt((s1 - s0) / 1.5));
+        const int steps = std::max(4, base::RoundEven((s1 - s0) / 1.5));
         for (int i = 0; i < steps; ++i)
         {
             const double t = (i + 0.5) / steps, s = Lerp(s0, s1, t);
@@ -78,17 +82,17 @@ public:
             {
                 const Point a = Texel(s - 0.8, left + wheel), b = Texel(s + 0.8, left + wheel);
                 const Point piece[] = {a, b};
-                CoverStroke(_ground.Width, _ground.Height, piece, 0.32 * TexelsPerUnit, false,
+                CoverStroke(Ground.Width, Ground.Height, piece, 0.32 * TexelsPerUnit, false,
                             [&](int x, int y, double c) {
-                                _ground.Shade(x, y, {0.72, 0.72, 0.73}, c * fade * strength);
+                                Ground.Shade(x, y, {0.72, 0.72, 0.73}, c * fade * strength);
                             });
             }
         }
     }
 
 private:
-    Canvas& _ground;
-    const Circuit& _road;
+    Canvas& Ground;
+    const Circuit& Road;
 };
 
 void EdgeLines(Brush& brush, double length)
@@ -106,7 +110,7 @@ void EdgeLines(Brush& brush, double length)
 void StartAndGrid(Brush& brush)
 {
     const double half = brush.HalfWidth(0) - 0.8, square = 0.8;
-    const int across = FloorToInt(2 * half / square);
+    const int across = base::Floor(2 * half / square);
     for (int row = 0; row < 4; ++row)
         for (int i = 0; i < across; ++i)
             brush.Patch(row * square, (row + 1) * square, -half + i * square, -half + (i + 1) * square,

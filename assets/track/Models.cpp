@@ -1,14 +1,19 @@
-#include "track/Models.h"
+#include "assets/track/Models.h"
 
-namespace assets
+#include "base/Numbers.h"
+
+namespace assets::track
 {
-static Corner3 Between(Corner3 a, Corner3 b, double t)
+namespace
+{
+Vec3 Between(Vec3 a, Vec3 b, double t)
 {
     return {Lerp(a.X, b.X, t), Lerp(a.Y, b.Y, t), Lerp(a.Z, b.Z, t)};
 }
+}
 
-ModelMesh Face(const std::string& texture, const Region& region, Corner3 lowLeft, Corner3 lowRight, Corner3 upRight,
-               Corner3 upLeft, int across, int up)
+ModelMesh Face(const std::string& texture, const Region& region, Vec3 lowLeft, Vec3 lowRight, Vec3 upRight, Vec3 upLeft,
+               int across, int up)
 {
     ModelMesh mesh(up + 1, across + 1);
     mesh.Texture = ModelFolder::PathOf(texture);
@@ -16,17 +21,17 @@ ModelMesh Face(const std::string& texture, const Region& region, Corner3 lowLeft
         for (int j = 0; j <= across; ++j)
         {
             const double u = 1.0 * j / across, v = 1.0 * i / up;
-            const Corner3 p = Between(Between(lowLeft, lowRight, u), Between(upLeft, upRight, u), v);
-            mesh.At(i, j) = {p.X, p.Y, p.Z, region.Left + RoundToInt(u * (region.Width - 1)),
-                             region.Low + RoundToInt(v * (region.Height - 1))};
+            const Vec3 p = Between(Between(lowLeft, lowRight, u), Between(upLeft, upRight, u), v);
+            mesh.At(i, j) = {p.X, p.Y, p.Z, region.Left + base::RoundEven(u * (region.Width - 1)),
+                             region.Low + base::RoundEven(v * (region.Height - 1))};
         }
     return mesh;
 }
 
-ModelMesh FlatFace(Rgb colour, Corner3 lowLeft, Corner3 lowRight, Corner3 upRight, Corner3 upLeft)
+ModelMesh FlatFace(Rgb colour, Vec3 lowLeft, Vec3 lowRight, Vec3 upRight, Vec3 upLeft)
 {
     ModelMesh mesh(2, 2);
-    mesh.Colour = FlatColour(RoundToInt(colour.R * 255), RoundToInt(colour.G * 255), RoundToInt(colour.B * 255));
+    mesh.Colour = FlatColour(colour);
     mesh.At(0, 0) = {lowLeft.X, lowLeft.Y, lowLeft.Z};
     mesh.At(0, 1) = {lowRight.X, lowRight.Y, lowRight.Z};
     mesh.At(1, 1) = {upRight.X, upRight.Y, upRight.Z};
@@ -52,11 +57,11 @@ ModelSphere SphereAt(double x, double y, double z, double radius)
 
 void ModelFolder::Texture(const std::string& name, const Canvas& picture, Black black) const
 {
-    WriteBmp(_folder + "/" + name + ".bmp", picture, black);
+    WriteBmp(Folder + "/" + name + ".bmp", picture, black);
 }
 
 void ModelFolder::Write(const std::string& name, const Model& model) const
 {
-    WriteModel(model, _folder + "/" + name + ".3dm");
+    WriteModel(model, Folder + "/" + name + ".3dm");
 }
 }

@@ -1,18 +1,15 @@
-// track/Models.h: the models of the world and their textures, written into one folder.
-// Light is painted into the textures; walls are cut into grids, because textures are mapped without perspective.
+// assets/track/Models.h: the models of the world and their textures, written into one folder. Each group has a .cpp of
+// its own. World units, y up; fronts look along local -z. Light is painted into the textures; walls are cut into grids,
+// because textures are mapped without perspective.
 #pragma once
-#include "common/Canvas.h"
-#include "common/Model3dm.h"
+#include "assets/common/Bitmap.h"
+#include "assets/common/Model3dm.h"
+#include "assets/common/Vectors.h"
+
 #include <string>
 
-namespace assets
+namespace assets::track
 {
-// A corner of a face: place and texel.
-struct Corner3
-{
-    double X, Y, Z;
-};
-
 // Part of a texture: texels Left … Left + Width - 1, and rows likewise from below.
 struct Region
 {
@@ -21,16 +18,16 @@ struct Region
 
 // A four-cornered face: lower left, lower right, upper right, upper left as its texture is read.
 // Cut into `across` x `up` cells.
-ModelMesh Face(const std::string& texture, const Region& region, Corner3 lowLeft, Corner3 lowRight, Corner3 upRight,
-               Corner3 upLeft, int across = 1, int up = 1);
+ModelMesh Face(const std::string& texture, const Region& region, Vec3 lowLeft, Vec3 lowRight, Vec3 upRight, Vec3 upLeft,
+               int across = 1, int up = 1);
 // A flat-coloured face.
-ModelMesh FlatFace(Rgb colour, Corner3 lowLeft, Corner3 lowRight, Corner3 upRight, Corner3 upLeft);
-// The upright rectangle between two ground points.
+ModelMesh FlatFace(Rgb colour, Vec3 lowLeft, Vec3 lowRight, Vec3 upRight, Vec3 upLeft);
+// The upright rectangle between two ground points, from height `low` to `high`.
 ModelMesh Upright(const std::string& texture, const Region& region, double x0, double z0, double x1, double z1,
                   double low, double high, int across = 1, int up = 1);
 
-constexpr double HeavyMass = 1000000; // does not give way
-constexpr double LightMass = 0.001;   // flies
+inline constexpr double HeavyMass = 1000000; // does not give way
+inline constexpr double LightMass = 0.001;   // flies
 
 ModelSphere SphereAt(double x, double y, double z, double radius);
 
@@ -38,13 +35,13 @@ ModelSphere SphereAt(double x, double y, double z, double radius);
 class ModelFolder
 {
 public:
-    explicit ModelFolder(std::string folder) : _folder(std::move(folder)) {}
+    explicit ModelFolder(std::string folder) : Folder(std::move(folder)) {}
     void Texture(const std::string& name, const Canvas& picture, Black black = Black::Avoid) const;
     void Write(const std::string& name, const Model& model) const;
     static std::string PathOf(const std::string& texture) { return "<path>" + texture + ".bmp"; }
 
 private:
-    std::string _folder;
+    std::string Folder;
 };
 
 void WriteHouses(const ModelFolder& folder);

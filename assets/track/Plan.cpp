@@ -1,10 +1,12 @@
-#include "track/Plan.h"
+#include "assets/track/Plan.h"
 
-#include "track/Scatter.h"
+#include "assets/track/Scatter.h"
+#include "base/Numbers.h"
+
 #include <algorithm>
 #include <stdexcept>
 
-namespace assets
+namespace assets::track
 {
 const std::vector<Kind>& Kinds()
 {
@@ -64,26 +66,26 @@ namespace
 class Builder
 {
 public:
-    explicit Builder(Plan& plan) : _plan(plan) {}
+    explicit Builder(Plan& plan) : Layout(plan) {}
 
     void Put(const std::string& name, double x, double z, double angle = 0)
     {
         KindOf(name);
-        _plan.Items.push_back({name, x, z, angle});
+        Layout.Items.push_back({name, x, z, angle});
     }
     // Front toward the road.
     void Beside(const std::string& name, double s, double left)
     {
-        const RoadPoint p = _plan.Road.Along(s);
-        const Point place = _plan.Road.Place(s, left);
+        const RoadPoint p = Layout.Road.Along(s);
+        const Point place = Layout.Road.Place(s, left);
         const double side = left > 0 ? 1 : -1;
         Put(name, place.X, place.Y, AngleFacing(side * p.DirZ, -side * p.DirX));
     }
     // Front toward the oncoming cars.
     void Against(const std::string& name, double s, double left)
     {
-        const RoadPoint p = _plan.Road.Along(s);
-        const Point place = _plan.Road.Place(s, left);
+        const RoadPoint p = Layout.Road.Along(s);
+        const Point place = Layout.Road.Place(s, left);
         Put(name, place.X, place.Y, AngleFacing(-p.DirX, -p.DirZ));
     }
     // Pieces of the same length end to end.
@@ -101,17 +103,17 @@ public:
         Point last{-1e9, -1e9};
         for (double s = run.S0 + radius; s < run.S1; s += 0.25)
         {
-            const Point p = _plan.Road.Place(s, behind);
+            const Point p = Layout.Road.Place(s, behind);
             if (std::hypot(p.X - last.X, p.Y - last.Y) < 2 * radius + 0.3)
                 continue;
-            _plan.Guards.push_back({p.X, p.Y, radius});
+            Layout.Guards.push_back({p.X, p.Y, radius});
             last = p;
         }
     }
-    void GuardAt(double x, double z, double radius) { _plan.Guards.push_back({x, z, radius}); }
+    void GuardAt(double x, double z, double radius) { Layout.Guards.push_back({x, z, radius}); }
 
 private:
-    Plan& _plan;
+    Plan& Layout;
 };
 
 void PutStraight(Builder& put, Plan& plan)
@@ -147,7 +149,7 @@ void PutStraight(Builder& put, Plan& plan)
     for (int i = 0; i < 7; ++i)
         put.Beside("flag", -92 + 15.5 * i, -28.5);
     for (const double s : {78.0, 90.0, 120.0, 132.0})
-        put.Beside("board_" + std::to_string(1 + RoundToInt(s) % 6), s, -14);
+        put.Beside("board_" + std::to_string(1 + base::RoundEven(s) % 6), s, -14);
     put.Against("sign_100", 136, -11.5);
     put.Against("sign_50", 156, -11.5);
 }

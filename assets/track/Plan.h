@@ -1,11 +1,13 @@
-// track/Plan.h: what stands where. The ground paints the shadows of it, the map script places it.
+// assets/track/Plan.h: what stands where. The ground paints the shadows of it, the map script places it.
 // x is east, z is north, world units. A model's front is its local -z side.
 #pragma once
-#include "track/Circuit.h"
+#include "assets/common/Vectors.h"
+#include "assets/track/Circuit.h"
+
 #include <string>
 #include <vector>
 
-namespace assets
+namespace assets::track
 {
 enum class Shadow
 {
@@ -93,16 +95,16 @@ double AngleFacing(double dirX, double dirZ);
 bool InsideOutline(const std::vector<Point>& outline, double x, double z);
 Plan MakePlan();
 
-constexpr double WorldSize = 640;
+inline constexpr double WorldSize = 640;
 
 // The grid: the front of the first slot behind the start line, the step to the next, their distance from the middle.
-constexpr double GridFront = -3.4, GridStep = 15, GridLeft = 3.6;
+inline constexpr double GridFront = -3.4, GridStep = 15, GridLeft = 3.6;
 
 // The pit lane lies to the left of the main straight.
-constexpr double PitFrom = -88, PitTo = 112; // along the lap
-constexpr double PitLeft = 15.2, PitHalfWidth = 3.2;
-constexpr int PitBoxes = 8;
-constexpr double BoxLength = 9, BoxFirst = -34; // centre of the first box along the lap
-constexpr double BoxLeft = 21.4;
-constexpr double PitWallLeft = 11.2, PitWallFrom = -58, PitWallTo = 50;
+inline constexpr double PitFrom = -88, PitTo = 112; // along the lap
+inline constexpr double PitLeft = 15.2, PitHalfWidth = 3.2;
+inline constexpr int PitBoxes = 8;
+inline constexpr double BoxLength = 9, BoxFirst = -34; // centre of the first box along the lap
+inline constexpr double BoxLeft = 21.4;
+inline constexpr double PitWallLeft = 11.2, PitWallFrom = -58, PitWallTo = 50;
 }

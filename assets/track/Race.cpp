@@ -1,8 +1,10 @@
-#include "track/Race.h"
+#include "assets/track/Race.h"
+
+#include "base/Numbers.h"
 
 #include <algorithm>
 
-namespace assets
+namespace assets::track
 {
 namespace
 {
@@ -27,6 +29,50 @@ const Gate Gates[] = {
 double Tenth(double value)
 {
     return std::round(value * 10) / 10;
+}
+
+// Distance from the edge of everything a car may drive on without loss; positive on grass.
+double GrassRoom(const Plan& plan, double x, double z)
+{
+    const int nearest = plan.Road.Nearest(x, z);
+    const RoadPoint& p = plan.Road.At(nearest);
+    const double offset = (z - p.Z) * p.DirX - (x - p.X) * p.DirZ;
+    double room = std::hypot(p.X - x, p.Z - z) - p.HalfWidth - 2.2; // kerbs are free
+    const double length = plan.Road.Length, along = nearest * length / plan.Road.Count();
+    const double s = along > length / 2 ? along - length : along;
+    if (s > PitFrom - 44 && s < PitTo + 44 && offset > 0)
+        room = std::min(room, std::max({offset - (BoxLeft + 5.5), PitFrom - 40 - s, s - PitTo - 40}));
+    return std::min(room, 60.0);
+}
+
+// Covers the cells where `room` is positive with circles no larger than their room, large ones first.
+template <class Room> std::vector<Zone> FillWithZones(double cell, double least, double most, const Room& room)
+{
+    const int count = base::RoundEven(WorldSize / cell);
+    struct Place
+    {
+        double X, Z, R;
+    };
+    std::vector<Place> places;
+    for (int j = 0; j < count; ++j)
+        for (int i = 0; i < count; ++i)
+        {
+            const double x = (i + 0.5) * cell, z = (j + 0.5) * cell, r = std::min(room(x, z), most);
+            if (r >= least)
+                places.push_back({x, z, r});
+        }
+    std::stable_sort(places.begin(), places.end(), [](const Place& a, const Place& b) { return a.R > b.R; });
+    std::vector<Zone> zones;
+    for (const Place& place : places)
+    {
+        const bool covered = std::any_of(
+            zones.begin(), zones.end(),
+            [&](const Zone& zone)
+            { return std::hypot(zone.X - place.X, zone.Z - place.Z) < zone.R - 0.4 * std::min(place.R, 2.5); });
+        if (!covered)
+            zones.push_back({place.X, place.Z, Tenth(place.R)});
+    }
+    return zones;
 }
 }
 
@@ -65,53 +111,6 @@ std::vector<Zone> RepairBoxes(const Circuit& road)
     return zones;
 }
 
-namespace
-{
-// Distance from the edge of everything a car may drive on without loss; positive on grass.
-double GrassRoom(const Plan& plan, double x, double z)
-{
-    const int nearest = plan.Road.Nearest(x, z);
-    const RoadPoint& p = plan.Road.At(nearest);
-    const double offset = (z - p.Z) * p.DirX - (x - p.X) * p.DirZ;
-    double room = std::hypot(p.X - x, p.Z - z) - p.HalfWidth - 2.2; // kerbs are free
-    const double length = plan.Road.Length, along = nearest * length / plan.Road.Count();
-    const double s = along > length / 2 ? along - length : along;
-    if (s > PitFrom - 44 && s < PitTo + 44 && offset > 0)
-        room = std::min(room, std::max({offset - (BoxLeft + 5.5), PitFrom - 40 - s, s - PitTo - 40}));
-    return std::min(room, 60.0);
-}
-
-// Covers the cells where `room` is positive with circles no larger than their room, large ones first.
-template <class Room> std::vector<Zone> FillWithZones(double cell, double least, double most, const Room& room)
-{
-    const int count = RoundToInt(WorldSize / cell);
-    struct Place
-    {
-        double X, Z, R;
-    };
-    std::vector<Place> places;
-    for (int j = 0; j < count; ++j)
-        for (int i = 0; i < count; ++i)
-        {
-            const double x = (i + 0.5) * cell, z = (j + 0.5) * cell, r = std::min(room(x, z), most);
-            if (r >= least)
-                places.push_back({x, z, r});
-        }
-    std::stable_sort(places.begin(), places.end(), [](const Place& a, const Place& b) { return a.R > b.R; });
-    std::vector<Zone> zones;
-    for (const Place& place : places)
-    {
-        const bool covered = std::any_of(
-            zones.begin(), zones.end(),
-            [&](const Zone& zone)
-            { return std::hypot(zone.X - place.X, zone.Z - place.Z) < zone.R - 0.4 * std::min(place.R, 2.5); });
-        if (!covered)
-            zones.push_back({place.X, place.Z, Tenth(place.R)});
-    }
-    return zones;
-}
-}
-
 std::vector<Zone> GrassZones(const Plan& plan)
 {
     return FillWithZones(
@@ -126,12 +125,7 @@ std::vector<Zone> WaterZones(const Plan& plan)
             return -1.0;
         double least = 60;
         for (std::size_t i = 0; i < plan.Lake.size(); ++i)
-        {
-            const Point a = plan.Lake[i], b = plan.Lake[(i + 1) % plan.Lake.size()];
-            const double dx = b.X - a.X, dz = b.Y - a.Y;
-            const double t = Clamp01(((x - a.X) * dx + (z - a.Y) * dz) / (dx * dx + dz * dz));
-            least = std::min(least, std::hypot(a.X + t * dx - x, a.Y + t * dz - z));
-        }
+            least = std::min(least, SegmentDistance(plan.Lake[i], plan.Lake[(i + 1) % plan.Lake.size()], {x, z}));
         return least - 1.5;
     };
     return FillWithZones(2.5, 2.0, 40, shore);

@@ -1,8 +1,8 @@
-// track/Race.h: what the race needs of the map: gates, zones and drivers.
+// assets/track/Race.h: what the race needs of the map: gates, zones and drivers.
 #pragma once
-#include "track/Plan.h"
+#include "assets/track/Plan.h"
 
-namespace assets
+namespace assets::track
 {
 // A round zone on the ground.
 struct Zone

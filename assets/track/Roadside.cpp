@@ -1,10 +1,13 @@
 // Walls, fences, tyre stacks, boards, signs and what can be knocked over. Fronts look along local -z.
-#include "common/Noise.h"
-#include "track/Lettering.h"
-#include "track/Light.h"
-#include "track/Models.h"
+#include "assets/track/Models.h"
 
-namespace assets
+#include "assets/common/Noise.h"
+#include "assets/common/Shapes.h"
+#include "assets/track/Lettering.h"
+#include "assets/track/Light.h"
+#include "base/Numbers.h"
+
+namespace assets::track
 {
 namespace
 {
@@ -100,7 +103,7 @@ void WriteTyres(const ModelFolder& folder)
     for (int j = 0; j <= Sides; ++j)
     {
         const double angle = 2 * Pi * j / Sides, x = R * std::cos(angle), z = R * std::sin(angle);
-        const int u = RoundToInt(63.0 * j / Sides);
+        const int u = base::RoundEven(63.0 * j / Sides);
         wall.At(0, j) = {x, 0, z, u, 0};
         wall.At(1, j) = {x, High, z, u, 35};
         top.At(0, j) = {x, High, z, u, 36};
@@ -165,8 +168,8 @@ void WriteBale(const ModelFolder& folder)
         for (int i = 0; i < 90; ++i)
         {
             const double angle = 2 * Pi * i / 90;
-            picture.Blend(RoundToInt(16 + r * std::cos(angle)),
-                          RoundToInt(48 + (r + i / 30.0) * std::sin(angle) * 0.95), Hex(0x8A6F3A), 0.6);
+            picture.Blend(base::RoundEven(16 + r * std::cos(angle)),
+                          base::RoundEven(48 + (r + i / 30.0) * std::sin(angle) * 0.95), Hex(0x8A6F3A), 0.6);
         }
     folder.Texture("bale", picture);
     Model model;
@@ -179,7 +182,7 @@ void WriteBale(const ModelFolder& folder)
     {
         const double angle = 2 * Pi * i / Sides - Pi / 2;
         const double y = R + R * std::sin(angle), z = R * std::cos(angle);
-        const int v = RoundToInt(15.5 + 15.5 * std::sin(angle));
+        const int v = base::RoundEven(15.5 + 15.5 * std::sin(angle));
         round.At(i, 0) = {-Half, y, z, 0, v};
         round.At(i, 1) = {Half, y, z, 63, v};
     }
@@ -192,7 +195,7 @@ void WriteBale(const ModelFolder& folder)
         {
             const double angle = 2 * Pi * j / Sides;
             end.At(0, j) = {side * Half, R + R * std::sin(angle), R * std::cos(angle),
-                            RoundToInt(16 + 15 * std::cos(angle)), RoundToInt(48 + 15 * std::sin(angle))};
+                            base::RoundEven(16 + 15 * std::cos(angle)), base::RoundEven(48 + 15 * std::sin(angle))};
             end.At(1, j) = {side * Half, R, 0, 16, 48};
         }
         model.Meshes.push_back(end);

@@ -1,9 +1,10 @@
-#include "track/Scatter.h"
+#include "assets/track/Scatter.h"
 
-#include "common/Noise.h"
+#include "assets/common/Noise.h"
+
 #include <algorithm>
 
-namespace assets
+namespace assets::track
 {
 namespace
 {
@@ -11,80 +12,75 @@ double LineDistance(const std::vector<Point>& line, double x, double z)
 {
     double least = 1e9;
     for (std::size_t i = 0; i + 1 < line.size(); ++i)
-    {
-        const Point a = line[i], b = line[i + 1];
-        const double dx = b.X - a.X, dz = b.Y - a.Y;
-        const double t = Clamp01(((x - a.X) * dx + (z - a.Y) * dz) / (dx * dx + dz * dz));
-        least = std::min(least, std::hypot(a.X + t * dx - x, a.Y + t * dz - z));
-    }
+        least = std::min(least, SegmentDistance(line[i], line[i + 1], {x, z}));
     return least;
 }
 
 class Grove
 {
 public:
-    explicit Grove(Plan& plan) : _plan(plan) {}
+    explicit Grove(Plan& plan) : Layout(plan) {}
 
     // Free ground with this much room to roads, houses and other trees.
     bool Free(double x, double z, double room) const
     {
-        if (x < 3 || z < 3 || x > WorldSize - 3 || z > WorldSize - 3 || InsideOutline(_plan.Lake, x, z))
+        if (x < 3 || z < 3 || x > WorldSize - 3 || z > WorldSize - 3 || InsideOutline(Layout.Lake, x, z))
             return false;
-        const RoadPoint& road = _plan.Road.At(_plan.Road.Nearest(x, z));
+        const RoadPoint& road = Layout.Road.At(Layout.Road.Nearest(x, z));
         if (std::hypot(road.X - x, road.Z - z) < road.HalfWidth + 8 + room)
             return false;
-        if (OnGravelOrPits(x, z) || InsideOutline(_plan.Plaza, x, z))
+        if (OnGravelOrPits(x, z) || InsideOutline(Layout.Plaza, x, z))
             return false;
-        for (const Path& path : _plan.Paths)
+        for (const Path& path : Layout.Paths)
             if (LineDistance(path.Line, x, z) < path.Width / 2 + 0.6 + room * 0.3)
                 return false;
-        for (const Standing& item : _plan.Items)
+        for (const Standing& item : Layout.Items)
         {
             const Kind& kind = KindOf(item.Name);
             if (std::hypot(item.X - x, item.Z - z) < std::max(kind.HalfX, kind.HalfZ) + room)
                 return false;
         }
-        for (const Guard& guard : _plan.Guards)
+        for (const Guard& guard : Layout.Guards)
             if (std::hypot(guard.X - x, guard.Z - z) < guard.R + room)
                 return false;
         return true;
     }
     bool InField(double x, double z) const
     {
-        return std::any_of(_plan.Fields.begin(), _plan.Fields.end(),
+        return std::any_of(Layout.Fields.begin(), Layout.Fields.end(),
                            [&](const Field& field) { return InsideOutline(field.Outline, x, z); });
     }
     bool Try(const std::string& name, double x, double z, double room)
     {
         if (!Free(x, z, room))
             return false;
-        _plan.Items.push_back({name, x, z, 0});
+        Layout.Items.push_back({name, x, z, 0});
         return true;
     }
     // A tree near the road, with a trunk that stops cars.
     void Roadside(const std::string& name, double s, double left)
     {
-        const Point p = _plan.Road.Place(s, left);
-        if (!InsideOutline(_plan.Lake, p.X, p.Y))
-            _plan.Items.push_back({name, p.X, p.Y, 0});
+        const Point p = Layout.Road.Place(s, left);
+        if (!InsideOutline(Layout.Lake, p.X, p.Y))
+            Layout.Items.push_back({name, p.X, p.Y, 0});
     }
 
 private:
     bool OnGravelOrPits(double x, double z) const
     {
-        const int nearest = _plan.Road.Nearest(x, z);
-        const double offset = _plan.Road.Offset(x, z);
-        const double s = nearest * _plan.Road.Length / _plan.Road.Count();
-        if ((s < PitTo || s > _plan.Road.Length + PitFrom) && offset > 0 && offset < 40)
+        const int nearest = Layout.Road.Nearest(x, z);
+        const double offset = Layout.Road.Offset(x, z);
+        const double s = nearest * Layout.Road.Length / Layout.Road.Count();
+        if ((s < PitTo || s > Layout.Road.Length + PitFrom) && offset > 0 && offset < 40)
             return true;
-        if ((s < 30 || s > _plan.Road.Length - 104) && offset < 0 && offset > -30)
+        if ((s < 30 || s > Layout.Road.Length - 104) && offset < 0 && offset > -30)
             return true; // the stands
-        for (const Gravel& bed : _plan.Gravels)
+        for (const Gravel& bed : Layout.Gravels)
             if (s > bed.S0 - 6 && s < bed.S1 + 6 && offset > bed.Near - 4 && offset < bed.Far + 4)
                 return true;
         return false;
     }
-    Plan& _plan;
+    Plan& Layout;
 };
 
 void Avenues(Grove& grove)

@@ -1,8 +1,8 @@
-// track/Scatter.h: the trees, bushes and bales of the plan.
+// assets/track/Scatter.h: the trees, bushes and bales of the plan, the same in every run.
 #pragma once
-#include "track/Plan.h"
+#include "assets/track/Plan.h"
 
-namespace assets
+namespace assets::track
 {
 // Adds what grows where there is room: never on the road, in the water, on a path or in a building.
 void ScatterTrees(Plan& plan);

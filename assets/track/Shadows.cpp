@@ -1,10 +1,14 @@
 // The long shadows of a low sun.
-#include "common/Noise.h"
-#include "track/Ground.h"
-#include "track/Light.h"
+#include "assets/track/Ground.h"
+
+#include "assets/common/Noise.h"
+#include "assets/common/Shapes.h"
+#include "assets/track/Light.h"
+#include "base/Numbers.h"
+
 #include <algorithm>
 
-namespace assets
+namespace assets::track
 {
 namespace
 {
@@ -107,7 +111,7 @@ void CastCrown(const Caster& to, const Standing& item, const Kind& kind)
     Stroke(to.Sun, trunk, 0.5 * TexelsPerUnit);
     for (int i = 0; i < 14; ++i) // a crown is a handful of tufts
     {
-        const int key = RoundToInt(item.X * 7 + item.Z * 131);
+        const int key = base::RoundEven(item.X * 7 + item.Z * 131);
         const double angle = 2 * Pi * HashUnit(key, i, 901), away = std::sqrt(HashUnit(key, i, 902)) * 0.62;
         const double high = kind.Height * Lerp(low + 0.12, 0.9, HashUnit(key, i, 903));
         const Point p =

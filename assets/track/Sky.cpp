@@ -1,11 +1,13 @@
-#include "track/Sky.h"
+#include "assets/track/Sky.h"
 
-#include "common/Canvas.h"
-#include "common/Noise.h"
-#include "track/Light.h"
+#include "assets/common/Bitmap.h"
+#include "assets/common/Noise.h"
+#include "assets/track/Light.h"
+#include "base/Numbers.h"
+
 #include <algorithm>
 
-namespace assets
+namespace assets::track
 {
 namespace
 {
@@ -181,12 +183,12 @@ void FarVillages(Canvas& sky)
     for (int village = 0; village < 9; ++village)
     {
         const double middle = ColumnOfYaw(dice.Between(0.7, 3.2));
-        const int houses = 6 + RoundToInt(dice.Next() * 9);
+        const int houses = 6 + base::RoundEven(dice.Next() * 9);
         for (int i = 0; i < houses; ++i)
         {
-            const int x = Wrap(RoundToInt(middle + (dice.Next() + dice.Next() - 1) * 26), SkyWidth);
-            const int y = RoundToInt(Horizon + 1 + dice.Next() * 6);
-            const int tall = i == 0 ? 7 : 2 + RoundToInt(dice.Next());
+            const int x = Wrap(base::RoundEven(middle + (dice.Next() + dice.Next() - 1) * 26), SkyWidth);
+            const int y = base::RoundEven(Horizon + 1 + dice.Next() * 6);
+            const int tall = i == 0 ? 7 : 2 + base::RoundEven(dice.Next());
             const Rgb haze = HazeColour(x);
             const Rgb wall = Mix(Mix(Hex(0xF2E2C4), Hex(0xE0B890), dice.Next()), haze, 0.35);
             const Rgb roof = Mix(Hex(0xB8694A), haze, 0.35);

@@ -1,10 +1,12 @@
 // Grandstand, pit building, start gantry and flags of the main straight. Fronts look along local -z.
-#include "common/Noise.h"
-#include "track/Lettering.h"
-#include "track/Light.h"
-#include "track/Models.h"
+#include "assets/track/Models.h"
 
-namespace assets
+#include "assets/common/Noise.h"
+#include "assets/common/Shapes.h"
+#include "assets/track/Lettering.h"
+#include "assets/track/Light.h"
+
+namespace assets::track
 {
 namespace
 {

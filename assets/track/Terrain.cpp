@@ -1,8 +1,11 @@
-#include "track/Terrain.h"
+#include "assets/track/Terrain.h"
+
+#include "assets/common/Shapes.h"
+#include "base/Numbers.h"
 
 #include <algorithm>
 
-namespace assets
+namespace assets::track
 {
 Terrain::Terrain()
     : Offset(GroundSize, GroundSize, FarAway), Along(GroundSize, GroundSize), HalfWidth(GroundSize, GroundSize),
@@ -21,8 +24,8 @@ struct Area
 // The texels within `reach` units of a segment's box.
 Area Around(Point a, Point b, double reach)
 {
-    const auto low = [&](double v) { return std::clamp(FloorToInt((v - reach) * TexelsPerUnit), 0, GroundSize); };
-    const auto high = [&](double v) { return std::clamp(FloorToInt((v + reach) * TexelsPerUnit) + 1, 0, GroundSize); };
+    const auto low = [&](double v) { return std::clamp(base::Floor((v - reach) * TexelsPerUnit), 0, GroundSize); };
+    const auto high = [&](double v) { return std::clamp(base::Floor((v + reach) * TexelsPerUnit) + 1, 0, GroundSize); };
     return {low(std::min(a.X, b.X)), low(std::min(a.Y, b.Y)), high(std::max(a.X, b.X)), high(std::max(a.Y, b.Y))};
 }
 

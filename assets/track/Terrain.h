@@ -1,17 +1,19 @@
-// track/Terrain.h: for every texel of the ground, where it lies relative to road, shore and paths.
+// assets/track/Terrain.h: for every texel of the ground, where it lies relative to road, shore and paths.
 // Texel (x, z) covers a quarter unit; its middle is at ((x + 0.5) / 4, (z + 0.5) / 4).
 #pragma once
-#include "track/Plan.h"
+#include "assets/common/Canvas.h"
+#include "assets/common/Vectors.h"
+#include "assets/track/Plan.h"
 
-namespace assets
+namespace assets::track
 {
-constexpr int TexelsPerUnit = 4;
-constexpr int GroundSize = 2560;
-constexpr float FarAway = 1000;
+inline constexpr int TexelsPerUnit = 4;
+inline constexpr int GroundSize = 2560;
+inline constexpr float FarAway = 1000;
 
 struct Terrain
 {
-    Mask Offset;    // to the left of the nearest centre line; +-FarAway beyond 60 units
+    Mask Offset;    // to the left of the nearest centre line; FarAway where none is within about 48 units
     Mask Along;     // along the lap, units; valid where Offset is
     Mask HalfWidth; // of the road there
     Mask Bend;      // of the road there

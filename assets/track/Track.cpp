@@ -1,11 +1,12 @@
-#include "track/Track.h"
+#include "assets/track/Track.h"
 
-#include "track/Ground.h"
-#include "track/MapScript.h"
-#include "track/Models.h"
-#include "track/Sky.h"
+#include "assets/common/Bitmap.h"
+#include "assets/track/Ground.h"
+#include "assets/track/MapScript.h"
+#include "assets/track/Models.h"
+#include "assets/track/Sky.h"
 
-namespace assets
+namespace assets::track
 {
 void BuildTrack(const std::string& root)
 {

@@ -1,8 +1,8 @@
-// track/Track.h: the lakeside circuit: ground, sky, buildings, trees, the map script and its lists.
+// assets/track/Track.h: the lakeside circuit: ground, sky, buildings, trees, the map script and its lists.
 #pragma once
 #include <string>
 
-namespace assets
+namespace assets::track
 {
 // Writes data/maps/map_01, data/images/sky.bmp and data/models/world below `root`.
 // Throws std::runtime_error when a file cannot be written.

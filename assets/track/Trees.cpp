@@ -1,10 +1,12 @@
 // Trees as crossed pictures with see-through gaps. Texture column 0 is the sunny side: the west end of the picture that
 // runs west to east, the north end of the other. Crowns that are seen from above carry a lying picture as well.
-#include "common/Noise.h"
-#include "track/Light.h"
-#include "track/Models.h"
+#include "assets/track/Models.h"
 
-namespace assets
+#include "assets/common/Noise.h"
+#include "assets/common/Shapes.h"
+#include "assets/track/Light.h"
+
+namespace assets::track
 {
 namespace
 {

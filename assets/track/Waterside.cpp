@@ -1,9 +1,11 @@
 // Pier, boats and parasols.
-#include "common/Noise.h"
-#include "track/Light.h"
-#include "track/Models.h"
+#include "assets/track/Models.h"
 
-namespace assets
+#include "assets/common/Noise.h"
+#include "assets/common/Shapes.h"
+#include "assets/track/Light.h"
+
+namespace assets::track
 {
 namespace
 {
@@ -44,7 +46,7 @@ void AddHull(Model& model, double halfWidth, double halfLength, double high, Rgb
     {
         ModelMesh mesh(2, Columns + 1);
         const Rgb colour = flank < 0 ? side : side * 0.72;
-        mesh.Colour = FlatColour(RoundToInt(colour.R * 255), RoundToInt(colour.G * 255), RoundToInt(colour.B * 255));
+        mesh.Colour = FlatColour(colour);
         for (int j = 0; j <= Columns; ++j)
         {
             const double z = Lerp(-halfLength, halfLength, 1.0 * j / Columns);
@@ -54,7 +56,7 @@ void AddHull(Model& model, double halfWidth, double halfLength, double high, Rgb
         model.Meshes.push_back(mesh);
     }
     ModelMesh deck(2, Columns + 1);
-    deck.Colour = FlatColour(RoundToInt(inside.R * 255), RoundToInt(inside.G * 255), RoundToInt(inside.B * 255));
+    deck.Colour = FlatColour(inside);
     for (int j = 0; j <= Columns; ++j)
     {
         const double z = Lerp(-halfLength, halfLength, 1.0 * j / Columns);

@@ -1,5 +1,7 @@
-#include "sound/score/Chords.h"
-#include "common/Numbers.h"
+#include "assets/sound/score/Chords.h"
+
+#include "assets/common/Numbers.h"
+
 #include <algorithm>
 #include <cstddef>
 #include <limits>

@@ -1,4 +1,4 @@
-// sound/score/Chords.h: chord names and how they are laid out for several voices.
+// assets/sound/score/Chords.h: chord names and how they are laid out for several voices.
 #pragma once
 #include <string>
 #include <vector>
@@ -14,6 +14,7 @@ struct Chord
 
 // "Am9", "F#m7b5", "G/B"; throws std::runtime_error for what it does not know.
 Chord ParseChord(const std::string& name);
+// Root and bass moved, folded into one octave.
 Chord Shifted(Chord chord, int semitones);
 
 struct Range

@@ -1,4 +1,5 @@
-#include "sound/score/Pattern.h"
+#include "assets/sound/score/Pattern.h"
+
 #include <algorithm>
 #include <cmath>
 #include <sstream>
@@ -62,6 +63,25 @@ double Dynamic(const std::string& word)
         if (name == word)
             return force;
     return 0;
+}
+
+// What stands behind a note's length, at this place of its word; `last` is the key before it, -1 without one.
+void Mark(Note& note, const std::string& word, std::size_t place, double last)
+{
+    switch (word[place])
+    {
+    case '>':
+        note.Force = std::min(1.0, note.Force + 0.14);
+        break;
+    case '\'':
+        note.Length *= 0.5;
+        break;
+    case '_':
+        note.FromKey = last < 0 ? note.Key : last;
+        break;
+    default:
+        Wrong("what is this", word);
+    }
 }
 }
 
@@ -160,20 +180,7 @@ Line ParseMelody(const std::string& text, double barBeats)
             Note note{at, ParseLength(word, next), static_cast<double>(key), static_cast<double>(key), force, 0};
             at += note.Length;
             for (; next < word.size(); ++next)
-                switch (word[next])
-                {
-                case '>':
-                    note.Force = std::min(1.0, note.Force + 0.14);
-                    break;
-                case '\'':
-                    note.Length *= 0.5;
-                    break;
-                case '_':
-                    note.FromKey = last < 0 ? note.Key : last;
-                    break;
-                default:
-                    Wrong("what is this", word);
-                }
+                Mark(note, word, next, last);
             if (rest)
                 continue;
             last = note.Key;

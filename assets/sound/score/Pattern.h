@@ -1,6 +1,7 @@
-// sound/score/Pattern.h: the text of patterns and melodies, taken apart.
+// assets/sound/score/Pattern.h: the text of patterns and melodies, taken apart.
 #pragma once
-#include "sound/score/Line.h"
+#include "assets/sound/score/Line.h"
+
 #include <string>
 #include <vector>
 

@@ -1,7 +1,11 @@
-#include "sound/score/Score.h"
-#include "common/Numbers.h"
-#include "sound/score/Pattern.h"
+#include "assets/sound/score/Score.h"
+
+#include "assets/common/Numbers.h"
+#include "assets/sound/score/Pattern.h"
+#include "base/Numbers.h"
+
 #include <algorithm>
+#include <optional>
 #include <sstream>
 #include <stdexcept>
 
@@ -37,13 +41,53 @@ int Degree(const Chord& chord, int major, int minor, int otherwise)
 {
     return Has(chord, major) ? major : Has(chord, minor) ? minor : otherwise;
 }
+
+// The key that a sign of a bass pattern asks for over a chord before the next one; nothing for an unknown sign.
+std::optional<int> BassKey(char sign, const Chord& chord, const Chord& next, int lowest)
+{
+    const int bass = AtOrAbove(chord.Bass, lowest), target = AtOrAbove(next.Bass, lowest);
+    // Degrees count from the root, above the bass note.
+    const int root = AtOrAbove(chord.Root, bass);
+    switch (sign)
+    {
+    case '1':
+        return bass;
+    case '3':
+        return root + Degree(chord, 4, 3, 5);
+    case '5':
+        return root + Degree(chord, 7, 6, 7);
+    case '6':
+        return root + 9;
+    case '7':
+        return root + Degree(chord, 11, 10, 12);
+    case '8':
+        return bass + 12;
+    case '0':
+        return root + Degree(chord, 7, 6, 7) - 12;
+    case '<':
+        return target - 1;
+    case '>':
+        return target + 1;
+    default:
+        return std::nullopt;
+    }
 }
 
-Score::Score(const Tempo& tempo, std::vector<Section> sections) : _tempo(tempo), _sections(std::move(sections))
+std::vector<Chord> Sounding(const auto& placed)
 {
-    for (const Section& section : _sections)
+    std::vector<Chord> chords;
+    chords.reserve(placed.size());
+    for (const auto& each : placed)
+        chords.push_back(each.Sounding);
+    return chords;
+}
+}
+
+Score::Score(const Tempo& tempo, std::vector<Section> sections) : Pace(tempo), Sections(std::move(sections))
+{
+    for (const Section& section : Sections)
     {
-        _starts.push_back(_beats);
+        Starts.push_back(TotalBeats);
         const std::vector<std::string> bars = Bars(section.Chords);
         if (bars.empty())
             throw std::runtime_error("no chords: " + section.Name);
@@ -53,8 +97,8 @@ Score::Score(const Tempo& tempo, std::vector<Section> sections) : _tempo(tempo),
             const double length = tempo.BarBeats / static_cast<double>(names.size());
             for (const std::string& name : names)
             {
-                _chords.push_back({_beats, length, Shifted(ParseChord(name), section.Shift)});
-                _beats += length;
+                Chords.push_back({TotalBeats, length, Shifted(ParseChord(name), section.Shift)});
+                TotalBeats += length;
             }
         }
     }
@@ -63,40 +107,39 @@ Score::Score(const Tempo& tempo, std::vector<Section> sections) : _tempo(tempo),
 double Score::Seconds(double beat) const
 {
     const double eighth = std::floor(beat * 2) / 2, part = (beat - eighth) * 2; // 0 .. 1 within the eighth
-    const double swung = part < 0.5 ? part * 2 * _tempo.Swing : _tempo.Swing + (part - 0.5) * 2 * (1 - _tempo.Swing);
-    return (eighth + swung / 2) * 60 / _tempo.Bpm;
+    const double swung = part < 0.5 ? part * 2 * Pace.Swing : Pace.Swing + (part - 0.5) * 2 * (1 - Pace.Swing);
+    return (eighth + swung / 2) * 60 / Pace.Bpm;
 }
 
 const Section& Score::Named(const std::string& name) const
 {
-    const auto found =
-        std::find_if(_sections.begin(), _sections.end(), [&](const Section& s) { return s.Name == name; });
-    if (found == _sections.end())
+    const auto found = std::find_if(Sections.begin(), Sections.end(), [&](const Section& s) { return s.Name == name; });
+    if (found == Sections.end())
         throw std::runtime_error("no section: " + name);
     return *found;
 }
 
 double Score::StartOf(const std::string& section) const
 {
-    return _starts[static_cast<std::size_t>(&Named(section) - _sections.data())];
+    return Starts[static_cast<std::size_t>(&Named(section) - Sections.data())];
 }
 
 double Score::EndOf(const std::string& section) const
 {
-    return StartOf(section) + Named(section).Bars * _tempo.BarBeats;
+    return StartOf(section) + Named(section).Bars * Pace.BarBeats;
 }
 
 std::size_t Score::ChordAt(double beat) const
 {
     std::size_t at = 0;
-    while (at + 1 < _chords.size() && _chords[at + 1].Start <= beat + 1e-9)
+    while (at + 1 < Chords.size() && Chords[at + 1].Start <= beat + 1e-9)
         ++at;
     return at;
 }
 
 Line Score::Melody(const std::string& section, const std::string& text) const
 {
-    Line line = ParseMelody(text, _tempo.BarBeats);
+    Line line = ParseMelody(text, Pace.BarBeats);
     Shift(line, StartOf(section), Named(section).Shift);
     if (!line.Notes.empty() && line.Notes.back().Start >= EndOf(section))
         throw std::runtime_error("a melody longer than " + section);
@@ -104,11 +147,10 @@ Line Score::Melody(const std::string& section, const std::string& text) const
 }
 
 Line Score::Beat(const std::string& section, const std::string& pattern) const
-
 {
     constexpr double Key = 60; // what has a pitch of its own does not ask
     Line line;
-    const int barSteps = RoundToInt(_tempo.BarBeats / StepBeats);
+    const int barSteps = base::RoundEven(Pace.BarBeats / StepBeats);
     for (const Step& step : Steps(pattern, Named(section).Bars, barSteps))
     {
         const double start = StartOf(section) + step.At * StepBeats;
@@ -141,81 +183,40 @@ void Score::Drums(Kit& kit, const std::string& section, const std::string& patte
 Line Score::Bass(const std::string& section, const std::string& pattern, int lowest) const
 {
     Line line;
-    const int barSteps = RoundToInt(_tempo.BarBeats / StepBeats);
+    const int barSteps = base::RoundEven(Pace.BarBeats / StepBeats);
     for (const Step& step : Steps(pattern, Named(section).Bars, barSteps))
     {
         const double start = StartOf(section) + step.At * StepBeats;
         const std::size_t index = ChordAt(start);
-        const Chord& chord = _chords[index].Sounding;
-        const Chord& next = _chords[std::min(index + 1, _chords.size() - 1)].Sounding;
-        const int bass = AtOrAbove(chord.Bass, lowest), target = AtOrAbove(next.Bass, lowest);
-        // Degrees count from the root, above the bass note.
-        const int root = AtOrAbove(chord.Root, bass);
-        int key = bass;
-        switch (step.Sign)
-        {
-        case '1':
-            break;
-        case '3':
-            key = root + Degree(chord, 4, 3, 5);
-            break;
-        case '5':
-            key = root + Degree(chord, 7, 6, 7);
-            break;
-        case '6':
-            key = root + 9;
-            break;
-        case '7':
-            key = root + Degree(chord, 11, 10, 12);
-            break;
-        case '8':
-            key = bass + 12;
-            break;
-        case '0':
-            key = root + Degree(chord, 7, 6, 7) - 12;
-            break;
-        case '<':
-            key = target - 1;
-            break;
-        case '>':
-            key = target + 1;
-            break;
-        default:
+        const Chord& chord = Chords[index].Sounding;
+        const Chord& next = Chords[std::min(index + 1, Chords.size() - 1)].Sounding;
+        const std::optional<int> bass = BassKey(step.Sign, chord, next, lowest);
+        if (!bass)
             throw std::runtime_error("no degree of a bass: " + pattern);
-        }
+        const double key = *bass;
         const double force = step.At % 4 == 0 ? 0.82 : step.At % 2 == 0 ? 0.74 : 0.66;
-        line.Notes.push_back(
-            {start, step.Steps * StepBeats * 0.92, static_cast<double>(key), static_cast<double>(key), force, 0});
+        line.Notes.push_back({start, step.Steps * StepBeats * 0.92, key, key, force, 0});
     }
     return line;
-}
-
-static std::vector<Chord> Sounding(const auto& placed)
-{
-    std::vector<Chord> chords;
-    chords.reserve(placed.size());
-    for (const auto& each : placed)
-        chords.push_back(each.Sounding);
-    return chords;
 }
 
 Line Score::Held(const std::string& section, const Range& range) const
 {
     Line line;
-    const auto layouts = Lead(Sounding(_chords), range);
-    for (std::size_t i = 0; i < _chords.size(); ++i)
-        if (_chords[i].Start >= StartOf(section) - 1e-9 && _chords[i].Start < EndOf(section) - 1e-9)
+    const auto layouts = Lead(Sounding(Chords), range);
+    for (std::size_t i = 0; i < Chords.size(); ++i)
+        if (Chords[i].Start >= StartOf(section) - 1e-9 && Chords[i].Start < EndOf(section) - 1e-9)
             for (const int key : layouts[i])
                 line.Notes.push_back(
-                    {_chords[i].Start, _chords[i].Length, static_cast<double>(key), static_cast<double>(key), 0.7, 0});
+                    {Chords[i].Start, Chords[i].Length, static_cast<double>(key), static_cast<double>(key), 0.7, 0});
     return line;
 }
 
 Line Score::Comp(const std::string& section, const std::string& pattern, const Range& range) const
 {
     Line line;
-    const auto layouts = Lead(Sounding(_chords), range);
-    const int barSteps = RoundToInt(_tempo.BarBeats / StepBeats);
+    const auto layouts = Lead(Sounding(Chords), range);
+    const int barSteps = base::RoundEven(Pace.BarBeats / StepBeats);
     for (const Step& step : Steps(pattern, Named(section).Bars, barSteps))
     {
         const double start = StartOf(section) + step.At * StepBeats;
@@ -231,8 +232,8 @@ Line Score::Comp(const std::string& section, const std::string& pattern, const R
 Line Score::Arpeggio(const std::string& section, const std::string& pattern, const Range& range) const
 {
     Line line;
-    const auto layouts = Lead(Sounding(_chords), range);
-    const int barSteps = RoundToInt(_tempo.BarBeats / StepBeats);
+    const auto layouts = Lead(Sounding(Chords), range);
+    const int barSteps = base::RoundEven(Pace.BarBeats / StepBeats);
     for (const Step& step : Steps(pattern, Named(section).Bars, barSteps))
     {
         const double start = StartOf(section) + step.At * StepBeats;
@@ -263,10 +264,10 @@ Line Score::Below(const Line& melody, int distance) const
     double last = -1;
     for (Note& note : line.Notes)
     {
-        const Chord& chord = _chords[ChordAt(note.Start)].Sounding;
+        const Chord& chord = Chords[ChordAt(note.Start)].Sounding;
         const auto has = [&](int trial) { return Has(chord, Wrap(trial - chord.Root, 12)); };
         // Not a semitone above another tone of the chord: that would rub.
-        int key = RoundToInt(note.Key) - distance;
+        int key = base::RoundEven(note.Key) - distance;
         const int lowest = key - 9;
         while (key > lowest && (!has(key) || has(key - 1)))
             --key;

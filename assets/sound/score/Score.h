@@ -1,4 +1,4 @@
-// sound/score/Score.h: a piece on paper: its form and harmony, and the notations in which the players' lines are
+// assets/sound/score/Score.h: a piece on paper: its form and harmony, and the notations in which the players' lines are
 // written.
 //
 // Chords:  "Am9 | Fmaj7 G | ..." the chords of a bar share it evenly.
@@ -15,8 +15,9 @@
 // Drums:   a line a drum: its name, then its pattern.
 // Chords and patterns shorter than their section are repeated. Wrong text throws std::runtime_error.
 #pragma once
-#include "sound/score/Chords.h"
-#include "sound/score/Line.h"
+#include "assets/sound/score/Chords.h"
+#include "assets/sound/score/Line.h"
+
 #include <map>
 #include <string>
 #include <vector>
@@ -47,7 +48,7 @@ public:
     Score(const Tempo& tempo, std::vector<Section> sections);
 
     double Seconds(double beat) const; // when a moment is heard, swing included
-    double Beats() const { return _beats; }
+    double Beats() const { return TotalBeats; }
     double StartOf(const std::string& section) const; // beats
     double EndOf(const std::string& section) const;
 
@@ -74,10 +75,10 @@ private:
     const Section& Named(const std::string& name) const;
     std::size_t ChordAt(double beat) const;
 
-    Tempo _tempo;
-    std::vector<Section> _sections;
-    std::vector<double> _starts; // beats, one a section
-    std::vector<Placed> _chords;
-    double _beats = 0;
+    Tempo Pace;
+    std::vector<Section> Sections;
+    std::vector<double> Starts; // beats, one a section
+    std::vector<Placed> Chords;
+    double TotalBeats = 0;
 };
 }

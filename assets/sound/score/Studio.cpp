@@ -1,5 +1,9 @@
-#include "sound/score/Studio.h"
-#include "sound/synth/Loudness.h"
+#include "assets/sound/score/Studio.h"
+
+#include "assets/common/Numbers.h"
+#include "assets/sound/synth/Loudness.h"
+#include "base/Numbers.h"
+
 #include <stdexcept>
 
 namespace assets::sound
@@ -42,8 +46,8 @@ void Trim(Stereo& sound)
 }
 
 Studio::Studio(const Score& score, const RoomSettings& room, const DelaySettings& echo)
-    : _score(score), _room(room), _echo(echo), _mix(Frames(score.Seconds(score.Beats()) + Tail)), _toRoom(_mix.Size()),
-      _toEcho(_mix.Size()), _pump(_mix.Size())
+    : Music(score), Reverb(room), Delay(echo), MixBus(Frames(score.Seconds(score.Beats()) + Tail)),
+      RoomBus(MixBus.Size()), EchoBus(MixBus.Size()), Pushed(MixBus.Size())
 {
 }
 
@@ -51,29 +55,29 @@ void Studio::PumpWith(const Line& strokes, double seconds)
 {
     for (const Note& note : strokes.Notes)
     {
-        const std::size_t start = Frames(_score.Seconds(note.Start));
-        for (std::size_t i = 0; i < Frames(seconds) && start + i < _pump.size(); ++i)
+        const std::size_t start = Frames(Music.Seconds(note.Start));
+        for (std::size_t i = 0; i < Frames(seconds) && start + i < Pushed.size(); ++i)
         {
             const double part = static_cast<double>(i) / (seconds * Rate);
             const double down = SmoothStep(1, 0.1, part) * std::min(1.0, static_cast<double>(i) / 150);
-            _pump[start + i] = std::max(_pump[start + i], static_cast<float>(down));
+            Pushed[start + i] = std::max(Pushed[start + i], static_cast<float>(down));
         }
     }
 }
 
 Stereo Studio::Played(const Line& line, const Instrument& instrument, const Strip& strip)
 {
-    Stereo part(_mix.Size());
-    ++_parts;
+    Stereo part(MixBus.Size());
+    ++PartCount;
     int index = 0;
     for (const Note& note : line.Notes)
     {
-        const double early = strip.Loose * (2 * HashUnit(index, 1, _parts) - 1);
-        const double start = std::max(0.0, _score.Seconds(note.Start) + strip.Late + early);
-        const double length = _score.Seconds(note.Start + note.Length) - _score.Seconds(note.Start);
-        const double force = note.Force * (1 + strip.Touch * (2 * HashUnit(index, 2, _parts) - 1));
+        const double early = strip.Loose * (2 * HashUnit(index, 1, PartCount) - 1);
+        const double start = std::max(0.0, Music.Seconds(note.Start) + strip.Late + early);
+        const double length = Music.Seconds(note.Start + note.Length) - Music.Seconds(note.Start);
+        const double force = note.Force * (1 + strip.Touch * (2 * HashUnit(index, 2, PartCount) - 1));
         instrument({start, length, HzOf(note.Key), HzOf(note.FromKey), std::clamp(force, 0.0, 1.0), note.Bright,
-                    Hash(index, 3, _parts)},
+                    Hash(index, 3, PartCount)},
                    part);
         ++index;
     }
@@ -86,15 +90,15 @@ void Studio::Follow(Stereo& part, double pump, const std::vector<RidePoint>& rid
     double last = 0, gain = 1;
     for (std::size_t i = 0; i < part.Size(); ++i)
     {
-        double decibels = -pump * _pump[i];
+        double decibels = -pump * Pushed[i];
         if (!ride.empty())
         {
             const double now = static_cast<double>(i) / Rate;
-            while (point + 1 < ride.size() && _score.Seconds(ride[point + 1].Beat) <= now)
+            while (point + 1 < ride.size() && Music.Seconds(ride[point + 1].Beat) <= now)
                 ++point;
             const RidePoint& a = ride[point];
             const RidePoint& b = ride[std::min(point + 1, ride.size() - 1)];
-            const double from = _score.Seconds(a.Beat), to = _score.Seconds(b.Beat);
+            const double from = Music.Seconds(a.Beat), to = Music.Seconds(b.Beat);
             decibels += Lerp(a.Decibels, b.Decibels, to > from ? Clamp01((now - from) / (to - from)) : 0);
         }
         if (decibels == 0)
@@ -118,11 +122,11 @@ void Studio::Record(const Line& line, const Instrument& instrument, const Strip&
     // Equal power: what moves aside stays as loud.
     const double turn = (strip.Pan + 1) * Pi / 4;
     const double left = std::cos(turn) * std::sqrt(2.0), right = std::sin(turn) * std::sqrt(2.0);
-    _mix.Add(part, left, right);
+    MixBus.Add(part, left, right);
     if (strip.Room > 0)
-        _toRoom.Add(part, left * strip.Room, right * strip.Room);
+        RoomBus.Add(part, left * strip.Room, right * strip.Room);
     if (strip.Echo > 0)
-        _toEcho.Add(part, left * strip.Echo, right * strip.Echo);
+        EchoBus.Add(part, left * strip.Echo, right * strip.Echo);
 }
 
 void Studio::Record(const Kit& kit, const std::map<std::string, Drum>& drums)
@@ -138,27 +142,27 @@ void Studio::Record(const Kit& kit, const std::map<std::string, Drum>& drums)
 
 Stereo Studio::Master(const std::vector<RidePoint>& ride)
 {
-    const Stereo echoes = Echo(_toEcho, _echo);
-    _mix.Add(echoes, 1, 1);
-    _toRoom.Add(echoes, 0.25, 0.25); // echoes stand in the same room
-    _mix.Add(Room(_toRoom, _room), 1, 1);
-    CutLow(_mix, 26);
-    Follow(_mix, 0, ride);
-    Scale(_mix, Decibels(Loudest - Loudness(_mix)));
+    const Stereo echoes = Echo(EchoBus, Delay);
+    MixBus.Add(echoes, 1, 1);
+    RoomBus.Add(echoes, 0.25, 0.25); // echoes stand in the same room
+    MixBus.Add(Room(RoomBus, Reverb), 1, 1);
+    CutLow(MixBus, 26);
+    Follow(MixBus, 0, ride);
+    Scale(MixBus, Decibels(Loudest - Loudness(MixBus)));
     // Glue: the loud passages draw a little nearer to the others.
-    Compress(_mix, -17, 1.7, 0.015, 0.18);
-    Drive(_mix, 2, 0); // like tape: the tips of the drums grow round
-    Stereo piece = _mix;
+    Compress(MixBus, -17, 1.7, 0.015, 0.18);
+    Drive(MixBus, 2, 0); // like tape: the tips of the drums grow round
+    Stereo piece = MixBus;
     double gain = Loudest - Loudness(piece);
     for (int turn = 0; turn < 3; ++turn)
     {
-        piece = _mix;
+        piece = MixBus;
         Scale(piece, Decibels(gain));
         Limit(piece, Ceiling);
         gain += Loudest - Loudness(piece);
     }
     Trim(piece);
-    _mix = _toRoom = _toEcho = Stereo();
+    MixBus = RoomBus = EchoBus = Stereo();
     return piece;
 }
 
@@ -181,7 +185,7 @@ Line Tremolo(const Line& line, double strokeBeats)
     Line strokes;
     for (const Note& note : line.Notes)
     {
-        const int count = note.Length < 0.5 - 1e-9 ? 1 : RoundToInt(note.Length / strokeBeats);
+        const int count = note.Length < 0.5 - 1e-9 ? 1 : base::RoundEven(note.Length / strokeBeats);
         for (int i = 0; i < count; ++i)
         {
             Note stroke = note;
@@ -203,7 +207,7 @@ Line Yielding(Line chords, const Line& melody)
         {
             const double from = std::max(sung.Start, held.Start);
             const double to = std::min(sung.Start + sung.Length, held.Start + held.Length);
-            if (to - from >= 0.9 && Wrap(RoundToInt(sung.Key - held.Key), 12) == 1)
+            if (to - from >= 0.9 && Wrap(base::RoundEven(sung.Key - held.Key), 12) == 1)
                 held.FromKey = ++held.Key;
         }
     return chords;
@@ -228,7 +232,7 @@ Line Strummed(const Score& score, Line line, double between)
         std::size_t last = first;
         while (last < line.Notes.size() && line.Notes[last].Start == line.Notes[first].Start)
             ++last;
-        const bool up = RoundToInt(line.Notes[first].Start * 4) % 2 != 0;
+        const bool up = base::RoundEven(line.Notes[first].Start * 4) % 2 != 0;
         for (std::size_t i = first; i < last; ++i)
         {
             const std::size_t order = up ? last - 1 - i : i - first;

@@ -1,8 +1,8 @@
-// sound/score/Studio.h: where a score is played, mixed and mastered.
+// assets/sound/score/Studio.h: where a score is played, mixed and mastered.
 #pragma once
-#include "sound/score/Score.h"
-#include "sound/synth/Effects.h"
-#include "sound/synth/Tone.h"
+#include "assets/sound/score/Score.h"
+#include "assets/sound/synth/Effects.h"
+#include "assets/sound/synth/Tone.h"
 
 namespace assets::sound
 {
@@ -51,12 +51,12 @@ private:
     Stereo Played(const Line& line, const Instrument& instrument, const Strip& strip);
     void Follow(Stereo& part, double pump, const std::vector<RidePoint>& ride) const;
 
-    const Score& _score;
-    RoomSettings _room;
-    DelaySettings _echo;
-    Stereo _mix, _toRoom, _toEcho;
-    std::vector<float> _pump; // 0: free, 1: pushed down fully
-    std::uint32_t _parts = 0;
+    const Score& Music;
+    RoomSettings Reverb;
+    DelaySettings Delay;
+    Stereo MixBus, RoomBus, EchoBus;
+    std::vector<float> Pushed; // 0: free, 1: pushed down fully
+    std::uint32_t PartCount = 0;
 };
 
 // Opens (or closes) the filters of the notes between two beats, evenly.

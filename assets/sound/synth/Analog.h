@@ -1,7 +1,7 @@
-// sound/synth/Analog.h: the subtractive voice behind pads, basses, leads, plucks, brass and reeds.
+// assets/sound/synth/Analog.h: the subtractive voice behind pads, basses, leads, plucks, brass and reeds.
 #pragma once
-#include "sound/synth/Envelope.h"
-#include "sound/synth/Tone.h"
+#include "assets/sound/synth/Envelope.h"
+#include "assets/sound/synth/Tone.h"
 
 namespace assets::sound
 {

@@ -1,4 +1,6 @@
-#include "sound/synth/Biquad.h"
+#include "assets/sound/synth/Biquad.h"
+
+#include "assets/common/Numbers.h"
 
 namespace assets::sound
 {
@@ -41,14 +43,6 @@ Biquad HighShelfOf(double hz, double decibels)
     const double a = std::sqrt(Decibels(decibels)), root = 2 * std::sqrt(a) * t.Alpha, c = t.Cos;
     return Scaled(a * (a + 1 + (a - 1) * c + root), -2 * a * (a - 1 + (a + 1) * c), a * (a + 1 + (a - 1) * c - root),
                   a + 1 - (a - 1) * c + root, 2 * (a - 1 - (a + 1) * c), a + 1 - (a - 1) * c - root);
-}
-
-Biquad LowShelfOf(double hz, double decibels)
-{
-    const Turn t(hz, 0.7071);
-    const double a = std::sqrt(Decibels(decibels)), root = 2 * std::sqrt(a) * t.Alpha, c = t.Cos;
-    return Scaled(a * (a + 1 - (a - 1) * c + root), 2 * a * (a - 1 - (a + 1) * c), a * (a + 1 - (a - 1) * c - root),
-                  a + 1 + (a - 1) * c + root, -2 * (a - 1 + (a + 1) * c), a + 1 + (a - 1) * c - root);
 }
 
 void RunBoth(Stereo& sound, const Biquad& filter)

@@ -1,13 +1,13 @@
-// sound/synth/Biquad.h: two poles, two zeros, fixed: the tone controls of a mixing desk.
+// assets/sound/synth/Biquad.h: two poles, two zeros, fixed: the tone controls of a mixing desk.
 #pragma once
-#include "sound/synth/Stereo.h"
+#include "assets/sound/synth/Stereo.h"
 
 namespace assets::sound
 {
 struct Biquad
 {
-    double B0 = 1, B1 = 0, B2 = 0, A1 = 0, A2 = 0;
-    double S1 = 0, S2 = 0;
+    double B0 = 1, B1 = 0, B2 = 0, A1 = 0, A2 = 0; // zeros and poles, A0 being 1
+    double S1 = 0, S2 = 0;                         // what the next frames still get
 
     double Run(double in)
     {
@@ -18,11 +18,11 @@ struct Biquad
     }
 };
 
+// Frequencies in Hz; gains in decibels; q: the narrower the larger.
 Biquad HighPassOf(double hz, double q);
 Biquad LowPassOf(double hz, double q);
 Biquad BellOf(double hz, double q, double decibels);
 Biquad HighShelfOf(double hz, double decibels);
-Biquad LowShelfOf(double hz, double decibels);
 // The same filter on either side.
 void RunBoth(Stereo& sound, const Biquad& filter);
 }

@@ -1,6 +1,9 @@
-#include "sound/synth/Cymbals.h"
-#include "sound/synth/Filter.h"
-#include "sound/synth/Wave.h"
+#include "assets/sound/synth/Cymbals.h"
+
+#include "assets/common/Numbers.h"
+#include "assets/sound/synth/Filter.h"
+#include "assets/sound/synth/Wave.h"
+
 #include <array>
 
 namespace assets::sound
@@ -16,23 +19,23 @@ double Fall(double t, double ring)
 class Metals
 {
 public:
-    explicit Metals(double scale) : _scale(scale) {}
+    explicit Metals(double scale) : Scale(scale) {}
     double Next()
     {
         static constexpr std::array<double, 6> Hz{205.3, 304.4, 369.6, 522.7, 540.0, 800.0};
         double sum = 0;
         for (std::size_t i = 0; i < Hz.size(); ++i)
         {
-            _turns[i] += Hz[i] * _scale / Rate;
-            _turns[i] -= std::floor(_turns[i]);
-            sum += _turns[i] < 0.5 ? 1 : -1;
+            Turns[i] += Hz[i] * Scale / Rate;
+            Turns[i] -= std::floor(Turns[i]);
+            sum += Turns[i] < 0.5 ? 1 : -1;
         }
         return sum / 6;
     }
 
 private:
-    double _scale;
-    std::array<double, 6> _turns{0.1, 0.7, 0.3, 0.9, 0.5, 0.2};
+    double Scale;
+    std::array<double, 6> Turns{0.1, 0.7, 0.3, 0.9, 0.5, 0.2};
 };
 
 // Calls sound(t, side) for both sides, 0 and 1, of every frame.

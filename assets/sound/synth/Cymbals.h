@@ -1,6 +1,6 @@
-// sound/synth/Cymbals.h: metal, shakers, and the noises that lead from one part of a piece to the next.
+// assets/sound/synth/Cymbals.h: metal, shakers, and the noises that lead from one part of a piece to the next.
 #pragma once
-#include "sound/synth/Tone.h"
+#include "assets/sound/synth/Tone.h"
 
 namespace assets::sound
 {

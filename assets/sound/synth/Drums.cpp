@@ -1,6 +1,8 @@
-#include "sound/synth/Drums.h"
-#include "sound/synth/Filter.h"
-#include "sound/synth/Wave.h"
+#include "assets/sound/synth/Drums.h"
+
+#include "assets/common/Numbers.h"
+#include "assets/sound/synth/Filter.h"
+#include "assets/sound/synth/Wave.h"
 
 namespace assets::sound
 {
@@ -27,16 +29,16 @@ template <class Body> void Strike(const Tone& tone, Stereo& out, double seconds,
 class Skin
 {
 public:
-    Skin(double from, double to, double time) : _from(from), _to(to), _time(time) {}
+    Skin(double from, double to, double time) : From(from), To(to), Time(time) {}
     double Next(double t)
     {
-        const double value = Sine(_turns);
-        _turns += (_to + (_from - _to) * std::exp(-t / _time)) / Rate;
+        const double value = Sine(Turns);
+        Turns += (To + (From - To) * std::exp(-t / Time)) / Rate;
         return value;
     }
 
 private:
-    double _from, _to, _time, _turns = 0;
+    double From, To, Time, Turns = 0;
 };
 }
 

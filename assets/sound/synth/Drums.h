@@ -1,6 +1,7 @@
-// sound/synth/Drums.h: synthesised drums. Skins here, metal and noises of the studio in synth/Cymbals.h.
+// assets/sound/synth/Drums.h: synthesised drums. Hz and seconds; strengths from 0. Skins here, metal and noises of the
+// studio in assets/sound/synth/Cymbals.h.
 #pragma once
-#include "sound/synth/Tone.h"
+#include "assets/sound/synth/Tone.h"
 
 namespace assets::sound
 {

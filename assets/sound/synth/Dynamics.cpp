@@ -1,30 +1,16 @@
-// Compress and Limit of synth/Effects.h.
-#include "sound/synth/Effects.h"
-#include "sound/synth/Oversample.h"
+// Compress and Limit of assets/sound/synth/Effects.h.
+#include "assets/sound/synth/Effects.h"
+
+#include "assets/sound/synth/Oversample.h"
+
 #include <deque>
 
 namespace assets::sound
 {
-void Compress(Stereo& sound, double threshold, double ratio, double attack, double release)
+namespace
 {
-    const double up = 1 - std::exp(-1 / (attack * Rate)), down = 1 - std::exp(-1 / (release * Rate));
-    double power = 0, lowered = 0; // decibels
-    for (std::size_t i = 0; i < sound.Size(); ++i)
-    {
-        const double l = sound.Left[i], r = sound.Right[i];
-        power += 0.004 * (0.5 * (l * l + r * r) - power);
-        const double over = 10 * std::log10(power + 1e-12) - threshold;
-        // The bend at the threshold is 6 dB wide.
-        const double knee = over <= -3 ? 0 : over >= 3 ? over : (over + 3) * (over + 3) / 12;
-        const double wanted = knee * (1 - 1 / ratio);
-        lowered += (wanted > lowered ? up : down) * (wanted - lowered);
-        const double gain = Decibels(-lowered);
-        sound.Put(i, l * gain, r * gain);
-    }
-}
-
 // For every frame, the largest value at it and at the finer places around it.
-static std::vector<float> Peaks(const Stereo& sound)
+std::vector<float> Peaks(const Stereo& sound)
 {
     std::vector<float> peaks(sound.Size());
     for (const std::vector<float>* side : {&sound.Left, &sound.Right})
@@ -45,6 +31,25 @@ static std::vector<float> Peaks(const Stereo& sound)
         }
     }
     return peaks;
+}
+}
+
+void Compress(Stereo& sound, double threshold, double ratio, double attack, double release)
+{
+    const double up = 1 - std::exp(-1 / (attack * Rate)), down = 1 - std::exp(-1 / (release * Rate));
+    double power = 0, lowered = 0; // decibels
+    for (std::size_t i = 0; i < sound.Size(); ++i)
+    {
+        const double l = sound.Left[i], r = sound.Right[i];
+        power += 0.004 * (0.5 * (l * l + r * r) - power);
+        const double over = 10 * std::log10(power + 1e-12) - threshold;
+        // The bend at the threshold is 6 dB wide.
+        const double knee = over <= -3 ? 0 : over >= 3 ? over : (over + 3) * (over + 3) / 12;
+        const double wanted = knee * (1 - 1 / ratio);
+        lowered += (wanted > lowered ? up : down) * (wanted - lowered);
+        const double gain = Decibels(-lowered);
+        sound.Put(i, l * gain, r * gain);
+    }
 }
 
 void Limit(Stereo& sound, double ceiling)

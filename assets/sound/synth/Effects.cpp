@@ -1,11 +1,35 @@
-#include "sound/synth/Effects.h"
-#include "sound/synth/Biquad.h"
-#include "sound/synth/Filter.h"
-#include "sound/synth/Oversample.h"
-#include "sound/synth/Wave.h"
+#include "assets/sound/synth/Effects.h"
+
+#include "assets/common/Numbers.h"
+#include "assets/sound/synth/Biquad.h"
+#include "assets/sound/synth/Filter.h"
+#include "assets/sound/synth/Oversample.h"
+#include "assets/sound/synth/Wave.h"
+#include "base/Numbers.h"
 
 namespace assets::sound
 {
+namespace
+{
+void DriveSide(std::vector<float>& side, double gain, double lean)
+{
+    Upsampler up;
+    Downsampler down;
+    const double rest = std::tanh(lean);
+    // What goes in comes out Delay frames later; the beginning of the result is left out.
+    constexpr std::size_t Delay = Upsampler::Reach + Downsampler::Reach;
+    for (std::size_t i = 0; i < side.size() + Delay; ++i)
+    {
+        auto fine = up.Next(i < side.size() ? gain * side[i] : 0.0);
+        for (double& value : fine)
+            value = std::tanh(value + lean) - rest;
+        const double out = down.Next(fine);
+        if (i >= Delay)
+            side[i - Delay] = static_cast<float>(out);
+    }
+}
+}
+
 void CutLow(Stereo& sound, double hz)
 {
     RunBoth(sound, HighPassOf(hz, 0.7071));
@@ -26,29 +50,6 @@ void HighShelf(Stereo& sound, double hz, double decibels)
     RunBoth(sound, HighShelfOf(hz, decibels));
 }
 
-void LowShelf(Stereo& sound, double hz, double decibels)
-{
-    RunBoth(sound, LowShelfOf(hz, decibels));
-}
-
-static void DriveSide(std::vector<float>& side, double gain, double lean)
-{
-    Upsampler up;
-    Downsampler down;
-    const double rest = std::tanh(lean);
-    // What goes in comes out Delay frames later; the beginning of the result is left out.
-    constexpr std::size_t Delay = Upsampler::Reach + Downsampler::Reach;
-    for (std::size_t i = 0; i < side.size() + Delay; ++i)
-    {
-        auto fine = up.Next(i < side.size() ? gain * side[i] : 0.0);
-        for (double& value : fine)
-            value = std::tanh(value + lean) - rest;
-        const double out = down.Next(fine);
-        if (i >= Delay)
-            side[i - Delay] = static_cast<float>(out);
-    }
-}
-
 void Drive(Stereo& sound, double decibels, double lean)
 {
     DriveSide(sound.Left, Decibels(decibels), lean);
@@ -62,7 +63,7 @@ void Chorus(Stereo& sound, double depth, double mix)
     std::vector<double> left(Room), right(Room);
     const auto read = [](const std::vector<double>& line, std::size_t at, double back)
     {
-        const auto whole = static_cast<std::size_t>(FloorToInt(back));
+        const auto whole = static_cast<std::size_t>(base::Floor(back));
         const double part = back - static_cast<double>(whole);
         return Lerp(line[(at + Room - whole) % Room], line[(at + Room - whole - 1) % Room], part);
     };

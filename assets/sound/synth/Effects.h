@@ -1,6 +1,7 @@
-// sound/synth/Effects.h: what is done to a whole part or bus. Frequencies in Hz, times in seconds, levels in decibels.
+// assets/sound/synth/Effects.h: what is done to a whole part or bus. Frequencies in Hz, times in seconds, levels in
+// decibels.
 #pragma once
-#include "sound/synth/Stereo.h"
+#include "assets/sound/synth/Stereo.h"
 
 namespace assets::sound
 {
@@ -9,9 +10,8 @@ void CutLow(Stereo& sound, double hz);
 void CutHigh(Stereo& sound, double hz);
 // Raises or lowers a region; q: the narrower the larger.
 void Bell(Stereo& sound, double hz, double q, double decibels);
-// Raises or lowers everything above (below).
+// Raises or lowers everything above.
 void HighShelf(Stereo& sound, double hz, double decibels);
-void LowShelf(Stereo& sound, double hz, double decibels);
 
 // Bends loud passages like an overdriven amplifier. Worked at four times the rate, so that nothing folds back.
 // `lean` bends one half more than the other.

@@ -1,4 +1,4 @@
-// sound/synth/Envelope.h: how a note swells and fades. Times in seconds.
+// assets/sound/synth/Envelope.h: how a note swells and fades. Times in seconds.
 #pragma once
 #include <algorithm>
 #include <cmath>
@@ -7,10 +7,10 @@ namespace assets::sound
 {
 struct Envelope
 {
-    double Attack = 0.004;
-    double Decay = 0.2; // to within 5 per cent of Sustain
-    double Sustain = 0.7;
-    double Release = 0.1; // to silence
+    double Attack = 0.004; // from silence to full
+    double Decay = 0.2;    // to within 5 per cent of Sustain
+    double Sustain = 0.7;  // share of full, while the key is held
+    double Release = 0.1;  // to silence
 
     // At t seconds from the beginning of a note whose key is let go after `held`.
     double At(double t, double held) const

@@ -1,6 +1,8 @@
-// sound/synth/Filter.h: the filters that voices and effects are made with. Frequencies in Hz.
+// assets/sound/synth/Filter.h: the filters that voices and effects are made with. Frequencies in Hz.
 #pragma once
-#include "sound/synth/Stereo.h"
+#include "assets/common/Numbers.h"
+#include "assets/sound/synth/Stereo.h"
+
 #include <cmath>
 
 namespace assets::sound
@@ -10,7 +12,7 @@ inline double FilterGain(double hz)
     return std::tan(Pi * std::clamp(hz, 10.0, 0.45 * Rate) / Rate);
 }
 
-// Two poles, swept without clicks (trapezoidal integration).
+// Two poles, swept without clicks (trapezoidal integration). One of Low, Band and High may be called a frame.
 class StateFilter
 {
 public:
@@ -19,38 +21,38 @@ public:
     void Set(double hz, double q)
     {
         const double g = FilterGain(hz);
-        _damp = 1 / q;
-        _a1 = 1 / (1 + g * (g + _damp));
-        _a2 = g * _a1;
-        _a3 = g * _a2;
+        Damp = 1 / q;
+        A1 = 1 / (1 + g * (g + Damp));
+        A2 = g * A1;
+        A3 = g * A2;
     }
     double Low(double in)
     {
         Step(in);
-        return _low;
+        return LowOut;
     }
     double Band(double in)
     {
         Step(in);
-        return _band;
+        return BandOut;
     }
     double High(double in)
     {
         Step(in);
-        return in - _damp * _band - _low;
+        return in - Damp * BandOut - LowOut;
     }
 
 private:
     void Step(double in)
     {
-        const double v3 = in - _ic2;
-        _band = _a1 * _ic1 + _a2 * v3;
-        _low = _ic2 + _a2 * _ic1 + _a3 * v3;
-        _ic1 = 2 * _band - _ic1;
-        _ic2 = 2 * _low - _ic2;
+        const double v3 = in - Ic2;
+        BandOut = A1 * Ic1 + A2 * v3;
+        LowOut = Ic2 + A2 * Ic1 + A3 * v3;
+        Ic1 = 2 * BandOut - Ic1;
+        Ic2 = 2 * LowOut - Ic2;
     }
-    double _damp = 1, _a1 = 0, _a2 = 0, _a3 = 0;
-    double _ic1 = 0, _ic2 = 0, _band = 0, _low = 0;
+    double Damp = 1, A1 = 0, A2 = 0, A3 = 0;
+    double Ic1 = 0, Ic2 = 0, BandOut = 0, LowOut = 0; // both integrators and their outputs
 };
 
 // Four poles with feedback that bends instead of running away: resonance 0 .. 1.1, it whistles from 1.
@@ -60,26 +62,26 @@ public:
     void Set(double hz, double resonance)
     {
         const double g = FilterGain(hz);
-        _part = g / (1 + g);
-        _feedback = 4 * resonance;
+        Part = g / (1 + g);
+        Feedback = 4 * resonance;
     }
     double Low(double in)
     {
         // The output half a step ahead is guessed from the last one, which is enough below a few kHz.
-        double x = std::tanh(in - _feedback * _last);
-        for (double& state : _state)
+        double x = std::tanh(in - Feedback * Last);
+        for (double& state : State)
         {
-            const double v = (x - state) * _part;
+            const double v = (x - state) * Part;
             x = v + state;
             state = x + v;
         }
-        _last = x;
+        Last = x;
         return x;
     }
 
 private:
-    double _part = 0, _feedback = 0, _last = 0;
-    double _state[4] = {};
+    double Part = 0, Feedback = 0, Last = 0;
+    double State[4] = {};
 };
 
 // One pole: the difference to the input is its high-pass.
@@ -87,11 +89,11 @@ class OnePole
 {
 public:
     explicit OnePole(double hz = 1000) { Set(hz); }
-    void Set(double hz) { _share = 1 - std::exp(-2 * Pi * hz / Rate); }
-    double Low(double in) { return _state += _share * (in - _state); }
+    void Set(double hz) { Share = 1 - std::exp(-2 * Pi * hz / Rate); }
+    double Low(double in) { return State += Share * (in - State); }
     double High(double in) { return in - Low(in); }
 
 private:
-    double _share = 1, _state = 0;
+    double Share = 1, State = 0;
 };
 }

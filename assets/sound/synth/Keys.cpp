@@ -1,6 +1,9 @@
-#include "sound/synth/Keys.h"
-#include "sound/synth/Filter.h"
-#include "sound/synth/Wave.h"
+#include "assets/sound/synth/Keys.h"
+
+#include "assets/common/Numbers.h"
+#include "assets/sound/synth/Filter.h"
+#include "assets/sound/synth/Wave.h"
+
 #include <array>
 
 namespace assets::sound

@@ -1,7 +1,7 @@
-// sound/synth/Keys.h: instruments made of sines: electric piano, bells, organ, whistle.
+// assets/sound/synth/Keys.h: instruments made of sines: electric piano, bells, organ, whistle.
 #pragma once
-#include "sound/synth/Envelope.h"
-#include "sound/synth/Tone.h"
+#include "assets/sound/synth/Envelope.h"
+#include "assets/sound/synth/Tone.h"
 
 namespace assets::sound
 {

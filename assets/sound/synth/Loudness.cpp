@@ -1,5 +1,7 @@
-#include "sound/synth/Loudness.h"
-#include "sound/synth/Biquad.h"
+#include "assets/sound/synth/Loudness.h"
+
+#include "assets/common/Numbers.h"
+#include "assets/sound/synth/Biquad.h"
 
 namespace assets::sound
 {

@@ -1,6 +1,6 @@
-// sound/synth/Loudness.h: how loud a sound is heard, by the measure that broadcasters use (ITU-R BS.1770).
+// assets/sound/synth/Loudness.h: how loud a sound is heard, by the measure that broadcasters use (ITU-R BS.1770).
 #pragma once
-#include "sound/synth/Stereo.h"
+#include "assets/sound/synth/Stereo.h"
 
 namespace assets::sound
 {

@@ -1,5 +1,6 @@
-#include "sound/synth/Oversample.h"
-#include "common/Numbers.h"
+#include "assets/sound/synth/Oversample.h"
+
+#include "assets/common/Numbers.h"
 
 namespace assets::sound
 {
@@ -33,15 +34,15 @@ const std::array<double, Taps>& Kernel()
 
 std::array<double, Times> Upsampler::Next(double in)
 {
-    _past[_at] = in;
+    Past[At] = in;
     std::array<double, Times> out{};
     for (std::size_t back = 0; back < 2 * Reach; ++back)
     {
-        const double value = _past[(_at + 2 * Reach - back) % (2 * Reach)];
+        const double value = Past[(At + 2 * Reach - back) % (2 * Reach)];
         for (std::size_t k = 0; k < Times; ++k)
             out[k] += value * Kernel()[back * Times + k];
     }
-    _at = (_at + 1) % (2 * Reach);
+    At = (At + 1) % (2 * Reach);
     return out;
 }
 
@@ -49,13 +50,13 @@ double Downsampler::Next(const std::array<double, Times>& in)
 {
     const auto push = [&](double value)
     {
-        _past[_at] = value;
-        _at = (_at + 1) % Taps;
+        Past[At] = value;
+        At = (At + 1) % Taps;
     };
     push(in[0]); // the result lies at the first of the four
     double sum = 0;
     for (std::size_t back = 0; back < Taps; ++back)
-        sum += _past[(_at + Taps - 1 - back) % Taps] * Kernel()[back];
+        sum += Past[(At + Taps - 1 - back) % Taps] * Kernel()[back];
     for (std::size_t k = 1; k < Times; ++k)
         push(in[k]);
     return sum / Times;

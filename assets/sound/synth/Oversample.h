@@ -1,4 +1,4 @@
-// sound/synth/Oversample.h: four frames out of one and back, by a long low-pass.
+// assets/sound/synth/Oversample.h: four frames out of one and back, by a long low-pass.
 #pragma once
 #include <array>
 #include <cstddef>
@@ -6,7 +6,7 @@
 
 namespace assets::sound
 {
-constexpr std::size_t Times = 4;
+inline constexpr std::size_t Times = 4;
 
 // The values between: result[Times * i + k] lies k / Times after frame i.
 class Upsampler
@@ -17,8 +17,8 @@ public:
     static constexpr std::size_t Reach = 8;
 
 private:
-    std::array<double, 2 * Reach> _past{};
-    std::size_t _at = 0;
+    std::array<double, 2 * Reach> Past{};
+    std::size_t At = 0;
 };
 
 // The way back: one frame out of four.
@@ -29,7 +29,7 @@ public:
     static constexpr std::size_t Reach = 8; // frames of delay
 
 private:
-    std::array<double, 2 * Reach * Times> _past{};
-    std::size_t _at = 0;
+    std::array<double, 2 * Reach * Times> Past{};
+    std::size_t At = 0;
 };
 }

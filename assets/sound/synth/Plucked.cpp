@@ -1,5 +1,7 @@
-#include "sound/synth/Plucked.h"
-#include "sound/synth/Filter.h"
+#include "assets/sound/synth/Plucked.h"
+
+#include "assets/common/Numbers.h"
+#include "assets/sound/synth/Filter.h"
 
 namespace assets::sound
 {
@@ -9,33 +11,33 @@ namespace
 class String
 {
 public:
-    String(double hz, double softness) : _softness(softness)
+    String(double hz, double softness) : Softness(softness)
     {
         const double period = Rate / hz - softness; // the softening filter delays by that much
         const double whole = std::floor(period - 0.5);
         const double part = period - whole;
-        _tune = (1 - part) / (1 + part);
-        _line.assign(static_cast<std::size_t>(std::max(2.0, whole)), 0.0);
+        Tune = (1 - part) / (1 + part);
+        Cells.assign(static_cast<std::size_t>(std::max(2.0, whole)), 0.0);
     }
-    std::size_t Period() const { return _line.size(); }
+    std::size_t Period() const { return Cells.size(); }
     double Step(double blow, double loss)
     {
-        double& cell = _line[_at];
+        double& cell = Cells[At];
         const double end = cell;
-        const double soft = (1 - _softness) * end + _softness * _lastEnd;
-        _lastEnd = end;
-        const double tuned = _tune * (soft - _lastTuned) + _lastSoft; // all-pass: the fraction of a frame
-        _lastSoft = soft;
-        _lastTuned = tuned;
+        const double soft = (1 - Softness) * end + Softness * LastEnd;
+        LastEnd = end;
+        const double tuned = Tune * (soft - LastTuned) + LastSoft; // all-pass: the fraction of a frame
+        LastSoft = soft;
+        LastTuned = tuned;
         cell = blow + tuned * loss;
-        _at = _at + 1 == _line.size() ? 0 : _at + 1;
+        At = At + 1 == Cells.size() ? 0 : At + 1;
         return cell;
     }
 
 private:
-    std::vector<double> _line;
-    std::size_t _at = 0;
-    double _softness, _tune, _lastEnd = 0, _lastSoft = 0, _lastTuned = 0;
+    std::vector<double> Cells;
+    std::size_t At = 0;
+    double Softness, Tune, LastEnd = 0, LastSoft = 0, LastTuned = 0;
 };
 
 // What the plectrum gives the string in the first period, minus its echo from the bridge.

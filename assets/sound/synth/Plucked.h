@@ -1,6 +1,6 @@
-// sound/synth/Plucked.h: plucked strings as travelling waves: guitar, bass guitar, mandolin.
+// assets/sound/synth/Plucked.h: plucked strings as travelling waves: guitar, bass guitar, mandolin.
 #pragma once
-#include "sound/synth/Tone.h"
+#include "assets/sound/synth/Tone.h"
 
 namespace assets::sound
 {

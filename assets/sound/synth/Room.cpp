@@ -1,7 +1,11 @@
-// Room of synth/Effects.h: eight delay lines that feed each other.
-#include "sound/synth/Effects.h"
-#include "sound/synth/Filter.h"
-#include "sound/synth/Wave.h"
+// Room of assets/sound/synth/Effects.h: eight delay lines that feed each other.
+#include "assets/sound/synth/Effects.h"
+
+#include "assets/common/Numbers.h"
+#include "assets/sound/synth/Filter.h"
+#include "assets/sound/synth/Wave.h"
+#include "base/Numbers.h"
+
 #include <array>
 
 namespace assets::sound
@@ -16,19 +20,19 @@ constexpr double Wander = 9; // frames by which a line's length moves, against a
 class Diffuser
 {
 public:
-    explicit Diffuser(double milliseconds) : _line(Frames(milliseconds / 1000)) {}
+    explicit Diffuser(double milliseconds) : Cells(Frames(milliseconds / 1000)) {}
     double Run(double in)
     {
-        double& cell = _line[_at];
+        double& cell = Cells[At];
         const double old = cell;
         cell = in + 0.62 * old;
-        _at = _at + 1 == _line.size() ? 0 : _at + 1;
+        At = At + 1 == Cells.size() ? 0 : At + 1;
         return old - 0.62 * cell;
     }
 
 private:
-    std::vector<double> _line;
-    std::size_t _at = 0;
+    std::vector<double> Cells;
+    std::size_t At = 0;
 };
 
 struct Line
@@ -41,7 +45,7 @@ struct Line
     double Read(std::size_t now) const
     {
         const double back = Length + Wander * Sine(Phase + Speed * static_cast<double>(now) / Rate);
-        const auto whole = static_cast<std::size_t>(FloorToInt(back));
+        const auto whole = static_cast<std::size_t>(base::Floor(back));
         const std::size_t size = Cells.size(), at = (now + size * 2 - whole) % size;
         return Lerp(Cells[at], Cells[(at + size - 1) % size], back - static_cast<double>(whole));
     }

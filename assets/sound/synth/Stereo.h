@@ -1,19 +1,22 @@
-// sound/synth/Stereo.h: a stretch of stereo sound, 1 is full scale.
+// assets/sound/synth/Stereo.h: a stretch of stereo sound, 1 is full scale.
 #pragma once
-#include "common/Numbers.h"
 #include <algorithm>
+#include <cmath>
 #include <cstddef>
+#include <cstdint>
 #include <vector>
 
 namespace assets::sound
 {
-constexpr int Rate = 44100; // frames a second of everything but the engine
+inline constexpr int Rate = 44100; // frames a second of everything but the engine
 
+// Rounded; 0 for negative times.
 inline std::size_t Frames(double seconds)
 {
     return static_cast<std::size_t>(std::llrint(std::max(0.0, seconds) * Rate));
 }
 
+// The factor of a level in decibels.
 inline double Decibels(double level)
 {
     return std::pow(10.0, level / 20);
@@ -49,15 +52,15 @@ struct Stereo
 class NoiseSource
 {
 public:
-    explicit NoiseSource(std::uint32_t seed) : _state(seed * 2654435761u + 1u) {}
+    explicit NoiseSource(std::uint32_t seed) : State(seed * 2654435761u + 1u) {}
     double Next()
     {
-        _state = _state * 1664525u + 1013904223u;
-        const std::uint32_t mixed = (_state ^ (_state >> 15)) * 0x2C1B3C6Du;
+        State = State * 1664525u + 1013904223u;
+        const std::uint32_t mixed = (State ^ (State >> 15)) * 0x2C1B3C6Du;
         return (mixed ^ (mixed >> 13)) * (2.0 / 4294967296.0) - 1;
     }
 
 private:
-    std::uint32_t _state;
+    std::uint32_t State;
 };
 }

@@ -1,6 +1,7 @@
-// sound/synth/Tone.h: one note as an instrument hears it.
+// assets/sound/synth/Tone.h: one note as an instrument hears it.
 #pragma once
-#include "sound/synth/Stereo.h"
+#include "assets/sound/synth/Stereo.h"
+
 #include <functional>
 
 namespace assets::sound

@@ -1,5 +1,9 @@
-#include "sound/synth/Wave.h"
-#include "sound/synth/Stereo.h"
+#include "assets/sound/synth/Wave.h"
+
+#include "assets/common/Numbers.h"
+#include "assets/sound/synth/Stereo.h"
+#include "base/Numbers.h"
+
 #include <algorithm>
 #include <array>
 #include <cmath>
@@ -16,7 +20,7 @@ constexpr double Band = 0.43; // of the sample rate: about 19 kHz
 
 int HarmonicsOf(int level)
 {
-    return FloorToInt(MostHarmonics * std::pow(2.0, -static_cast<double>(level) / LevelsPerOctave));
+    return base::Floor(MostHarmonics * std::pow(2.0, -static_cast<double>(level) / LevelsPerOctave));
 }
 
 using SineTable = std::array<double, TableSize + 1>;
@@ -36,7 +40,7 @@ const SineTable& Sines()
 template <class Table> double Between(const Table& table, double phase)
 {
     const double at = phase * TableSize;
-    const auto index = static_cast<std::size_t>(FloorToInt(at));
+    const auto index = static_cast<std::size_t>(base::Floor(at));
     const double part = at - static_cast<double>(index);
     return table[index] + (table[index + 1] - table[index]) * part;
 }
@@ -58,35 +62,24 @@ Wave::Wave(const std::function<double(int)>& strength)
             for (int i = 0; i <= TableSize; ++i)
                 sum[static_cast<std::size_t>(i)] += s * Sines()[static_cast<std::size_t>(harmonic * i % TableSize)];
         }
-        _tables.emplace_back(sum.begin(), sum.end());
+        Tables.emplace_back(sum.begin(), sum.end());
     }
 }
 
 int Wave::Level(double step)
 {
     const double room = Band / std::max(step, Band / MostHarmonics);
-    return std::clamp(-FloorToInt(-LevelsPerOctave * std::log2(MostHarmonics / room)), 0, Levels - 1);
+    return std::clamp(-base::Floor(-LevelsPerOctave * std::log2(MostHarmonics / room)), 0, Levels - 1);
 }
 
 double Wave::At(double phase, int level) const
 {
-    return Between(_tables[static_cast<std::size_t>(level)], phase);
+    return Between(Tables[static_cast<std::size_t>(level)], phase);
 }
 
 const Wave& Saw()
 {
     static const Wave wave([](int harmonic) { return 2 / (Pi * harmonic); });
-    return wave;
-}
-
-const Wave& Triangle()
-{
-    static const Wave wave(
-        [](int harmonic)
-        {
-            const double size = 8 / (Pi * Pi * harmonic * harmonic);
-            return harmonic % 2 == 0 ? 0 : harmonic % 4 == 1 ? size : -size;
-        });
     return wave;
 }
 
@@ -97,19 +90,19 @@ double Sine(double turns)
 
 void Oscillator::SetHz(double hz)
 {
-    _step = hz / Rate;
-    _level = Wave::Level(_step);
+    Step = hz / Rate;
+    Level = Wave::Level(Step);
 }
 
 void Oscillator::Advance()
 {
-    _phase += _step;
-    _phase -= std::floor(_phase);
+    Phase += Step;
+    Phase -= std::floor(Phase);
 }
 
 double Oscillator::PulseNow(double width) const
 {
-    const double other = _phase + width;
-    return Saw().At(_phase, _level) - Saw().At(other - std::floor(other), _level);
+    const double other = Phase + width;
+    return Saw().At(Phase, Level) - Saw().At(other - std::floor(other), Level);
 }
 }

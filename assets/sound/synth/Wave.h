@@ -1,4 +1,5 @@
-// sound/synth/Wave.h: sawtooth and triangle without aliasing: tables with fewer harmonics the higher the note.
+// assets/sound/synth/Wave.h: a sawtooth without aliasing, from tables with fewer harmonics the higher the note, and
+// sines.
 #pragma once
 #include <functional>
 #include <vector>
@@ -16,11 +17,10 @@ public:
     double At(double phase, int level) const;
 
 private:
-    std::vector<std::vector<float>> _tables; // each one turn, the first point repeated at the end
+    std::vector<std::vector<float>> Tables; // each one turn, the first point repeated at the end
 };
 
 const Wave& Saw();
-const Wave& Triangle();
 
 // Sine of `turns` full turns.
 double Sine(double turns);
@@ -29,17 +29,16 @@ double Sine(double turns);
 class Oscillator
 {
 public:
-    explicit Oscillator(double phase = 0) : _phase(phase) {}
+    explicit Oscillator(double phase = 0) : Phase(phase) {}
     void SetHz(double hz);
     void Advance();
-    double SawNow() const { return Saw().At(_phase, _level); }
-    double TriangleNow() const { return Triangle().At(_phase, _level); }
-    double SineNow() const { return Sine(_phase); }
+    double SawNow() const { return Saw().At(Phase, Level); }
+    double SineNow() const { return Sine(Phase); }
     // width: share of the period, 0 .. 1.
     double PulseNow(double width) const;
 
 private:
-    double _phase, _step = 0;
-    int _level = 0;
+    double Phase, Step = 0;
+    int Level = 0;
 };
 }

@@ -1,12 +1,13 @@
 // Limonata sul molo: D major, 116 beats a minute, sixteenths that swing. The verse rocks between two chords, the chorus
 // sings over eight and turns to the minor subdominant near its end; the bridge is a lament over a falling bass.
-#include "sound/score/Studio.h"
-#include "sound/synth/Analog.h"
-#include "sound/synth/Cymbals.h"
-#include "sound/synth/Drums.h"
-#include "sound/synth/Keys.h"
-#include "sound/synth/Plucked.h"
-#include "sound/Tracks.h"
+#include "assets/sound/Tracks.h"
+
+#include "assets/sound/score/Studio.h"
+#include "assets/sound/synth/Analog.h"
+#include "assets/sound/synth/Cymbals.h"
+#include "assets/sound/synth/Drums.h"
+#include "assets/sound/synth/Keys.h"
+#include "assets/sound/synth/Plucked.h"
 
 namespace assets::sound
 {

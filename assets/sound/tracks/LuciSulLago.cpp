@@ -1,10 +1,11 @@
 // Luci sul lago: A minor, later B minor, 110 beats a minute. The hook is the rising 3 + 3 + 2 of the chorus.
-#include "sound/score/Studio.h"
-#include "sound/synth/Analog.h"
-#include "sound/synth/Cymbals.h"
-#include "sound/synth/Drums.h"
-#include "sound/synth/Keys.h"
-#include "sound/Tracks.h"
+#include "assets/sound/Tracks.h"
+
+#include "assets/sound/score/Studio.h"
+#include "assets/sound/synth/Analog.h"
+#include "assets/sound/synth/Cymbals.h"
+#include "assets/sound/synth/Drums.h"
+#include "assets/sound/synth/Keys.h"
 
 namespace assets::sound
 {

@@ -1,12 +1,14 @@
 // Tornanti: E minor, 144 beats a minute. Electric guitars on both sides of a sequencer; the riff climbs through the
 // flattened fifth like a road through its hairpins, the chorus opens over C and D.
-#include "sound/score/Studio.h"
-#include "sound/synth/Analog.h"
-#include "sound/synth/Cymbals.h"
-#include "sound/synth/Drums.h"
-#include "sound/synth/Keys.h"
-#include "sound/synth/Plucked.h"
-#include "sound/Tracks.h"
+#include "assets/sound/Tracks.h"
+
+#include "assets/common/Numbers.h"
+#include "assets/sound/score/Studio.h"
+#include "assets/sound/synth/Analog.h"
+#include "assets/sound/synth/Cymbals.h"
+#include "assets/sound/synth/Drums.h"
+#include "assets/sound/synth/Keys.h"
+#include "assets/sound/synth/Plucked.h"
 
 namespace assets::sound
 {
