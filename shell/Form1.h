@@ -19,6 +19,8 @@
 namespace shell
 {
 class Form1 final : public platform::WindowEvents,
+                    public platform::WaveEvents,
+                    public platform::MusicEvents,
                     private world::FinishSink,
                     private forms::PicturePainter,
                     private forms::FormOwner,
@@ -76,6 +78,7 @@ public:
     void Resized() override;
     void Paint() override;
     bool CloseAsked() override;
+    // platform::WaveEvents, platform::MusicEvents
     void WaveDone(std::int32_t user) override;
     void MediaDone(std::uint32_t number, std::int32_t code) override;
 

@@ -76,7 +76,7 @@ void Form1::Repaint()
     if (!IsAnyControlShown())
     {
         if (!screen.Frame.Empty())
-            TheWindow->Present(screen.ScreenW, screen.ScreenH, screen.Frame.Bytes);
+            TheWindow->Present({screen.Frame.Bytes.data(), screen.Frame.RowBytes, screen.ScreenW, screen.Frame.Rows});
         return;
     }
     const platform::Size client = TheWindow->ClientSize();
@@ -85,7 +85,7 @@ void Form1::Repaint()
     TheInteraction.Settle();
     PaintDue = false; // what has just settled is painted now
     forms::PaintForm(TheCanvas, TheForm, TheInteraction.Shown(), *this);
-    TheWindow->Present(TheCanvas.Width, TheCanvas.Height, TheCanvas.Bytes);
+    TheWindow->Present({TheCanvas.Bytes.data(), TheCanvas.RowBytes, TheCanvas.Width, TheCanvas.Height});
 }
 
 void Form1::PaintPicture(forms::Canvas& canvas, const forms::Control& control, forms::Rect place)

@@ -25,8 +25,8 @@ render::PicReference LoadShared(base::MessageSink& messages, const base::Files& 
 }
 
 Form1::Form1(platform::Platform& platform)
-    : ThePlatform(platform), TheWindow(platform.MakeWindow(*this, DesignSize)),
-      TheWaveOut(platform.MakeWaveOut(*TheWindow)), TheMusic(platform.MakeMusicPlayer(*TheWindow))
+    : ThePlatform(platform), TheWindow(platform.MakeWindow(*this, DesignSize)), TheWaveOut(platform.MakeWaveOut(*this)),
+      TheMusic(platform.MakeMusicPlayer(*this))
 {
     TheWindow->SetTitle(base::DefaultTitle);
     MakeControls(TheForm);

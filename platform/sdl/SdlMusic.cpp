@@ -14,8 +14,9 @@ constexpr std::uint16_t BlockFrames = 1024;                                     
 constexpr std::size_t RingBytes = MusicDecoder::Rate * MusicDecoder::FrameBytes / 2; // half a second ahead
 }
 
-SdlMusic::SdlMusic(SdlPlatform& platform, std::uint32_t window)
-    : ThePlatform(platform), WindowId(window), Ring(RingBytes), Worker([this] { Decode(); })
+SdlMusic::SdlMusic(PostedEvents& posted, MusicEvents& events)
+    : Source(posted, [&events](std::int32_t code, std::uint32_t number) { events.MediaDone(number, code); }),
+      Ring(RingBytes), Worker([this] { Decode(); })
 {
 }
 
@@ -27,8 +28,7 @@ SdlMusic::~SdlMusic()
     }
     Changed.notify_all();
     Worker.join();
-    if (Device != 0)
-        SDL_CloseAudioDevice(Device);
+    Device.Close();
 }
 
 void SdlMusic::Open(const std::filesystem::path& file)
@@ -64,12 +64,8 @@ void SdlMusic::Close()
 
 bool SdlMusic::OpenDevice()
 {
-    if (Device != 0 && SDL_GetAudioDeviceStatus(Device) != SDL_AUDIO_STOPPED)
+    if (Device.IsAlive())
         return true;
-    if (Device != 0)
-        SDL_CloseAudioDevice(std::exchange(Device, 0));
-    if (!ThePlatform.HasSound())
-        return false;
     SDL_AudioSpec wanted = {};
     wanted.freq = MusicDecoder::Rate;
     wanted.format = AUDIO_S16SYS;
@@ -77,10 +73,10 @@ bool SdlMusic::OpenDevice()
     wanted.samples = BlockFrames;
     wanted.callback = Fill;
     wanted.userdata = this;
-    Device = SDL_OpenAudioDevice(nullptr, 0, &wanted, nullptr, 0);
-    if (Device != 0)
-        SDL_PauseAudioDevice(Device, 0);
-    return Device != 0;
+    if (!Device.Open(wanted))
+        return false;
+    Device.Pause(false);
+    return true;
 }
 
 void SdlMusic::Decode()
@@ -99,7 +95,7 @@ void SdlMusic::Decode()
         }
         const std::int32_t code = PlayThrough(order);
         if (code != 0 && !GiveUp)
-            ThePlatform.TellMediaDone(WindowId, order.Number, code);
+            Source.Post(code, order.Number);
     }
 }
 

@@ -1,7 +1,8 @@
 // platform/sdl/SdlMusic.h: plays music files on an SDL audio device of its own. A thread of its own decodes ahead of
 // SDL's; the window's thread only says what is to be played and never waits for either.
 #pragma once
-#include "platform/sdl/SdlPlatform.h"
+#include "platform/sdl/AudioDevice.h"
+#include "platform/sdl/EventSource.h"
 #include "platform/Sound.h"
 
 #include <SDL.h>
@@ -20,7 +21,8 @@ namespace platform
 class SdlMusic final : public MusicPlayer
 {
 public:
-    SdlMusic(SdlPlatform& platform, std::uint32_t window);
+    // Both outlive it.
+    SdlMusic(PostedEvents& posted, MusicEvents& events);
     ~SdlMusic() override;
     SdlMusic(const SdlMusic&) = delete;
     SdlMusic& operator=(const SdlMusic&) = delete;
@@ -45,9 +47,8 @@ private:
     static void Fill(void* self, std::uint8_t* bytes, int count);
     void Fill(std::uint8_t* bytes, std::size_t count);
 
-    SdlPlatform& ThePlatform;
-    std::uint32_t WindowId;
-    SDL_AudioDeviceID Device = 0;     // opened by the first Play
+    EventSource Source;
+    AudioDevice Device;               // opened by the first Play
     std::filesystem::path File;       // that is open
     std::atomic<bool> GiveUp = false; // what is being decoded is no longer wanted
 

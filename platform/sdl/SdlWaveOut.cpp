@@ -2,7 +2,6 @@
 
 #include <algorithm>
 #include <cstring>
-#include <utility>
 
 namespace platform
 {
@@ -10,45 +9,25 @@ namespace
 {
 constexpr std::uint16_t BlockFrames = 512; // asked of the device: 46 ms at 11025 Hz
 
-// While it lives SDL's thread does not play.
-class Locked
-{
-public:
-    explicit Locked(SDL_AudioDeviceID device) : Device(device) { SDL_LockAudioDevice(Device); }
-    ~Locked() { SDL_UnlockAudioDevice(Device); }
-    Locked(const Locked&) = delete;
-    Locked& operator=(const Locked&) = delete;
-
-private:
-    SDL_AudioDeviceID Device;
-};
-
 bool IsSame(const WaveFormat& a, const WaveFormat& b)
 {
     return a.Channels == b.Channels && a.SamplesPerSecond == b.SamplesPerSecond && a.BitsPerSample == b.BitsPerSample;
 }
 }
 
-SdlWaveOut::~SdlWaveOut()
-{
-    if (Device != 0)
-        SDL_CloseAudioDevice(Device);
-}
-
 bool SdlWaveOut::Notify(bool on)
 {
     Notifies = on;
-    return ThePlatform.HasUserEvents();
+    return Source.CanPost();
 }
 
 // SDL waits a tenth of a second before it closes a device. So it is kept, unless it has gone.
 bool SdlWaveOut::OpenDevice(const WaveFormat& format)
 {
-    if (Device != 0 && SDL_GetAudioDeviceStatus(Device) != SDL_AUDIO_STOPPED && IsSame(format, DeviceFormat))
+    if (Device.IsAlive() && IsSame(format, DeviceFormat))
         return true;
-    if (Device != 0)
-        SDL_CloseAudioDevice(std::exchange(Device, 0));
-    if (!ThePlatform.HasSound() || format.BitsPerSample != 16)
+    Device.Close();
+    if (format.BitsPerSample != 16)
         return false;
     SDL_AudioSpec wanted = {};
     wanted.freq = format.SamplesPerSecond;
@@ -57,9 +36,8 @@ bool SdlWaveOut::OpenDevice(const WaveFormat& format)
     wanted.samples = BlockFrames;
     wanted.callback = Fill;
     wanted.userdata = this;
-    Device = SDL_OpenAudioDevice(nullptr, 0, &wanted, nullptr, 0);
     DeviceFormat = format;
-    return Device != 0;
+    return Device.Open(wanted);
 }
 
 std::int32_t SdlWaveOut::Open(WaveHandle& handle, const WaveFormat& format)
@@ -67,13 +45,13 @@ std::int32_t SdlWaveOut::Open(WaveHandle& handle, const WaveFormat& format)
     if (!OpenDevice(format))
         return WaveBadDevice;
     {
-        const Locked lock(Device);
+        const AudioDevice::Locked lock(Device);
         for (Slot& slot : Slots)
             slot.Prepared = slot.Queued = false;
         Count = Played = 0;
     }
     handle = Opened = ++Last;
-    SDL_PauseAudioDevice(Device, 0);
+    Device.Pause(false);
     return WaveSuccess;
 }
 
@@ -88,7 +66,7 @@ std::int32_t SdlWaveOut::PrepareHeader(WaveHandle handle, const WaveHeader& head
 {
     if (const std::int32_t code = Check(handle, header))
         return code;
-    const Locked lock(Device);
+    const AudioDevice::Locked lock(Device);
     Slot& slot = Slots[static_cast<std::size_t>(header.User)];
     if (slot.Queued)
         return WaveStillPlaying;
@@ -101,7 +79,7 @@ std::int32_t SdlWaveOut::Write(WaveHandle handle, const WaveHeader& header)
 {
     if (const std::int32_t code = Check(handle, header))
         return code;
-    const Locked lock(Device);
+    const AudioDevice::Locked lock(Device);
     Slot& slot = Slots[static_cast<std::size_t>(header.User)];
     if (!slot.Prepared)
         return WaveUnprepared;
@@ -126,14 +104,14 @@ std::int32_t SdlWaveOut::TakeFirst()
 void SdlWaveOut::Return(std::int32_t user)
 {
     if (Notifies)
-        ThePlatform.TellWaveDone(WindowId, user);
+        Source.Post(user);
 }
 
 std::int32_t SdlWaveOut::Reset(WaveHandle handle)
 {
     if (handle == NoWave || handle != Opened)
         return WaveInvalidHandle;
-    const Locked lock(Device);
+    const AudioDevice::Locked lock(Device);
     while (Count > 0)
         Return(TakeFirst());
     return WaveSuccess;
@@ -143,7 +121,7 @@ std::int32_t SdlWaveOut::UnprepareHeader(WaveHandle handle, const WaveHeader& he
 {
     if (const std::int32_t code = Check(handle, header))
         return code;
-    const Locked lock(Device);
+    const AudioDevice::Locked lock(Device);
     Slot& slot = Slots[static_cast<std::size_t>(header.User)];
     if (slot.Queued)
         return WaveStillPlaying;
@@ -156,11 +134,11 @@ std::int32_t SdlWaveOut::Close(WaveHandle handle)
     if (handle == NoWave || handle != Opened)
         return WaveInvalidHandle;
     {
-        const Locked lock(Device);
+        const AudioDevice::Locked lock(Device);
         if (Count > 0)
             return WaveStillPlaying;
     }
-    SDL_PauseAudioDevice(Device, 1);
+    Device.Pause(true);
     Opened = NoWave;
     return WaveSuccess;
 }

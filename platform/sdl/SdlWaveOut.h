@@ -1,7 +1,8 @@
-// platform/sdl/SdlWaveOut.h: the wave device on an SDL audio device. Its thread plays what is queued; a buffer that is
-// done comes back as an event of the window.
+// platform/sdl/SdlWaveOut.h: the wave device on an SDL audio device. SDL's thread plays what is queued; a buffer that
+// is done is posted to the window's thread.
 #pragma once
-#include "platform/sdl/SdlPlatform.h"
+#include "platform/sdl/AudioDevice.h"
+#include "platform/sdl/EventSource.h"
 #include "platform/Sound.h"
 
 #include <SDL.h>
@@ -17,8 +18,12 @@ namespace platform
 class SdlWaveOut final : public WaveOut
 {
 public:
-    SdlWaveOut(SdlPlatform& platform, std::uint32_t window) : ThePlatform(platform), WindowId(window) {}
-    ~SdlWaveOut() override;
+    // Both outlive it.
+    SdlWaveOut(PostedEvents& posted, WaveEvents& events)
+        : Source(posted, [&events](std::int32_t user, std::uint32_t) { events.WaveDone(user); })
+    {
+    }
+    ~SdlWaveOut() override { Device.Close(); }
     SdlWaveOut(const SdlWaveOut&) = delete;
     SdlWaveOut& operator=(const SdlWaveOut&) = delete;
 
@@ -45,9 +50,8 @@ private:
     std::int32_t TakeFirst(); // out of the queue
     void Return(std::int32_t user);
 
-    SdlPlatform& ThePlatform;
-    std::uint32_t WindowId;
-    SDL_AudioDeviceID Device = 0; // stays open, silent, from one Open to the next
+    EventSource Source;
+    AudioDevice Device; // stays open, silent, from one Open to the next
     WaveFormat DeviceFormat;
     WaveHandle Opened = NoWave, Last = 0;
     std::atomic<bool> Notifies = false;

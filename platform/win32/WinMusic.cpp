@@ -52,8 +52,14 @@ private:
     MCIDEVICEID Device = 0;
 };
 
-WinMusic::WinMusic(HWND window, WindowEvents& events)
-    : Window(window), Events(events), Changed(CreateEventW(nullptr, FALSE, FALSE, nullptr)), Worker([this] { Work(); })
+WinMusic::WinMusic(EventQueue& queue, MusicEvents& events)
+    : Queue(queue), Events(events), Window(
+                                        [this](UINT message, WPARAM flags, LPARAM number)
+                                        {
+                                            if (message == MM_MCINOTIFY)
+                                                Notified(flags, number);
+                                        }),
+      Changed(CreateEventW(nullptr, FALSE, FALSE, nullptr)), Worker([this] { Work(); })
 {
 }
 
@@ -66,6 +72,7 @@ WinMusic::~WinMusic()
     SetEvent(Changed);
     Worker.join();
     CloseHandle(Changed);
+    Queue.Drop(this);
 }
 
 void WinMusic::Open(const std::filesystem::path& file)
@@ -108,7 +115,8 @@ void WinMusic::Notified(WPARAM flags, LPARAM number)
     if (flags != MCI_NOTIFY_SUCCESSFUL && flags != MCI_NOTIFY_FAILURE)
         return;
     Playing = false;
-    Events.MediaDone(Number, flags == MCI_NOTIFY_SUCCESSFUL ? MediaSuccessful : MediaUnplayable);
+    const std::int32_t code = flags == MCI_NOTIFY_SUCCESSFUL ? MediaSuccessful : MediaUnplayable;
+    Queue.Post(this, [this, code, ended = Number] { Events.MediaDone(ended, code); });
 }
 
 // Handles window messages as well: notifications, and what the decoders send one another.
@@ -156,6 +164,6 @@ std::unique_ptr<WinMusic::Track> WinMusic::Start(const Order& order) const
 
 void WinMusic::Post(WPARAM flags, std::uint32_t number) const
 {
-    PostMessageW(Window, MM_MCINOTIFY, flags, static_cast<LPARAM>(number));
+    PostMessageW(Window.Handle(), MM_MCINOTIFY, flags, static_cast<LPARAM>(number));
 }
 }

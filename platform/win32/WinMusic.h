@@ -1,8 +1,10 @@
 // platform/win32/WinMusic.h: plays music files through the system's media control (MCI). Opening a file can take long
 // and belongs to one thread from open to close, so a thread of its own does all of it; the window's thread only says
-// what is to be played. What that thread has to tell goes to the window as MM_MCINOTIFY.
+// what is to be played. That thread posts what has ended as MM_MCINOTIFY.
 #pragma once
-#include "platform/Platform.h"
+#include "platform/Sound.h"
+#include "platform/win32/EventQueue.h"
+#include "platform/win32/MessageWindow.h"
 
 #include <windows.h>
 
@@ -18,7 +20,7 @@ class WinMusic final : public MusicPlayer
 {
 public:
     // Both outlive it.
-    WinMusic(HWND window, WindowEvents& events);
+    WinMusic(EventQueue& queue, MusicEvents& events);
     ~WinMusic() override;
     WinMusic(const WinMusic&) = delete;
     WinMusic& operator=(const WinMusic&) = delete;
@@ -28,7 +30,7 @@ public:
     void Play(std::uint32_t number) override;
     void Close() override;
 
-    // The window has received MM_MCINOTIFY with these: tells MediaDone where they are the end of what plays now.
+    // What MM_MCINOTIFY says, on the window's thread: posts MediaDone where it is the end of what plays now.
     void Notified(WPARAM flags, LPARAM number);
 
 private:
@@ -51,8 +53,9 @@ private:
     std::unique_ptr<Track> Start(const Order& order) const;
     void Post(WPARAM flags, std::uint32_t number) const;
 
-    HWND Window;
-    WindowEvents& Events;
+    EventQueue& Queue;
+    MusicEvents& Events;
+    MessageWindow Window;       // where the thread's notifications go
     std::filesystem::path File; // that is open
     std::uint32_t Number = 0;   // of what plays
     bool Playing = false;

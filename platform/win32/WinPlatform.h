@@ -2,14 +2,14 @@
 // system's out: their macros rename what is called as in the game.
 #pragma once
 #include "platform/Platform.h"
+#include "platform/win32/EventQueue.h"
 
 #include <memory>
 #include <string>
-#include <vector>
 
 namespace platform
 {
-class WinWindow;
+class MessageWindow;
 
 class WinPlatform final : public Platform
 {
@@ -23,30 +23,26 @@ public:
     // Events and timers until the program has ended.
     void Run(Program& program);
 
-    void Add(WinWindow& window);
-    void Remove(WinWindow& window);
-
     const base::Files& DataFiles() override { return TheFiles; }
     std::uint32_t TickCount() override;
     std::uint64_t ClockSeed() override;
     int ProcessorCount() override;
     bool IsFirstInstance() override;
     std::unique_ptr<Window> MakeWindow(WindowEvents& events, Size size) override;
-    std::unique_ptr<WaveOut> MakeWaveOut(Window& window) override;
-    std::unique_ptr<MusicPlayer> MakeMusicPlayer(Window& window) override;
+    std::unique_ptr<WaveOut> MakeWaveOut(WaveEvents& events) override;
+    std::unique_ptr<MusicPlayer> MakeMusicPlayer(MusicEvents& events) override;
     void PumpEvents() override;
     void WaitEvents(std::uint32_t milliseconds) override;
     Webcam& WebcamDevice() override { return *TheWebcam; }
 
 private:
-    bool HasEvents() const;
-    void Deliver();
     // Until a message comes or so long, UINT32_MAX for ever.
     void WaitMessage(std::uint32_t milliseconds) const;
 
     base::Files TheFiles;
     std::unique_ptr<Webcam> TheWebcam;
-    std::vector<WinWindow*> Windows;
+    EventQueue Queue;
+    std::unique_ptr<MessageWindow> Messages; // of the timer and the wave device
     void* InstanceMutex = nullptr;
     std::uint32_t ClockStart, FineStart; // the system's two clocks, taken together
 };

@@ -39,6 +39,7 @@ WinWaveOut::~WinWaveOut()
 {
     CloseDevice();
     Notify(false);
+    Queue.Drop(this);
 }
 
 // The window's procedure is replaced once and then only given back: what comes with it switched off has no listener.
@@ -77,9 +78,12 @@ LRESULT CALLBACK WinWaveOut::Procedure(HWND window, UINT message, WPARAM first, 
 // the time before the device was closed and opened again.
 void WinWaveOut::Returned(LPARAM header)
 {
-    for (std::size_t user = 0; user < Slots.size(); ++user)
-        if (reinterpret_cast<LPARAM>(&Slots[user].Header) == header && !IsQueued(Slots[user].Header))
-            Events.WaveDone(static_cast<std::int32_t>(user));
+    for (std::int32_t user = 0; user < MostWaveBuffers; ++user)
+    {
+        const Slot& slot = Slots[static_cast<std::size_t>(user)];
+        if (reinterpret_cast<LPARAM>(&slot.Header) == header && !IsQueued(slot.Header))
+            Queue.Post(this, [this, user] { Events.WaveDone(user); });
+    }
 }
 
 std::int32_t WinWaveOut::Open(WaveHandle& handle, const WaveFormat& format)

@@ -1,7 +1,8 @@
 // platform/win32/WinWaveOut.h: the wave device on the system's wave-out calls in window-callback mode: a buffer that is
-// done comes back as MM_WOM_DONE of the window, whose procedure is replaced to catch it.
+// done comes back as MM_WOM_DONE of a window, whose procedure is replaced to catch it.
 #pragma once
-#include "platform/Platform.h"
+#include "platform/Sound.h"
+#include "platform/win32/EventQueue.h"
 
 #include <windows.h>
 
@@ -17,8 +18,9 @@ namespace platform
 class WinWaveOut final : public WaveOut
 {
 public:
-    // Both outlive it. The window's procedure is replaced by Notify and given back at the end.
-    WinWaveOut(HWND window, WindowEvents& events) : Window(window), Events(events) {}
+    // All three outlive it. The window, any of this thread, has its procedure replaced by Notify and gets it back at
+    // the end.
+    WinWaveOut(HWND window, EventQueue& queue, WaveEvents& events) : Window(window), Queue(queue), Events(events) {}
     ~WinWaveOut() override;
     WinWaveOut(const WinWaveOut&) = delete;
     WinWaveOut& operator=(const WinWaveOut&) = delete;
@@ -49,7 +51,8 @@ private:
     Slot& SlotOf(const WaveHeader& header) { return Slots[static_cast<std::size_t>(header.User)]; }
 
     HWND Window;
-    WindowEvents& Events;
+    EventQueue& Queue;
+    WaveEvents& Events;
     WNDPROC Previous = nullptr; // while the window's procedure is replaced
     HWAVEOUT Device = nullptr;
     WaveHandle Opened = NoWave, Last = 0;
