@@ -5,7 +5,7 @@
 
 #include <utility>
 
-namespace platform
+namespace sdl
 {
 class AudioDevice
 {

@@ -7,7 +7,7 @@
 #include <functional>
 #include <map>
 
-namespace platform
+namespace sdl
 {
 // Whom the posted events go to. Belongs to the window's thread but for Post. Lives while SDL is initialised.
 class PostedEvents

@@ -14,7 +14,7 @@
 #include <sys/file.h>
 #include <unistd.h>
 
-namespace platform
+namespace sdl
 {
 namespace
 {
@@ -75,7 +75,7 @@ SdlPlatform::~SdlPlatform()
         close(InstanceLock);
 }
 
-void SdlPlatform::Run(Program& program)
+void SdlPlatform::Run(platform::Program& program)
 {
     while (!program.Ended())
     {
@@ -135,17 +135,17 @@ bool SdlPlatform::IsFirstInstance()
     return false;
 }
 
-std::unique_ptr<Window> SdlPlatform::MakeWindow(WindowEvents& events, Size size)
+std::unique_ptr<platform::Window> SdlPlatform::MakeWindow(platform::WindowEvents& events, platform::Size size)
 {
     return std::make_unique<SdlWindow>(Windows, events, size);
 }
 
-std::unique_ptr<WaveOut> SdlPlatform::MakeWaveOut(WaveEvents& events)
+std::unique_ptr<platform::WaveOut> SdlPlatform::MakeWaveOut(platform::WaveEvents& events)
 {
     return std::make_unique<SdlWaveOut>(Posted, events);
 }
 
-std::unique_ptr<MusicPlayer> SdlPlatform::MakeMusicPlayer(MusicEvents& events)
+std::unique_ptr<platform::MusicPlayer> SdlPlatform::MakeMusicPlayer(platform::MusicEvents& events)
 {
     return std::make_unique<SdlMusic>(Posted, events);
 }

@@ -8,11 +8,11 @@
 
 #include <vector>
 
-namespace platform
+namespace sdl
 {
 class SdlWindow;
 
-class SdlPlatform final : public Platform
+class SdlPlatform final : public platform::Platform
 {
 public:
     // `data` holds data\ and soundtracks\. RuntimeError 75 with SDL's text where there is no display.
@@ -22,19 +22,19 @@ public:
     SdlPlatform& operator=(const SdlPlatform&) = delete;
 
     // Events and timers until the program has ended.
-    void Run(Program& program);
+    void Run(platform::Program& program);
 
     const base::Files& DataFiles() override { return TheFiles; }
     std::uint32_t TickCount() override;
     std::uint64_t ClockSeed() override;
     int ProcessorCount() override;
     bool IsFirstInstance() override;
-    std::unique_ptr<Window> MakeWindow(WindowEvents& events, Size size) override;
-    std::unique_ptr<WaveOut> MakeWaveOut(WaveEvents& events) override;
-    std::unique_ptr<MusicPlayer> MakeMusicPlayer(MusicEvents& events) override;
+    std::unique_ptr<platform::Window> MakeWindow(platform::WindowEvents& events, platform::Size size) override;
+    std::unique_ptr<platform::WaveOut> MakeWaveOut(platform::WaveEvents& events) override;
+    std::unique_ptr<platform::MusicPlayer> MakeMusicPlayer(platform::MusicEvents& events) override;
     void PumpEvents() override;
     void WaitEvents(std::uint32_t milliseconds) override;
-    Webcam& WebcamDevice() override { return TheWebcam; }
+    platform::Webcam& WebcamDevice() override { return TheWebcam; }
 
 private:
     // SDL's own state: begun before everything below, ended after it.

@@ -9,7 +9,7 @@
 #include <cstdio>
 #include <utility>
 
-namespace platform
+namespace sdl
 {
 namespace
 {
@@ -61,7 +61,7 @@ bool HasSurface(SDL_Window* window)
 }
 }
 
-SdlWindow::SdlWindow(std::vector<SdlWindow*>& windows, WindowEvents& events, Size size)
+SdlWindow::SdlWindow(std::vector<SdlWindow*>& windows, platform::WindowEvents& events, platform::Size size)
     : Windows(windows), Events(events)
 {
     TheWindow.reset(SDL_CreateWindow("Velkar", SDL_WINDOWPOS_CENTERED, SDL_WINDOWPOS_CENTERED, size.Width, size.Height,
@@ -150,7 +150,7 @@ void SdlWindow::DispatchButton(const SDL_MouseButtonEvent& event)
     const int button = ButtonValue(event.button);
     if (button == 0)
         return;
-    const Point at = {event.x, event.y};
+    const platform::Point at = {event.x, event.y};
     event.type == SDL_MOUSEBUTTONDOWN ? Events.MouseDown(button, at) : Events.MouseUp(button, at);
 }
 
@@ -202,26 +202,26 @@ void SdlWindow::SetTitle(const std::string& title)
     SDL_SetWindowTitle(TheWindow.get(), title.c_str());
 }
 
-Size SdlWindow::ClientSize()
+platform::Size SdlWindow::ClientSize()
 {
-    Size size;
+    platform::Size size;
     SDL_GetWindowSize(TheWindow.get(), &size.Width, &size.Height);
     return size;
 }
 
-void SdlWindow::SetClientSize(Size size)
+void SdlWindow::SetClientSize(platform::Size size)
 {
     SDL_SetWindowSize(TheWindow.get(), size.Width, size.Height);
 }
 
-Point SdlWindow::Position()
+platform::Point SdlWindow::Position()
 {
-    Point position;
+    platform::Point position;
     SDL_GetWindowPosition(TheWindow.get(), &position.X, &position.Y);
     return position;
 }
 
-void SdlWindow::Move(Point position)
+void SdlWindow::Move(platform::Point position)
 {
     SDL_SetWindowPosition(TheWindow.get(), position.X, position.Y);
 }
@@ -237,11 +237,11 @@ void SdlWindow::ShowCursor(bool visible)
     SDL_ShowCursor(visible ? SDL_ENABLE : SDL_DISABLE);
 }
 
-Point SdlWindow::CursorPosition()
+platform::Point SdlWindow::CursorPosition()
 {
     if (Pointer)
         return *Pointer;
-    Point position;
+    platform::Point position;
     SDL_GetGlobalMouseState(&position.X, &position.Y);
     return position;
 }
@@ -256,7 +256,7 @@ bool SdlWindow::MakePicture(int width, int height)
 
 void SdlWindow::Present(const base::ConstSurface& picture)
 {
-    if (!IsPresentable(picture))
+    if (!platform::IsPresentable(picture))
         return;
     SDL_Surface* const surface = SDL_GetWindowSurface(TheWindow.get());
     if (surface == nullptr || !MakePicture(picture.Width, picture.Height))

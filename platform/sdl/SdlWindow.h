@@ -8,14 +8,14 @@
 #include <optional>
 #include <vector>
 
-namespace platform
+namespace sdl
 {
-class SdlWindow final : public Window
+class SdlWindow final : public platform::Window
 {
 public:
     // Enters itself into the list, which outlives it: whoever keeps that hands each window its events. RuntimeError 7
     // where the system gives no window.
-    SdlWindow(std::vector<SdlWindow*>& windows, WindowEvents& events, Size size);
+    SdlWindow(std::vector<SdlWindow*>& windows, platform::WindowEvents& events, platform::Size size);
     ~SdlWindow() override;
     SdlWindow(const SdlWindow&) = delete;
     SdlWindow& operator=(const SdlWindow&) = delete;
@@ -29,13 +29,13 @@ public:
     void ShowMessage(base::Icon icon, const std::string& title, const std::string& text) override;
     void Show(bool visible) override;
     void SetTitle(const std::string& title) override;
-    Size ClientSize() override;
-    void SetClientSize(Size size) override;
-    Point Position() override;
-    void Move(Point position) override;
+    platform::Size ClientSize() override;
+    void SetClientSize(platform::Size size) override;
+    platform::Point Position() override;
+    void Move(platform::Point position) override;
     void SetFullScreen(bool on) override;
     void ShowCursor(bool visible) override;
-    Point CursorPosition() override;
+    platform::Point CursorPosition() override;
     void Present(const base::ConstSurface& picture) override;
     std::string ClipboardText() override;
     void SetClipboardText(const std::string& text) override;
@@ -44,7 +44,7 @@ private:
     struct Moved
     {
         int Buttons;
-        Point At;
+        platform::Point At;
     };
     struct WindowDeleter
     {
@@ -63,11 +63,11 @@ private:
     bool MakePicture(int width, int height);
 
     std::vector<SdlWindow*>& Windows;
-    WindowEvents& Events;
+    platform::WindowEvents& Events;
     std::unique_ptr<SDL_Window, WindowDeleter> TheWindow;
     std::unique_ptr<SDL_Surface, SurfaceDeleter> Picture; // of the size of the last picture presented
     std::optional<Moved> Motion;
-    std::optional<Point> Pointer; // on the screen at the event that is being handled, where the system says
+    std::optional<platform::Point> Pointer; // on the screen at the event that is being handled, where the system says
     bool CursorShown = true;
 };
 }

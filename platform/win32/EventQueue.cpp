@@ -2,7 +2,7 @@
 
 #include <utility>
 
-namespace platform
+namespace win32
 {
 void EventQueue::Deliver()
 {
@@ -45,24 +45,24 @@ void QueuedWindowEvents::KeyPress(std::uint8_t code)
     Queue.Post(this, [this, code] { Receiver.KeyPress(code); });
 }
 
-void QueuedWindowEvents::MouseDown(int button, Point at)
+void QueuedWindowEvents::MouseDown(int button, platform::Point at)
 {
     Queue.Post(this, [this, button, at] { Receiver.MouseDown(button, at); });
 }
 
-void QueuedWindowEvents::MouseMove(int buttons, Point at)
+void QueuedWindowEvents::MouseMove(int buttons, platform::Point at)
 {
     Queue.PostLatest(this, Motion, [this, buttons, at] { Receiver.MouseMove(buttons, at); });
 }
 
-void QueuedWindowEvents::MouseUp(int button, Point at)
+void QueuedWindowEvents::MouseUp(int button, platform::Point at)
 {
     Queue.Post(this, [this, button, at] { Receiver.MouseUp(button, at); });
 }
 
 void QueuedWindowEvents::Resized()
 {
-    Queue.PostLatest(this, Size, [this] { Receiver.Resized(); });
+    Queue.PostLatest(this, Resizing, [this] { Receiver.Resized(); });
 }
 
 void QueuedWindowEvents::Paint()

@@ -8,7 +8,7 @@
 #include <deque>
 #include <functional>
 
-namespace platform
+namespace win32
 {
 class EventQueue
 {
@@ -40,11 +40,11 @@ private:
 };
 
 // The events of one window, posted to the queue. Sizes, paintings, motions and wishes to close are coalesced.
-class QueuedWindowEvents final : public WindowEvents
+class QueuedWindowEvents final : public platform::WindowEvents
 {
 public:
     // Both outlive it. What it has posted is dropped at its end.
-    QueuedWindowEvents(EventQueue& queue, WindowEvents& receiver) : Queue(queue), Receiver(receiver) {}
+    QueuedWindowEvents(EventQueue& queue, platform::WindowEvents& receiver) : Queue(queue), Receiver(receiver) {}
     ~QueuedWindowEvents() override { Queue.Drop(this); }
     QueuedWindowEvents(const QueuedWindowEvents&) = delete;
     QueuedWindowEvents& operator=(const QueuedWindowEvents&) = delete;
@@ -54,9 +54,9 @@ public:
     void KeyDown(std::int16_t code) override;
     void KeyUp(std::int16_t code) override;
     void KeyPress(std::uint8_t code) override;
-    void MouseDown(int button, Point at) override;
-    void MouseMove(int buttons, Point at) override;
-    void MouseUp(int button, Point at) override;
+    void MouseDown(int button, platform::Point at) override;
+    void MouseMove(int buttons, platform::Point at) override;
+    void MouseUp(int button, platform::Point at) override;
     void Resized() override;
     void Paint() override;
     bool CloseAsked() override; // true; the receiver's answer comes with the delivery
@@ -65,12 +65,12 @@ private:
     enum Kind
     {
         Motion,
-        Size,
+        Resizing,
         Painting,
         Closing
     };
 
     EventQueue& Queue;
-    WindowEvents& Receiver;
+    platform::WindowEvents& Receiver;
 };
 }

@@ -2,7 +2,7 @@
 
 #include <utility>
 
-namespace platform
+namespace win32
 {
 namespace
 {

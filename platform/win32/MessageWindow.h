@@ -5,7 +5,7 @@
 
 #include <functional>
 
-namespace platform
+namespace win32
 {
 class MessageWindow
 {

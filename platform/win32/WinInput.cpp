@@ -4,12 +4,12 @@
 
 #include <windowsx.h>
 
-namespace platform
+namespace win32
 {
 namespace
 {
 constexpr int Left = 1, Right = 2, Middle = 4;
-constexpr Point Outside = {-1, -1};
+constexpr platform::Point Outside = {-1, -1};
 
 int ButtonsOf(WPARAM keys)
 {
@@ -67,7 +67,7 @@ void WinWindow::ReleaseKeys()
 
 WinWindow::Answer WinWindow::HandleMouse(UINT message, WPARAM first, LPARAM second)
 {
-    const Point at = {GET_X_LPARAM(second), GET_Y_LPARAM(second)};
+    const platform::Point at = {GET_X_LPARAM(second), GET_Y_LPARAM(second)};
     switch (message)
     {
     case WM_LBUTTONDOWN:
@@ -122,7 +122,7 @@ void WinWindow::TrackLeave()
 }
 
 // The mouse belongs to the window while a button is held.
-void WinWindow::ButtonDown(int button, Point at)
+void WinWindow::ButtonDown(int button, platform::Point at)
 {
     if (ButtonsHeld == 0)
         SetCapture(TheHandle);
@@ -130,7 +130,7 @@ void WinWindow::ButtonDown(int button, Point at)
     Queue.MouseDown(button, at);
 }
 
-void WinWindow::ButtonUp(int button, Point at)
+void WinWindow::ButtonUp(int button, platform::Point at)
 {
     ButtonsHeld &= ~button;
     Queue.MouseUp(button, at);

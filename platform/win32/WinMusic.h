@@ -5,22 +5,22 @@
 #include "platform/Sound.h"
 #include "platform/win32/EventQueue.h"
 #include "platform/win32/MessageWindow.h"
+#include "platform/Worker.h"
 
 #include <windows.h>
 
 #include <cstdint>
 #include <filesystem>
 #include <memory>
-#include <mutex>
-#include <thread>
+#include <optional>
 
-namespace platform
+namespace win32
 {
-class WinMusic final : public MusicPlayer
+class WinMusic final : public platform::MusicPlayer
 {
 public:
     // Both outlive it.
-    WinMusic(EventQueue& queue, MusicEvents& events);
+    WinMusic(EventQueue& queue, platform::MusicEvents& events);
     ~WinMusic() override;
     WinMusic(const WinMusic&) = delete;
     WinMusic& operator=(const WinMusic&) = delete;
@@ -39,32 +39,24 @@ private:
         std::filesystem::path File; // empty: be silent
         std::uint32_t Number = 0;
     };
-    enum class Wish
-    {
-        None,
-        Change,
-        Quit
-    };
     class Track;
 
-    void Tell(const Order& order);
-    void Work(); // the thread
-    Wish TakeWish(Order& order);
+    void Replace(const Order& order);
+
+    // On the worker's thread.
+    void Work();
     std::unique_ptr<Track> Start(const Order& order) const;
     void Post(WPARAM flags, std::uint32_t number) const;
 
     EventQueue& Queue;
-    MusicEvents& Events;
+    platform::MusicEvents& Events;
     MessageWindow Window;       // where the thread's notifications go
     std::filesystem::path File; // that is open
     std::uint32_t Number = 0;   // of what plays
     bool Playing = false;
 
-    std::mutex Lock; // of what follows; held for copying alone
-    Order Next;
-    bool HasNext = false, Quits = false;
-    HANDLE Changed; // an event
-
-    std::thread Worker;
+    std::optional<Order> Next; // shared under the worker's lock; replaced by a newer one
+    HANDLE Changed;            // an event: wakes a worker that waits for messages
+    platform::Worker Playback;
 };
 }

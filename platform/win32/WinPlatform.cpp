@@ -12,7 +12,7 @@
 #include <chrono>
 #include <limits>
 
-namespace platform
+namespace win32
 {
 namespace
 {
@@ -69,7 +69,7 @@ WinPlatform::~WinPlatform()
         CloseHandle(InstanceMutex);
 }
 
-void WinPlatform::Run(Program& program)
+void WinPlatform::Run(platform::Program& program)
 {
     while (!program.Ended())
     {
@@ -142,17 +142,17 @@ bool WinPlatform::IsFirstInstance()
     return false;
 }
 
-std::unique_ptr<Window> WinPlatform::MakeWindow(WindowEvents& events, Size size)
+std::unique_ptr<platform::Window> WinPlatform::MakeWindow(platform::WindowEvents& events, platform::Size size)
 {
     return std::make_unique<WinWindow>(Queue, events, size);
 }
 
-std::unique_ptr<WaveOut> WinPlatform::MakeWaveOut(WaveEvents& events)
+std::unique_ptr<platform::WaveOut> WinPlatform::MakeWaveOut(platform::WaveEvents& events)
 {
     return std::make_unique<WinWaveOut>(Messages->Handle(), Queue, events);
 }
 
-std::unique_ptr<MusicPlayer> WinPlatform::MakeMusicPlayer(MusicEvents& events)
+std::unique_ptr<platform::MusicPlayer> WinPlatform::MakeMusicPlayer(platform::MusicEvents& events)
 {
     return std::make_unique<WinMusic>(Queue, events);
 }

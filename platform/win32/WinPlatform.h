@@ -7,11 +7,11 @@
 #include <memory>
 #include <string>
 
-namespace platform
+namespace win32
 {
 class MessageWindow;
 
-class WinPlatform final : public Platform
+class WinPlatform final : public platform::Platform
 {
 public:
     // `data` holds data\ and soundtracks\; `program` is the folder of the program, where webcam libraries may be.
@@ -21,26 +21,26 @@ public:
     WinPlatform& operator=(const WinPlatform&) = delete;
 
     // Events and timers until the program has ended.
-    void Run(Program& program);
+    void Run(platform::Program& program);
 
     const base::Files& DataFiles() override { return TheFiles; }
     std::uint32_t TickCount() override;
     std::uint64_t ClockSeed() override;
     int ProcessorCount() override;
     bool IsFirstInstance() override;
-    std::unique_ptr<Window> MakeWindow(WindowEvents& events, Size size) override;
-    std::unique_ptr<WaveOut> MakeWaveOut(WaveEvents& events) override;
-    std::unique_ptr<MusicPlayer> MakeMusicPlayer(MusicEvents& events) override;
+    std::unique_ptr<platform::Window> MakeWindow(platform::WindowEvents& events, platform::Size size) override;
+    std::unique_ptr<platform::WaveOut> MakeWaveOut(platform::WaveEvents& events) override;
+    std::unique_ptr<platform::MusicPlayer> MakeMusicPlayer(platform::MusicEvents& events) override;
     void PumpEvents() override;
     void WaitEvents(std::uint32_t milliseconds) override;
-    Webcam& WebcamDevice() override { return *TheWebcam; }
+    platform::Webcam& WebcamDevice() override { return *TheWebcam; }
 
 private:
     // Until a message comes or so long, UINT32_MAX for ever.
     void WaitMessage(std::uint32_t milliseconds) const;
 
     base::Files TheFiles;
-    std::unique_ptr<Webcam> TheWebcam;
+    std::unique_ptr<platform::Webcam> TheWebcam;
     EventQueue Queue;
     std::unique_ptr<MessageWindow> Messages; // of the timer and the wave device
     void* InstanceMutex = nullptr;

@@ -9,7 +9,7 @@
 
 #include <algorithm>
 
-namespace platform
+namespace win32
 {
 namespace
 {
@@ -36,7 +36,7 @@ HICON LoadOwnIcon(int width, int height)
                                          GetSystemMetrics(width), GetSystemMetrics(height), LR_SHARED));
 }
 
-Point Centred(Size size)
+platform::Point Centred(platform::Size size)
 {
     return {(GetSystemMetrics(SM_CXSCREEN) - size.Width) / 2, (GetSystemMetrics(SM_CYSCREEN) - size.Height) / 2};
 }
@@ -55,7 +55,7 @@ void WinWindow::RegisterWindowClass()
     RegisterClassExW(&wanted); // the second window finds it there
 }
 
-WinWindow::WinWindow(EventQueue& queue, WindowEvents& events, Size size)
+WinWindow::WinWindow(EventQueue& queue, platform::WindowEvents& events, platform::Size size)
     : Queue(queue, events), Client(size), Place(Centred(size))
 {
     RegisterWindowClass();
@@ -157,7 +157,7 @@ void WinWindow::Measure()
     GetClientRect(TheHandle, &client);
     ClientToScreen(TheHandle, &corner);
     Place = {corner.x, corner.y};
-    const Size now = {client.right, client.bottom};
+    const platform::Size now = {client.right, client.bottom};
     if (now.Width == Client.Width && now.Height == Client.Height)
         return;
     Client = now;
@@ -185,12 +185,12 @@ void WinWindow::SetTitle(const std::string& title)
     SetWindowTextW(TheHandle, ToWide(title).c_str());
 }
 
-void WinWindow::SetClientSize(Size size)
+void WinWindow::SetClientSize(platform::Size size)
 {
     SetWindowPos(TheHandle, nullptr, 0, 0, size.Width, size.Height, SWP_NOMOVE | SWP_NOZORDER | SWP_NOACTIVATE);
 }
 
-void WinWindow::Move(Point position)
+void WinWindow::Move(platform::Point position)
 {
     SetWindowPos(TheHandle, nullptr, position.X, position.Y, 0, 0, SWP_NOSIZE | SWP_NOZORDER | SWP_NOACTIVATE);
 }
@@ -234,7 +234,7 @@ void WinWindow::ApplyCursor() const
 }
 
 // A button that goes down while the hand moves on: what counts is where the cursor was then.
-Point WinWindow::CursorPosition()
+platform::Point WinWindow::CursorPosition()
 {
     if (Queue.IsDelivering())
     {
@@ -248,7 +248,7 @@ Point WinWindow::CursorPosition()
 
 void WinWindow::Present(const base::ConstSurface& picture)
 {
-    if (!IsPresentable(picture) || IsIconic(TheHandle))
+    if (!platform::IsPresentable(picture) || IsIconic(TheHandle))
         return;
     BITMAPINFO description = {};
     static_assert(sizeof description.bmiHeader == 40);

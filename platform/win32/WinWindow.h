@@ -8,13 +8,13 @@
 #include <bitset>
 #include <optional>
 
-namespace platform
+namespace win32
 {
-class WinWindow final : public Window
+class WinWindow final : public platform::Window
 {
 public:
     // Queue and receiver outlive it. RuntimeError 7 where the system gives no window.
-    WinWindow(EventQueue& queue, WindowEvents& events, Size size);
+    WinWindow(EventQueue& queue, platform::WindowEvents& events, platform::Size size);
     ~WinWindow() override;
     WinWindow(const WinWindow&) = delete;
     WinWindow& operator=(const WinWindow&) = delete;
@@ -24,14 +24,14 @@ public:
     void ShowMessage(base::Icon icon, const std::string& title, const std::string& text) override;
     void Show(bool visible) override;
     void SetTitle(const std::string& title) override;
-    Size ClientSize() override { return Client; }
-    void SetClientSize(Size size) override;
-    Point Position() override { return Place; }
-    void Move(Point position) override;
+    platform::Size ClientSize() override { return Client; }
+    void SetClientSize(platform::Size size) override;
+    platform::Point Position() override { return Place; }
+    void Move(platform::Point position) override;
     void SetFullScreen(bool on) override;
     void ShowCursor(bool visible) override;
     // While events are delivered: where the cursor was at the message that has brought them.
-    Point CursorPosition() override;
+    platform::Point CursorPosition() override;
     void Present(const base::ConstSurface& picture) override;
     std::string ClipboardText() override;
     void SetClipboardText(const std::string& text) override;
@@ -47,8 +47,8 @@ private:
     Answer HandleView(UINT message, WPARAM first, LPARAM second);    // size, place and painting
     Answer HandleCommand(UINT message, WPARAM first, LPARAM second); // closing and the window's menu
     void PostKey(UINT message, WPARAM first);
-    void ButtonDown(int button, Point at);
-    void ButtonUp(int button, Point at);
+    void ButtonDown(int button, platform::Point at);
+    void ButtonUp(int button, platform::Point at);
     void TrackLeave();
     void ReleaseKeys();
     void ReleaseButtons();
@@ -58,10 +58,10 @@ private:
 
     QueuedWindowEvents Queue;
     HWND TheHandle = nullptr;
-    HDC Canvas = nullptr; // of the window, its own for life
-    Size Client;          // kept while minimised
-    Point Place;          // likewise
-    RECT Restored = {};   // place and size to come back to from full screen
+    HDC Canvas = nullptr;  // of the window, its own for life
+    platform::Size Client; // kept while minimised
+    platform::Point Place; // likewise
+    RECT Restored = {};    // place and size to come back to from full screen
     bool FullScreen = false;
     bool CursorShown = true;
     int Boxes = 0; // message boxes that are open

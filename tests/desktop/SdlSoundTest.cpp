@@ -31,7 +31,7 @@ struct Desktop : support::FourBuffers
 {
     Drivers Chosen;
     support::TempFolder Folder;
-    platform::SdlPlatform Platform{Folder.Path};
+    sdl::SdlPlatform Platform{Folder.Path};
     support::HeardEvents Heard;
     std::unique_ptr<platform::Window> Window = Platform.MakeWindow(Heard, {64, 64});
     std::unique_ptr<platform::WaveOut> Wave = Platform.MakeWaveOut(Heard);

@@ -19,8 +19,8 @@ WinDesktop::WinDesktop()
     Window = CreateWindowExA(0, ClassName, "Velkar", WS_POPUP, 0, 0, 64, 64, nullptr, nullptr, description.hInstance,
                              nullptr);
     SetWindowLongPtrA(Window, GWLP_USERDATA, reinterpret_cast<LONG_PTR>(this));
-    Wave = std::make_unique<platform::WinWaveOut>(Window, Queue, Heard);
-    Music = std::make_unique<platform::WinMusic>(Queue, Heard);
+    Wave = std::make_unique<win32::WinWaveOut>(Window, Queue, Heard);
+    Music = std::make_unique<win32::WinMusic>(Queue, Heard);
 }
 
 WinDesktop::~WinDesktop()

@@ -26,11 +26,11 @@ public:
     bool Await(const std::function<bool()>& condition); // handles messages until it holds, 20 seconds at most
 
     HeardEvents Heard;
-    platform::EventQueue Queue;
+    win32::EventQueue Queue;
     std::vector<UINT> Messages; // that the window's own procedure has received
     HWND Window = nullptr;
-    std::unique_ptr<platform::WinWaveOut> Wave;
-    std::unique_ptr<platform::WinMusic> Music;
+    std::unique_ptr<win32::WinWaveOut> Wave;
+    std::unique_ptr<win32::WinMusic> Music;
 
 private:
     static LRESULT CALLBACK Procedure(HWND window, UINT message, WPARAM first, LPARAM second);

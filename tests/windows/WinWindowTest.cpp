@@ -48,10 +48,10 @@ struct Words final : platform::WindowEvents
 
 struct WinWindow : testing::Test
 {
-    platform::WinPlatform Platform{".", "."};
+    win32::WinPlatform Platform{".", "."};
     Words Heard;
     std::unique_ptr<platform::Window> Made = Platform.MakeWindow(Heard, {600, 312});
-    platform::WinWindow& Window = static_cast<platform::WinWindow&>(*Made);
+    win32::WinWindow& Window = static_cast<win32::WinWindow&>(*Made);
 
     void SetUp() override
     {
@@ -175,7 +175,7 @@ TEST_F(WinWindow, AMessageWindowHandsOnWhatIsPosted)
             told.emplace_back(flags, number);
     };
     {
-        const platform::MessageWindow messages(receive), others;
+        const win32::MessageWindow messages(receive), others;
         ASSERT_NE(messages.Handle(), nullptr);
         PostMessageW(messages.Handle(), MM_MCINOTIFY, MCI_NOTIFY_SUCCESSFUL, 7);
         PostMessageW(others.Handle(), MM_MCINOTIFY, MCI_NOTIFY_SUCCESSFUL, 8);
@@ -262,7 +262,7 @@ TEST_F(WinWindow, TheClipboardKeepsItsText)
 
 TEST(WinPlatform, WaitsAsLongAsItIsTold)
 {
-    platform::WinPlatform platform(".", ".");
+    win32::WinPlatform platform(".", ".");
     Words heard;
     const auto window = platform.MakeWindow(heard, {100, 100});
     const std::uint32_t start = platform.TickCount();
@@ -275,7 +275,7 @@ TEST(WinPlatform, WaitsAsLongAsItIsTold)
 // Ticks a few times, 20 milliseconds apart.
 struct Ticking final : platform::Program
 {
-    explicit Ticking(platform::WinPlatform& platform) : Platform(platform), Due(platform.TickCount() + Interval) {}
+    explicit Ticking(win32::WinPlatform& platform) : Platform(platform), Due(platform.TickCount() + Interval) {}
     std::uint32_t NextTimer() override
     {
         const auto left = static_cast<std::int32_t>(Due - Platform.TickCount());
@@ -291,14 +291,14 @@ struct Ticking final : platform::Program
     bool Ended() override { return Ticks == 10; }
 
     static constexpr std::uint32_t Interval = 20;
-    platform::WinPlatform& Platform;
+    win32::WinPlatform& Platform;
     std::uint32_t Due;
     int Ticks = 0;
 };
 
 TEST(WinPlatform, RunsTheTimersWhenTheyAreDue)
 {
-    platform::WinPlatform platform(".", ".");
+    win32::WinPlatform platform(".", ".");
     Words heard;
     const auto window = platform.MakeWindow(heard, {100, 100});
     const std::uint32_t start = platform.TickCount();
@@ -310,9 +310,9 @@ TEST(WinPlatform, RunsTheTimersWhenTheyAreDue)
 
 TEST(WinPlatform, TheFirstInstanceStaysTheFirst)
 {
-    platform::WinPlatform second(".", ".");
+    win32::WinPlatform second(".", ".");
     {
-        platform::WinPlatform first(".", ".");
+        win32::WinPlatform first(".", ".");
         EXPECT_TRUE(first.IsFirstInstance());
         EXPECT_TRUE(first.IsFirstInstance());
         EXPECT_FALSE(second.IsFirstInstance());
