@@ -79,6 +79,23 @@ template <class Byte> struct BasicSurface
 using Surface = BasicSurface<std::uint8_t>;
 using ConstSurface = BasicSurface<const std::uint8_t>;
 
+// A picture that owns its pixels: Height padded rows.
+struct Bitmap
+{
+    std::int32_t Width = 0, Height = 0;
+    std::vector<std::uint8_t> Bytes;
+
+    // All black. Both at least 0; keeps the memory where it suffices.
+    void Reset(std::int32_t width, std::int32_t height)
+    {
+        Width = width;
+        Height = height;
+        Bytes.assign(static_cast<std::size_t>(PaddedRow(width)) * static_cast<std::size_t>(height), 0);
+    }
+    Surface View() { return {Bytes.data(), PaddedRow(Width), Width, Height}; }
+    ConstSurface View() const { return {Bytes.data(), PaddedRow(Width), Width, Height}; }
+};
+
 // A table of Height rows of Width cells, row by row.
 template <class Cell> struct Grid
 {

@@ -3,13 +3,13 @@
 // Texts are UTF-8. Sizes and positions are pixels, screen positions with y downward from the top left corner.
 #pragma once
 #include "base/Files.h"
+#include "base/Pixels.h"
 #include "base/Trapped.h"
 #include "platform/Sound.h"
 #include "platform/Webcam.h"
 
 #include <cstdint>
 #include <memory>
-#include <span>
 #include <string>
 
 namespace platform
@@ -24,24 +24,30 @@ struct Size
     std::int32_t Width = 0, Height = 0;
 };
 
-// Key codes are the virtual-key codes of the Windows keyboard (37 is the left arrow, 220 the key that types "\").
-// Mouse positions are pixels of the client area, y downward. Buttons: 1 left, 2 right, 4 middle.
+// Hears of a window. Nothing is heard unless events are handled (PumpEvents, WaitEvents), never from inside another
+// call of the window. Key codes are those of platform/Keys.h. Mouse positions are pixels of the client area, y
+// downward. Buttons: 1 left, 2 right, 4 middle.
 struct WindowEvents
 {
     virtual ~WindowEvents() = default;
-    virtual void KeyDown(std::int16_t code) = 0; // repeats while held
-    virtual void KeyUp(std::int16_t code) = 0;
-    virtual void KeyPress(std::uint8_t code) = 0; // a typed character of the system code page, 1 to 26 with Ctrl
-    virtual void MouseDown(int button, Point at) = 0;
-    virtual void MouseMove(int buttons, Point at) = 0; // buttons: the sum of those held
-    virtual void MouseUp(int button, Point at) = 0;
-    virtual void Resized() = 0; // the client area has another size
-    virtual void Paint() = 0;   // the client area must be shown again
+    virtual void KeyDown(std::int16_t) {} // repeats while held
+    virtual void KeyUp(std::int16_t) {}
+    virtual void KeyPress(std::uint8_t) {} // a typed character of the system code page, 1 to 26 with Ctrl
+    virtual void MouseDown(int /*button*/, Point) {}
+    virtual void MouseMove(int /*buttons*/, Point) {} // buttons: the sum of those held
+    virtual void MouseUp(int /*button*/, Point) {}
+    virtual void Resized() {} // the client area has another size
+    virtual void Paint() {}   // the client area must be shown again
     // The user closes the window. False refuses.
-    virtual bool CloseAsked() = 0;
-    virtual void WaveDone(std::int32_t user) = 0;                        // that buffer of the wave device has come back
-    virtual void MediaDone(std::uint32_t number, std::int32_t code) = 0; // the music file of that Play has ended
+    virtual bool CloseAsked() { return true; }
 };
+
+// Whether Window::Present takes the picture: it has pixels, and its rows are padded to 4 bytes and no longer.
+inline bool IsPresentable(const base::ConstSurface& picture)
+{
+    return picture.Bytes != nullptr && picture.Width > 0 && picture.Height > 0 &&
+           picture.RowBytes == base::PaddedRow(picture.Width);
+}
 
 struct Window : base::MessageSink
 {
@@ -54,9 +60,9 @@ struct Window : base::MessageSink
     virtual void SetFullScreen(bool on) = 0; // covers its display from (0, 0); off restores size and place
     virtual void ShowCursor(bool visible) = 0;
     virtual Point CursorPosition() = 0; // on the screen
-    // Stretches the picture over the client area, nearest pixel. `bits`: bottom-up rows of blue, green, red, each row
-    // padded to 4 bytes; borrowed for this call.
-    virtual void Present(int width, int height, std::span<const std::uint8_t> bits) = 0;
+    // Stretches the picture over the client area, nearest pixel. Row 0 is the bottom one. Borrowed for this call.
+    // Nothing happens where it is not presentable.
+    virtual void Present(const base::ConstSurface& picture) = 0;
     virtual std::string ClipboardText() = 0;
     virtual void SetClipboardText(const std::string& text) = 0;
 };
@@ -80,9 +86,9 @@ struct Platform
     virtual bool IsFirstInstance() = 0;
     // A borderless window, hidden until shown. `events` outlives it.
     virtual std::unique_ptr<Window> MakeWindow(WindowEvents& events, Size size) = 0;
-    // Their events go to the window, which outlives them. Nothing is opened yet.
-    virtual std::unique_ptr<WaveOut> MakeWaveOut(Window& window) = 0;
-    virtual std::unique_ptr<MusicPlayer> MakeMusicPlayer(Window& window) = 0;
+    // `events` outlives the device. Nothing is opened yet.
+    virtual std::unique_ptr<WaveOut> MakeWaveOut(WaveEvents& events) = 0;
+    virtual std::unique_ptr<MusicPlayer> MakeMusicPlayer(MusicEvents& events) = 0;
     // Handles the window events that are waiting, without waiting for any.
     virtual void PumpEvents() = 0;
     // Handles window events for so long. Headless: the clock goes on by it.

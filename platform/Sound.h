@@ -1,6 +1,7 @@
 // platform/Sound.h: the sound devices, as the game uses them: a wave device that plays buffers one after another, and a
-// player of music files. Both answer with events of their window (WindowEvents in platform/Platform.h), on its thread;
-// so are all calls. Codes are those of the Windows wave-out and notification calls.
+// player of music files. All calls are made on the window's thread, and all events arrive there, in the order in which
+// they happened and only while the platform handles events: never from inside a call of the device.
+// Codes are those of the Windows wave-out and notification calls.
 #pragma once
 #include <cstdint>
 #include <filesystem>
@@ -37,11 +38,18 @@ struct WaveHeader
     std::int32_t User = 0;              // tells the buffers apart: 0 to MostWaveBuffers - 1
 };
 
+// Hears of the wave device. Outlives it; after the device's end nothing arrives.
+struct WaveEvents
+{
+    virtual ~WaveEvents() = default;
+    virtual void WaveDone(std::int32_t user) = 0; // the buffer of that number has come back
+};
+
 // Every call but Notify returns a WaveCode or another code of the system, 0 for success.
 struct WaveOut
 {
     virtual ~WaveOut() = default;
-    // Whether buffers that come back are told as WaveDone events. False where the system refuses.
+    // Switches the WaveDone events on or off; they are off at first. False where the system refuses.
     virtual bool Notify(bool on) = 0;
     virtual std::int32_t Open(WaveHandle& handle, const WaveFormat& format) = 0; // the default device
     virtual std::int32_t PrepareHeader(WaveHandle handle, const WaveHeader& header) = 0;
@@ -55,13 +63,20 @@ struct WaveOut
 inline constexpr std::int32_t MediaSuccessful = 1;  // played to its end
 inline constexpr std::int32_t MediaUnplayable = -1; // no sound could be made of the file
 
+// Hears of the music player. Outlives it; after the player's end nothing arrives.
+struct MusicEvents
+{
+    virtual ~MusicEvents() = default;
+    virtual void MediaDone(std::uint32_t number, std::int32_t code) = 0; // the file of that Play has ended
+};
+
 // One file at a time. The calls return at once, whatever the file is.
 struct MusicPlayer
 {
     virtual ~MusicPlayer() = default;
     virtual void Open(const std::filesystem::path& file) = 0; // closes another
-    // Plays what is open from its beginning. Its end is told as a MediaDone event with that number; a file that is
-    // closed before tells nothing more.
+    // Plays what is open from its beginning. Its end is a MediaDone event with that number; a file that is closed or
+    // played anew before causes none.
     virtual void Play(std::uint32_t number) = 0;
     virtual void Close() = 0;
 };

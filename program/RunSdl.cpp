@@ -8,9 +8,9 @@
 
 namespace program
 {
-int RunSdl(const char* path, const platform::WebcamSource& webcam)
+int RunSdl(const char* path, const sdl::WebcamSource& webcam)
 {
-    return RunDesktop([&] { return platform::SdlPlatform(platform::FindData(platform::ExecutablePath(path)), webcam); },
+    return RunDesktop([&] { return sdl::SdlPlatform(platform::FindData(platform::ExecutablePath(path)), webcam); },
                       [](const std::string& text) { std::fprintf(stderr, "velkar: %s\n", text.c_str()); });
 }
 }

@@ -5,5 +5,5 @@
 namespace program
 {
 // path: what the program was started as. The exit status; what keeps it from starting is told on standard error.
-int RunSdl(const char* path, const platform::WebcamSource& webcam);
+int RunSdl(const char* path, const sdl::WebcamSource& webcam);
 }

@@ -9,7 +9,6 @@ extern "C" int __stdcall WinMain(struct HINSTANCE__*, struct HINSTANCE__*, char*
 extern "C" int __stdcall WinMain(struct HINSTANCE__*, struct HINSTANCE__*, char*, int)
 {
     const std::filesystem::path program = platform::ExecutablePath(nullptr);
-    return program::RunDesktop([&]
-                               { return platform::WinPlatform(platform::FindData(program), program.parent_path()); },
-                               platform::ShowStartError);
+    return program::RunDesktop([&] { return win32::WinPlatform(platform::FindData(program), program.parent_path()); },
+                               win32::ShowStartError);
 }

@@ -31,17 +31,9 @@ public:
     }
     void Hide() { TheWindow->Show(false); }
 
-    void KeyDown(std::int16_t) override {}
-    void KeyUp(std::int16_t) override {}
-    void KeyPress(std::uint8_t) override {}
-    void MouseDown(int, platform::Point) override {}
-    void MouseMove(int, platform::Point) override {}
-    void MouseUp(int, platform::Point) override {}
     void Resized() override { Paint(); }
     void Paint() override;
     bool CloseAsked() override { return false; } // it closes itself
-    void WaveDone(std::int32_t) override {}
-    void MediaDone(std::uint32_t, std::int32_t) override {}
 
     TickTimer Timer1;
 
@@ -65,7 +57,7 @@ void Application::Splash::Paint()
         forms::FillDownward(Canvas, all, {14, 16, 26}, 255, {58, 30, 26}, 255);
         forms::DrawText(Canvas, all, "VELKAR", Canvas.Height * 0.3, 1.6, {255, 158, 54}, forms::Align::Centre);
     }
-    TheWindow->Present(Canvas.Width, Canvas.Height, Canvas.Bytes);
+    TheWindow->Present({Canvas.Bytes.data(), Canvas.RowBytes, Canvas.Width, Canvas.Height});
 }
 
 Application::Application(platform::Platform& platform) : ThePlatform(platform) {}

@@ -58,8 +58,6 @@ public:
     void Resized() override;
     void Paint() override;
     bool CloseAsked() override;
-    void WaveDone(std::int32_t user) override { TheSound.WaveDone(user); }
-    void MediaDone(std::uint32_t number, std::int32_t code) override { TheSound.MediaDone(number, code); }
 
 private:
     panels::Verbs MakeVerbs();

@@ -83,7 +83,7 @@ void FormView::Repaint()
     if (!IsAnyControlShown())
     {
         if (!screen.Frame.Empty())
-            Window.Present(screen.ScreenW, screen.ScreenH, screen.Frame.Bytes);
+            Window.Present({screen.Frame.Bytes.data(), screen.Frame.RowBytes, screen.ScreenW, screen.Frame.Rows});
         return;
     }
     const platform::Size client = Window.ClientSize();
@@ -92,7 +92,7 @@ void FormView::Repaint()
     Input.Settle();
     PaintDue = false; // what has just settled is painted now
     forms::PaintForm(Canvas, Form, Input.Shown(), *this);
-    Window.Present(Canvas.Width, Canvas.Height, Canvas.Bytes);
+    Window.Present({Canvas.Bytes.data(), Canvas.RowBytes, Canvas.Width, Canvas.Height});
 }
 
 void FormView::PaintPicture(forms::Canvas& canvas, const forms::Control& control, forms::Rect place)

@@ -58,7 +58,7 @@ struct WindowSink final : render::FrameSink
     explicit WindowSink(platform::Window& window) : Window(window) {}
     void Present(int width, int height, std::span<const std::uint8_t> bits) override
     {
-        Window.Present(width, height, bits);
+        Window.Present({bits.data(), base::PaddedRow(width), width, height});
     }
     platform::Window& Window;
 };

@@ -15,8 +15,8 @@ constexpr float FirstStep = 0.1f;
 }
 
 Sound::Sound(Game& game, platform::Platform& platform, platform::Window& window)
-    : Files(platform.DataFiles()), Messages(window), WaveOut(platform.MakeWaveOut(window)),
-      Music(platform.MakeMusicPlayer(window)), TheGame(game), Engine(game.Engine), Soundtrack(game.Soundtrack),
+    : Files(platform.DataFiles()), Messages(window), WaveOut(platform.MakeWaveOut(*this)),
+      Music(platform.MakeMusicPlayer(*this)), TheGame(game), Engine(game.Engine), Soundtrack(game.Soundtrack),
       Settings(game.Audio), Run(game.Run)
 {
 }

@@ -9,7 +9,7 @@
 
 namespace shell
 {
-class Sound final
+class Sound final : private platform::WaveEvents, private platform::MusicEvents
 {
 public:
     // Makes the devices; opens nothing yet. All outlive this.
@@ -31,11 +31,11 @@ public:
     // The music control's notification: code 1, a piece has ended or is skipped.
     void MMC_Done(std::int32_t notifyCode);
 
-    // Of the devices.
-    void WaveDone(std::int32_t user);
-    void MediaDone(std::uint32_t number, std::int32_t code);
+    // Of the music device.
+    void MediaDone(std::uint32_t number, std::int32_t code) override;
 
 private:
+    void WaveDone(std::int32_t user) override;
     void LoadAudio();
     void SetMediaCommand(const char* command);
     void ShowNotice();

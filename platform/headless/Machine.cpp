@@ -13,9 +13,10 @@ platform::Size Limited(platform::Size size)
     return {std::clamp(size.Width, 1, LargestSide), std::clamp(size.Height, 1, LargestSide)};
 }
 
-std::size_t RowBytes(std::int32_t width)
+// Which of `from` pixels stands at `at` of `to`.
+std::int32_t Nearest(std::int32_t at, std::int32_t from, std::int32_t to)
 {
-    return (static_cast<std::size_t>(width) * 3 + 3) & ~std::size_t{3};
+    return static_cast<std::int32_t>(std::int64_t{at} * from / to);
 }
 }
 
@@ -89,13 +90,13 @@ platform::Point Window::CursorPosition()
     return TheMachine.Cursor;
 }
 
-void Window::Present(int width, int height, std::span<const std::uint8_t> bits)
+void Window::Present(const base::ConstSurface& picture)
 {
-    if (width < 1 || height < 1 || bits.size() < RowBytes(width) * static_cast<std::size_t>(height))
+    if (!platform::IsPresentable(picture))
         return;
-    Shown.Width = width;
-    Shown.Height = height;
-    Shown.Bits.assign(bits.begin(), bits.end());
+    Shown.Width = picture.Width;
+    Shown.Height = picture.Height;
+    Shown.Bytes.assign(picture.Bytes, picture.Row(picture.Height));
 }
 
 std::string Window::ClipboardText()
@@ -108,23 +109,20 @@ void Window::SetClipboardText(const std::string& text)
     TheMachine.Clipboard = text;
 }
 
-Image Window::Screenshot() const
+base::Bitmap Window::Screenshot() const
 {
     const platform::Size size = Client();
-    Image image{size.Width, size.Height, {}};
-    const std::size_t toRow = RowBytes(size.Width), fromRow = RowBytes(Shown.Width);
-    image.Bits.resize(toRow * static_cast<std::size_t>(size.Height));
-    if (Shown.Bits.empty())
-        return image;
-    for (std::int64_t y = 0; y < size.Height; ++y)
-    {
-        const auto fromY = static_cast<std::size_t>(y * Shown.Height / size.Height);
-        const std::uint8_t* from = Shown.Bits.data() + fromY * fromRow;
-        std::uint8_t* to = image.Bits.data() + static_cast<std::size_t>(y) * toRow;
-        for (std::int64_t x = 0; x < size.Width; ++x, to += 3)
-            std::copy_n(from + 3 * (x * Shown.Width / size.Width), 3, to);
-    }
-    return image;
+    base::Bitmap picture;
+    picture.Reset(size.Width, size.Height);
+    if (Shown.Bytes.empty())
+        return picture;
+    const base::Surface to = picture.View();
+    const base::ConstSurface from = Shown.View();
+    for (std::int32_t row = 0; row < to.Height; ++row)
+        for (std::int32_t x = 0; x < to.Width; ++x)
+            base::CopyPixel(to.At(x, row),
+                            from.At(Nearest(x, from.Width, to.Width), Nearest(row, from.Height, to.Height)));
+    return picture;
 }
 
 void Window::Deliver()
@@ -146,14 +144,14 @@ std::unique_ptr<platform::Window> Machine::MakeWindow(platform::WindowEvents& ev
     return std::make_unique<Window>(*this, events, size);
 }
 
-std::unique_ptr<platform::WaveOut> Machine::MakeWaveOut(platform::Window& window)
+std::unique_ptr<platform::WaveOut> Machine::MakeWaveOut(platform::WaveEvents& events)
 {
-    return std::make_unique<WaveOut>(*this, static_cast<Window&>(window).Receiver());
+    return std::make_unique<WaveOut>(*this, events);
 }
 
-std::unique_ptr<platform::MusicPlayer> Machine::MakeMusicPlayer(platform::Window& window)
+std::unique_ptr<platform::MusicPlayer> Machine::MakeMusicPlayer(platform::MusicEvents& events)
 {
-    return std::make_unique<MusicPlayer>(*this, static_cast<Window&>(window).Receiver());
+    return std::make_unique<MusicPlayer>(*this, events);
 }
 
 void Machine::PumpEvents()

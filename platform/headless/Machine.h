@@ -19,13 +19,6 @@ struct Box
     std::string Title, Text;
 };
 
-// Rows from the bottom upward, each of blue, green, red padded to 4 bytes.
-struct Image
-{
-    std::int32_t Width = 0, Height = 0;
-    std::vector<std::uint8_t> Bits;
-};
-
 class Machine;
 
 class Window final : public platform::Window
@@ -46,15 +39,15 @@ public:
     void SetFullScreen(bool on) override;
     void ShowCursor(bool visible) override { CursorShown = visible; }
     platform::Point CursorPosition() override;
-    void Present(int width, int height, std::span<const std::uint8_t> bits) override;
+    void Present(const base::ConstSurface& picture) override;
     std::string ClipboardText() override;
     void SetClipboardText(const std::string& text) override;
 
-    // The last presented picture stretched to the client area, nearest pixel; black before the first.
-    Image Screenshot() const;
-    // Hands over the resizing and painting that is due.
+    // The last presented picture stretched to the client area, nearest pixel; black before the first. Row 0 is the
+    // bottom one.
+    base::Bitmap Screenshot() const;
+    // Delivers the resizing and painting that is due.
     void Deliver();
-    platform::WindowEvents& Receiver() { return Events; }
 
     std::string Title;
     bool Visible = false, CursorShown = true, FullScreen = false;
@@ -66,12 +59,12 @@ private:
     platform::WindowEvents& Events;
     platform::Size RestoredSize;
     platform::Point RestoredPlace;
-    Image Shown;
+    base::Bitmap Shown;
     bool ResizeDue = false, PaintDue = false;
 };
 
 // Must outlive the windows it made.
-class Machine final : public platform::Platform
+class Machine final : public platform::Platform, public SoundDevices
 {
 public:
     explicit Machine(base::Files files) : TheFiles(std::move(files)) {}
@@ -82,8 +75,8 @@ public:
     int ProcessorCount() override { return Processors; }
     bool IsFirstInstance() override { return FirstInstance; }
     std::unique_ptr<platform::Window> MakeWindow(platform::WindowEvents& events, platform::Size size) override;
-    std::unique_ptr<platform::WaveOut> MakeWaveOut(platform::Window& window) override;
-    std::unique_ptr<platform::MusicPlayer> MakeMusicPlayer(platform::Window& window) override;
+    std::unique_ptr<platform::WaveOut> MakeWaveOut(platform::WaveEvents& events) override;
+    std::unique_ptr<platform::MusicPlayer> MakeMusicPlayer(platform::MusicEvents& events) override;
     void PumpEvents() override;
     void WaitEvents(std::uint32_t milliseconds) override;
     Webcam& WebcamDevice() override { return TheWebcam; }
@@ -98,9 +91,6 @@ public:
     std::string Clipboard;
     platform::Point Cursor;
     platform::Size Display{1280, 1024};
-    ScriptedCalls Calls;
-    WaveOut* Wave = nullptr; // the devices made last, while they exist
-    MusicPlayer* Music = nullptr;
     Webcam TheWebcam;
 
     // The message boxes shown so far; beyond MostBoxes they are only counted.

@@ -1,7 +1,5 @@
 #include "platform/headless/Sound.h"
 
-#include "platform/headless/Machine.h"
-
 #include <algorithm>
 #include <iterator>
 #include <utility>
@@ -26,22 +24,22 @@ bool ScriptedCalls::Take(const char* name, std::int32_t& code)
     return true;
 }
 
-WaveOut::WaveOut(Machine& machine, platform::WindowEvents& events) : TheMachine(machine), Events(events)
+WaveOut::WaveOut(SoundDevices& devices, platform::WaveEvents& events) : Devices(devices), Events(events)
 {
-    TheMachine.Wave = this;
+    Devices.Wave = this;
 }
 
 WaveOut::~WaveOut()
 {
-    if (TheMachine.Wave == this)
-        TheMachine.Wave = nullptr;
+    if (Devices.Wave == this)
+        Devices.Wave = nullptr;
 }
 
 // What the call returns: the scripted code, or whether the handle is good.
 std::int32_t WaveOut::Code(const char* call, platform::WaveHandle handle)
 {
     std::int32_t code = platform::WaveSuccess;
-    if (TheMachine.Calls.Take(call, code))
+    if (Devices.Calls.Take(call, code))
         return code;
     return handle == platform::NoWave || handle != Opened ? platform::WaveInvalidHandle : platform::WaveSuccess;
 }
@@ -49,7 +47,7 @@ std::int32_t WaveOut::Code(const char* call, platform::WaveHandle handle)
 bool WaveOut::Notify(bool on)
 {
     std::int32_t previous = 1;
-    TheMachine.Calls.Take("SetWindowLongA", previous);
+    Devices.Calls.Take("SetWindowLongA", previous);
     Notifies = on && previous != 0;
     return previous != 0;
 }
@@ -57,7 +55,7 @@ bool WaveOut::Notify(bool on)
 std::int32_t WaveOut::Open(platform::WaveHandle& handle, const platform::WaveFormat& format)
 {
     std::int32_t code = platform::WaveSuccess;
-    if (TheMachine.Calls.Take("waveOutOpen", code) && code != platform::WaveSuccess)
+    if (Devices.Calls.Take("waveOutOpen", code) && code != platform::WaveSuccess)
         return code;
     Queued.clear();
     Format = format;
@@ -124,15 +122,15 @@ void WaveOut::Deliver()
             Events.WaveDone(user);
 }
 
-MusicPlayer::MusicPlayer(Machine& machine, platform::WindowEvents& events) : TheMachine(machine), Events(events)
+MusicPlayer::MusicPlayer(SoundDevices& devices, platform::MusicEvents& events) : Devices(devices), Events(events)
 {
-    TheMachine.Music = this;
+    Devices.Music = this;
 }
 
 MusicPlayer::~MusicPlayer()
 {
-    if (TheMachine.Music == this)
-        TheMachine.Music = nullptr;
+    if (Devices.Music == this)
+        Devices.Music = nullptr;
 }
 
 void MusicPlayer::Finish(std::int32_t code)

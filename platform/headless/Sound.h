@@ -1,7 +1,7 @@
 // platform/headless/Sound.h: sound devices that a script plays the part of. The wave device finishes a buffer when it
 // is told to; the music player plays nothing and ends when it is told to.
 #pragma once
-#include "platform/Platform.h"
+#include "platform/Sound.h"
 
 #include <cstdint>
 #include <deque>
@@ -12,8 +12,6 @@
 
 namespace headless
 {
-class Machine;
-
 // What the calls of the system return once instead of carrying out what they were asked for, by their own names
 // ("waveOutOpen", …, "SetWindowLongA").
 class ScriptedCalls
@@ -28,10 +26,22 @@ private:
     std::map<std::string, std::int32_t> Codes;
 };
 
+class WaveOut;
+class MusicPlayer;
+
+// What a script has of the sound devices: the codes they are to return, and the devices made last, while they exist.
+struct SoundDevices
+{
+    ScriptedCalls Calls;
+    WaveOut* Wave = nullptr;
+    MusicPlayer* Music = nullptr;
+};
+
 class WaveOut final : public platform::WaveOut
 {
 public:
-    WaveOut(Machine& machine, platform::WindowEvents& events);
+    // Enters itself among the devices, which outlive it.
+    WaveOut(SoundDevices& devices, platform::WaveEvents& events);
     ~WaveOut() override;
     WaveOut(const WaveOut&) = delete;
     WaveOut& operator=(const WaveOut&) = delete;
@@ -44,9 +54,9 @@ public:
     std::int32_t UnprepareHeader(platform::WaveHandle handle, const platform::WaveHeader& header) override;
     std::int32_t Close(platform::WaveHandle handle) override;
 
-    // The buffer that was queued longest is finished and told at once. False where none is queued.
+    // The buffer that was queued longest is finished, its event delivered at once. False where none is queued.
     bool FinishBuffer();
-    // Tells the buffers that Reset has returned.
+    // Delivers the events of the buffers that Reset has returned.
     void Deliver();
 
     std::deque<platform::WaveHeader> Queued;
@@ -57,8 +67,8 @@ public:
 private:
     std::int32_t Code(const char* call, platform::WaveHandle handle);
 
-    Machine& TheMachine;
-    platform::WindowEvents& Events;
+    SoundDevices& Devices;
+    platform::WaveEvents& Events;
     platform::WaveHandle Opened = platform::NoWave, Last = 0;
     std::vector<std::int32_t> Returned;
     bool Notifies = false;
@@ -67,7 +77,8 @@ private:
 class MusicPlayer final : public platform::MusicPlayer
 {
 public:
-    MusicPlayer(Machine& machine, platform::WindowEvents& events);
+    // Enters itself among the devices, which outlive it.
+    MusicPlayer(SoundDevices& devices, platform::MusicEvents& events);
     ~MusicPlayer() override;
     MusicPlayer(const MusicPlayer&) = delete;
     MusicPlayer& operator=(const MusicPlayer&) = delete;
@@ -84,7 +95,7 @@ public:
     bool Playing = false;
 
 private:
-    Machine& TheMachine;
-    platform::WindowEvents& Events;
+    SoundDevices& Devices;
+    platform::MusicEvents& Events;
 };
 }

@@ -1,12 +1,10 @@
 #include "platform/sdl/FfmpegWebcam.h"
 
 #include "platform/sdl/FramePicture.h"
+#include "platform/Worker.h"
 
 #include <atomic>
 #include <chrono>
-#include <condition_variable>
-#include <mutex>
-#include <thread>
 
 extern "C"
 {
@@ -15,11 +13,11 @@ extern "C"
 #include <libavformat/avformat.h>
 }
 
-namespace platform
+namespace sdl
 {
 namespace
 {
-using Clock = std::chrono::steady_clock;
+using Clock = platform::Worker::Clock;
 
 constexpr const char* DeviceFormat = "v4l2";
 constexpr const char* WantedSize = "320x240"; // a device takes the nearest it has
@@ -60,11 +58,11 @@ Owned<AVFormatContext> OpenInput(const WebcamSource& source, const char* size)
 }
 }
 
-// An open source: a thread of its own decodes what comes, so that a frame that is asked for is a fresh one.
+// An open source: a thread of its own decodes what comes, so that a requested frame is a fresh one.
 class FfmpegWebcam::Stream
 {
 public:
-    Stream(const CaptureParams& params, bool paced) : Picture(params), IsPaced(paced) {}
+    Stream(const platform::CaptureParams& params, bool paced) : Picture(params), IsPaced(paced) {}
 
     bool Start(Owned<AVFormatContext> input)
     {
@@ -75,15 +73,15 @@ public:
         Frame.reset(av_frame_alloc());
         if (Packet == nullptr || Frame == nullptr)
             return false;
-        Worker = std::jthread([this](const std::stop_token& stop) { Work(stop); });
+        Decoding.Start([this] { Work(); });
         return true;
     }
 
-    void Ask() { Request.store(Wanted, std::memory_order_release); }
+    void RequestFrame() { Request.store(Wanted, std::memory_order_release); }
     bool IsDone() const { return Request.load(std::memory_order_acquire) == Done; }
 
 private:
-    enum Asked
+    enum RequestState
     {
         Nothing,
         Wanted,
@@ -110,47 +108,45 @@ private:
     }
 
     // Ends where the source ends: unplugged, or a film that is over. The last picture stays.
-    void Work(const std::stop_token& stop)
+    void Work()
     {
         Begun = Clock::now();
-        while (!stop.stop_requested())
+        while (!Decoding.IsStopped())
         {
             const int result = av_read_frame(Input.get(), Packet.get());
             if (result == AVERROR(EAGAIN))
-                WaitUntil(stop, Clock::now() + Pause);
+                Decoding.SleepUntil(Clock::now() + Pause);
             else if (result < 0)
                 return;
             else
-                Decode(stop);
+                Decode();
             av_packet_unref(Packet.get());
         }
     }
 
-    void Decode(const std::stop_token& stop)
+    void Decode()
     {
         if (Packet->stream_index != Video || avcodec_send_packet(Decoder.get(), Packet.get()) < 0)
             return;
-        while (!stop.stop_requested() && avcodec_receive_frame(Decoder.get(), Frame.get()) >= 0)
+        while (!Decoding.IsStopped() && avcodec_receive_frame(Decoder.get(), Frame.get()) >= 0)
         {
             if (IsPaced)
-                WaitForItsTime(stop);
+                WaitForItsTime();
             if (Request.load(std::memory_order_acquire) == Wanted && Picture.Take(*Frame))
                 Request.store(Done, std::memory_order_release);
         }
     }
 
-    void WaitForItsTime(const std::stop_token& stop)
+    void WaitForItsTime()
     {
         if (Frame->best_effort_timestamp == AV_NOPTS_VALUE)
-            return WaitUntil(stop, Clock::now() + 8 * Pause);
+        {
+            Decoding.SleepUntil(Clock::now() + 8 * Pause);
+            return;
+        }
         const double seconds = static_cast<double>(Frame->best_effort_timestamp) * av_q2d(VideoStream().time_base);
-        WaitUntil(stop, Begun + std::chrono::duration_cast<Clock::duration>(std::chrono::duration<double>(seconds)));
-    }
-
-    void WaitUntil(const std::stop_token& stop, Clock::time_point time)
-    {
-        std::unique_lock lock(Mutex);
-        Stopped.wait_until(lock, stop, time, [] { return false; });
+        Decoding.SleepUntil(Begun +
+                            std::chrono::duration_cast<Clock::duration>(std::chrono::duration<double>(seconds)));
     }
 
     FramePicture Picture;
@@ -161,10 +157,8 @@ private:
     Owned<AVFrame> Frame;
     int Video = -1; // index of the video stream
     Clock::time_point Begun;
-    std::mutex Mutex;
-    std::condition_variable_any Stopped;
-    std::atomic<Asked> Request = Nothing;
-    std::jthread Worker; // ends before everything above it
+    std::atomic<RequestState> Request = Nothing;
+    platform::Worker Decoding; // ends before everything above it
 };
 
 FfmpegWebcam::FfmpegWebcam(WebcamSource source) : Source(std::move(source))
@@ -183,7 +177,7 @@ std::int32_t FfmpegWebcam::SetupCapture()
     return devices == nullptr ? 0 : devices->nb_devices;
 }
 
-bool FfmpegWebcam::InitCapture(const CaptureParams& params)
+bool FfmpegWebcam::InitCapture(const platform::CaptureParams& params)
 {
     Open.reset();
     WebcamSource source = Source;
@@ -208,7 +202,7 @@ bool FfmpegWebcam::InitCapture(const CaptureParams& params)
 void FfmpegWebcam::DoCapture()
 {
     if (Open)
-        Open->Ask();
+        Open->RequestFrame();
 }
 
 bool FfmpegWebcam::IsCaptureDone()

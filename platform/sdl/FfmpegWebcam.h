@@ -6,7 +6,7 @@
 #include <memory>
 #include <string>
 
-namespace platform
+namespace sdl
 {
 // Where frames come from. Empty: the first video4linux2 device. A film or a synthetic source ("lavfi", "testsrc") runs
 // through the same calls at its own pace.
@@ -16,7 +16,7 @@ struct WebcamSource
     std::string Url;
 };
 
-class FfmpegWebcam final : public Webcam
+class FfmpegWebcam final : public platform::Webcam
 {
 public:
     explicit FfmpegWebcam(WebcamSource source);
@@ -25,7 +25,7 @@ public:
     FfmpegWebcam& operator=(const FfmpegWebcam&) = delete;
 
     std::int32_t SetupCapture() override;
-    bool InitCapture(const CaptureParams& params) override;
+    bool InitCapture(const platform::CaptureParams& params) override;
     void DoCapture() override;
     bool IsCaptureDone() override;
     void DeinitCapture() override;

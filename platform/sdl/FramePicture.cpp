@@ -1,5 +1,7 @@
 #include "platform/sdl/FramePicture.h"
 
+#include "base/Pixels.h"
+
 #include <algorithm>
 #include <cstring>
 #include <memory>
@@ -10,16 +12,16 @@ extern "C"
 #include <libswscale/swscale.h>
 }
 
-namespace platform
+namespace sdl
 {
 namespace
 {
-constexpr std::int32_t PixelBytes = 4;
+constexpr std::int32_t TargetPixelBytes = 4;
 constexpr std::int32_t Alignment = 64; // bytes
 
 std::int32_t AlignedRow(std::int32_t width)
 {
-    return (width * PixelBytes + 2 * Alignment - 1) / Alignment * Alignment;
+    return (width * TargetPixelBytes + 2 * Alignment - 1) / Alignment * Alignment;
 }
 
 // Formats that share colours between neighbours must not be cut between them.
@@ -41,7 +43,7 @@ void CropToShape(AVFrame& frame, std::int32_t width, std::int32_t height)
 }
 }
 
-FramePicture::FramePicture(const CaptureParams& params) : Params(params)
+FramePicture::FramePicture(const platform::CaptureParams& params) : Params(params)
 {
     Scaled.resize(static_cast<std::size_t>(AlignedRow(params.Width)) * static_cast<std::size_t>(params.Height) +
                   Alignment);
@@ -70,10 +72,11 @@ bool FramePicture::Take(AVFrame& frame)
     const int strides[4] = {AlignedRow(Params.Width), 0, 0, 0};
     if (sws_scale(Scaler, frame.data, frame.linesize, 0, frame.height, planes, strides) != Params.Height)
         return false;
-    const auto row = static_cast<std::size_t>(Params.Width * PixelBytes);
+    const std::int32_t rowBytes = Params.Width * TargetPixelBytes;
+    const base::ConstSurface from = {aligned, strides[0], Params.Width, Params.Height};
+    const base::Surface to = {Params.Target, rowBytes, Params.Width, Params.Height};
     for (std::int32_t y = 0; y < Params.Height; ++y)
-        std::memcpy(Params.Target + static_cast<std::size_t>(y) * row,
-                    aligned + static_cast<std::ptrdiff_t>(y) * strides[0], row);
+        std::memcpy(to.Row(y), from.Row(y), static_cast<std::size_t>(rowBytes));
     return true;
 }
 }

@@ -7,12 +7,12 @@
 struct AVFrame;
 struct SwsContext;
 
-namespace platform
+namespace sdl
 {
 class FramePicture
 {
 public:
-    explicit FramePicture(const CaptureParams& params);
+    explicit FramePicture(const platform::CaptureParams& params);
     ~FramePicture();
     FramePicture(const FramePicture&) = delete;
     FramePicture& operator=(const FramePicture&) = delete;
@@ -22,7 +22,7 @@ public:
     bool Take(AVFrame& frame);
 
 private:
-    CaptureParams Params;
+    platform::CaptureParams Params;
     SwsContext* Scaler = nullptr;
     std::vector<std::uint8_t> Scaled; // rows longer than the target's: the scaler writes whole vectors
 };

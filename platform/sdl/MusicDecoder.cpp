@@ -12,7 +12,7 @@ extern "C"
 
 #include <string>
 
-namespace platform
+namespace sdl
 {
 namespace
 {

@@ -14,7 +14,7 @@ struct AVFrame;
 struct AVPacket;
 struct SwrContext;
 
-namespace platform
+namespace sdl
 {
 class MusicDecoder
 {

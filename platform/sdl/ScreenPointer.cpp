@@ -2,7 +2,7 @@
 
 #include <SDL_syswm.h>
 
-namespace platform
+namespace sdl
 {
 #if defined(SDL_VIDEO_DRIVER_X11)
 namespace

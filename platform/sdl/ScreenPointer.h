@@ -7,11 +7,11 @@
 
 #include <optional>
 
-namespace platform
+namespace sdl
 {
 struct PointerEvent
 {
-    Point Screen, Client;
+    platform::Point Screen, Client;
     bool Moved = false; // otherwise a button went down or up
     int Buttons = 0;    // held during a motion, as in WindowEvents
 };

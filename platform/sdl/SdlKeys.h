@@ -4,7 +4,7 @@
 
 #include <cstdint>
 
-namespace platform
+namespace sdl
 {
 // By label for letters, digits and punctuation, by position for the rest. 0 for a key that has no code.
 std::int16_t VirtualKey(const SDL_Keysym& key);

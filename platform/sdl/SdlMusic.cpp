@@ -6,7 +6,7 @@
 #include <cstring>
 #include <utility>
 
-namespace platform
+namespace sdl
 {
 namespace
 {
@@ -14,21 +14,18 @@ constexpr std::uint16_t BlockFrames = 1024;                                     
 constexpr std::size_t RingBytes = MusicDecoder::Rate * MusicDecoder::FrameBytes / 2; // half a second ahead
 }
 
-SdlMusic::SdlMusic(SdlPlatform& platform, std::uint32_t window)
-    : ThePlatform(platform), WindowId(window), Ring(RingBytes), Worker([this] { Decode(); })
+SdlMusic::SdlMusic(PostedEvents& posted, platform::MusicEvents& events)
+    : Source(posted, [&events](std::int32_t code, std::uint32_t number) { events.MediaDone(number, code); }),
+      Ring(RingBytes)
 {
+    Decoding.Start([this] { Decode(); });
 }
 
 SdlMusic::~SdlMusic()
 {
-    {
-        const std::lock_guard hold(Lock);
-        GiveUp = Quits = true;
-    }
-    Changed.notify_all();
-    Worker.join();
-    if (Device != 0)
-        SDL_CloseAudioDevice(Device);
+    Close();
+    Decoding.Stop();
+    Device.Close();
 }
 
 void SdlMusic::Open(const std::filesystem::path& file)
@@ -39,37 +36,31 @@ void SdlMusic::Open(const std::filesystem::path& file)
 
 void SdlMusic::Play(std::uint32_t number)
 {
-    if (File.empty() || !OpenDevice())
-        return;
-    {
-        const std::lock_guard hold(Lock);
-        Next = {File, number};
-        GiveUp = HasNext = true;
-        Count = 0;
-    }
-    Changed.notify_all();
+    if (!File.empty() && OpenDevice())
+        Replace(Order{File, number});
 }
 
 void SdlMusic::Close()
 {
     File.clear();
-    {
-        const std::lock_guard hold(Lock);
-        GiveUp = true;
-        HasNext = false;
-        Count = 0;
-    }
-    Changed.notify_all();
+    Replace({});
+}
+
+void SdlMusic::Replace(std::optional<Order> order)
+{
+    Decoding.Notify(
+        [&]
+        {
+            Next = std::move(order);
+            GiveUp = true;
+            Count = 0;
+        });
 }
 
 bool SdlMusic::OpenDevice()
 {
-    if (Device != 0 && SDL_GetAudioDeviceStatus(Device) != SDL_AUDIO_STOPPED)
+    if (Device.IsAlive())
         return true;
-    if (Device != 0)
-        SDL_CloseAudioDevice(std::exchange(Device, 0));
-    if (!ThePlatform.HasSound())
-        return false;
     SDL_AudioSpec wanted = {};
     wanted.freq = MusicDecoder::Rate;
     wanted.format = AUDIO_S16SYS;
@@ -77,29 +68,25 @@ bool SdlMusic::OpenDevice()
     wanted.samples = BlockFrames;
     wanted.callback = Fill;
     wanted.userdata = this;
-    Device = SDL_OpenAudioDevice(nullptr, 0, &wanted, nullptr, 0);
-    if (Device != 0)
-        SDL_PauseAudioDevice(Device, 0);
-    return Device != 0;
+    if (!Device.Open(wanted))
+        return false;
+    Device.Pause(false);
+    return true;
 }
 
 void SdlMusic::Decode()
 {
-    for (;;)
+    Order order;
+    const auto take = [&]
     {
-        Order order;
-        {
-            std::unique_lock hold(Lock);
-            Changed.wait(hold, [this] { return HasNext || Quits; });
-            if (Quits)
-                return;
-            order = std::move(Next);
-            HasNext = false;
-            GiveUp = false;
-        }
+        order = *std::exchange(Next, {});
+        GiveUp = false;
+    };
+    while (Decoding.Wait([this] { return Next.has_value(); }, take))
+    {
         const std::int32_t code = PlayThrough(order);
         if (code != 0 && !GiveUp)
-            ThePlatform.TellMediaDone(WindowId, order.Number, code);
+            Source.Post(code, order.Number);
     }
 }
 
@@ -115,32 +102,33 @@ std::int32_t SdlMusic::PlayThrough(const Order& order)
                 return 0;
         }
     if (!heard)
-        return MediaUnplayable;
-    return AwaitSilence() ? MediaSuccessful : 0;
+        return platform::MediaUnplayable;
+    return AwaitSilence() ? platform::MediaSuccessful : 0;
 }
 
 bool SdlMusic::Keep(std::span<const std::uint8_t> bytes)
 {
-    while (!bytes.empty())
-    {
-        std::unique_lock hold(Lock);
-        Changed.wait(hold, [this] { return Count < Ring.size() || GiveUp; });
-        if (GiveUp)
+    while (!bytes.empty() && !GiveUp)
+        if (!Decoding.Wait([this] { return Count < Ring.size() || GiveUp; }, [&] { Append(bytes); }))
             return false;
-        const std::size_t at = (First + Count) % Ring.size();
-        const std::size_t now = std::min({bytes.size(), Ring.size() - Count, Ring.size() - at});
-        std::memcpy(Ring.data() + at, bytes.data(), now);
-        Count += now;
-        bytes = bytes.subspan(now);
-    }
-    return true;
+    return !GiveUp;
+}
+
+// As much of the bytes as has room, in one piece; they are what is left then.
+void SdlMusic::Append(std::span<const std::uint8_t>& bytes)
+{
+    if (GiveUp)
+        return;
+    const std::size_t at = (First + Count) % Ring.size();
+    const std::size_t now = std::min({bytes.size(), Ring.size() - Count, Ring.size() - at});
+    std::memcpy(Ring.data() + at, bytes.data(), now);
+    Count += now;
+    bytes = bytes.subspan(now);
 }
 
 bool SdlMusic::AwaitSilence()
 {
-    std::unique_lock hold(Lock);
-    Changed.wait(hold, [this] { return Count == 0 || GiveUp; });
-    return !GiveUp;
+    return Decoding.Wait([this] { return Count == 0 || GiveUp; }, [] {}) && !GiveUp;
 }
 
 void SdlMusic::Fill(void* self, std::uint8_t* bytes, int count)
@@ -148,11 +136,11 @@ void SdlMusic::Fill(void* self, std::uint8_t* bytes, int count)
     static_cast<SdlMusic*>(self)->Fill(bytes, static_cast<std::size_t>(count));
 }
 
-// On SDL's thread. Silence where nothing is decoded yet.
+// Silence where nothing is decoded yet.
 void SdlMusic::Fill(std::uint8_t* bytes, std::size_t count)
 {
+    const auto copy = [&]
     {
-        const std::lock_guard hold(Lock);
         while (count > 0 && Count > 0)
         {
             const std::size_t now = std::min({count, Count, Ring.size() - First});
@@ -162,8 +150,8 @@ void SdlMusic::Fill(std::uint8_t* bytes, std::size_t count)
             bytes += now;
             count -= now;
         }
-    }
+    };
+    Decoding.Notify(copy);
     std::memset(bytes, 0, count);
-    Changed.notify_all();
 }
 }

@@ -14,7 +14,7 @@
 #include <sys/file.h>
 #include <unistd.h>
 
-namespace platform
+namespace sdl
 {
 namespace
 {
@@ -28,13 +28,6 @@ std::string LockPath()
         return std::string(runtime) + "/velkar.lock";
     return "/tmp/velkar-" + std::to_string(getuid()) + ".lock";
 }
-
-enum UserEvent : std::uint32_t
-{
-    WaveDoneEvent,
-    MediaDoneEvent,
-    UserEventCount
-};
 
 std::uint32_t WindowOf(const SDL_Event& event)
 {
@@ -58,8 +51,7 @@ std::uint32_t WindowOf(const SDL_Event& event)
 }
 }
 
-SdlPlatform::SdlPlatform(std::filesystem::path data, WebcamSource webcam)
-    : TheFiles(std::move(data)), TheWebcam(std::move(webcam))
+SdlPlatform::Library::Library()
 {
     // A click that brings the window to the front is a click as well, as on the Windows desktop.
     SDL_SetHint(SDL_HINT_MOUSE_FOCUS_CLICKTHROUGH, "1");
@@ -70,17 +62,20 @@ SdlPlatform::SdlPlatform(std::filesystem::path data, WebcamSource webcam)
     SDL_StartTextInput();
     SDL_EventState(SDL_SYSWMEVENT, SDL_ENABLE); // see ScreenPointer.h
     SDL_SetHint(SDL_HINT_AUDIO_DEVICE_APP_NAME, "Velkar");
-    FirstUserEvent = SDL_RegisterEvents(UserEventCount);
+}
+
+SdlPlatform::SdlPlatform(std::filesystem::path data, WebcamSource webcam)
+    : TheFiles(std::move(data)), TheWebcam(std::move(webcam))
+{
 }
 
 SdlPlatform::~SdlPlatform()
 {
     if (InstanceLock >= 0)
         close(InstanceLock);
-    SDL_Quit();
 }
 
-void SdlPlatform::Run(Program& program)
+void SdlPlatform::Run(platform::Program& program)
 {
     while (!program.Ended())
     {
@@ -96,55 +91,10 @@ void SdlPlatform::Run(Program& program)
     }
 }
 
-void SdlPlatform::Add(SdlWindow& window)
-{
-    Windows.push_back(&window);
-}
-
-void SdlPlatform::Remove(SdlWindow& window)
-{
-    std::erase(Windows, &window);
-}
-
-// A user event carries the window, the code and a number.
-bool SdlPlatform::Tell(std::uint32_t which, std::uint32_t window, std::int32_t code, std::uint32_t number) const
-{
-    SDL_Event event = {};
-    event.user.type = FirstUserEvent + which;
-    event.user.windowID = window;
-    event.user.code = code;
-    event.user.data1 = reinterpret_cast<void*>(static_cast<std::uintptr_t>(number));
-    return HasUserEvents() && SDL_PushEvent(&event) > 0;
-}
-
-bool SdlPlatform::TellWaveDone(std::uint32_t window, std::int32_t user) const
-{
-    return Tell(WaveDoneEvent, window, user, 0);
-}
-
-bool SdlPlatform::TellMediaDone(std::uint32_t window, std::uint32_t number, std::int32_t code) const
-{
-    return Tell(MediaDoneEvent, window, code, number);
-}
-
-bool SdlPlatform::HasSound()
-{
-    return SDL_WasInit(SDL_INIT_AUDIO) != 0 || SDL_InitSubSystem(SDL_INIT_AUDIO) == 0;
-}
-
-void SdlPlatform::DispatchUser(const SDL_UserEvent& event)
-{
-    const auto number = static_cast<std::uint32_t>(reinterpret_cast<std::uintptr_t>(event.data1));
-    for (SdlWindow* window : Windows)
-        if (window->Id() == event.windowID)
-            return event.type == FirstUserEvent + WaveDoneEvent ? window->Receiver().WaveDone(event.code)
-                                                                : window->Receiver().MediaDone(number, event.code);
-}
-
 void SdlPlatform::Dispatch(const SDL_Event& event)
 {
-    if (HasUserEvents() && event.type >= FirstUserEvent && event.type < FirstUserEvent + UserEventCount)
-        return DispatchUser(event.user);
+    if (Posted.Dispatch(event))
+        return;
     const std::uint32_t id = WindowOf(event);
     // SDL_QUIT comes from the session or a signal; an X server's own events are looked through by each.
     const bool everyWindow = event.type == SDL_RENDER_TARGETS_RESET || event.type == SDL_RENDER_DEVICE_RESET ||
@@ -185,19 +135,19 @@ bool SdlPlatform::IsFirstInstance()
     return false;
 }
 
-std::unique_ptr<Window> SdlPlatform::MakeWindow(WindowEvents& events, Size size)
+std::unique_ptr<platform::Window> SdlPlatform::MakeWindow(platform::WindowEvents& events, platform::Size size)
 {
-    return std::make_unique<SdlWindow>(*this, events, size);
+    return std::make_unique<SdlWindow>(Windows, events, size);
 }
 
-std::unique_ptr<WaveOut> SdlPlatform::MakeWaveOut(Window& window)
+std::unique_ptr<platform::WaveOut> SdlPlatform::MakeWaveOut(platform::WaveEvents& events)
 {
-    return std::make_unique<SdlWaveOut>(*this, static_cast<SdlWindow&>(window).Id());
+    return std::make_unique<SdlWaveOut>(Posted, events);
 }
 
-std::unique_ptr<MusicPlayer> SdlPlatform::MakeMusicPlayer(Window& window)
+std::unique_ptr<platform::MusicPlayer> SdlPlatform::MakeMusicPlayer(platform::MusicEvents& events)
 {
-    return std::make_unique<SdlMusic>(*this, static_cast<SdlWindow&>(window).Id());
+    return std::make_unique<SdlMusic>(Posted, events);
 }
 
 void SdlPlatform::PumpEvents()
@@ -206,7 +156,7 @@ void SdlPlatform::PumpEvents()
     while (SDL_PollEvent(&event) != 0)
         Dispatch(event);
     for (std::size_t i = 0; i < Windows.size(); ++i)
-        Windows[i]->TellMotion();
+        Windows[i]->FlushMotion();
 }
 
 void SdlPlatform::WaitEvents(std::uint32_t milliseconds)

@@ -2,53 +2,32 @@
 
 #include <algorithm>
 #include <cstring>
-#include <utility>
 
-namespace platform
+namespace sdl
 {
 namespace
 {
 constexpr std::uint16_t BlockFrames = 512; // asked of the device: 46 ms at 11025 Hz
 
-// While it lives SDL's thread does not play.
-class Locked
-{
-public:
-    explicit Locked(SDL_AudioDeviceID device) : Device(device) { SDL_LockAudioDevice(Device); }
-    ~Locked() { SDL_UnlockAudioDevice(Device); }
-    Locked(const Locked&) = delete;
-    Locked& operator=(const Locked&) = delete;
-
-private:
-    SDL_AudioDeviceID Device;
-};
-
-bool IsSame(const WaveFormat& a, const WaveFormat& b)
+bool IsSame(const platform::WaveFormat& a, const platform::WaveFormat& b)
 {
     return a.Channels == b.Channels && a.SamplesPerSecond == b.SamplesPerSecond && a.BitsPerSample == b.BitsPerSample;
 }
 }
 
-SdlWaveOut::~SdlWaveOut()
-{
-    if (Device != 0)
-        SDL_CloseAudioDevice(Device);
-}
-
 bool SdlWaveOut::Notify(bool on)
 {
     Notifies = on;
-    return ThePlatform.HasUserEvents();
+    return Source.CanPost();
 }
 
 // SDL waits a tenth of a second before it closes a device. So it is kept, unless it has gone.
-bool SdlWaveOut::OpenDevice(const WaveFormat& format)
+bool SdlWaveOut::PrepareDevice(const platform::WaveFormat& format)
 {
-    if (Device != 0 && SDL_GetAudioDeviceStatus(Device) != SDL_AUDIO_STOPPED && IsSame(format, DeviceFormat))
+    if (Device.IsAlive() && IsSame(format, DeviceFormat))
         return true;
-    if (Device != 0)
-        SDL_CloseAudioDevice(std::exchange(Device, 0));
-    if (!ThePlatform.HasSound() || format.BitsPerSample != 16)
+    Device.Close();
+    if (format.BitsPerSample != 16)
         return false;
     SDL_AudioSpec wanted = {};
     wanted.freq = format.SamplesPerSecond;
@@ -57,112 +36,77 @@ bool SdlWaveOut::OpenDevice(const WaveFormat& format)
     wanted.samples = BlockFrames;
     wanted.callback = Fill;
     wanted.userdata = this;
-    Device = SDL_OpenAudioDevice(nullptr, 0, &wanted, nullptr, 0);
     DeviceFormat = format;
-    return Device != 0;
+    return Device.Open(wanted);
 }
 
-std::int32_t SdlWaveOut::Open(WaveHandle& handle, const WaveFormat& format)
+std::int32_t SdlWaveOut::OpenDevice(const platform::WaveFormat& format)
 {
-    if (!OpenDevice(format))
-        return WaveBadDevice;
+    if (!PrepareDevice(format))
+        return platform::WaveBadDevice;
     {
-        const Locked lock(Device);
+        const AudioDevice::Locked lock(Device);
         for (Slot& slot : Slots)
-            slot.Prepared = slot.Queued = false;
+            slot.State = {};
         Count = Played = 0;
     }
-    handle = Opened = ++Last;
-    SDL_PauseAudioDevice(Device, 0);
-    return WaveSuccess;
+    Device.Pause(false);
+    return platform::WaveSuccess;
 }
 
-std::int32_t SdlWaveOut::Check(WaveHandle handle, const WaveHeader& header) const
+platform::WaveDevice::SlotState SdlWaveOut::StateOf(std::size_t slot) const
 {
-    if (handle == NoWave || handle != Opened)
-        return WaveInvalidHandle;
-    return header.User < 0 || header.User >= MostWaveBuffers ? WaveInvalidParameter : WaveSuccess;
+    const AudioDevice::Locked lock(Device);
+    return Slots[slot].State;
 }
 
-std::int32_t SdlWaveOut::PrepareHeader(WaveHandle handle, const WaveHeader& header)
+std::int32_t SdlWaveOut::PrepareSlot(std::size_t slot, std::span<const std::uint8_t> data)
 {
-    if (const std::int32_t code = Check(handle, header))
-        return code;
-    const Locked lock(Device);
-    Slot& slot = Slots[static_cast<std::size_t>(header.User)];
-    if (slot.Queued)
-        return WaveStillPlaying;
-    slot.Bytes.reserve(header.Data.size()); // so that Write allocates nothing
-    slot.Prepared = true;
-    return WaveSuccess;
+    const AudioDevice::Locked lock(Device);
+    Slots[slot].Bytes.reserve(data.size()); // so that writing allocates nothing
+    Slots[slot].State.Prepared = true;
+    return platform::WaveSuccess;
 }
 
-std::int32_t SdlWaveOut::Write(WaveHandle handle, const WaveHeader& header)
+std::int32_t SdlWaveOut::WriteSlot(std::size_t slot, std::span<const std::uint8_t> data)
 {
-    if (const std::int32_t code = Check(handle, header))
-        return code;
-    const Locked lock(Device);
-    Slot& slot = Slots[static_cast<std::size_t>(header.User)];
-    if (!slot.Prepared)
-        return WaveUnprepared;
-    if (slot.Queued)
-        return WaveStillPlaying;
-    slot.Bytes.assign(header.Data.begin(), header.Data.end());
-    slot.Queued = true;
-    Queue[(First + Count++) % Queue.size()] = header.User;
-    return WaveSuccess;
+    const AudioDevice::Locked lock(Device);
+    Slots[slot].Bytes.assign(data.begin(), data.end());
+    Slots[slot].State.Queued = true;
+    Queue[(First + Count++) % Queue.size()] = slot;
+    return platform::WaveSuccess;
 }
 
-std::int32_t SdlWaveOut::TakeFirst()
+std::int32_t SdlWaveOut::UnprepareSlot(std::size_t slot)
 {
-    const std::int32_t user = Queue[First];
+    const AudioDevice::Locked lock(Device);
+    Slots[slot].State.Prepared = false;
+    return platform::WaveSuccess;
+}
+
+std::int32_t SdlWaveOut::ResetDevice()
+{
+    const AudioDevice::Locked lock(Device);
+    while (Count > 0)
+        ReturnFirst();
+    return platform::WaveSuccess;
+}
+
+std::int32_t SdlWaveOut::CloseDevice()
+{
+    Device.Pause(true);
+    return platform::WaveSuccess;
+}
+
+void SdlWaveOut::ReturnFirst()
+{
+    const std::size_t slot = Queue[First];
     First = (First + 1) % Queue.size();
     --Count;
     Played = 0;
-    Slots[static_cast<std::size_t>(user)].Queued = false;
-    return user;
-}
-
-void SdlWaveOut::Return(std::int32_t user)
-{
+    Slots[slot].State.Queued = false;
     if (Notifies)
-        ThePlatform.TellWaveDone(WindowId, user);
-}
-
-std::int32_t SdlWaveOut::Reset(WaveHandle handle)
-{
-    if (handle == NoWave || handle != Opened)
-        return WaveInvalidHandle;
-    const Locked lock(Device);
-    while (Count > 0)
-        Return(TakeFirst());
-    return WaveSuccess;
-}
-
-std::int32_t SdlWaveOut::UnprepareHeader(WaveHandle handle, const WaveHeader& header)
-{
-    if (const std::int32_t code = Check(handle, header))
-        return code;
-    const Locked lock(Device);
-    Slot& slot = Slots[static_cast<std::size_t>(header.User)];
-    if (slot.Queued)
-        return WaveStillPlaying;
-    slot.Prepared = false;
-    return WaveSuccess;
-}
-
-std::int32_t SdlWaveOut::Close(WaveHandle handle)
-{
-    if (handle == NoWave || handle != Opened)
-        return WaveInvalidHandle;
-    {
-        const Locked lock(Device);
-        if (Count > 0)
-            return WaveStillPlaying;
-    }
-    SDL_PauseAudioDevice(Device, 1);
-    Opened = NoWave;
-    return WaveSuccess;
+        Source.Post(static_cast<std::int32_t>(slot));
 }
 
 void SdlWaveOut::Fill(void* self, std::uint8_t* bytes, int count)
@@ -175,14 +119,14 @@ void SdlWaveOut::Fill(std::uint8_t* bytes, std::size_t count)
 {
     while (count > 0 && Count > 0)
     {
-        const std::vector<std::uint8_t>& from = Slots[static_cast<std::size_t>(Queue[First])].Bytes;
+        const std::vector<std::uint8_t>& from = Slots[Queue[First]].Bytes;
         const std::size_t now = std::min(count, from.size() - Played);
         std::memcpy(bytes, from.data() + Played, now);
         Played += now;
         bytes += now;
         count -= now;
         if (Played == from.size())
-            Return(TakeFirst());
+            ReturnFirst();
     }
     std::memset(bytes, 0, count);
 }

@@ -1,8 +1,9 @@
-// platform/sdl/SdlWaveOut.h: the wave device on an SDL audio device. Its thread plays what is queued; a buffer that is
-// done comes back as an event of the window.
+// platform/sdl/SdlWaveOut.h: the wave device on an SDL audio device. SDL's thread plays what is queued; a buffer that
+// is done is posted to the window's thread.
 #pragma once
-#include "platform/sdl/SdlPlatform.h"
-#include "platform/Sound.h"
+#include "platform/sdl/AudioDevice.h"
+#include "platform/sdl/EventSource.h"
+#include "platform/WaveDevice.h"
 
 #include <SDL.h>
 
@@ -12,48 +13,49 @@
 #include <cstdint>
 #include <vector>
 
-namespace platform
+namespace sdl
 {
-class SdlWaveOut final : public WaveOut
+class SdlWaveOut final : public platform::WaveDevice
 {
 public:
-    SdlWaveOut(SdlPlatform& platform, std::uint32_t window) : ThePlatform(platform), WindowId(window) {}
-    ~SdlWaveOut() override;
+    // Both outlive it.
+    SdlWaveOut(PostedEvents& posted, platform::WaveEvents& events)
+        : Source(posted, [&events](std::int32_t user, std::uint32_t) { events.WaveDone(user); })
+    {
+    }
+    ~SdlWaveOut() override { Device.Close(); }
     SdlWaveOut(const SdlWaveOut&) = delete;
     SdlWaveOut& operator=(const SdlWaveOut&) = delete;
 
     bool Notify(bool on) override;
-    std::int32_t Open(WaveHandle& handle, const WaveFormat& format) override;
-    std::int32_t PrepareHeader(WaveHandle handle, const WaveHeader& header) override;
-    std::int32_t Write(WaveHandle handle, const WaveHeader& header) override;
-    std::int32_t Reset(WaveHandle handle) override;
-    std::int32_t UnprepareHeader(WaveHandle handle, const WaveHeader& header) override;
-    std::int32_t Close(WaveHandle handle) override;
 
 private:
     // The device's own copy of a buffer: the caller may fill its own again while SDL still plays.
     struct Slot
     {
         std::vector<std::uint8_t> Bytes;
-        bool Prepared = false, Queued = false;
+        SlotState State;
     };
 
-    bool OpenDevice(const WaveFormat& format);
-    std::int32_t Check(WaveHandle handle, const WaveHeader& header) const;
+    std::int32_t OpenDevice(const platform::WaveFormat& format) override;
+    SlotState StateOf(std::size_t slot) const override;
+    std::int32_t PrepareSlot(std::size_t slot, std::span<const std::uint8_t> data) override;
+    std::int32_t WriteSlot(std::size_t slot, std::span<const std::uint8_t> data) override;
+    std::int32_t UnprepareSlot(std::size_t slot) override;
+    std::int32_t ResetDevice() override;
+    std::int32_t CloseDevice() override;
+    bool PrepareDevice(const platform::WaveFormat& format); // open for that format; false where it cannot be
     static void Fill(void* self, std::uint8_t* bytes, int count);
     void Fill(std::uint8_t* bytes, std::size_t count);
-    std::int32_t TakeFirst(); // out of the queue
-    void Return(std::int32_t user);
+    void ReturnFirst(); // out of the queue; posts where that is wanted
 
-    SdlPlatform& ThePlatform;
-    std::uint32_t WindowId;
-    SDL_AudioDeviceID Device = 0; // stays open, silent, from one Open to the next
-    WaveFormat DeviceFormat;
-    WaveHandle Opened = NoWave, Last = 0;
+    EventSource Source;
+    AudioDevice Device; // stays open, silent, from one Open to the next
+    platform::WaveFormat DeviceFormat;
     std::atomic<bool> Notifies = false;
     // Shared with SDL's thread under the device's lock.
-    std::array<Slot, MostWaveBuffers> Slots;
-    std::array<std::int32_t, MostWaveBuffers> Queue = {}; // a ring of users
+    std::array<Slot, platform::MostWaveBuffers> Slots;
+    std::array<std::size_t, platform::MostWaveBuffers> Queue = {}; // a ring of slots
     std::size_t First = 0, Count = 0;
     std::size_t Played = 0; // bytes of the first
 };

@@ -4,13 +4,12 @@
 #include "base/Text.h"
 #include "platform/sdl/ScreenPointer.h"
 #include "platform/sdl/SdlKeys.h"
-#include "platform/sdl/SdlPlatform.h"
 
 #include <algorithm>
 #include <cstdio>
 #include <utility>
 
-namespace platform
+namespace sdl
 {
 namespace
 {
@@ -62,18 +61,19 @@ bool HasSurface(SDL_Window* window)
 }
 }
 
-SdlWindow::SdlWindow(SdlPlatform& platform, WindowEvents& events, Size size) : ThePlatform(platform), Events(events)
+SdlWindow::SdlWindow(std::vector<SdlWindow*>& windows, platform::WindowEvents& events, platform::Size size)
+    : Windows(windows), Events(events)
 {
     TheWindow.reset(SDL_CreateWindow("Velkar", SDL_WINDOWPOS_CENTERED, SDL_WINDOWPOS_CENTERED, size.Width, size.Height,
                                      SDL_WINDOW_BORDERLESS | SDL_WINDOW_HIDDEN));
     if (!TheWindow || !HasSurface(TheWindow.get()))
         throw base::RuntimeError(base::ErrorMemory);
-    ThePlatform.Add(*this);
+    Windows.push_back(this);
 }
 
 SdlWindow::~SdlWindow()
 {
-    ThePlatform.Remove(*this);
+    std::erase(Windows, this);
 }
 
 std::uint32_t SdlWindow::Id() const
@@ -89,38 +89,21 @@ void SdlWindow::Dispatch(const SDL_Event& event)
         DispatchWindow(event.window);
         break;
     case SDL_KEYDOWN:
-        if (const std::int16_t code = VirtualKey(event.key.keysym))
-            Events.KeyDown(code);
-        if (const std::uint8_t character = ControlCharacter(event.key.keysym))
-            Events.KeyPress(character);
-        break;
     case SDL_KEYUP:
-        if (const std::int16_t code = VirtualKey(event.key.keysym))
-            Events.KeyUp(code);
+        DispatchKey(event.key);
         break;
     case SDL_TEXTINPUT:
         DispatchText(event.text.text);
         break;
     case SDL_MOUSEBUTTONDOWN:
-        TellMotion();
-        if (const int button = ButtonValue(event.button.button))
-            Events.MouseDown(button, {event.button.x, event.button.y});
-        break;
     case SDL_MOUSEBUTTONUP:
-        TellMotion();
-        if (const int button = ButtonValue(event.button.button))
-            Events.MouseUp(button, {event.button.x, event.button.y});
+        DispatchButton(event.button);
         break;
     case SDL_MOUSEMOTION:
         Motion = {ButtonsHeld(event.motion.state), {event.motion.x, event.motion.y}};
         break;
     case SDL_SYSWMEVENT:
-        if (const auto pointer = ReadPointer(TheWindow.get(), event))
-        {
-            Pointer = pointer->Screen;
-            if (pointer->Moved)
-                Motion = {pointer->Buttons, pointer->Client};
-        }
+        DispatchPointer(event);
         break;
     case SDL_QUIT:
         Events.CloseAsked();
@@ -150,7 +133,38 @@ void SdlWindow::DispatchWindow(const SDL_WindowEvent& event)
     }
 }
 
-void SdlWindow::TellMotion()
+void SdlWindow::DispatchKey(const SDL_KeyboardEvent& event)
+{
+    const bool down = event.type == SDL_KEYDOWN;
+    if (const std::int16_t code = VirtualKey(event.keysym))
+        down ? Events.KeyDown(code) : Events.KeyUp(code);
+    if (!down)
+        return;
+    if (const std::uint8_t character = ControlCharacter(event.keysym))
+        Events.KeyPress(character);
+}
+
+void SdlWindow::DispatchButton(const SDL_MouseButtonEvent& event)
+{
+    FlushMotion();
+    const int button = ButtonValue(event.button);
+    if (button == 0)
+        return;
+    const platform::Point at = {event.x, event.y};
+    event.type == SDL_MOUSEBUTTONDOWN ? Events.MouseDown(button, at) : Events.MouseUp(button, at);
+}
+
+void SdlWindow::DispatchPointer(const SDL_Event& event)
+{
+    const auto pointer = ReadPointer(TheWindow.get(), event);
+    if (!pointer)
+        return;
+    Pointer = pointer->Screen;
+    if (pointer->Moved)
+        Motion = {pointer->Buttons, pointer->Client};
+}
+
+void SdlWindow::FlushMotion()
 {
     if (const auto motion = std::exchange(Motion, {}))
         Events.MouseMove(motion->Buttons, motion->At);
@@ -188,26 +202,26 @@ void SdlWindow::SetTitle(const std::string& title)
     SDL_SetWindowTitle(TheWindow.get(), title.c_str());
 }
 
-Size SdlWindow::ClientSize()
+platform::Size SdlWindow::ClientSize()
 {
-    Size size;
+    platform::Size size;
     SDL_GetWindowSize(TheWindow.get(), &size.Width, &size.Height);
     return size;
 }
 
-void SdlWindow::SetClientSize(Size size)
+void SdlWindow::SetClientSize(platform::Size size)
 {
     SDL_SetWindowSize(TheWindow.get(), size.Width, size.Height);
 }
 
-Point SdlWindow::Position()
+platform::Point SdlWindow::Position()
 {
-    Point position;
+    platform::Point position;
     SDL_GetWindowPosition(TheWindow.get(), &position.X, &position.Y);
     return position;
 }
 
-void SdlWindow::Move(Point position)
+void SdlWindow::Move(platform::Point position)
 {
     SDL_SetWindowPosition(TheWindow.get(), position.X, position.Y);
 }
@@ -223,11 +237,11 @@ void SdlWindow::ShowCursor(bool visible)
     SDL_ShowCursor(visible ? SDL_ENABLE : SDL_DISABLE);
 }
 
-Point SdlWindow::CursorPosition()
+platform::Point SdlWindow::CursorPosition()
 {
     if (Pointer)
         return *Pointer;
-    Point position;
+    platform::Point position;
     SDL_GetGlobalMouseState(&position.X, &position.Y);
     return position;
 }
@@ -240,21 +254,20 @@ bool SdlWindow::MakePicture(int width, int height)
     return Picture != nullptr;
 }
 
-void SdlWindow::Present(int width, int height, std::span<const std::uint8_t> bits)
+void SdlWindow::Present(const base::ConstSurface& picture)
 {
-    const std::size_t rowBytes = (static_cast<std::size_t>(width) * 3 + 3) & ~std::size_t{3};
-    if (width <= 0 || height <= 0 || bits.size() < rowBytes * static_cast<std::size_t>(height))
+    if (!platform::IsPresentable(picture))
         return;
     SDL_Surface* const surface = SDL_GetWindowSurface(TheWindow.get());
-    if (surface == nullptr || !MakePicture(width, height))
+    if (surface == nullptr || !MakePicture(picture.Width, picture.Height))
         return;
-    for (int y = 0; y < height; ++y)
+    for (std::int32_t y = 0; y < picture.Height; ++y)
     {
         // The picture stands on its bottom row, the surface hangs from its top row.
-        const std::uint8_t* from = bits.data() + rowBytes * static_cast<std::size_t>(height - 1 - y);
+        const std::uint8_t* from = picture.Row(picture.Height - 1 - y);
         auto* to = reinterpret_cast<std::uint32_t*>(static_cast<std::uint8_t*>(Picture->pixels) +
                                                     static_cast<std::ptrdiff_t>(Picture->pitch) * y);
-        for (int x = 0; x < width; ++x, from += 3)
+        for (std::int32_t x = 0; x < picture.Width; ++x, from += base::PixelBytes)
             to[x] = static_cast<std::uint32_t>(from[2]) << 16 | static_cast<std::uint32_t>(from[1]) << 8 | from[0];
     }
     SDL_BlitScaled(Picture.get(), nullptr, surface, nullptr);

@@ -6,38 +6,37 @@
 
 #include <memory>
 #include <optional>
+#include <vector>
 
-namespace platform
+namespace sdl
 {
-class SdlPlatform;
-
-class SdlWindow final : public Window
+class SdlWindow final : public platform::Window
 {
 public:
-    // Registers with the platform, which hands it its events. RuntimeError 7 where the system gives no window.
-    SdlWindow(SdlPlatform& platform, WindowEvents& events, Size size);
+    // Enters itself into the list, which outlives it: whoever keeps that hands each window its events. RuntimeError 7
+    // where the system gives no window.
+    SdlWindow(std::vector<SdlWindow*>& windows, platform::WindowEvents& events, platform::Size size);
     ~SdlWindow() override;
     SdlWindow(const SdlWindow&) = delete;
     SdlWindow& operator=(const SdlWindow&) = delete;
 
     std::uint32_t Id() const;
-    WindowEvents& Receiver() { return Events; }
     void Dispatch(const SDL_Event& event);
-    // Motions are kept until a button moves or no event is left, and only the last is told: moving a window takes
+    // Motions are coalesced: the last one is delivered when a button moves or no event is left. Moving a window takes
     // longer than a mouse takes to move on.
-    void TellMotion();
+    void FlushMotion();
 
     void ShowMessage(base::Icon icon, const std::string& title, const std::string& text) override;
     void Show(bool visible) override;
     void SetTitle(const std::string& title) override;
-    Size ClientSize() override;
-    void SetClientSize(Size size) override;
-    Point Position() override;
-    void Move(Point position) override;
+    platform::Size ClientSize() override;
+    void SetClientSize(platform::Size size) override;
+    platform::Point Position() override;
+    void Move(platform::Point position) override;
     void SetFullScreen(bool on) override;
     void ShowCursor(bool visible) override;
-    Point CursorPosition() override;
-    void Present(int width, int height, std::span<const std::uint8_t> bits) override;
+    platform::Point CursorPosition() override;
+    void Present(const base::ConstSurface& picture) override;
     std::string ClipboardText() override;
     void SetClipboardText(const std::string& text) override;
 
@@ -45,7 +44,7 @@ private:
     struct Moved
     {
         int Buttons;
-        Point At;
+        platform::Point At;
     };
     struct WindowDeleter
     {
@@ -57,15 +56,18 @@ private:
     };
 
     void DispatchWindow(const SDL_WindowEvent& event);
+    void DispatchKey(const SDL_KeyboardEvent& event);
+    void DispatchButton(const SDL_MouseButtonEvent& event);
+    void DispatchPointer(const SDL_Event& event);
     void DispatchText(const char* utf8);
     bool MakePicture(int width, int height);
 
-    SdlPlatform& ThePlatform;
-    WindowEvents& Events;
+    std::vector<SdlWindow*>& Windows;
+    platform::WindowEvents& Events;
     std::unique_ptr<SDL_Window, WindowDeleter> TheWindow;
     std::unique_ptr<SDL_Surface, SurfaceDeleter> Picture; // of the size of the last picture presented
     std::optional<Moved> Motion;
-    std::optional<Point> Pointer; // on the screen at the event that is being handled, where the system tells
+    std::optional<platform::Point> Pointer; // on the screen at the event that is being handled, where the system says
     bool CursorShown = true;
 };
 }

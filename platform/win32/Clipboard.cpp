@@ -5,7 +5,7 @@
 #include <algorithm>
 #include <cwchar>
 
-namespace platform
+namespace win32
 {
 namespace
 {

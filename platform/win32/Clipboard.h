@@ -4,7 +4,7 @@
 
 #include <string>
 
-namespace platform
+namespace win32
 {
 // At most the first million characters; empty where there is no text, or another program does not let go of it.
 std::string ReadClipboard(HWND window);

@@ -3,7 +3,7 @@
 #include <string>
 #include <utility>
 
-namespace platform
+namespace win32
 {
 namespace
 {
@@ -103,7 +103,7 @@ std::int32_t EscapiWebcam::SetupCapture()
     return IsLoaded ? Call(Setup) : 0;
 }
 
-bool EscapiWebcam::InitCapture(const CaptureParams& params)
+bool EscapiWebcam::InitCapture(const platform::CaptureParams& params)
 {
     DeinitCapture();
     if (!IsLoaded)

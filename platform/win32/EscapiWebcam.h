@@ -11,9 +11,9 @@
 #include <memory>
 #include <type_traits>
 
-namespace platform
+namespace win32
 {
-class EscapiWebcam final : public Webcam
+class EscapiWebcam final : public platform::Webcam
 {
 public:
     explicit EscapiWebcam(std::filesystem::path program) : Program(std::move(program)) {} // its folder
@@ -22,7 +22,7 @@ public:
     EscapiWebcam& operator=(const EscapiWebcam&) = delete;
 
     std::int32_t SetupCapture() override;
-    bool InitCapture(const CaptureParams& params) override;
+    bool InitCapture(const platform::CaptureParams& params) override;
     void DoCapture() override;
     bool IsCaptureDone() override;
     void DeinitCapture() override;

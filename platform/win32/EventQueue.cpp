@@ -1,109 +1,78 @@
 #include "platform/win32/EventQueue.h"
 
-namespace platform
+#include <utility>
+
+namespace win32
 {
 void EventQueue::Deliver()
 {
-    // A handler may wait for events itself: what it is told is gone from here before.
+    Delivering = true;
+    // A handler may wait for events itself: an event has left the queue before its receiver is notified.
     while (!Waiting.empty())
     {
-        const Told told = Waiting.front();
+        const Event notify = std::move(Waiting.front().Notify);
         Waiting.pop_front();
-        Tell(told);
+        notify();
     }
+    Delivering = false;
 }
 
-void EventQueue::Tell(const Told& told)
+void EventQueue::PostLatest(const void* source, int kind, Event event)
 {
-    switch (told.What)
-    {
-    case Kind::KeyDown:
-        return Receiver.KeyDown(static_cast<std::int16_t>(told.Code));
-    case Kind::KeyUp:
-        return Receiver.KeyUp(static_cast<std::int16_t>(told.Code));
-    case Kind::KeyPress:
-        return Receiver.KeyPress(static_cast<std::uint8_t>(told.Code));
-    case Kind::MouseDown:
-        return Receiver.MouseDown(told.Code, told.At);
-    case Kind::MouseMove:
-        return Receiver.MouseMove(told.Code, told.At);
-    case Kind::MouseUp:
-        return Receiver.MouseUp(told.Code, told.At);
-    case Kind::Resized:
-        return Receiver.Resized();
-    case Kind::Paint:
-        return Receiver.Paint();
-    case Kind::CloseAsked:
-        Receiver.CloseAsked();
-        return;
-    case Kind::WaveDone:
-        return Receiver.WaveDone(told.Code);
-    case Kind::MediaDone:
-        return Receiver.MediaDone(told.Number, told.Code);
-    }
-}
-
-void EventQueue::AddOnce(const Told& told)
-{
-    if (!Waiting.empty() && Waiting.back().What == told.What)
-        Waiting.back() = told;
+    if (!Waiting.empty() && Waiting.back().Source == source && Waiting.back().Kind == kind)
+        Waiting.back().Notify = std::move(event);
     else
-        Add(told);
+        Waiting.push_back({source, kind, std::move(event)});
 }
 
-void EventQueue::KeyDown(std::int16_t code)
+void EventQueue::Drop(const void* source)
 {
-    Add({Kind::KeyDown, code, {}});
+    std::erase_if(Waiting, [source](const Entry& entry) { return entry.Source == source; });
 }
 
-void EventQueue::KeyUp(std::int16_t code)
+void QueuedWindowEvents::KeyDown(std::int16_t code)
 {
-    Add({Kind::KeyUp, code, {}});
+    Queue.Post(this, [this, code] { Receiver.KeyDown(code); });
 }
 
-void EventQueue::KeyPress(std::uint8_t code)
+void QueuedWindowEvents::KeyUp(std::int16_t code)
 {
-    Add({Kind::KeyPress, code, {}});
+    Queue.Post(this, [this, code] { Receiver.KeyUp(code); });
 }
 
-void EventQueue::MouseDown(int button, Point at)
+void QueuedWindowEvents::KeyPress(std::uint8_t code)
 {
-    Add({Kind::MouseDown, button, at});
+    Queue.Post(this, [this, code] { Receiver.KeyPress(code); });
 }
 
-void EventQueue::MouseMove(int buttons, Point at)
+void QueuedWindowEvents::MouseDown(int button, platform::Point at)
 {
-    AddOnce({Kind::MouseMove, buttons, at});
+    Queue.Post(this, [this, button, at] { Receiver.MouseDown(button, at); });
 }
 
-void EventQueue::MouseUp(int button, Point at)
+void QueuedWindowEvents::MouseMove(int buttons, platform::Point at)
 {
-    Add({Kind::MouseUp, button, at});
+    Queue.PostLatest(this, Motion, [this, buttons, at] { Receiver.MouseMove(buttons, at); });
 }
 
-void EventQueue::Resized()
+void QueuedWindowEvents::MouseUp(int button, platform::Point at)
 {
-    AddOnce({Kind::Resized, 0, {}});
+    Queue.Post(this, [this, button, at] { Receiver.MouseUp(button, at); });
 }
 
-void EventQueue::Paint()
+void QueuedWindowEvents::Resized()
 {
-    AddOnce({Kind::Paint, 0, {}});
+    Queue.PostLatest(this, Resizing, [this] { Receiver.Resized(); });
 }
 
-bool EventQueue::CloseAsked()
+void QueuedWindowEvents::Paint()
 {
-    AddOnce({Kind::CloseAsked, 0, {}});
+    Queue.PostLatest(this, Painting, [this] { Receiver.Paint(); });
+}
+
+bool QueuedWindowEvents::CloseAsked()
+{
+    Queue.PostLatest(this, Closing, [this] { Receiver.CloseAsked(); });
     return true;
-}
-
-void EventQueue::WaveDone(std::int32_t user)
-{
-    Add({Kind::WaveDone, user, {}});
-}
-
-void EventQueue::MediaDone(std::uint32_t number, std::int32_t code)
-{
-    Add({Kind::MediaDone, code, {}, number});
 }
 }

@@ -2,7 +2,7 @@
 #pragma once
 #include <cstdint>
 
-namespace platform
+namespace win32
 {
 // The virtual-key code, but that the key which types "\" by itself is 220 in every layout, and the one that is 220
 // there has its code. `backslash`: what VkKeyScan tells of that character, -1 where the layout lacks it.

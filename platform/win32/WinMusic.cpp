@@ -4,7 +4,7 @@
 
 #include <utility>
 
-namespace platform
+namespace win32
 {
 namespace
 {
@@ -15,18 +15,13 @@ constexpr const wchar_t* DeviceType = L"mpegvideo"; // plays every sound file th
 class WinMusic::Track
 {
 public:
-    // Asks for the notification in a window of its own: what an earlier file may still say arrives nowhere.
-    explicit Track(std::uint32_t number)
-        : Number(number), Sink(CreateWindowExW(0, L"STATIC", nullptr, 0, 0, 0, 0, 0, HWND_MESSAGE, nullptr,
-                                               GetModuleHandleW(nullptr), nullptr))
-    {
-    }
+    // Notifications come to a window of its own: what an earlier file may still say arrives nowhere.
+    explicit Track(MessageWindow::Receiver receiver) : Sink(std::move(receiver)) {}
     ~Track()
     {
         MCI_GENERIC_PARMS close = {};
         if (Device != 0)
             mciSendCommandW(Device, MCI_CLOSE, MCI_WAIT, reinterpret_cast<DWORD_PTR>(&close));
-        DestroyWindow(Sink);
     }
     Track(const Track&) = delete;
     Track& operator=(const Track&) = delete;
@@ -41,31 +36,32 @@ public:
             return false;
         Device = open.wDeviceID;
         MCI_PLAY_PARMS play = {};
-        play.dwCallback = reinterpret_cast<DWORD_PTR>(Sink);
+        play.dwCallback = reinterpret_cast<DWORD_PTR>(Sink.Handle());
         return mciSendCommandW(Device, MCI_PLAY, MCI_NOTIFY, reinterpret_cast<DWORD_PTR>(&play)) == 0;
     }
 
-    const std::uint32_t Number;
-    const HWND Sink;
-
 private:
+    MessageWindow Sink;
     MCIDEVICEID Device = 0;
 };
 
-WinMusic::WinMusic(HWND window, WindowEvents& events)
-    : Window(window), Events(events), Changed(CreateEventW(nullptr, FALSE, FALSE, nullptr)), Worker([this] { Work(); })
+WinMusic::WinMusic(EventQueue& queue, platform::MusicEvents& events)
+    : Queue(queue), Events(events), Window(
+                                        [this](UINT message, WPARAM flags, LPARAM number)
+                                        {
+                                            if (message == MM_MCINOTIFY)
+                                                Notified(flags, number);
+                                        }),
+      Changed(CreateEventW(nullptr, FALSE, FALSE, nullptr)), Playback([this] { SetEvent(Changed); })
 {
+    Playback.Start([this] { Work(); });
 }
 
 WinMusic::~WinMusic()
 {
-    {
-        const std::lock_guard hold(Lock);
-        Quits = true;
-    }
-    SetEvent(Changed);
-    Worker.join();
+    Playback.Stop();
     CloseHandle(Changed);
+    Queue.Drop(this);
 }
 
 void WinMusic::Open(const std::filesystem::path& file)
@@ -80,24 +76,19 @@ void WinMusic::Play(std::uint32_t number)
         return;
     Number = number;
     Playing = true;
-    Tell({File, number});
+    Replace({File, number});
 }
 
 void WinMusic::Close()
 {
     File.clear();
     Playing = false;
-    Tell({});
+    Replace({});
 }
 
-void WinMusic::Tell(const Order& order)
+void WinMusic::Replace(const Order& order)
 {
-    {
-        const std::lock_guard hold(Lock);
-        Next = order;
-        HasNext = true;
-    }
-    SetEvent(Changed);
+    Playback.Notify([&] { Next = order; });
 }
 
 // A file that breaks off is as unplayable as one that never began; what was closed or begun anew says nothing.
@@ -108,7 +99,8 @@ void WinMusic::Notified(WPARAM flags, LPARAM number)
     if (flags != MCI_NOTIFY_SUCCESSFUL && flags != MCI_NOTIFY_FAILURE)
         return;
     Playing = false;
-    Events.MediaDone(Number, flags == MCI_NOTIFY_SUCCESSFUL ? MediaSuccessful : MediaUnplayable);
+    const std::int32_t code = flags == MCI_NOTIFY_SUCCESSFUL ? platform::MediaSuccessful : platform::MediaUnplayable;
+    Queue.Post(this, [this, code, ended = Number] { Events.MediaDone(ended, code); });
 }
 
 // Handles window messages as well: notifications, and what the decoders send one another.
@@ -117,37 +109,28 @@ void WinMusic::Work()
     std::unique_ptr<Track> track;
     while (MsgWaitForMultipleObjects(1, &Changed, FALSE, INFINITE, QS_ALLINPUT) != WAIT_FAILED)
     {
-        Order order;
-        const Wish wish = TakeWish(order);
-        if (wish == Wish::Quit)
+        if (Playback.IsStopped())
             return;
-        if (wish == Wish::Change)
+        if (const auto order = Playback.Locked([this] { return std::exchange(Next, {}); }))
         {
             track.reset(); // before the next begins
-            track = Start(order);
+            track = Start(*order);
         }
         for (MSG message; PeekMessageW(&message, nullptr, 0, 0, PM_REMOVE);)
-            if (message.message == MM_MCINOTIFY && track != nullptr && message.hwnd == track->Sink)
-                Post(message.wParam, track->Number);
-            else
-                DispatchMessageW(&message);
+            DispatchMessageW(&message);
     }
-}
-
-WinMusic::Wish WinMusic::TakeWish(Order& order)
-{
-    const std::lock_guard hold(Lock);
-    if (Quits)
-        return Wish::Quit;
-    order = std::move(Next);
-    return std::exchange(HasNext, false) ? Wish::Change : Wish::None;
 }
 
 std::unique_ptr<WinMusic::Track> WinMusic::Start(const Order& order) const
 {
     if (order.File.empty() || waveOutGetNumDevs() == 0)
         return nullptr;
-    auto track = std::make_unique<Track>(order.Number);
+    const auto receive = [this, number = order.Number](UINT message, WPARAM flags, LPARAM)
+    {
+        if (message == MM_MCINOTIFY)
+            Post(flags, number);
+    };
+    auto track = std::make_unique<Track>(receive);
     if (track->Start(order.File))
         return track;
     Post(MCI_NOTIFY_FAILURE, order.Number);
@@ -156,6 +139,6 @@ std::unique_ptr<WinMusic::Track> WinMusic::Start(const Order& order) const
 
 void WinMusic::Post(WPARAM flags, std::uint32_t number) const
 {
-    PostMessageW(Window, MM_MCINOTIFY, flags, static_cast<LPARAM>(number));
+    PostMessageW(Window.Handle(), MM_MCINOTIFY, flags, static_cast<LPARAM>(number));
 }
 }

@@ -1,24 +1,26 @@
 // platform/win32/WinMusic.h: plays music files through the system's media control (MCI). Opening a file can take long
 // and belongs to one thread from open to close, so a thread of its own does all of it; the window's thread only says
-// what is to be played. What that thread has to tell goes to the window as MM_MCINOTIFY.
+// what is to be played. That thread posts what has ended as MM_MCINOTIFY.
 #pragma once
-#include "platform/Platform.h"
+#include "platform/Sound.h"
+#include "platform/win32/EventQueue.h"
+#include "platform/win32/MessageWindow.h"
+#include "platform/Worker.h"
 
 #include <windows.h>
 
 #include <cstdint>
 #include <filesystem>
 #include <memory>
-#include <mutex>
-#include <thread>
+#include <optional>
 
-namespace platform
+namespace win32
 {
-class WinMusic final : public MusicPlayer
+class WinMusic final : public platform::MusicPlayer
 {
 public:
     // Both outlive it.
-    WinMusic(HWND window, WindowEvents& events);
+    WinMusic(EventQueue& queue, platform::MusicEvents& events);
     ~WinMusic() override;
     WinMusic(const WinMusic&) = delete;
     WinMusic& operator=(const WinMusic&) = delete;
@@ -28,7 +30,7 @@ public:
     void Play(std::uint32_t number) override;
     void Close() override;
 
-    // The window has received MM_MCINOTIFY with these: tells MediaDone where they are the end of what plays now.
+    // What MM_MCINOTIFY says, on the window's thread: posts MediaDone where it is the end of what plays now.
     void Notified(WPARAM flags, LPARAM number);
 
 private:
@@ -37,31 +39,24 @@ private:
         std::filesystem::path File; // empty: be silent
         std::uint32_t Number = 0;
     };
-    enum class Wish
-    {
-        None,
-        Change,
-        Quit
-    };
     class Track;
 
-    void Tell(const Order& order);
-    void Work(); // the thread
-    Wish TakeWish(Order& order);
+    void Replace(const Order& order);
+
+    // On the worker's thread.
+    void Work();
     std::unique_ptr<Track> Start(const Order& order) const;
     void Post(WPARAM flags, std::uint32_t number) const;
 
-    HWND Window;
-    WindowEvents& Events;
+    EventQueue& Queue;
+    platform::MusicEvents& Events;
+    MessageWindow Window;       // where the thread's notifications go
     std::filesystem::path File; // that is open
     std::uint32_t Number = 0;   // of what plays
     bool Playing = false;
 
-    std::mutex Lock; // of what follows; held for copying alone
-    Order Next;
-    bool HasNext = false, Quits = false;
-    HANDLE Changed; // an event
-
-    std::thread Worker;
+    std::optional<Order> Next; // shared under the worker's lock; replaced by a newer one
+    HANDLE Changed;            // an event: wakes a worker that waits for messages
+    platform::Worker Playback;
 };
 }

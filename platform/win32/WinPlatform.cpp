@@ -1,6 +1,8 @@
 #include "platform/win32/WinPlatform.h"
 
+#include "base/RuntimeError.h"
 #include "platform/win32/EscapiWebcam.h"
+#include "platform/win32/MessageWindow.h"
 #include "platform/win32/WinMusic.h"
 #include "platform/win32/WinText.h"
 #include "platform/win32/WinWaveOut.h"
@@ -10,7 +12,7 @@
 #include <chrono>
 #include <limits>
 
-namespace platform
+namespace win32
 {
 namespace
 {
@@ -50,8 +52,11 @@ private:
 }
 
 WinPlatform::WinPlatform(std::filesystem::path data, std::filesystem::path program)
-    : TheFiles(std::move(data)), TheWebcam(std::make_unique<EscapiWebcam>(std::move(program)))
+    : TheFiles(std::move(data)), TheWebcam(std::make_unique<EscapiWebcam>(std::move(program))),
+      Messages(std::make_unique<MessageWindow>())
 {
+    if (Messages->Handle() == nullptr)
+        throw base::RuntimeError(base::ErrorMemory);
     timeBeginPeriod(ClockStep);
     ClockStart = GetTickCount();
     FineStart = timeGetTime();
@@ -64,7 +69,7 @@ WinPlatform::~WinPlatform()
         CloseHandle(InstanceMutex);
 }
 
-void WinPlatform::Run(Program& program)
+void WinPlatform::Run(platform::Program& program)
 {
     while (!program.Ended())
     {
@@ -75,47 +80,23 @@ void WinPlatform::Run(Program& program)
     }
 }
 
-void WinPlatform::Add(WinWindow& window)
-{
-    Windows.push_back(&window);
-}
-
-void WinPlatform::Remove(WinWindow& window)
-{
-    std::erase(Windows, &window);
-}
-
-bool WinPlatform::HasEvents() const
-{
-    return std::any_of(Windows.begin(), Windows.end(), [](WinWindow* window) { return !window->Events().IsEmpty(); });
-}
-
-void WinPlatform::Deliver()
-{
-    // A handler may close windows: each is looked up again.
-    for (std::size_t i = 0; i < Windows.size(); ++i)
-        Windows[i]->Deliver();
-}
-
 void WinPlatform::WaitMessage(std::uint32_t milliseconds) const
 {
-    if (milliseconds == 0 || HasEvents())
+    if (milliseconds == 0 || !Queue.IsEmpty())
         return;
     const auto wait = std::min<DWORD>(milliseconds, LongestTimer);
-    if (Windows.empty())
-        return Sleep(wait);
-    const OneShot timer(Windows.front()->Handle(), wait);
+    const OneShot timer(Messages->Handle(), wait);
     MsgWaitForMultipleObjectsEx(0, nullptr, timer.IsSet() ? INFINITE : wait, QS_ALLINPUT, MWMO_INPUTAVAILABLE);
 }
 
 void WinPlatform::PumpEvents()
 {
-    Deliver();
+    Queue.Deliver();
     for (MSG message; PeekMessageW(&message, nullptr, 0, 0, PM_REMOVE);)
     {
         TranslateMessage(&message);
         DispatchMessageW(&message);
-        Deliver();
+        Queue.Deliver();
     }
 }
 
@@ -161,24 +142,19 @@ bool WinPlatform::IsFirstInstance()
     return false;
 }
 
-std::unique_ptr<Window> WinPlatform::MakeWindow(WindowEvents& events, Size size)
+std::unique_ptr<platform::Window> WinPlatform::MakeWindow(platform::WindowEvents& events, platform::Size size)
 {
-    return std::make_unique<WinWindow>(*this, events, size);
+    return std::make_unique<WinWindow>(Queue, events, size);
 }
 
-std::unique_ptr<WaveOut> WinPlatform::MakeWaveOut(Window& window)
+std::unique_ptr<platform::WaveOut> WinPlatform::MakeWaveOut(platform::WaveEvents& events)
 {
-    auto& own = static_cast<WinWindow&>(window);
-    return std::make_unique<WinWaveOut>(own.Handle(), own.Events());
+    return std::make_unique<WinWaveOut>(Messages->Handle(), Queue, events);
 }
 
-// No message is dispatched between the player's end and its window's.
-std::unique_ptr<MusicPlayer> WinPlatform::MakeMusicPlayer(Window& window)
+std::unique_ptr<platform::MusicPlayer> WinPlatform::MakeMusicPlayer(platform::MusicEvents& events)
 {
-    auto& own = static_cast<WinWindow&>(window);
-    auto music = std::make_unique<WinMusic>(own.Handle(), own.Events());
-    own.OnMediaNotify([player = music.get()](WPARAM flags, LPARAM number) { player->Notified(flags, number); });
-    return music;
+    return std::make_unique<WinMusic>(Queue, events);
 }
 
 void ShowStartError(const std::string& text)

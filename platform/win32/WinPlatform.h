@@ -2,16 +2,16 @@
 // system's out: their macros rename what is called as in the game.
 #pragma once
 #include "platform/Platform.h"
+#include "platform/win32/EventQueue.h"
 
 #include <memory>
 #include <string>
-#include <vector>
 
-namespace platform
+namespace win32
 {
-class WinWindow;
+class MessageWindow;
 
-class WinPlatform final : public Platform
+class WinPlatform final : public platform::Platform
 {
 public:
     // `data` holds data\ and soundtracks\; `program` is the folder of the program, where webcam libraries may be.
@@ -21,32 +21,28 @@ public:
     WinPlatform& operator=(const WinPlatform&) = delete;
 
     // Events and timers until the program has ended.
-    void Run(Program& program);
-
-    void Add(WinWindow& window);
-    void Remove(WinWindow& window);
+    void Run(platform::Program& program);
 
     const base::Files& DataFiles() override { return TheFiles; }
     std::uint32_t TickCount() override;
     std::uint64_t ClockSeed() override;
     int ProcessorCount() override;
     bool IsFirstInstance() override;
-    std::unique_ptr<Window> MakeWindow(WindowEvents& events, Size size) override;
-    std::unique_ptr<WaveOut> MakeWaveOut(Window& window) override;
-    std::unique_ptr<MusicPlayer> MakeMusicPlayer(Window& window) override;
+    std::unique_ptr<platform::Window> MakeWindow(platform::WindowEvents& events, platform::Size size) override;
+    std::unique_ptr<platform::WaveOut> MakeWaveOut(platform::WaveEvents& events) override;
+    std::unique_ptr<platform::MusicPlayer> MakeMusicPlayer(platform::MusicEvents& events) override;
     void PumpEvents() override;
     void WaitEvents(std::uint32_t milliseconds) override;
-    Webcam& WebcamDevice() override { return *TheWebcam; }
+    platform::Webcam& WebcamDevice() override { return *TheWebcam; }
 
 private:
-    bool HasEvents() const;
-    void Deliver();
     // Until a message comes or so long, UINT32_MAX for ever.
     void WaitMessage(std::uint32_t milliseconds) const;
 
     base::Files TheFiles;
-    std::unique_ptr<Webcam> TheWebcam;
-    std::vector<WinWindow*> Windows;
+    std::unique_ptr<platform::Webcam> TheWebcam;
+    EventQueue Queue;
+    std::unique_ptr<MessageWindow> Messages; // of the timer and the wave device
     void* InstanceMutex = nullptr;
     std::uint32_t ClockStart, FineStart; // the system's two clocks, taken together
 };

@@ -5,7 +5,7 @@
 #include <algorithm>
 #include <climits>
 
-namespace platform
+namespace win32
 {
 namespace
 {

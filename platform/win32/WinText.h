@@ -4,7 +4,7 @@
 #include <string>
 #include <string_view>
 
-namespace platform
+namespace win32
 {
 std::wstring ToWide(std::string_view utf8);
 std::string FromWide(std::wstring_view wide);

@@ -3,7 +3,7 @@
 #include <algorithm>
 #include <utility>
 
-namespace platform
+namespace win32
 {
 namespace
 {
@@ -11,7 +11,7 @@ constexpr const char* OwnerProperty = "VelkarWaveOut"; // of the window: whose P
 
 constexpr UINT HeaderBytes = sizeof(WAVEHDR);
 
-WAVEFORMATEX SystemFormat(const WaveFormat& format)
+WAVEFORMATEX SystemFormat(const platform::WaveFormat& format)
 {
     const std::int32_t frameBytes = format.Channels * format.BitsPerSample / 8;
     WAVEFORMATEX system = {};
@@ -37,8 +37,9 @@ bool IsQueued(const WAVEHDR& header)
 
 WinWaveOut::~WinWaveOut()
 {
-    CloseDevice();
+    Abandon();
     Notify(false);
+    Queue.Drop(this);
 }
 
 // The window's procedure is replaced once and then only given back: what comes with it switched off has no listener.
@@ -77,102 +78,79 @@ LRESULT CALLBACK WinWaveOut::Procedure(HWND window, UINT message, WPARAM first, 
 // the time before the device was closed and opened again.
 void WinWaveOut::Returned(LPARAM header)
 {
-    for (std::size_t user = 0; user < Slots.size(); ++user)
-        if (reinterpret_cast<LPARAM>(&Slots[user].Header) == header && !IsQueued(Slots[user].Header))
-            Events.WaveDone(static_cast<std::int32_t>(user));
+    for (std::int32_t user = 0; user < platform::MostWaveBuffers; ++user)
+    {
+        const Slot& slot = Slots[static_cast<std::size_t>(user)];
+        if (reinterpret_cast<LPARAM>(&slot.Header) == header && !IsQueued(slot.Header))
+            Queue.Post(this, [this, user] { Events.WaveDone(user); });
+    }
 }
 
-std::int32_t WinWaveOut::Open(WaveHandle& handle, const WaveFormat& format)
+std::int32_t WinWaveOut::OpenDevice(const platform::WaveFormat& format)
 {
-    CloseDevice(); // one that would not close before
+    Abandon(); // one that would not close before
     const WAVEFORMATEX system = SystemFormat(format);
     const MMRESULT result =
         waveOutOpen(&Device, WAVE_MAPPER, &system, reinterpret_cast<DWORD_PTR>(Window), 0, CALLBACK_WINDOW);
     if (result != MMSYSERR_NOERROR)
-    {
         Device = nullptr;
-        return CodeOf(result);
-    }
-    handle = Opened = ++Last;
-    return WaveSuccess;
+    return CodeOf(result);
 }
 
-std::int32_t WinWaveOut::Check(WaveHandle handle, const WaveHeader& header) const
+// The system keeps the state in the header, and changes it on a thread of its own.
+platform::WaveDevice::SlotState WinWaveOut::StateOf(std::size_t slot) const
 {
-    if (!IsOpen(handle))
-        return WaveInvalidHandle;
-    return header.User < 0 || header.User >= MostWaveBuffers ? WaveInvalidParameter : WaveSuccess;
+    const WAVEHDR& header = Slots[slot].Header;
+    return {(header.dwFlags & WHDR_PREPARED) != 0, IsQueued(header)};
 }
 
-std::int32_t WinWaveOut::PrepareHeader(WaveHandle handle, const WaveHeader& header)
+std::int32_t WinWaveOut::PrepareSlot(std::size_t slot, std::span<const std::uint8_t> data)
 {
-    if (const std::int32_t code = Check(handle, header))
-        return code;
-    Slot& slot = SlotOf(header);
-    if (IsQueued(slot.Header))
-        return WaveStillPlaying;
-    Unprepare(slot);
-    slot.Bytes.assign(header.Data.begin(), header.Data.end());
-    slot.Header = {};
-    slot.Header.lpData = slot.Bytes.data();
-    slot.Header.dwBufferLength = static_cast<DWORD>(slot.Bytes.size());
-    slot.Header.dwUser = static_cast<DWORD_PTR>(header.User);
-    return CodeOf(waveOutPrepareHeader(Device, &slot.Header, HeaderBytes));
+    UnprepareSlot(slot); // nothing where it is not prepared
+    auto& [header, bytes] = Slots[slot];
+    bytes.assign(data.begin(), data.end());
+    header = {};
+    header.lpData = bytes.data();
+    header.dwBufferLength = static_cast<DWORD>(bytes.size());
+    header.dwUser = slot;
+    return CodeOf(waveOutPrepareHeader(Device, &header, HeaderBytes));
 }
 
-std::int32_t WinWaveOut::Write(WaveHandle handle, const WaveHeader& header)
+std::int32_t WinWaveOut::WriteSlot(std::size_t slot, std::span<const std::uint8_t> data)
 {
-    if (const std::int32_t code = Check(handle, header))
-        return code;
-    Slot& slot = SlotOf(header);
-    if ((slot.Header.dwFlags & WHDR_PREPARED) != 0)
-    {
-        if (IsQueued(slot.Header))
-            return WaveStillPlaying;
-        if (header.Data.size() > slot.Bytes.size())
-            return WaveInvalidParameter; // more than what the system was told of
-        std::copy(header.Data.begin(), header.Data.end(), slot.Bytes.begin());
-        slot.Header.dwBufferLength = static_cast<DWORD>(header.Data.size());
-    }
-    return CodeOf(waveOutWrite(Device, &slot.Header, HeaderBytes));
+    auto& [header, bytes] = Slots[slot];
+    if (data.size() > bytes.size())
+        return platform::WaveInvalidParameter; // more than the system was prepared for
+    std::copy(data.begin(), data.end(), bytes.begin());
+    header.dwBufferLength = static_cast<DWORD>(data.size());
+    return CodeOf(waveOutWrite(Device, &header, HeaderBytes));
 }
 
-std::int32_t WinWaveOut::Reset(WaveHandle handle)
+std::int32_t WinWaveOut::UnprepareSlot(std::size_t slot)
 {
-    return IsOpen(handle) ? CodeOf(waveOutReset(Device)) : WaveInvalidHandle;
+    return CodeOf(waveOutUnprepareHeader(Device, &Slots[slot].Header, HeaderBytes));
 }
 
-MMRESULT WinWaveOut::Unprepare(Slot& slot)
+std::int32_t WinWaveOut::ResetDevice()
 {
-    return waveOutUnprepareHeader(Device, &slot.Header, HeaderBytes);
+    return CodeOf(waveOutReset(Device));
 }
 
-std::int32_t WinWaveOut::UnprepareHeader(WaveHandle handle, const WaveHeader& header)
+std::int32_t WinWaveOut::CloseDevice()
 {
-    const std::int32_t code = Check(handle, header);
-    return code != WaveSuccess ? code : CodeOf(Unprepare(SlotOf(header)));
-}
-
-std::int32_t WinWaveOut::Close(WaveHandle handle)
-{
-    if (!IsOpen(handle))
-        return WaveInvalidHandle;
-    // Wine would close it with buffers that never come back.
-    if (std::any_of(Slots.begin(), Slots.end(), [](const Slot& slot) { return IsQueued(slot.Header); }))
-        return WaveStillPlaying;
     const MMRESULT result = waveOutClose(Device);
     if (result == MMSYSERR_NOERROR)
         Forget();
     return CodeOf(result);
 }
 
-void WinWaveOut::CloseDevice()
+void WinWaveOut::Abandon()
 {
     if (Device == nullptr)
         return;
     waveOutReset(Device);
-    for (Slot& slot : Slots)
-        Unprepare(slot);
+    for (std::size_t slot = 0; slot < Slots.size(); ++slot)
+        UnprepareSlot(slot);
     waveOutClose(Device);
     Forget();
 }
@@ -180,7 +158,6 @@ void WinWaveOut::CloseDevice()
 void WinWaveOut::Forget()
 {
     Device = nullptr;
-    Opened = NoWave;
     for (Slot& slot : Slots)
         slot.Header = {};
 }

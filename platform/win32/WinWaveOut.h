@@ -1,7 +1,8 @@
 // platform/win32/WinWaveOut.h: the wave device on the system's wave-out calls in window-callback mode: a buffer that is
-// done comes back as MM_WOM_DONE of the window, whose procedure is replaced to catch it.
+// done comes back as MM_WOM_DONE of a window, whose procedure is replaced to catch it.
 #pragma once
-#include "platform/Platform.h"
+#include "platform/WaveDevice.h"
+#include "platform/win32/EventQueue.h"
 
 #include <windows.h>
 
@@ -12,24 +13,22 @@
 #include <cstdint>
 #include <vector>
 
-namespace platform
+namespace win32
 {
-class WinWaveOut final : public WaveOut
+class WinWaveOut final : public platform::WaveDevice
 {
 public:
-    // Both outlive it. The window's procedure is replaced by Notify and given back at the end.
-    WinWaveOut(HWND window, WindowEvents& events) : Window(window), Events(events) {}
+    // All three outlive it. The window, any of this thread, has its procedure replaced by Notify and gets it back at
+    // the end.
+    WinWaveOut(HWND window, EventQueue& queue, platform::WaveEvents& events)
+        : Window(window), Queue(queue), Events(events)
+    {
+    }
     ~WinWaveOut() override;
     WinWaveOut(const WinWaveOut&) = delete;
     WinWaveOut& operator=(const WinWaveOut&) = delete;
 
     bool Notify(bool on) override;
-    std::int32_t Open(WaveHandle& handle, const WaveFormat& format) override;
-    std::int32_t PrepareHeader(WaveHandle handle, const WaveHeader& header) override;
-    std::int32_t Write(WaveHandle handle, const WaveHeader& header) override;
-    std::int32_t Reset(WaveHandle handle) override;
-    std::int32_t UnprepareHeader(WaveHandle handle, const WaveHeader& header) override;
-    std::int32_t Close(WaveHandle handle) override;
 
 private:
     // The system keeps addresses of both until the buffer has come back.
@@ -41,18 +40,21 @@ private:
 
     static LRESULT CALLBACK Procedure(HWND window, UINT message, WPARAM first, LPARAM second);
     void Returned(LPARAM header);
-    bool IsOpen(WaveHandle handle) const { return handle != NoWave && handle == Opened; }
-    std::int32_t Check(WaveHandle handle, const WaveHeader& header) const;
-    MMRESULT Unprepare(Slot& slot); // nothing where it is not prepared
-    void CloseDevice();             // whatever state it is in
-    void Forget();                  // that there was a device
-    Slot& SlotOf(const WaveHeader& header) { return Slots[static_cast<std::size_t>(header.User)]; }
+    std::int32_t OpenDevice(const platform::WaveFormat& format) override;
+    SlotState StateOf(std::size_t slot) const override;
+    std::int32_t PrepareSlot(std::size_t slot, std::span<const std::uint8_t> data) override;
+    std::int32_t WriteSlot(std::size_t slot, std::span<const std::uint8_t> data) override;
+    std::int32_t UnprepareSlot(std::size_t slot) override;
+    std::int32_t ResetDevice() override;
+    std::int32_t CloseDevice() override;
+    void Abandon(); // closes the device, whatever state it is in
+    void Forget();  // that there was a device
 
     HWND Window;
-    WindowEvents& Events;
+    EventQueue& Queue;
+    platform::WaveEvents& Events;
     WNDPROC Previous = nullptr; // while the window's procedure is replaced
     HWAVEOUT Device = nullptr;
-    WaveHandle Opened = NoWave, Last = 0;
-    std::array<Slot, MostWaveBuffers> Slots;
+    std::array<Slot, platform::MostWaveBuffers> Slots;
 };
 }

@@ -3,15 +3,13 @@
 #include "base/RuntimeError.h"
 #include "platform/win32/Clipboard.h"
 #include "platform/win32/Resources.h"
-#include "platform/win32/WinPlatform.h"
 #include "platform/win32/WinText.h"
 
-#include <mmsystem.h>
 #include <windowsx.h>
 
 #include <algorithm>
 
-namespace platform
+namespace win32
 {
 namespace
 {
@@ -38,7 +36,7 @@ HICON LoadOwnIcon(int width, int height)
                                          GetSystemMetrics(width), GetSystemMetrics(height), LR_SHARED));
 }
 
-Point Centred(Size size)
+platform::Point Centred(platform::Size size)
 {
     return {(GetSystemMetrics(SM_CXSCREEN) - size.Width) / 2, (GetSystemMetrics(SM_CYSCREEN) - size.Height) / 2};
 }
@@ -57,8 +55,8 @@ void WinWindow::RegisterWindowClass()
     RegisterClassExW(&wanted); // the second window finds it there
 }
 
-WinWindow::WinWindow(WinPlatform& platform, WindowEvents& events, Size size)
-    : ThePlatform(platform), Queue(events), Client(size), Place(Centred(size))
+WinWindow::WinWindow(EventQueue& queue, platform::WindowEvents& events, platform::Size size)
+    : Queue(queue, events), Client(size), Place(Centred(size))
 {
     RegisterWindowClass();
     TheHandle = CreateWindowExW(ExtendedStyle, ClassName, L"Velkar", Style, Place.X, Place.Y, size.Width, size.Height,
@@ -71,12 +69,10 @@ WinWindow::WinWindow(WinPlatform& platform, WindowEvents& events, Size size)
         throw base::RuntimeError(base::ErrorMemory);
     }
     SetStretchBltMode(Canvas, COLORONCOLOR); // the nearest pixel
-    ThePlatform.Add(*this);
 }
 
 WinWindow::~WinWindow()
 {
-    ThePlatform.Remove(*this);
     SetWindowLongPtrW(TheHandle, GWLP_USERDATA, 0);
     DestroyWindow(TheHandle);
 }
@@ -95,39 +91,19 @@ LRESULT CALLBACK WinWindow::Procedure(HWND window, UINT message, WPARAM first, L
 
 LRESULT WinWindow::Handle(UINT message, WPARAM first, LPARAM second)
 {
+    using Handler = Answer (WinWindow::*)(UINT, WPARAM, LPARAM);
+    constexpr Handler Handlers[] = {&WinWindow::HandleKey, &WinWindow::HandleMouse, &WinWindow::HandleView,
+                                    &WinWindow::HandleCommand};
+    for (const Handler handler : Handlers)
+        if (const Answer answer = (this->*handler)(message, first, second))
+            return *answer;
+    return DefWindowProcW(TheHandle, message, first, second);
+}
+
+WinWindow::Answer WinWindow::HandleView(UINT message, WPARAM, LPARAM)
+{
     switch (message)
     {
-    case WM_KEYDOWN:
-    case WM_KEYUP:
-    case WM_SYSKEYDOWN:
-    case WM_SYSKEYUP:
-    case WM_CHAR:
-    case WM_SYSCHAR:
-        if (HandleKey(message, first, second))
-            return 0;
-        break;
-    case WM_KILLFOCUS:
-        LetGoOfKeys();
-        break;
-    case WM_LBUTTONDOWN:
-    case WM_LBUTTONUP:
-    case WM_RBUTTONDOWN:
-    case WM_RBUTTONUP:
-    case WM_MBUTTONDOWN:
-    case WM_MBUTTONUP:
-    case WM_MOUSEMOVE:
-    case WM_MOUSELEAVE:
-        if (HandleMouse(message, first, second))
-            return 0;
-        break;
-    case WM_CAPTURECHANGED:
-        LetGoOfButtons();
-        return 0;
-    case WM_SETCURSOR:
-        if (LOWORD(second) != HTCLIENT && Boxes == 0)
-            break;
-        ApplyCursor();
-        return TRUE;
     case WM_MOVE:
     case WM_SIZE:
         Measure();
@@ -135,40 +111,41 @@ LRESULT WinWindow::Handle(UINT message, WPARAM first, LPARAM second)
     case WM_DISPLAYCHANGE:
         if (FullScreen)
             CoverDisplay();
-        break;
+        return {};
     case WM_ERASEBKGND:
         return 1; // the picture covers everything
     case WM_PAINT:
         ValidateRect(TheHandle, nullptr);
         Queue.Paint();
         return 0;
-    case WM_CLOSE:
+    default:
+        return {};
+    }
+}
+
+WinWindow::Answer WinWindow::HandleCommand(UINT message, WPARAM first, LPARAM)
+{
+    if (message == WM_CLOSE)
+    {
         Queue.CloseAsked();
         return 0;
-    case WM_SYSCOMMAND:
-        // The menu's key is a key of the game, and no loop of the system's should hold the game up.
-        switch (first & 0xFFF0)
-        {
-        case SC_KEYMENU:
-        case SC_MOUSEMENU:
-        case SC_MOVE:
-        case SC_SIZE:
-        case SC_MAXIMIZE:
-        case SC_SCREENSAVE:
-        case SC_MONITORPOWER:
-            return 0;
-        default:
-            break;
-        }
-        break;
-    case MM_MCINOTIFY:
-        if (MediaNotify)
-            MediaNotify(first, second);
+    }
+    if (message != WM_SYSCOMMAND)
+        return {};
+    // The menu's key is a key of the game, and no loop of the system's should hold the game up.
+    switch (first & 0xFFF0)
+    {
+    case SC_KEYMENU:
+    case SC_MOUSEMENU:
+    case SC_MOVE:
+    case SC_SIZE:
+    case SC_MAXIMIZE:
+    case SC_SCREENSAVE:
+    case SC_MONITORPOWER:
         return 0;
     default:
-        break;
+        return {};
     }
-    return DefWindowProcW(TheHandle, message, first, second);
 }
 
 void WinWindow::Measure()
@@ -180,18 +157,11 @@ void WinWindow::Measure()
     GetClientRect(TheHandle, &client);
     ClientToScreen(TheHandle, &corner);
     Place = {corner.x, corner.y};
-    const Size now = {client.right, client.bottom};
+    const platform::Size now = {client.right, client.bottom};
     if (now.Width == Client.Width && now.Height == Client.Height)
         return;
     Client = now;
     Queue.Resized();
-}
-
-void WinWindow::Deliver()
-{
-    PointerKnown = true;
-    Queue.Deliver();
-    PointerKnown = false;
 }
 
 void WinWindow::ShowMessage(base::Icon icon, const std::string& title, const std::string& text)
@@ -215,12 +185,12 @@ void WinWindow::SetTitle(const std::string& title)
     SetWindowTextW(TheHandle, ToWide(title).c_str());
 }
 
-void WinWindow::SetClientSize(Size size)
+void WinWindow::SetClientSize(platform::Size size)
 {
     SetWindowPos(TheHandle, nullptr, 0, 0, size.Width, size.Height, SWP_NOMOVE | SWP_NOZORDER | SWP_NOACTIVATE);
 }
 
-void WinWindow::Move(Point position)
+void WinWindow::Move(platform::Point position)
 {
     SetWindowPos(TheHandle, nullptr, position.X, position.Y, 0, 0, SWP_NOSIZE | SWP_NOZORDER | SWP_NOACTIVATE);
 }
@@ -264,9 +234,9 @@ void WinWindow::ApplyCursor() const
 }
 
 // A button that goes down while the hand moves on: what counts is where the cursor was then.
-Point WinWindow::CursorPosition()
+platform::Point WinWindow::CursorPosition()
 {
-    if (PointerKnown)
+    if (Queue.IsDelivering())
     {
         const auto at = static_cast<LPARAM>(GetMessagePos());
         return {GET_X_LPARAM(at), GET_Y_LPARAM(at)};
@@ -276,21 +246,20 @@ Point WinWindow::CursorPosition()
     return {at.x, at.y};
 }
 
-void WinWindow::Present(int width, int height, std::span<const std::uint8_t> bits)
+void WinWindow::Present(const base::ConstSurface& picture)
 {
-    const std::size_t rowBytes = (static_cast<std::size_t>(width) * 3 + 3) & ~std::size_t{3};
-    if (width <= 0 || height <= 0 || bits.size() < rowBytes * static_cast<std::size_t>(height) || IsIconic(TheHandle))
+    if (!platform::IsPresentable(picture) || IsIconic(TheHandle))
         return;
-    BITMAPINFO picture = {};
-    static_assert(sizeof picture.bmiHeader == 40);
-    picture.bmiHeader.biSize = sizeof picture.bmiHeader;
-    picture.bmiHeader.biWidth = width;
-    picture.bmiHeader.biHeight = height; // bottom-up
-    picture.bmiHeader.biPlanes = 1;
-    picture.bmiHeader.biBitCount = 24;
-    picture.bmiHeader.biCompression = BI_RGB;
-    StretchDIBits(Canvas, 0, 0, Client.Width, Client.Height, 0, 0, width, height, bits.data(), &picture, DIB_RGB_COLORS,
-                  SRCCOPY);
+    BITMAPINFO description = {};
+    static_assert(sizeof description.bmiHeader == 40);
+    description.bmiHeader.biSize = sizeof description.bmiHeader;
+    description.bmiHeader.biWidth = picture.Width;
+    description.bmiHeader.biHeight = picture.Height; // bottom-up
+    description.bmiHeader.biPlanes = 1;
+    description.bmiHeader.biBitCount = 8 * base::PixelBytes;
+    description.bmiHeader.biCompression = BI_RGB;
+    StretchDIBits(Canvas, 0, 0, Client.Width, Client.Height, 0, 0, picture.Width, picture.Height, picture.Bytes,
+                  &description, DIB_RGB_COLORS, SRCCOPY);
 }
 
 std::string WinWindow::ClipboardText()

@@ -35,7 +35,7 @@ struct FfmpegWebcamTest : testing::Test
 
 TEST_F(FfmpegWebcamTest, FramesComeWhenAskedForAndOnlyThen)
 {
-    platform::FfmpegWebcam webcam({"lavfi", "color=red:size=320x240:rate=50"});
+    sdl::FfmpegWebcam webcam({"lavfi", "color=red:size=320x240:rate=50"});
     EXPECT_EQ(webcam.SetupCapture(), 1);
     ASSERT_TRUE(webcam.InitCapture(Params()));
     EXPECT_FALSE(webcam.IsCaptureDone());
@@ -55,8 +55,8 @@ TEST_F(FfmpegWebcamTest, FramesComeWhenAskedForAndOnlyThen)
 // Twice as wide as high: the bars at both sides lie outside the middle part; a mark at the top stays at the top.
 TEST_F(FfmpegWebcamTest, WideFramesAreCutAtBothSides)
 {
-    platform::FfmpegWebcam webcam({"lavfi", "color=blue:size=320x160:rate=50,drawbox=0:0:50:160:red:fill,"
-                                            "drawbox=270:0:50:160:red:fill,drawbox=0:0:320:40:lime:fill"});
+    sdl::FfmpegWebcam webcam({"lavfi", "color=blue:size=320x160:rate=50,drawbox=0:0:50:160:red:fill,"
+                                       "drawbox=270:0:50:160:red:fill,drawbox=0:0:320:40:lime:fill"});
     ASSERT_TRUE(webcam.InitCapture(Params()));
     webcam.DoCapture();
     ASSERT_TRUE(Comes(webcam));
@@ -68,8 +68,8 @@ TEST_F(FfmpegWebcamTest, WideFramesAreCutAtBothSides)
 
 TEST_F(FfmpegWebcamTest, HighFramesAreCutAboveAndBelow)
 {
-    platform::FfmpegWebcam webcam({"lavfi", "color=blue:size=214x400:rate=50,drawbox=0:0:214:110:red:fill,"
-                                            "drawbox=0:290:214:110:red:fill"});
+    sdl::FfmpegWebcam webcam({"lavfi", "color=blue:size=214x400:rate=50,drawbox=0:0:214:110:red:fill,"
+                                       "drawbox=0:290:214:110:red:fill"});
     ASSERT_TRUE(webcam.InitCapture(Params()));
     webcam.DoCapture();
     ASSERT_TRUE(Comes(webcam));
@@ -84,7 +84,7 @@ TEST_F(FfmpegWebcamTest, EveryPixelFormatAndSizeIsTaken)
           "color=red:size=1920x1080:rate=50,format=yuv420p", "color=red:size=2x2:rate=50,format=bgr24",
           "color=red:size=640x480:rate=50,format=nv12", "color=red:size=353x289:rate=50,format=rgb565le"})
     {
-        platform::FfmpegWebcam webcam({"lavfi", source});
+        sdl::FfmpegWebcam webcam({"lavfi", source});
         ASSERT_TRUE(webcam.InitCapture(Params())) << source;
         webcam.DoCapture();
         ASSERT_TRUE(Comes(webcam)) << source;
@@ -96,7 +96,7 @@ TEST_F(FfmpegWebcamTest, EveryPixelFormatAndSizeIsTaken)
 
 TEST_F(FfmpegWebcamTest, ASourceRunsAtItsOwnPace)
 {
-    platform::FfmpegWebcam webcam({"lavfi", "testsrc=size=320x240:rate=25"});
+    sdl::FfmpegWebcam webcam({"lavfi", "testsrc=size=320x240:rate=25"});
     ASSERT_TRUE(webcam.InitCapture(Params()));
     const Clock::time_point start = Clock::now();
     for (int frame = 0; frame < 11; ++frame)
@@ -109,7 +109,7 @@ TEST_F(FfmpegWebcamTest, ASourceRunsAtItsOwnPace)
 
 TEST_F(FfmpegWebcamTest, WhereTheSourceEndsTheLastPictureStays)
 {
-    platform::FfmpegWebcam webcam({"lavfi", "color=lime:size=320x240:rate=50:duration=0.04"});
+    sdl::FfmpegWebcam webcam({"lavfi", "color=lime:size=320x240:rate=50:duration=0.04"});
     ASSERT_TRUE(webcam.InitCapture(Params()));
     webcam.DoCapture();
     ASSERT_TRUE(Comes(webcam));
@@ -125,11 +125,11 @@ TEST_F(FfmpegWebcamTest, WhereTheSourceEndsTheLastPictureStays)
 
 TEST_F(FfmpegWebcamTest, WhatCannotBeOpenedSaysSo)
 {
-    for (const platform::WebcamSource& source :
-         {platform::WebcamSource{"lavfi", "nonsense"}, platform::WebcamSource{"", "/nowhere/at/all"},
-          platform::WebcamSource{"no such format", "x"}, platform::WebcamSource{"lavfi", "sine"}})
+    for (const sdl::WebcamSource& source :
+         {sdl::WebcamSource{"lavfi", "nonsense"}, sdl::WebcamSource{"", "/nowhere/at/all"},
+          sdl::WebcamSource{"no such format", "x"}, sdl::WebcamSource{"lavfi", "sine"}})
     {
-        platform::FfmpegWebcam webcam(source);
+        sdl::FfmpegWebcam webcam(source);
         EXPECT_FALSE(webcam.InitCapture(Params())) << source.Url;
         webcam.DoCapture();
         EXPECT_FALSE(webcam.IsCaptureDone());
@@ -139,7 +139,7 @@ TEST_F(FfmpegWebcamTest, WhatCannotBeOpenedSaysSo)
 
 TEST_F(FfmpegWebcamTest, OpeningAgainStartsAnew)
 {
-    platform::FfmpegWebcam webcam({"lavfi", "color=red:size=320x240:rate=50"});
+    sdl::FfmpegWebcam webcam({"lavfi", "color=red:size=320x240:rate=50"});
     ASSERT_TRUE(webcam.InitCapture(Params()));
     webcam.DoCapture();
     ASSERT_TRUE(Comes(webcam));

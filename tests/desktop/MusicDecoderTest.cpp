@@ -23,7 +23,7 @@ struct Decoding : testing::Test
     // Whether it opens; Left then holds its left channel.
     bool Decode(const char* name)
     {
-        platform::MusicDecoder decoder(GiveUp);
+        sdl::MusicDecoder decoder(GiveUp);
         Left.clear();
         if (!decoder.Open(Named(name)))
             return false;
@@ -36,7 +36,7 @@ struct Decoding : testing::Test
         EXPECT_TRUE(decoder.Read().empty());
         return true;
     }
-    double Seconds() const { return static_cast<double>(Left.size()) / platform::MusicDecoder::Rate; }
+    double Seconds() const { return static_cast<double>(Left.size()) / sdl::MusicDecoder::Rate; }
     // By the upward crossings of zero between a quarter and three quarters.
     double Frequency() const
     {
@@ -44,7 +44,7 @@ struct Decoding : testing::Test
         int crossings = 0;
         for (std::size_t i = from; i + 1 < to; ++i)
             crossings += Left[i] < 0 && Left[i + 1] >= 0 ? 1 : 0;
-        return crossings * static_cast<double>(platform::MusicDecoder::Rate) / static_cast<double>(to - from);
+        return crossings * static_cast<double>(sdl::MusicDecoder::Rate) / static_cast<double>(to - from);
     }
     int Loudest() const { return Left.empty() ? 0 : *std::max_element(Left.begin(), Left.end()); }
     std::string Bytes(const char* name) const
@@ -158,7 +158,7 @@ TEST_F(Decoding, DamagedFilesEnd)
 TEST_F(Decoding, GivingUpEndsIt)
 {
     ASSERT_TRUE(Write("tone.mp3", {440, 5}));
-    platform::MusicDecoder decoder(GiveUp);
+    sdl::MusicDecoder decoder(GiveUp);
     ASSERT_TRUE(decoder.Open(Named("tone.mp3")));
     EXPECT_FALSE(decoder.Read().empty());
     GiveUp = true;

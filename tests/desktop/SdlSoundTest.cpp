@@ -31,11 +31,11 @@ struct Desktop : support::FourBuffers
 {
     Drivers Chosen;
     support::TempFolder Folder;
-    platform::SdlPlatform Platform{Folder.Path};
+    sdl::SdlPlatform Platform{Folder.Path};
     support::HeardEvents Heard;
     std::unique_ptr<platform::Window> Window = Platform.MakeWindow(Heard, {64, 64});
-    std::unique_ptr<platform::WaveOut> Wave = Platform.MakeWaveOut(*Window);
-    std::unique_ptr<platform::MusicPlayer> Music = Platform.MakeMusicPlayer(*Window);
+    std::unique_ptr<platform::WaveOut> Wave = Platform.MakeWaveOut(Heard);
+    std::unique_ptr<platform::MusicPlayer> Music = Platform.MakeMusicPlayer(Heard);
 
     explicit Desktop(const char* audio = "dummy") : Chosen(audio) {}
 

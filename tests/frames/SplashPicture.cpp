@@ -21,8 +21,8 @@ int main(int count, char** words)
     const std::vector<headless::Window*>& windows = machine.OpenWindows(); // the splash, then the game behind it
     if (windows.empty() || !windows.front()->Visible)
         return 1;
-    const headless::Image image = windows.front()->Screenshot();
-    const std::string file = base::BitmapFile(image.Width, image.Height, image.Bits);
+    const base::Bitmap image = windows.front()->Screenshot();
+    const std::string file = base::BitmapFile(image.Width, image.Height, image.Bytes);
     std::ofstream(words[3], std::ios::binary).write(file.data(), static_cast<std::streamsize>(file.size()));
     return 0;
 }

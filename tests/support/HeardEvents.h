@@ -9,22 +9,15 @@
 
 namespace support
 {
-struct HeardEvents final : platform::WindowEvents
+struct HeardEvents final : platform::WindowEvents, platform::WaveEvents, platform::MusicEvents
 {
     int Resizes = 0, Paints = 0;
     std::vector<std::int32_t> Done;
     std::vector<std::pair<std::uint32_t, std::int32_t>> Media;
     std::function<void(std::int32_t)> OnDone = [](std::int32_t) {};
 
-    void KeyDown(std::int16_t) override {}
-    void KeyUp(std::int16_t) override {}
-    void KeyPress(std::uint8_t) override {}
-    void MouseDown(int, platform::Point) override {}
-    void MouseMove(int, platform::Point) override {}
-    void MouseUp(int, platform::Point) override {}
     void Resized() override { ++Resizes; }
     void Paint() override { ++Paints; }
-    bool CloseAsked() override { return true; }
     void WaveDone(std::int32_t user) override
     {
         Done.push_back(user);

@@ -35,7 +35,7 @@ struct EscapiWebcam : testing::Test
     {
         std::filesystem::copy_file(LibraryFolder() / library, Folder.Path / name);
     }
-    static bool AwaitFrame(platform::EscapiWebcam& webcam)
+    static bool AwaitFrame(win32::EscapiWebcam& webcam)
     {
         const auto end = std::chrono::steady_clock::now() + std::chrono::seconds(10);
         while (!webcam.IsCaptureDone())
@@ -66,7 +66,7 @@ struct EscapiWebcam : testing::Test
         for (std::size_t i = Target.size() - 4; i < Target.size(); ++i)
             EXPECT_EQ(Target[i], 0x5C); // nothing behind it
     }
-    static void ExpectNoDevice(platform::EscapiWebcam& webcam, const platform::CaptureParams& params)
+    static void ExpectNoDevice(win32::EscapiWebcam& webcam, const platform::CaptureParams& params)
     {
         EXPECT_EQ(webcam.SetupCapture(), 0);
         EXPECT_FALSE(webcam.InitCapture(params));
@@ -78,7 +78,7 @@ struct EscapiWebcam : testing::Test
 
 TEST_F(EscapiWebcam, FramesComeOneAfterAnother)
 {
-    platform::EscapiWebcam webcam(LibraryFolder());
+    win32::EscapiWebcam webcam(LibraryFolder());
     ASSERT_EQ(webcam.SetupCapture(), 1);
     ASSERT_TRUE(webcam.InitCapture(Params()));
     EXPECT_FALSE(webcam.IsCaptureDone()); // none was asked for
@@ -95,7 +95,7 @@ TEST_F(EscapiWebcam, FramesComeOneAfterAnother)
 
 TEST_F(EscapiWebcam, OpensAgain)
 {
-    platform::EscapiWebcam webcam(LibraryFolder());
+    win32::EscapiWebcam webcam(LibraryFolder());
     ASSERT_EQ(webcam.SetupCapture(), 1);
     for (int round = 0; round < 3; ++round)
     {
@@ -112,21 +112,21 @@ TEST_F(EscapiWebcam, OpensAgain)
 
 TEST_F(EscapiWebcam, WithoutSetupNothingOpens)
 {
-    platform::EscapiWebcam webcam(LibraryFolder());
+    win32::EscapiWebcam webcam(LibraryFolder());
     EXPECT_FALSE(webcam.InitCapture(Params()));
     webcam.DeinitCapture();
 }
 
 TEST_F(EscapiWebcam, NoLibraryMeansNoDevice)
 {
-    platform::EscapiWebcam webcam(Folder.Path);
+    win32::EscapiWebcam webcam(Folder.Path);
     ExpectNoDevice(webcam, Params());
 }
 
 TEST_F(EscapiWebcam, OneLibraryAloneMeansNoDevice)
 {
     Copy("escapi.dll", "escapi.dll");
-    platform::EscapiWebcam webcam(Folder.Path);
+    win32::EscapiWebcam webcam(Folder.Path);
     ExpectNoDevice(webcam, Params());
 }
 
@@ -134,7 +134,7 @@ TEST_F(EscapiWebcam, AMissingFunctionMeansNoDevice)
 {
     Copy("escapi.dll", "escapi.dll");
     Copy("escapi.dll", "escapivb.dll");
-    platform::EscapiWebcam webcam(Folder.Path);
+    win32::EscapiWebcam webcam(Folder.Path);
     ExpectNoDevice(webcam, Params());
 }
 
@@ -142,7 +142,7 @@ TEST_F(EscapiWebcam, AFileThatIsNoLibraryMeansNoDevice)
 {
     Folder.Write("escapi.dll", "MZ");
     Folder.Write("escapivb.dll", "Tanti auguri");
-    platform::EscapiWebcam webcam(Folder.Path);
+    win32::EscapiWebcam webcam(Folder.Path);
     ExpectNoDevice(webcam, Params());
 }
 
@@ -152,21 +152,21 @@ TEST_F(EscapiWebcam, TheFolderMayHaveAnItalianName)
     std::filesystem::create_directories(folder);
     for (const char* name : {"escapi.dll", "escapivb.dll"})
         std::filesystem::copy_file(LibraryFolder() / name, folder / name);
-    platform::EscapiWebcam webcam(folder);
+    win32::EscapiWebcam webcam(folder);
     EXPECT_EQ(webcam.SetupCapture(), 1);
 }
 
 TEST_F(EscapiWebcam, TheLibraryFindsNoDevice)
 {
     Be("none");
-    platform::EscapiWebcam webcam(LibraryFolder());
+    win32::EscapiWebcam webcam(LibraryFolder());
     ExpectNoDevice(webcam, Params());
 }
 
 TEST_F(EscapiWebcam, ADeviceInUseDoesNotOpen)
 {
     Be("busy");
-    platform::EscapiWebcam webcam(LibraryFolder());
+    win32::EscapiWebcam webcam(LibraryFolder());
     EXPECT_EQ(webcam.SetupCapture(), 1);
     EXPECT_FALSE(webcam.InitCapture(Params()));
     webcam.DoCapture();
@@ -178,7 +178,7 @@ TEST_F(EscapiWebcam, ADeviceInUseDoesNotOpen)
 TEST_F(EscapiWebcam, ADeviceThatNeverAnswersCloses)
 {
     Be("silent");
-    platform::EscapiWebcam webcam(LibraryFolder());
+    win32::EscapiWebcam webcam(LibraryFolder());
     EXPECT_EQ(webcam.SetupCapture(), 1);
     ASSERT_TRUE(webcam.InitCapture(Params()));
     webcam.DoCapture();

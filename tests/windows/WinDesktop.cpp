@@ -19,8 +19,8 @@ WinDesktop::WinDesktop()
     Window = CreateWindowExA(0, ClassName, "Velkar", WS_POPUP, 0, 0, 64, 64, nullptr, nullptr, description.hInstance,
                              nullptr);
     SetWindowLongPtrA(Window, GWLP_USERDATA, reinterpret_cast<LONG_PTR>(this));
-    Wave = std::make_unique<platform::WinWaveOut>(Window, Heard);
-    Music = std::make_unique<platform::WinMusic>(Window, Heard);
+    Wave = std::make_unique<win32::WinWaveOut>(Window, Queue, Heard);
+    Music = std::make_unique<win32::WinMusic>(Queue, Heard);
 }
 
 WinDesktop::~WinDesktop()
@@ -36,15 +36,16 @@ LRESULT CALLBACK WinDesktop::Procedure(HWND window, UINT message, WPARAM first, 
     auto* self = reinterpret_cast<WinDesktop*>(GetWindowLongPtrA(window, GWLP_USERDATA));
     if (self != nullptr)
         self->Messages.push_back(message);
-    if (self != nullptr && message == MM_MCINOTIFY)
-        self->Music->Notified(first, second);
     return DefWindowProcA(window, message, first, second);
 }
 
 void WinDesktop::Pump()
 {
     for (MSG message; PeekMessageA(&message, nullptr, 0, 0, PM_REMOVE);)
+    {
         DispatchMessageA(&message);
+        Queue.Deliver();
+    }
 }
 
 void WinDesktop::Wait(unsigned milliseconds)

@@ -1,4 +1,4 @@
-// tests/windows/WinDesktop.h: a real window with a message loop, and the sound devices that answer to it.
+// tests/windows/WinDesktop.h: a real window with a message loop, and the sound devices whose events that delivers.
 #pragma once
 #include "platform/win32/WinMusic.h"
 #include "platform/win32/WinWaveOut.h"
@@ -26,10 +26,11 @@ public:
     bool Await(const std::function<bool()>& condition); // handles messages until it holds, 20 seconds at most
 
     HeardEvents Heard;
+    win32::EventQueue Queue;
     std::vector<UINT> Messages; // that the window's own procedure has received
     HWND Window = nullptr;
-    std::unique_ptr<platform::WinWaveOut> Wave;
-    std::unique_ptr<platform::WinMusic> Music;
+    std::unique_ptr<win32::WinWaveOut> Wave;
+    std::unique_ptr<win32::WinMusic> Music;
 
 private:
     static LRESULT CALLBACK Procedure(HWND window, UINT message, WPARAM first, LPARAM second);

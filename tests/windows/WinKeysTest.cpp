@@ -4,8 +4,8 @@
 
 namespace
 {
-using platform::GameCharacter;
-using platform::GameKey;
+using win32::GameCharacter;
+using win32::GameKey;
 
 constexpr std::int16_t Shift = 0x100, CtrlAlt = 0x600;
 

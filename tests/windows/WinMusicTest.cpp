@@ -118,9 +118,11 @@ TEST_F(WinMusic, OnlyTheEndOfWhatPlaysIsTold)
     Music->Notified(MCI_NOTIFY_SUCCESSFUL, 6);
     Music->Notified(MCI_NOTIFY_ABORTED, 7);
     Music->Notified(MCI_NOTIFY_SUPERSEDED, 7);
-    EXPECT_THAT(Heard.Media, IsEmpty());
+    EXPECT_TRUE(Queue.IsEmpty());
     Music->Notified(MCI_NOTIFY_FAILURE, 7);
     Music->Notified(MCI_NOTIFY_FAILURE, 7); // it has ended
+    EXPECT_THAT(Heard.Media, IsEmpty());
+    Queue.Deliver();
     EXPECT_THAT(Heard.Media, ElementsAre(std::pair(7u, platform::MediaUnplayable)));
 }
 }

@@ -1,5 +1,6 @@
 // A real window of the back end, told by messages as the system sends them.
 #include "platform/win32/WinWindow.h"
+#include "platform/win32/MessageWindow.h"
 #include "platform/win32/WinPlatform.h"
 
 #include <gmock/gmock.h>
@@ -43,16 +44,14 @@ struct Words final : platform::WindowEvents
         Told.push_back("close");
         return true;
     }
-    void WaveDone(std::int32_t user) override { Add("wave ", user); }
-    void MediaDone(std::uint32_t number, std::int32_t code) override { Add("media ", number, ' ', code); }
 };
 
 struct WinWindow : testing::Test
 {
-    platform::WinPlatform Platform{".", "."};
+    win32::WinPlatform Platform{".", "."};
     Words Heard;
     std::unique_ptr<platform::Window> Made = Platform.MakeWindow(Heard, {600, 312});
-    platform::WinWindow& Window = static_cast<platform::WinWindow&>(*Made);
+    win32::WinWindow& Window = static_cast<win32::WinWindow&>(*Made);
 
     void SetUp() override
     {
@@ -167,13 +166,25 @@ TEST_F(WinWindow, ClosesWhenItsReceiverSays)
     EXPECT_THAT(Hear(), ElementsAre("close"));
 }
 
-TEST_F(WinWindow, HandsOnWhatTheMediaControlTells)
+TEST_F(WinWindow, AMessageWindowHandsOnWhatIsPosted)
 {
     std::vector<std::pair<WPARAM, LPARAM>> told;
-    Window.OnMediaNotify([&](WPARAM flags, LPARAM number) { told.emplace_back(flags, number); });
-    PostMessageW(Window.Handle(), MM_MCINOTIFY, MCI_NOTIFY_SUCCESSFUL, 7);
+    const auto receive = [&](UINT message, WPARAM flags, LPARAM number)
+    {
+        if (message == MM_MCINOTIFY)
+            told.emplace_back(flags, number);
+    };
+    {
+        const win32::MessageWindow messages(receive), others;
+        ASSERT_NE(messages.Handle(), nullptr);
+        PostMessageW(messages.Handle(), MM_MCINOTIFY, MCI_NOTIFY_SUCCESSFUL, 7);
+        PostMessageW(others.Handle(), MM_MCINOTIFY, MCI_NOTIFY_SUCCESSFUL, 8);
+        Platform.PumpEvents();
+        EXPECT_THAT(told, ElementsAre(std::pair<WPARAM, LPARAM>(MCI_NOTIFY_SUCCESSFUL, 7)));
+        PostMessageW(messages.Handle(), MM_MCINOTIFY, MCI_NOTIFY_SUCCESSFUL, 9);
+    }
     Platform.PumpEvents();
-    EXPECT_THAT(told, ElementsAre(std::pair<WPARAM, LPARAM>(MCI_NOTIFY_SUCCESSFUL, 7)));
+    EXPECT_EQ(told.size(), 1u); // what waits for a window that is gone arrives nowhere
 }
 
 TEST_F(WinWindow, CoversItsDisplayAndComesBack)
@@ -217,7 +228,7 @@ TEST_F(WinWindow, PresentStretchesByTheNearestPixel)
     ShowIt();
     const std::vector<std::uint8_t> bits = {255, 0, 0,   0,   255, 0,   9, 9,  // blue, green
                                             0,   0, 255, 255, 255, 255, 9, 9}; // red, white
-    Window.Present(2, 2, bits);
+    Window.Present({bits.data(), 8, 2, 2});
     const HDC canvas = GetDC(Window.Handle());
     EXPECT_EQ(GetPixel(canvas, 299, 155), RGB(255, 0, 0));
     EXPECT_EQ(GetPixel(canvas, 300, 155), RGB(255, 255, 255));
@@ -226,13 +237,15 @@ TEST_F(WinWindow, PresentStretchesByTheNearestPixel)
     ReleaseDC(Window.Handle(), canvas);
 }
 
-TEST_F(WinWindow, PresentRefusesFewerBytesThanThePicture)
+TEST_F(WinWindow, PresentRefusesAPictureWithoutPixelsOrWithOtherRows)
 {
     ShowIt();
-    const std::vector<std::uint8_t> whole(16, 200), less(15, 100);
-    Window.Present(2, 2, whole);
-    Window.Present(2, 2, less);
-    Window.Present(0, 2, less);
+    const std::vector<std::uint8_t> shown(16, 200), refused(32, 100);
+    Window.Present({shown.data(), 8, 2, 2});
+    Window.Present({refused.data(), 6, 2, 2});  // not padded
+    Window.Present({refused.data(), 12, 2, 2}); // longer than padded
+    Window.Present({refused.data(), 0, 0, 2});
+    Window.Present({nullptr, 8, 2, 2});
     const HDC canvas = GetDC(Window.Handle());
     EXPECT_EQ(GetPixel(canvas, 0, 0), RGB(200, 200, 200));
     ReleaseDC(Window.Handle(), canvas);
@@ -249,7 +262,7 @@ TEST_F(WinWindow, TheClipboardKeepsItsText)
 
 TEST(WinPlatform, WaitsAsLongAsItIsTold)
 {
-    platform::WinPlatform platform(".", ".");
+    win32::WinPlatform platform(".", ".");
     Words heard;
     const auto window = platform.MakeWindow(heard, {100, 100});
     const std::uint32_t start = platform.TickCount();
@@ -262,7 +275,7 @@ TEST(WinPlatform, WaitsAsLongAsItIsTold)
 // Ticks a few times, 20 milliseconds apart.
 struct Ticking final : platform::Program
 {
-    explicit Ticking(platform::WinPlatform& platform) : Platform(platform), Due(platform.TickCount() + Interval) {}
+    explicit Ticking(win32::WinPlatform& platform) : Platform(platform), Due(platform.TickCount() + Interval) {}
     std::uint32_t NextTimer() override
     {
         const auto left = static_cast<std::int32_t>(Due - Platform.TickCount());
@@ -278,14 +291,14 @@ struct Ticking final : platform::Program
     bool Ended() override { return Ticks == 10; }
 
     static constexpr std::uint32_t Interval = 20;
-    platform::WinPlatform& Platform;
+    win32::WinPlatform& Platform;
     std::uint32_t Due;
     int Ticks = 0;
 };
 
 TEST(WinPlatform, RunsTheTimersWhenTheyAreDue)
 {
-    platform::WinPlatform platform(".", ".");
+    win32::WinPlatform platform(".", ".");
     Words heard;
     const auto window = platform.MakeWindow(heard, {100, 100});
     const std::uint32_t start = platform.TickCount();
@@ -297,9 +310,9 @@ TEST(WinPlatform, RunsTheTimersWhenTheyAreDue)
 
 TEST(WinPlatform, TheFirstInstanceStaysTheFirst)
 {
-    platform::WinPlatform second(".", ".");
+    win32::WinPlatform second(".", ".");
     {
-        platform::WinPlatform first(".", ".");
+        win32::WinPlatform first(".", ".");
         EXPECT_TRUE(first.IsFirstInstance());
         EXPECT_TRUE(first.IsFirstInstance());
         EXPECT_FALSE(second.IsFirstInstance());

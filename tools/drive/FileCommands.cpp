@@ -35,8 +35,8 @@ void Window(Session& session, Words& words, Object&)
     const std::string name = FileName(words);
     // Every window of this machine is a headless one.
     const auto& window = static_cast<const headless::Window&>(session.Form()->Window());
-    const headless::Image image = window.Screenshot();
-    Save(session, name, base::BitmapFile(image.Width, image.Height, image.Bits));
+    const base::Bitmap image = window.Screenshot();
+    Save(session, name, base::BitmapFile(image.Width, image.Height, image.Bytes));
 }
 
 void Depth(Session& session, Words& words, Object&)

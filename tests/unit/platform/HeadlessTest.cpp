@@ -14,7 +14,7 @@ struct Headless : testing::Test
     support::HeardEvents Heard;
     std::unique_ptr<platform::Window> Window = Machine.MakeWindow(Heard, {4, 2});
 
-    headless::Image Screenshot() { return static_cast<headless::Window&>(*Window).Screenshot(); }
+    base::Bitmap Screenshot() { return static_cast<headless::Window&>(*Window).Screenshot(); }
 };
 }
 
@@ -80,24 +80,29 @@ TEST_F(Headless, SizesAreKeptWithinReason)
 
 TEST_F(Headless, ShowsThePresentedPictureStretchedToTheNearestPixel)
 {
-    EXPECT_EQ(Screenshot().Bits, std::vector<std::uint8_t>(24, 0)); // black before the first
+    EXPECT_EQ(Screenshot().Bytes, std::vector<std::uint8_t>(24, 0)); // black before the first
     // Two columns and one row: (1, 2, 3) and (4, 5, 6), padded to 8 bytes.
     const std::array<std::uint8_t, 8> bits = {1, 2, 3, 4, 5, 6, 0, 0};
-    Window->Present(2, 1, bits);
+    Window->Present({bits.data(), 8, 2, 1});
     const std::vector<std::uint8_t> row = {1, 2, 3, 1, 2, 3, 4, 5, 6, 4, 5, 6};
     std::vector<std::uint8_t> both = row;
     both.insert(both.end(), row.begin(), row.end());
-    EXPECT_EQ(Screenshot().Bits, both);
+    EXPECT_EQ(Screenshot().Bytes, both);
     Window->SetClientSize({1, 1});
-    EXPECT_EQ(Screenshot().Bits, (std::vector<std::uint8_t>{1, 2, 3, 0}));
+    EXPECT_EQ(Screenshot().Bytes, (std::vector<std::uint8_t>{1, 2, 3, 0}));
 }
 
-TEST_F(Headless, APictureShorterThanItClaimsIsNotTaken)
+TEST_F(Headless, APictureWithoutPixelsOrWithOtherRowsIsNotTaken)
 {
-    const std::array<std::uint8_t, 8> bits = {9, 9, 9, 9, 9, 9, 9, 9};
-    Window->Present(2, 2, bits);
-    Window->Present(0, 1, bits);
-    EXPECT_EQ(Screenshot().Bits, std::vector<std::uint8_t>(24, 0));
+    const std::array<std::uint8_t, 16> bits = {9, 9, 9, 9, 9, 9, 9, 9, 9, 9, 9, 9, 9, 9, 9, 9};
+    for (const base::ConstSurface& picture : {base::ConstSurface{nullptr, 8, 2, 2},
+                                              {bits.data(), 0, 0, 1},
+                                              {bits.data(), 8, 2, 0},
+                                              {bits.data(), -8, 2, 1},
+                                              {bits.data(), 6, 2, 2},   // not padded
+                                              {bits.data(), 12, 2, 1}}) // longer than padded
+        Window->Present(picture);
+    EXPECT_EQ(Screenshot().Bytes, std::vector<std::uint8_t>(24, 0));
 }
 
 TEST_F(Headless, TheClipboardIsTheMachines)
@@ -122,8 +127,8 @@ namespace
 {
 struct HeadlessSound : Headless
 {
-    std::unique_ptr<platform::WaveOut> Wave = Machine.MakeWaveOut(*Window);
-    std::unique_ptr<platform::MusicPlayer> Music = Machine.MakeMusicPlayer(*Window);
+    std::unique_ptr<platform::WaveOut> Wave = Machine.MakeWaveOut(Heard);
+    std::unique_ptr<platform::MusicPlayer> Music = Machine.MakeMusicPlayer(Heard);
     platform::WaveHandle Handle = platform::NoWave;
     std::array<std::uint8_t, 8> Bytes = {1, 2, 3, 4, 5, 6, 7, 8};
 

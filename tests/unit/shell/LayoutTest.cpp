@@ -103,12 +103,12 @@ struct Picture : testing::Test, support::LoadedForm
 TEST_F(Picture, TheMenuIsPaintedAtTheSizeOfTheWindow)
 {
     Load();
-    const headless::Image picture = Window().Screenshot();
+    const base::Bitmap picture = Window().Screenshot();
     EXPECT_EQ(picture.Width, 600);
     EXPECT_EQ(picture.Height, 312);
     bool differs = false;
-    for (const std::uint8_t byte : picture.Bits)
-        differs = differs || byte != picture.Bits[0];
+    for (const std::uint8_t byte : picture.Bytes)
+        differs = differs || byte != picture.Bytes[0];
     EXPECT_TRUE(differs);
 }
 
@@ -116,7 +116,7 @@ TEST_F(Picture, TheRaceIsPresentedAsItIs)
 {
     StartRace();
     Pass(100);
-    EXPECT_EQ(Window().Screenshot().Bits, Game().Screen.Frame.Bytes);
+    EXPECT_EQ(Window().Screenshot().Bytes, Game().Screen.Frame.Bytes);
 }
 
 TEST_F(Picture, APanelOverARunningRaceStaysOnTop)
@@ -125,7 +125,7 @@ TEST_F(Picture, APanelOverARunningRaceStaysOnTop)
     Pass(100);
     Control("panelCredits").Visible = base::True;
     Pass(100);
-    EXPECT_NE(Window().Screenshot().Bits, Game().Screen.Frame.Bytes);
+    EXPECT_NE(Window().Screenshot().Bytes, Game().Screen.Frame.Bytes);
 }
 
 TEST_F(Picture, TheBlackOfTheTitleIsSeenThrough)
@@ -133,10 +133,10 @@ TEST_F(Picture, TheBlackOfTheTitleIsSeenThrough)
     World.Write("data/images/logo.bmp", support::Bitmap(300, 100, 0, 0, 0));
     World.Write("data/images/menu.bmp", support::Bitmap(600, 312, 40, 80, 120));
     Load();
-    const std::vector<std::uint8_t> withLogo = Window().Screenshot().Bits;
+    const std::vector<std::uint8_t> withLogo = Window().Screenshot().Bytes;
     Control("imgLogo").Visible = base::False;
     Form.Paint();
-    EXPECT_EQ(Window().Screenshot().Bits, withLogo);
+    EXPECT_EQ(Window().Screenshot().Bytes, withLogo);
     EXPECT_EQ(Machine.Boxes.size(), 0u);
 }
 
@@ -146,9 +146,9 @@ TEST_F(Picture, TheMenuStandsOnItsOwnPictureAndThenOnTheRace)
     Load();
     const auto topLeft = [this]
     {
-        const headless::Image shown = Window().Screenshot();
+        const base::Bitmap shown = Window().Screenshot();
         const std::size_t at = static_cast<std::size_t>(shown.Width * 3) * static_cast<std::size_t>(shown.Height - 1);
-        return std::array<int, 3>{shown.Bits[at], shown.Bits[at + 1], shown.Bits[at + 2]};
+        return std::array<int, 3>{shown.Bytes[at], shown.Bytes[at + 1], shown.Bytes[at + 2]};
     };
     EXPECT_GT(topLeft()[0], 150);
     EXPECT_LT(topLeft()[1], 30);

@@ -66,11 +66,11 @@ TEST_F(Mouse, OnlyTheLeftButtonActs)
 TEST_F(Mouse, PointingHighlights)
 {
     Load();
-    const std::vector<std::uint8_t> plain = Window().Screenshot().Bits;
+    const std::vector<std::uint8_t> plain = Window().Screenshot().Bytes;
     Form.MouseMove(0, MiddleOf("cCREDIT"));
-    EXPECT_NE(Window().Screenshot().Bits, plain);
+    EXPECT_NE(Window().Screenshot().Bytes, plain);
     Form.MouseMove(0, {1, 1});
-    EXPECT_EQ(Window().Screenshot().Bits, plain);
+    EXPECT_EQ(Window().Screenshot().Bytes, plain);
 }
 
 TEST_F(Mouse, TheWindowFollowsTheDraggedPointer)

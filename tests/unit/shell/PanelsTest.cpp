@@ -86,12 +86,12 @@ TEST_F(Panels, TypedTextIsSeenAtOnce)
 {
     Load();
     Form.Click("cGameOpt");
-    const std::vector<std::uint8_t> before = Window().Screenshot().Bits;
+    const std::vector<std::uint8_t> before = Window().Screenshot().Bytes;
     TypeKey('7');
-    const std::vector<std::uint8_t> typed = Window().Screenshot().Bits;
+    const std::vector<std::uint8_t> typed = Window().Screenshot().Bytes;
     EXPECT_NE(typed, before);
     Form.Paint();
-    EXPECT_EQ(Window().Screenshot().Bits, typed);
+    EXPECT_EQ(Window().Screenshot().Bytes, typed);
 }
 
 TEST_F(Panels, TheMouseChoosesAResolution)
@@ -243,7 +243,7 @@ TEST_F(Panels, AnOpenListFollowsTheWindowsSize)
     {
         Window().SetClientSize(size);
         Machine.PumpEvents();
-        const headless::Image shown = Window().Screenshot();
+        const base::Bitmap shown = Window().Screenshot();
         EXPECT_EQ(shown.Width, size.Width);
         EXPECT_EQ(Form.Controls().Client.Width, size.Width);
     }

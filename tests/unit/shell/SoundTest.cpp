@@ -280,7 +280,7 @@ TEST_F(Sound, EachTrackThatEndsStartsTheNext)
     EXPECT_EQ(Music().Media.FileName, "soundtracks\\b.mp3");
     Machine.Music->Finish(1);
     EXPECT_EQ(Playing(), "c.mp3");
-    Form.MediaDone(Machine.Music->Number - 1, 1); // of the track before: too late
+    Form.Audio().MediaDone(Machine.Music->Number - 1, 1); // of the track before: too late
     EXPECT_EQ(Playing(), "c.mp3");
     Machine.Music->Finish(1);
     EXPECT_EQ(Playing(), "a.mp3");
