@@ -8,7 +8,7 @@ namespace shell
 {
 namespace
 {
-constexpr forms::Colour Night = {10, 12, 20};
+constexpr base::Rgb Night = {10, 12, 20};
 }
 
 void Form1::Form_Resize()
@@ -57,8 +57,8 @@ void Form1::PaintBackground()
 {
     const render::Screen& screen = TheGame.Screen;
     if (TheGame.Race.GameTime > 0 && !screen.Frame.Empty())
-        return forms::Stretch(TheCanvas, {0, 0, TheCanvas.Width, TheCanvas.Height}, screen.ScreenW, screen.ScreenH,
-                              screen.Frame.RowBytes, screen.Frame.Bytes.data());
+        return forms::Stretch(TheCanvas, {0, 0, TheCanvas.Width, TheCanvas.Height},
+                              {screen.Frame.Bytes.data(), screen.Frame.RowBytes, screen.ScreenW, screen.ScreenH});
     const forms::Image& background = TheMenuPictures.Background;
     if (background.Width > 0)
         return forms::Draw(TheCanvas, background, (TheCanvas.Width - background.Width) / 2,

@@ -14,10 +14,10 @@ constexpr std::int32_t InsetSize = 70, InsetLeft = 10, InsetTop = 5; // pixels o
 struct Stage
 {
     const char* Text; // what the player is told
-    forms::Colour Colour;
+    base::Rgb Colour;
 };
 
-constexpr forms::Colour Muted = {160, 156, 150}, Amber = {255, 158, 54}, Green = {96, 208, 112};
+constexpr base::Rgb Muted = {160, 156, 150}, Amber = {255, 158, 54}, Green = {96, 208, 112};
 
 constexpr std::array<Stage, 5> Stages = {{
     {"", Muted},
@@ -100,8 +100,9 @@ void Form1::ShowCalibration()
 void Form1::PaintPreview(forms::Canvas& canvas, const forms::Rect& place) const
 {
     const webcam::Webcam& webcam = TheGame.Webcam;
-    forms::Stretch(canvas, place, webcam.FrameHeader.biWidth, webcam.FrameHeader.biHeight, webcam.Frame.RowBytes,
-                   webcam.Frame.Bytes.data());
+    forms::Stretch(
+        canvas, place,
+        {webcam.Frame.Bytes.data(), webcam.Frame.RowBytes, webcam.FrameHeader.biWidth, webcam.FrameHeader.biHeight});
     constexpr double around = 2;
     forms::OutlineRounded(canvas, {place.X - 2, place.Y - 2, place.W + 4, place.H + 4}, around, around,
                           StageOf(webcam.State).Colour);
