@@ -4,8 +4,6 @@
 #include "shell/Form1.h"
 #include "world/Dynamics.h"
 
-#include <cmath>
-
 namespace shell
 {
 namespace
@@ -67,12 +65,7 @@ void Form1::SetEngineSound()
     if (viewed < 0 || static_cast<std::size_t>(viewed) >= race.Players.size())
         return;
     const float speed = race.Players[static_cast<std::size_t>(viewed)].Speed;
-    audio::EngineSound& engine = TheGame.Engine;
-    engine.Step = static_cast<float>(world::EngineNote(speed));
-    // A gain that 16 bits cannot hold keeps its former value.
-    const std::int32_t gain = base::RoundEven((std::fabs(speed) + 5.0) * TheGame.Audio.EffectsFactor);
-    if (base::Wrap16(gain) == gain)
-        engine.Gain = static_cast<std::int16_t>(gain);
+    audio::SetSpeed(TheGame.Engine, world::EngineNote(speed), speed, TheGame.Audio.EffectsFactor);
 }
 
 void Form1::WaveDone(std::int32_t user)
