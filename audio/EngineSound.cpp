@@ -3,6 +3,7 @@
 #include "base/Numbers.h"
 
 #include <algorithm>
+#include <cmath>
 #include <string>
 
 namespace audio
@@ -10,6 +11,7 @@ namespace audio
 namespace
 {
 constexpr float LoopEnd = 1023.0f;
+constexpr double IdleSpeed = 5.0; // added to every speed, so that an engine at rest is heard
 
 // Silence outside the table, where only a read position set by hand can lie.
 std::int16_t SampleAt(const EngineSound& engine, float position)
@@ -33,6 +35,14 @@ void LoadSample(EngineSound& engine, const base::Files& files, std::string_view 
     const std::size_t count = std::min(bytes.size(), engine.Table.size());
     for (std::size_t i = 0; i < count; ++i)
         engine.Table[i] = static_cast<std::int16_t>(static_cast<std::uint8_t>(bytes[i]) - 128);
+}
+
+void SetSpeed(EngineSound& engine, double note, float speed, std::int16_t factor)
+{
+    engine.Step = static_cast<float>(note);
+    const std::int32_t gain = base::RoundEven((std::fabs(speed) + IdleSpeed) * factor);
+    if (base::Wrap16(gain) == gain)
+        engine.Gain = static_cast<std::int16_t>(gain);
 }
 
 void FillEngineBuffer(EngineSound& engine, std::int32_t bufferIndex)

@@ -12,7 +12,7 @@ constexpr std::array<std::uint16_t, 32> HighCodes = {0x20AC, 0x0081, 0x201A, 0x0
                                                      0x0090, 0x2018, 0x2019, 0x201C, 0x201D, 0x2022, 0x2013, 0x2014,
                                                      0x02DC, 0x2122, 0x0161, 0x203A, 0x0153, 0x009D, 0x017E, 0x0178};
 
-std::uint8_t CodeOf(std::uint32_t point)
+std::uint8_t CodeOf(char32_t point)
 {
     if (point < 128 || (point >= 160 && point < 256))
         return static_cast<std::uint8_t>(point);
@@ -25,6 +25,14 @@ std::uint8_t CodeOf(std::uint32_t point)
 bool IsContinuation(char c)
 {
     return (static_cast<unsigned char>(c) & 0xC0) == 0x80;
+}
+
+// Bytes that follow a lead byte of 0x80 or more; 0 where it leads nothing.
+std::size_t MoreBytes(unsigned char lead)
+{
+    if (lead < 0xC0 || lead >= 0xF8)
+        return 0;
+    return lead < 0xE0 ? 1 : (lead < 0xF0 ? 2 : 3);
 }
 }
 
@@ -55,25 +63,37 @@ std::string FromCodePage(std::string_view bytes)
     return text;
 }
 
-std::uint8_t NextCode(std::string_view text, std::size_t& at)
+char32_t NextPoint(std::string_view text, std::size_t& at)
 {
     const auto lead = static_cast<unsigned char>(text[at++]);
     if (lead < 0x80)
         return lead;
-    const int more =
-        lead >= 0xF0 && lead < 0xF8 ? 3 : (lead >= 0xE0 && lead < 0xF0 ? 2 : (lead >= 0xC2 && lead < 0xE0 ? 1 : 0));
+    const std::size_t more = MoreBytes(lead);
     if (more == 0)
-        return '?';
-    std::uint32_t point = lead & (0x3Fu >> more);
+        return IllFormed;
+    char32_t point = lead & (0x3Fu >> more);
     std::size_t behind = at;
-    for (int i = 0; i < more; ++i, ++behind)
+    for (; behind - at < more; ++behind)
     {
         if (behind >= text.size() || !IsContinuation(text[behind]))
-            return '?';
+            return IllFormed;
         point = (point << 6) | (static_cast<unsigned char>(text[behind]) & 0x3Fu);
     }
     at = behind;
-    return CodeOf(point);
+    return point;
+}
+
+std::uint8_t NextCode(std::string_view text, std::size_t& at)
+{
+    // Deliberate: the two leads that only ever begin an ASCII character in two bytes are no beginning here.
+    const auto lead = static_cast<unsigned char>(text[at]);
+    if (lead == 0xC0 || lead == 0xC1)
+    {
+        ++at;
+        return '?';
+    }
+    const char32_t point = NextPoint(text, at);
+    return point == IllFormed ? std::uint8_t{'?'} : CodeOf(point);
 }
 
 std::uint8_t PreviousCode(std::string_view text, std::size_t& at)

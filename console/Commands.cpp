@@ -11,50 +11,48 @@ namespace console
 {
 namespace
 {
-void ShowTopic(Console& console, const Topic* topic, const char* unknown)
+Reply ShowTopic(Console& console, const Topic* topic, const char* unknown)
 {
     if (topic == nullptr)
         Fail(unknown);
     // Deliberate: the tab width stays for the answers that follow.
     if (topic->TabWidth != 0)
         console.Scene.Labels.At(console.Line).TabWidth = topic->TabWidth;
-    Answer(console, topic->Text);
+    return std::string(topic->Text);
 }
 
-void List(Console& console, const Words& words)
+Reply List(Console& console, const Words& words)
 {
     if (words.Has(1))
-        ShowTopic(console, FindObject(words.At(1, NoObject)), BadObject);
-    else
-        Answer(console, AllObjects);
+        return ShowTopic(console, FindObject(words.At(1, NoObject)), BadObject);
+    return std::string(AllObjects);
 }
 
-void Help(Console& console, const Words& words)
+Reply Help(Console& console, const Words& words)
 {
     if (words.Has(1))
-        ShowTopic(console, FindCommand(words.At(1, NoSuchCommand)), NoSuchCommand);
-    else
-        Answer(console, AllCommands);
+        return ShowTopic(console, FindCommand(words.At(1, NoSuchCommand)), NoSuchCommand);
+    return std::string(AllCommands);
 }
 
-void ToggleInformation(Console& console, const Words&)
+Reply ToggleInformation(Console& console, const Words&)
 {
     std::uint8_t& visible = console.Scene.Labels.At(console.Information).Visible;
     visible = visible == 0 ? 1 : 0;
-    Close(console);
+    return {};
 }
 
 struct Command
 {
     std::string_view Name;
-    void (*Run)(Console& console, const Words& words);
+    Reply (*Run)(Console& console, const Words& words);
 };
 
 constexpr Command CommandsByName[] = {
     {"\\set", Set}, {"\\get", Get}, {"\\lst", List}, {"\\inf", ToggleInformation}, {"\\help", Help},
 };
 
-void Run(Console& console, const Words& words)
+Reply Run(Console& console, const Words& words)
 {
     const std::string_view name = words.At(0, BadCommand);
     for (const Command& command : CommandsByName)
@@ -62,18 +60,19 @@ void Run(Console& console, const Words& words)
             return command.Run(console, words);
     Fail(BadCommand);
 }
-}
 
-void Answer(Console& console, std::string_view text)
+// What the line gives; where it fails, why.
+Reply ReplyTo(Console& console, std::string_view line)
 {
-    render::Label2D& label = console.Scene.Labels.At(console.Line);
-    label.Text = text;
-    label.Visible = 1;
+    try
+    {
+        return Run(console, Words(line));
+    }
+    catch (const base::RuntimeError& error)
+    {
+        return error.Description;
+    }
 }
-
-void Close(Console& console)
-{
-    console.Scene.Labels.At(console.Line).Visible = 0;
 }
 
 std::int16_t PlayerIndex(const world::Race& race, double number)
@@ -88,13 +87,10 @@ void ExecConsoleCommand(Console& console, std::string_view line)
 {
     if (!console.Scene.Labels.Has(console.Line))
         return; // the display was never made: there is nothing to type into
-    try
-    {
-        Run(console, Words(line));
-    }
-    catch (const base::RuntimeError& error)
-    {
-        Answer(console, error.Description);
-    }
+    const Reply reply = ReplyTo(console, line);
+    render::Label2D& label = console.Scene.Labels.At(console.Line);
+    label.Visible = reply ? 1 : 0;
+    if (reply)
+        label.Text = *reply;
 }
 }

@@ -1,16 +1,21 @@
-// console/Commands.h: the commands by name. Each throws a RuntimeError whose description is the answer.
+// console/Commands.h: the commands by name. Each throws a RuntimeError whose description is the answer (Words.h: Fail),
+// and has changed nothing then.
 #pragma once
 #include "console/Console.h"
 #include "console/Words.h"
 
+#include <optional>
+#include <string>
+
 namespace console
 {
-void Answer(Console& console, std::string_view text); // shown in place of the line
-void Close(Console& console);
+// What a command leaves on the display: an answer in place of the line, or none, and the console closes.
+using Reply = std::optional<std::string>;
 
-// The index of a player; fails where there is none.
+// The index of a player; fails where there is none. RuntimeError 6 where 16 bits do not hold the number.
 std::int16_t PlayerIndex(const world::Race& race, double number);
 
-void Set(Console& console, const Words& words);
-void Get(Console& console, const Words& words);
+// words: the whole line, the command's own name first.
+Reply Set(Console& console, const Words& words);
+Reply Get(Console& console, const Words& words);
 }

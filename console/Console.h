@@ -22,15 +22,17 @@ struct Host
     virtual void SetElapsed(std::int32_t milliseconds) = 0;
 };
 
+// What the console reads and changes, borrowed from the game; it keeps nothing of its own, so one is made for each
+// call.
 struct Console
 {
-    render::Scene& Scene;     // the labels, and the cars' objects
-    std::int16_t Line;        // the label that is the console; open while it is visible
+    render::Scene& Scene; // the labels, and the cars' objects, which "position" reads and moves
+    std::int16_t Line;    // the label that is the console; open while it is visible, edited while it begins with "\"
     std::int16_t Information; // the label that "\inf" shows and hides
-    world::Race& Race;
-    render::Camera& Camera;
+    world::Race& Race;        // the players and who of them is the user's; the race clock is read only
+    render::Camera& Camera;   // zoom and radius; the player that it follows is read only
     render::Screen& Screen;   // its texture filter
-    std::string& LastCommand; // the line last entered, for recall
+    std::string& LastCommand; // the line last entered, backslash included, for recall
     Host& Around;
 };
 
@@ -44,7 +46,7 @@ bool IsOpen(const Console& console);
 void ConsoleKeyPress(Console& console, std::uint8_t keyAscii);
 // A key released, by virtual-key code: 220 opens; while open, 27 closes and 38 recalls the last command.
 void ConsoleKeyUp(Console& console, std::int16_t keyCode);
-// Runs a line, backslash included, and shows its answer. What goes wrong is the answer too: nothing is thrown, and
-// nothing has changed then.
+// Runs a line, backslash included, and shows its answer; a command without one closes the console. What goes wrong is
+// the answer too: nothing is thrown, and nothing has changed then.
 void ExecConsoleCommand(Console& console, std::string_view line);
 }

@@ -1,14 +1,13 @@
 // The line: opening, closing, recall and editing.
 #include "base/Text.h"
 #include "console/Console.h"
+#include "platform/Keys.h"
 
 namespace console
 {
 namespace
 {
-constexpr char Backslash = '\\'; // every line begins with it; it cannot be deleted
-constexpr std::uint8_t CtrlC = 3, Backspace = 8, Enter = 13, CtrlV = 22;
-constexpr std::int16_t KeyEsc = 27, KeyUpArrow = 38, KeyBackslash = 220;
+constexpr char Backslash = '\\';      // every line begins with it; it cannot be deleted
 constexpr std::size_t MostOfCode = 3; // bytes of UTF-8 that a character of the code page takes
 
 void Append(std::string& line, std::uint8_t code)
@@ -49,17 +48,17 @@ void ConsoleKeyPress(Console& console, std::uint8_t keyAscii)
     const bool isMore = line.size() > 1; // than the backslash
     switch (keyAscii)
     {
-    case CtrlC:
+    case platform::CtrlC:
         // Deliberate: an answer has just given way to a new line, so it is never copied.
         return console.Around.SetClipboardText(line);
-    case CtrlV:
+    case platform::CtrlV:
         return Paste(line, console.Around.ClipboardText());
-    case Enter:
+    case platform::Enter:
         if (!isMore)
             return;
         console.LastCommand = line;
         return ExecConsoleCommand(console, console.LastCommand);
-    case Backspace:
+    case platform::Backspace:
         if (isMore)
             RemoveLast(line);
         return;
@@ -73,14 +72,14 @@ void ConsoleKeyUp(Console& console, std::int16_t keyCode)
     if (!console.Scene.Labels.Has(console.Line))
         return;
     render::Label2D& label = console.Scene.Labels.At(console.Line);
-    if (label.Visible == 0 && keyCode == KeyBackslash)
+    if (label.Visible == 0 && keyCode == platform::KeyBackslash)
     {
         label.Text = Backslash;
         label.Visible = 1;
     }
-    else if (label.Visible != 0 && keyCode == KeyEsc)
+    else if (label.Visible != 0 && keyCode == platform::KeyEsc)
         label.Visible = 0;
-    else if (label.Visible != 0 && keyCode == KeyUpArrow)
+    else if (label.Visible != 0 && keyCode == platform::KeyUp)
         label.Text = console.LastCommand;
 }
 }

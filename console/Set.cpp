@@ -1,7 +1,7 @@
 // "\set": every check and conversion comes before the first assignment, so that what fails changes nothing.
+#include "base/Numbers.h"
 #include "console/Commands.h"
 #include "console/Properties.h"
-#include "render/SceneFields.h"
 #include "world/Dynamics.h"
 
 namespace console
@@ -23,12 +23,12 @@ const Property& Writable(const Property* property)
 
 void SetPosition(render::Scene& scene, const world::Player& player, const Words& words)
 {
-    words.At(5, NoValue); // a missing number is told before one that is none
+    words.At(5, NoValue); // a missing number is answered before one that is none
     const double numberX = words.NumberAt(4, NoValue), numberZ = words.NumberAt(5, NoValue);
     const float x = base::ToSingle(numberX), z = base::ToSingle(numberZ);
     render::Obj& object = scene.Objects.At(player.Obj);
-    SetField(object, "X", x);
-    SetField(object, "Z", z);
+    object.X = x;
+    object.Z = z;
 }
 
 // The simulation reads the working values alone.
@@ -49,39 +49,30 @@ void SetPlayer(Console& console, const Words& words)
     else
     {
         const Property& property = Writable(FindPlayerProperty(name));
-        SetField(player, property.Field, words.NumberAt(4, NoValue));
+        SetProperty(console, property, words.NumberAt(4, NoValue), index);
     }
     RefreshWorking(player);
 }
 
-void SetTxtFilter(render::Screen& screen, const Words& words)
-{
-    // Deliberate: any whole number is taken; the renderer knows what to do with a filter that is none.
-    const bool isGiven = words.Has(3);
-    SetField(screen, "TxtFilter", isGiven ? words.NumberAt(3, NoValue) : base::ToInt16(screen.TxtFilter + 1.0) % 3);
-}
-
 void SetCamera(Console& console, const Words& words)
 {
-    render::Camera& camera = console.Camera;
     const std::string_view name = words.At(2, NoProperty);
-    if (name == "txtfilter")
-        return SetTxtFilter(console.Screen, words);
     const Property& property = Writable(FindCameraProperty(name));
-    SetField(camera, property.Field, words.NumberAt(3, NoValue));
-    if (name != "radius" && camera.Zoom < camera.MinZoom)
+    const bool isNext = property.Choices > 0 && !words.Has(3);
+    SetProperty(console, property, isNext ? NextChoice(console, property) : words.NumberAt(3, NoValue));
+    render::Camera& camera = console.Camera;
+    if ((name == "zoom" || name == "minzoom") && camera.Zoom < camera.MinZoom)
         camera.Zoom = camera.MinZoom;
 }
 
 void SetGame(Console& console, const Words& words)
 {
-    if (words.At(2, NoProperty) != "time")
-        Fail(BadProperty);
+    Writable(FindGameProperty(words.At(2, NoProperty)));
     console.Around.SetElapsed(base::ToInt32(words.NumberAt(3, NoValue)));
 }
 }
 
-void Set(Console& console, const Words& words)
+Reply Set(Console& console, const Words& words)
 {
     const std::string_view object = words.At(1, NoObject);
     if (object == "userplayer")
@@ -94,6 +85,6 @@ void Set(Console& console, const Words& words)
         SetGame(console, words);
     else
         Fail(BadObject);
-    Close(console);
+    return {};
 }
 }

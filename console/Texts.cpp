@@ -45,15 +45,6 @@ template <std::size_t N> const Topic* Find(const Topic (&topics)[N], std::string
 }
 }
 
-constinit const std::string_view AllObjects = "UserPlayer\r\nPlayer x\r\nCamera\r\nGame";
-constinit const std::string_view AllCommands = "SET Imposta il valore di una proprietà di un oggetto\r\n"
-                                               "GET Visualizza il valore di una proprietà di un oggetto\r\n"
-                                               "LST Visualizza la lista degli oggetti e delle proprietà\r\n"
-                                               "INF Visualizza informazioni generiche\r\n"
-                                               "\r\n"
-                                               "Digitare help seguito dal nome del comando per\r\n"
-                                               "visualizzarne la descrizione dettagliata";
-
 const Topic* FindObject(std::string_view word)
 {
     return Find(ObjectTopics, word);

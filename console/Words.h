@@ -8,16 +8,22 @@
 namespace console
 {
 // Why a command cannot be carried out: the answers, word for word.
-inline constexpr const char *NoObject = "Oggetto non specificato", *BadObject = "Oggetto non valido",
-                            *NoIndex = "Indice non specificato", *BadIndex = "Indice non valido",
-                            *BadParameter = "Parametro non valido", *NoProperty = "Proprietà non specificata",
-                            *BadProperty = "Proprietà non valida", *NoValue = "Valore non specificato",
-                            *NoSuchCommand = "Comando non trovato", *BadCommand = "Comando non valido";
+inline constexpr const char* NoObject = "Oggetto non specificato";
+inline constexpr const char* BadObject = "Oggetto non valido";
+inline constexpr const char* NoIndex = "Indice non specificato";
+inline constexpr const char* BadIndex = "Indice non valido";        // of a player
+inline constexpr const char* BadParameter = "Parametro non valido"; // no number where one belongs
+inline constexpr const char* NoProperty = "Proprietà non specificata";
+inline constexpr const char* BadProperty = "Proprietà non valida"; // unknown, or not to be set
+inline constexpr const char* NoValue = "Valore non specificato";
+inline constexpr const char* NoSuchCommand = "Comando non trovato"; // there is no help on it
+inline constexpr const char* BadCommand = "Comando non valido";
 
 // Ends the command: a RuntimeError whose description is the answer.
 [[noreturn]] void Fail(const char* why);
 
-// The words of a line in lower case. Every single space parts two words: two of them make an empty one.
+// The words of a line, their ASCII letters in lower case; word 0 is the command. Every single space parts two words:
+// two of them make an empty one. An empty line is one empty word.
 class Words
 {
 public:

@@ -50,8 +50,8 @@ void Application::Splash::Paint()
     Canvas.Resize(client.Width, client.Height);
     const forms::Rect all = {0, 0, Canvas.Width, Canvas.Height};
     if (Picture.Info.Width > 0)
-        forms::Stretch(Canvas, all, Picture.Info.Width, Picture.Info.Height, Picture.Info.RowBytes,
-                       Picture.Pixels.Bytes.data());
+        forms::Stretch(Canvas, all,
+                       {Picture.Pixels.Bytes.data(), Picture.Info.RowBytes, Picture.Info.Width, Picture.Info.Height});
     else
     {
         forms::FillDownward(Canvas, all, {14, 16, 26}, 255, {58, 30, 26}, 255);

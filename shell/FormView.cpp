@@ -62,8 +62,8 @@ void FormView::PaintBackground()
 {
     const render::Screen& screen = TheGame.Screen;
     if (TheGame.Race.GameTime > 0 && !screen.Frame.Empty())
-        forms::Stretch(Canvas, {0, 0, Canvas.Width, Canvas.Height}, screen.ScreenW, screen.ScreenH,
-                       screen.Frame.RowBytes, screen.Frame.Bytes.data());
+        forms::Stretch(Canvas, {0, 0, Canvas.Width, Canvas.Height},
+                       {screen.Frame.Bytes.data(), screen.Frame.RowBytes, screen.ScreenW, screen.ScreenH});
     else
         PaintMenuBackground(Canvas);
 }

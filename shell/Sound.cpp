@@ -4,8 +4,6 @@
 #include "render/Primitives.h"
 #include "world/Dynamics.h"
 
-#include <cmath>
-
 namespace shell
 {
 namespace
@@ -80,11 +78,7 @@ void Sound::SetEngineSound()
     if (viewed < 0 || static_cast<std::size_t>(viewed) >= race.Players.size())
         return;
     const float speed = race.Players[static_cast<std::size_t>(viewed)].Speed;
-    Engine.Step = static_cast<float>(world::EngineNote(speed));
-    // A gain that 16 bits cannot hold keeps its former value.
-    const std::int32_t gain = base::RoundEven((std::fabs(speed) + 5.0) * Settings.EffectsFactor);
-    if (base::Wrap16(gain) == gain)
-        Engine.Gain = static_cast<std::int16_t>(gain);
+    audio::SetSpeed(Engine, world::EngineNote(speed), speed, Settings.EffectsFactor);
 }
 
 void Sound::WaveDone(std::int32_t user)

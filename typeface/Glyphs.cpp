@@ -1,4 +1,5 @@
 #include "typeface/Glyphs.h"
+
 #include <algorithm>
 #include <array>
 #include <iterator>

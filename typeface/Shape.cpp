@@ -1,6 +1,10 @@
 #include "typeface/Shape.h"
+
 #include "base/Numbers.h"
+#include "base/Text.h"
+
 #include <cmath>
+#include <iterator>
 
 namespace typeface
 {
@@ -14,43 +18,50 @@ constexpr int MaxDepth = 4;        // glyphs within glyphs
 class PathReader
 {
 public:
-    explicit PathReader(const char* path) : at(path) {}
+    explicit PathReader(const char* path) : Rest(path) {}
 
     // The next command letter, or 0 at the end.
     char Command()
     {
         SkipBlanks();
-        return *at == 0 ? '\0' : *at++;
+        return *Rest == 0 ? '\0' : *Rest++;
     }
 
     double Number()
     {
         SkipBlanks();
-        const bool negative = *at == '-';
+        const bool negative = *Rest == '-';
         if (negative)
-            ++at;
+            ++Rest;
         double value = 0;
-        for (; *at >= '0' && *at <= '9'; ++at)
-            value = value * 10 + (*at - '0');
-        if (*at == '.')
+        for (; *Rest >= '0' && *Rest <= '9'; ++Rest)
+            value = value * 10 + (*Rest - '0');
+        if (*Rest == '.')
         {
             double place = 1;
-            for (++at; *at >= '0' && *at <= '9'; ++at)
-                value += (*at - '0') / (place *= 10);
+            for (++Rest; *Rest >= '0' && *Rest <= '9'; ++Rest)
+                value += (*Rest - '0') / (place *= 10);
         }
         return negative ? -value : value;
     }
 
+    Point Pair()
+    {
+        const double x = Number();
+        return {x, Number()};
+    }
+
 private:
-    const char* at;
+    const char* Rest;
 
     void SkipBlanks()
     {
-        while (*at == ' ')
-            ++at;
+        while (*Rest == ' ')
+            ++Rest;
     }
 };
 
+// Where a glyph within a glyph stands, and how large.
 struct Placing
 {
     double Factor = 1, DX = 0, DY = 0;
@@ -58,59 +69,96 @@ struct Placing
     Point operator()(Point p) const { return {p.X * Factor + DX, p.Y * Factor + DY}; }
 };
 
-void ReadInto(const Glyph& glyph, const Placing& place, int depth, Pieces& pieces)
+// A path as it is read: what its commands read from and add to.
+struct Path
 {
-    PathReader in(glyph.Path);
-    Point pen;
-    const auto point = [&]
+    PathReader In;
+    Placing Place;
+    int Depth;
+    Pieces& Out;
+    Point Pen = {}; // in the glyph's own units, not placed
+};
+
+// Adds a piece, given in the glyph's own units; the pen goes to its end.
+void AddPiece(Path& path, const Piece& piece)
+{
+    const Placing& place = path.Place;
+    path.Pen = piece.D;
+    path.Out.Add({piece.Shape, place(piece.A), place(piece.B), place(piece.C), place(piece.D)});
+}
+
+void ReadMove(Path& path)
+{
+    path.Pen = path.In.Pair();
+}
+
+void ReadLine(Path& path)
+{
+    AddPiece(path, {Kind::Line, path.Pen, {}, {}, path.In.Pair()});
+}
+
+void ReadCurve(Path& path)
+{
+    const Point b = path.In.Pair(), c = path.In.Pair();
+    AddPiece(path, {Kind::Curve, path.Pen, b, c, path.In.Pair()});
+}
+
+void ReadDot(Path& path)
+{
+    const Point at = path.In.Pair();
+    AddPiece(path, {Kind::Dot, at, {}, {}, at});
+}
+
+// Leaves upright and arrives level.
+void ReadUprightBend(Path& path)
+{
+    const Point from = path.Pen, to = path.In.Pair();
+    const double x = (to.X - from.X) * Bend, y = (to.Y - from.Y) * Bend;
+    AddPiece(path, {Kind::Curve, from, {from.X, from.Y + y}, {to.X - x, to.Y}, to});
+}
+
+// Leaves level and arrives upright.
+void ReadLevelBend(Path& path)
+{
+    const Point from = path.Pen, to = path.In.Pair();
+    const double x = (to.X - from.X) * Bend, y = (to.Y - from.Y) * Bend;
+    AddPiece(path, {Kind::Curve, from, {from.X + x, from.Y}, {to.X, to.Y - y}, to});
+}
+
+void ReadPath(const Glyph& glyph, const Placing& place, int depth, Pieces& out);
+
+// The pen stays where it is.
+void ReadGlyph(Path& path)
+{
+    const Glyph& inner = FindGlyph(static_cast<char32_t>(base::RoundEven(path.In.Number())));
+    const double factor = path.In.Number();
+    const Point move = path.Place(path.In.Pair());
+    if (path.Depth < MaxDepth)
+        ReadPath(inner, {path.Place.Factor * factor, move.X, move.Y}, path.Depth + 1, path.Out);
+}
+
+struct PathCommand
+{
+    char Letter;
+    void (*Read)(Path& path);
+};
+
+constexpr PathCommand PathCommands[] = {
+    {'M', ReadMove},      {'L', ReadLine}, {'C', ReadCurve}, {'V', ReadUprightBend},
+    {'H', ReadLevelBend}, {'D', ReadDot},  {'G', ReadGlyph},
+};
+
+// Ends at the first letter that is no command: there is none in the table of glyphs.
+void ReadPath(const Glyph& glyph, const Placing& place, int depth, Pieces& out)
+{
+    Path path{PathReader(glyph.Path), place, depth, out};
+    for (char letter = path.In.Command(); letter != 0; letter = path.In.Command())
     {
-        const double x = in.Number();
-        return Point{x, in.Number()};
-    };
-    for (char command = in.Command(); command != 0; command = in.Command())
-    {
-        if (command == 'G')
-        {
-            const Glyph& inner = FindGlyph(static_cast<char32_t>(base::RoundEven(in.Number())));
-            const double factor = in.Number();
-            const Point move = place(point());
-            if (depth < MaxDepth)
-                ReadInto(inner, {place.Factor * factor, move.X, move.Y}, depth + 1, pieces);
-            continue;
-        }
-        Piece piece;
-        piece.A = pen;
-        if (command == 'C')
-        {
-            piece.Shape = Kind::Curve;
-            piece.B = point();
-            piece.C = point();
-            piece.D = point();
-        }
-        else
-            piece.D = point();
-        if (command == 'V' || command == 'H')
-        {
-            const Point to = piece.D;
-            const double x = (to.X - pen.X) * Bend;
-            const double y = (to.Y - pen.Y) * Bend;
-            piece.Shape = Kind::Curve;
-            piece.B = command == 'V' ? Point{pen.X, pen.Y + y} : Point{pen.X + x, pen.Y};
-            piece.C = command == 'V' ? Point{to.X - x, to.Y} : Point{to.X, to.Y - y};
-        }
-        pen = piece.D;
-        if (command == 'M')
-            continue;
-        if (command == 'D')
-        {
-            piece.Shape = Kind::Dot;
-            piece.A = piece.D;
-        }
-        piece.A = place(piece.A);
-        piece.B = place(piece.B);
-        piece.C = place(piece.C);
-        piece.D = place(piece.D);
-        pieces.Add(piece);
+        const auto command = std::find_if(std::begin(PathCommands), std::end(PathCommands),
+                                          [letter](const PathCommand& each) { return each.Letter == letter; });
+        if (command == std::end(PathCommands))
+            return;
+        command->Read(path);
     }
 }
 
@@ -126,48 +174,35 @@ Point At(const Piece& piece, double t)
     return {a * piece.A.X + b * piece.B.X + c * piece.C.X + d * piece.D.X,
             a * piece.A.Y + b * piece.B.Y + c * piece.C.Y + d * piece.D.Y};
 }
-
 }
 
 char32_t NextCode(std::string_view& text)
 {
-    const auto byte = [&](std::size_t i) { return static_cast<unsigned char>(text[i]); };
-    const unsigned char lead = byte(0);
-    const std::size_t length = lead < 0x80         ? 1
-                               : (lead >> 5) == 6  ? 2
-                               : (lead >> 4) == 14 ? 3
-                               : (lead >> 3) == 30 ? 4
-                                                   : 0;
-    char32_t code = length == 1 ? lead : lead & (0xFFU >> (length + 1));
-    bool good = length > 0 && length <= text.size();
-    for (std::size_t i = 1; good && i < length; ++i)
-    {
-        good = (byte(i) & 0xC0) == 0x80;
-        code = code << 6 | (byte(i) & 0x3F);
-    }
-    text.remove_prefix(good ? length : 1);
-    return good ? code : U'\uFFFD';
+    std::size_t behind = 0;
+    const char32_t point = base::NextPoint(text, behind);
+    text.remove_prefix(behind);
+    return point == base::IllFormed ? U'\uFFFD' : point;
 }
 
 Pieces ReadPieces(const Glyph& glyph)
 {
     Pieces pieces;
-    ReadInto(glyph, {}, 0, pieces);
+    ReadPath(glyph, {}, 0, pieces);
     return pieces;
 }
 
 double AxisMap::operator()(double unit) const
 {
-    const auto from = units.Items();
-    const auto to = pixels.Items();
+    const auto from = Units.Items();
+    const auto to = Pixels.Items();
     if (to.empty())
-        return unit * factor;
+        return unit * Factor;
     if (unit <= from.front())
-        return to.front() + (unit - from.front()) * factor;
+        return to.front() + (unit - from.front()) * Factor;
     for (std::size_t i = 1; i < to.size(); ++i)
         if (unit <= from[i] && from[i] > from[i - 1])
             return to[i - 1] + (to[i] - to[i - 1]) * (unit - from[i - 1]) / (from[i] - from[i - 1]);
-    return to.back() + (unit - from.back()) * factor;
+    return to.back() + (unit - from.back()) * Factor;
 }
 
 void CollectAnchors(const Pieces& pieces, AxisMap& across, AxisMap& up)
@@ -214,5 +249,4 @@ void Flatten(const Piece& piece, double radius, int steps, Segments& out)
         from = to;
     }
 }
-
 }

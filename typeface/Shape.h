@@ -36,16 +36,16 @@ template <class T, std::size_t Limit> class FixedList
 public:
     void Add(const T& value)
     {
-        if (count < Limit)
-            items[count++] = value;
+        if (Used < Limit)
+            Room[Used++] = value;
     }
-    std::size_t Count() const { return count; }
-    std::span<T> Items() { return std::span<T>(items).first(count); }
-    std::span<const T> Items() const { return std::span<const T>(items).first(count); }
+    std::size_t Count() const { return Used; }
+    std::span<T> Items() { return std::span<T>(Room).first(Used); }
+    std::span<const T> Items() const { return std::span<const T>(Room).first(Used); }
 
 private:
-    std::array<T, Limit> items{};
-    std::size_t count = 0;
+    std::array<T, Limit> Room{};
+    std::size_t Used = 0;
 };
 
 using Pieces = FixedList<Piece, 96>;
@@ -61,29 +61,29 @@ Pieces ReadPieces(const Glyph& glyph);
 class AxisMap
 {
 public:
-    explicit AxisMap(double pixelsPerUnit) : factor(pixelsPerUnit) {}
+    explicit AxisMap(double pixelsPerUnit) : Factor(pixelsPerUnit) {}
 
-    void Anchor(double unit) { units.Add(unit); }
+    void Anchor(double unit) { Units.Add(unit); }
 
     // Asks pixel(unit) for the place of every anchor, in rising order, equal ones again.
     template <class Pixel> void Fit(Pixel&& pixel)
     {
-        std::sort(units.Items().begin(), units.Items().end());
-        for (const double unit : units.Items())
-            pixels.Add(pixel(unit));
+        std::sort(Units.Items().begin(), Units.Items().end());
+        for (const double unit : Units.Items())
+            Pixels.Add(pixel(unit));
     }
 
-    bool Empty() const { return units.Count() == 0; }
+    bool Empty() const { return Units.Count() == 0; }
     // After Fit, of a map that is not empty.
-    double LastUnit() const { return units.Items().back(); }
-    double LastPixel() const { return pixels.Items().back(); }
+    double LastUnit() const { return Units.Items().back(); }
+    double LastPixel() const { return Pixels.Items().back(); }
 
     double operator()(double unit) const;
 
 private:
-    double factor;
-    FixedList<double, 96> units;
-    FixedList<double, 96> pixels;
+    double Factor;
+    FixedList<double, 96> Units;
+    FixedList<double, 96> Pixels;
 };
 
 // The stems and levels of a glyph: straight strokes along an axis and the extremes of its bends.

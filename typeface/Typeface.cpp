@@ -1,8 +1,12 @@
 #include "typeface/Typeface.h"
+
+#include "base/Geometry.h"
 #include "base/Numbers.h"
 #include "typeface/Shape.h"
+
 #include <algorithm>
 #include <cmath>
+#include <span>
 
 namespace typeface
 {
@@ -11,8 +15,11 @@ namespace
 constexpr double UnitsPerSize = 0.0092; // pixels of one glyph unit at size 1
 constexpr double FitLimit = 30;         // up to this size strokes are fitted to whole pixels
 constexpr double ThinnestFitted = 1.1;  // pixels: thinner strokes go grey
+constexpr double Far = 1e9;             // pixels: beyond every letter
+constexpr int Opaque = 256;             // parts of full coverage
 constexpr double FittedAir = 0.2;       // pixels added on both sides of a fitted letter before rounding
 
+// Nearest whole number, halves up, so that letters lean one way; of any size, unlike the conversions to 32 bits.
 double Whole(double value)
 {
     return std::floor(value + 0.5);
@@ -143,66 +150,62 @@ template <class Use> double Walk(std::string_view text, const Style& style, doub
     return pen;
 }
 
-// How far the point lies outside the stroke; negative inside.
-double Outside(const Segment& s, double x, double y)
+// How far the point lies outside the nearest stroke; negative inside, Far where there is none.
+double Outside(std::span<const Segment> strokes, double x, double y)
 {
-    const double dx = s.X2 - s.X1, dy = s.Y2 - s.Y1;
-    const double length = dx * dx + dy * dy;
-    const double t = length > 0 ? std::clamp(((x - s.X1) * dx + (y - s.Y1) * dy) / length, 0.0, 1.0) : 0;
-    const double ox = x - s.X1 - t * dx, oy = y - s.Y1 - t * dy;
-    return std::sqrt(ox * ox + oy * oy) - s.Radius;
+    double outside = Far;
+    for (const Segment& s : strokes)
+        outside = std::min(outside, base::DistanceToSegment(x, y, s.X1, s.Y1, s.X2, s.Y2) - s.Radius);
+    return outside;
 }
 
-std::uint8_t Mixed(std::uint8_t below, std::uint8_t ink, int weight)
+// What strokes cover, y upward.
+struct Extent
 {
-    return static_cast<std::uint8_t>((below * (256 - weight) + ink * weight + 128) / 256);
-}
-
-struct Box
-{
-    int Left, Top, Right, Bottom;
+    double Left = Far, Right = -Far, Low = Far, High = -Far;
 };
 
-// Paints a shaped glyph whose pen stands at (x, base) in surface coordinates (y downward).
-void Paint(const Surface& surface, const Shaped& shaped, double x, double base, Colour colour, const Clip& clip)
+Extent ExtentOf(std::span<const Segment> strokes)
+{
+    Extent e;
+    for (const Segment& s : strokes)
+    {
+        e.Left = std::min({e.Left, s.X1 - s.Radius, s.X2 - s.Radius});
+        e.Right = std::max({e.Right, s.X1 + s.Radius, s.X2 + s.Radius});
+        e.Low = std::min({e.Low, s.Y1 - s.Radius, s.Y2 - s.Radius});
+        e.High = std::max({e.High, s.Y1 + s.Radius, s.Y2 + s.Radius});
+    }
+    return e;
+}
+
+void Blend(std::uint8_t* pixel, base::Rgb ink, int weight)
+{
+    const base::Rgb below = base::Get(pixel);
+    base::Put(pixel, {base::Mix<Opaque>(below.R, ink.R, weight), base::Mix<Opaque>(below.G, ink.G, weight),
+                      base::Mix<Opaque>(below.B, ink.B, weight)});
+}
+
+// Paints a shaped glyph whose pen stands at x on the baseline, in coordinates of the surface (y downward).
+void Paint(const base::Surface& surface, const Shaped& shaped, double x, double baseline, base::Rgb colour,
+           const Clip& clip)
 {
     const auto strokes = shaped.Strokes.Items();
     if (strokes.empty())
         return;
-    double left = 1e9, right = -1e9, low = 1e9, high = -1e9;
-    for (const Segment& s : strokes)
-    {
-        left = std::min({left, s.X1 - s.Radius, s.X2 - s.Radius});
-        right = std::max({right, s.X1 + s.Radius, s.X2 + s.Radius});
-        low = std::min({low, s.Y1 - s.Radius, s.Y2 - s.Radius});
-        high = std::max({high, s.Y1 + s.Radius, s.Y2 + s.Radius});
-    }
+    const Extent extent = ExtentOf(strokes);
     const auto pixel = [](double v) { return base::RoundEven(Limited(v, -1e6, 1e6)); };
-    const Box box{std::max({pixel(x + left) - 1, clip.Left, 0}), std::max({pixel(base - high) - 1, clip.Top, 0}),
-                  std::min({pixel(x + right) + 2, clip.Right, surface.Width}),
-                  std::min({pixel(base - low) + 2, clip.Bottom, surface.Height})};
-    for (int row = box.Top; row < box.Bottom; ++row)
-        for (int column = box.Left; column < box.Right; ++column)
+    const std::int32_t left = std::max({pixel(x + extent.Left) - 1, clip.Left, 0});
+    const std::int32_t top = std::max({pixel(baseline - extent.High) - 1, clip.Top, 0});
+    const std::int32_t right = std::min({pixel(x + extent.Right) + 2, clip.Right, surface.Width});
+    const std::int32_t bottom = std::min({pixel(baseline - extent.Low) + 2, clip.Bottom, surface.Height});
+    for (std::int32_t row = top; row < bottom; ++row)
+        for (std::int32_t column = left; column < right; ++column)
         {
-            double outside = 1e9;
-            for (const Segment& s : strokes)
-                outside = std::min(outside, Outside(s, column + 0.5 - x, base - (row + 0.5)));
-            const int weight = base::RoundEven(Limited(0.5 - outside, 0, 1) * 256);
-            if (weight == 0)
-                continue;
-            const auto at =
-                static_cast<std::size_t>(surface.Height - 1 - row) * static_cast<std::size_t>(surface.RowBytes) +
-                static_cast<std::size_t>(column) * 3;
-            surface.Bits[at] = Mixed(surface.Bits[at], colour.B, weight);
-            surface.Bits[at + 1] = Mixed(surface.Bits[at + 1], colour.G, weight);
-            surface.Bits[at + 2] = Mixed(surface.Bits[at + 2], colour.R, weight);
+            const double outside = Outside(strokes, column + 0.5 - x, baseline - (row + 0.5));
+            const int weight = base::RoundEven(Limited(0.5 - outside, 0, 1) * Opaque);
+            if (weight != 0)
+                Blend(surface.At(column, surface.Height - 1 - row), colour, weight);
         }
-}
-
-bool Usable(const Surface& surface)
-{
-    return surface.Width > 0 && surface.Height > 0 && surface.RowBytes / 3 >= surface.Width &&
-           surface.Bits.size() >= static_cast<std::size_t>(surface.Height) * static_cast<std::size_t>(surface.RowBytes);
 }
 }
 
@@ -233,19 +236,15 @@ std::size_t GapAt(std::string_view utf8, const Style& style, double x)
     return gap;
 }
 
-double Draw(const Surface& surface, double x, double y, const Style& style, std::string_view utf8, Colour colour,
-            const Clip& clip)
+double Draw(const base::Surface& surface, double x, double y, const Style& style, std::string_view utf8,
+            base::Rgb colour, const Clip& clip)
 {
     const bool fitted = Metrics(style).Fitted;
     const double left = fitted ? Whole(x) : x;
-    const double base = (fitted ? Whole(y) : y) + Ascent(style.Size);
-    const bool usable = Usable(surface);
+    const double baseline = (fitted ? Whole(y) : y) + Ascent(style.Size);
     return Walk(utf8, style, left,
                 [&](const Shaped& shaped, double pen, std::size_t)
-                {
-                    if (usable)
-                        Paint(surface, shaped, pen, base, colour, clip);
-                });
+                { Paint(surface, shaped, pen, baseline, colour, clip); });
 }
 
 std::vector<Segment> Outline(std::string_view utf8, const Style& style)

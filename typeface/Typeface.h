@@ -1,11 +1,14 @@
-// typeface/Typeface.h: the typeface of the menus and panels, drawn from strokes at any size.
-// Pixels: x to the right, y downward from the top row of the surface, whose bytes are bottom-up blue-green-red rows.
-// Text is UTF-8; what has no glyph (ill-formed bytes too) shows as a box. The same call gives the same bytes
-// everywhere.
+// typeface/Typeface.h: the typeface of the menus and panels, drawn from strokes at any size. A library on base/ alone:
+// the game paints its controls with it, the generator of the data its pictures and fonts.
+// Pixels: x to the right, y downward from the top row of the surface (its last: rows lie bottom-up). Text is UTF-8;
+// what has no glyph (ill-formed bytes too) shows as a box. Nothing is kept from call to call, nothing fails, and the
+// same call gives the same bytes everywhere. Up to size 30 upright letters are fitted to whole pixels, beyond they are
+// scaled as they are.
 #pragma once
+#include "base/Pixels.h"
+
 #include <cstddef>
 #include <cstdint>
-#include <span>
 #include <string_view>
 #include <vector>
 
@@ -18,25 +21,13 @@ struct Style
     double Slant = 0;  // pixels to the right for each pixel up; other than 0 gives up the fit to whole pixels
 };
 
-struct Colour
-{
-    std::uint8_t R = 255, G = 255, B = 255;
-};
-
-// Borrowed pixels. Draws nothing when `Bits` is shorter than Height * RowBytes.
-struct Surface
-{
-    std::span<std::uint8_t> Bits;
-    int Width = 0, Height = 0, RowBytes = 0;
-};
-
-// Pixels that may change: Left <= x < Right, Top <= y < Bottom.
+// Pixels that may change: Left <= x < Right, Top <= y < Bottom; y downward. As large as any surface unless it says so.
 struct Clip
 {
     int Left = 0, Top = 0, Right = 1 << 20, Bottom = 1 << 20;
 };
 
-// From the baseline up to the top of an accented capital, and the distance from line to line.
+// Pixels from the top of a line's box down to the baseline, and from line to line. Whole up to size 30.
 double Ascent(double size);
 double LineHeight(double size);
 
@@ -51,9 +42,11 @@ inline double Width(std::string_view utf8, double size)
 // nearest to x pixels from the beginning.
 std::size_t GapAt(std::string_view utf8, const Style& style, double x);
 
-// Draws one line, its box (LineHeight high) beginning at (x, y). Returns the x behind it.
-double Draw(const Surface& surface, double x, double y, const Style& style, std::string_view utf8, Colour colour,
-            const Clip& clip = {});
+// Draws one line, its box (LineHeight high) beginning at (x, y); fitted letters begin at the nearest whole pixel.
+// Returns the x behind it, the same where nothing of it could be seen. Any numbers will do: what is far outside the
+// surface, or no number, draws nothing.
+double Draw(const base::Surface& surface, double x, double y, const Style& style, std::string_view utf8,
+            base::Rgb colour, const Clip& clip = {});
 
 // One straight piece of a stroke, `Radius` wide to each side, with round ends. Pixels, y upward from the baseline.
 struct Segment

@@ -1,5 +1,6 @@
 #include "webcam/Capture.h"
 
+#include "base/Pixels.h"
 #include "base/RuntimeError.h"
 
 #include <algorithm>
@@ -8,8 +9,8 @@ namespace webcam
 {
 namespace
 {
-constexpr std::size_t PixelBytes = 4;
-constexpr std::uint32_t WaitStep = 5; // milliseconds
+constexpr std::size_t CapturedBytes = 4; // a pixel of the webcam's
+constexpr std::uint32_t WaitStep = 5;    // milliseconds
 }
 
 std::int32_t InitCapture(platform::Webcam& device, Capture& capture)
@@ -21,7 +22,7 @@ std::int32_t InitCapture(platform::Webcam& device, Capture& capture)
     capture.Open = base::False;
     platform::CaptureParams& params = capture.Params;
     capture.Buffer.resize(static_cast<std::size_t>(params.Width) * static_cast<std::size_t>(params.Height) *
-                          PixelBytes);
+                          CapturedBytes);
     params.Target = capture.Buffer.data();
     if (!device.InitCapture(params))
         return ErrorNotReady;
@@ -55,17 +56,17 @@ bool GetFrame(platform::Webcam& device, Capture& capture, std::int32_t left, std
     if (capture.Open == base::False || !device.IsCaptureDone())
         return false;
     const platform::CaptureParams& params = capture.Params;
-    const std::int32_t columns = std::min({width, params.Width - left, frame.RowBytes / 3});
+    const std::int32_t columns = std::min({width, params.Width - left, frame.RowBytes / base::PixelBytes});
     const std::int32_t rows = std::min({height, params.Height - top, frame.Rows});
     for (std::int32_t y = 0; y < rows; ++y)
     {
         const std::int32_t row = params.Height - 1 - top - y;
-        const std::uint8_t* from = capture.Buffer.data() + PixelBytes * (static_cast<std::size_t>(row) *
-                                                                             static_cast<std::size_t>(params.Width) +
-                                                                         static_cast<std::size_t>(left));
+        const std::size_t first =
+            static_cast<std::size_t>(row) * static_cast<std::size_t>(params.Width) + static_cast<std::size_t>(left);
+        const std::uint8_t* from = capture.Buffer.data() + CapturedBytes * first;
         std::uint8_t* to = frame.Row(y);
-        for (std::int32_t x = 0; x < columns; ++x, from += PixelBytes, to += 3)
-            std::copy_n(from, 3, to);
+        for (std::int32_t x = 0; x < columns; ++x, from += CapturedBytes, to += base::PixelBytes)
+            base::CopyPixel(to, from);
     }
     device.DoCapture();
     return true;

@@ -15,19 +15,20 @@ inline constexpr std::int32_t CaptureWidth = 107, CaptureHeight = 80; // pixels
 
 // What goes wrong, by number.
 inline constexpr std::int32_t CaptureOK = 0;
-inline constexpr std::int32_t ErrorNoDevice = 513;
-inline constexpr std::int32_t ErrorNotReady = 514;
-inline constexpr std::int32_t ErrorTimeout = 1024;
+inline constexpr std::int32_t ErrorNoDevice = 513; // none was found at start-up
+inline constexpr std::int32_t ErrorNotReady = 514; // it is there and does not open
+inline constexpr std::int32_t ErrorTimeout = 1024; // no frame came in time
 
 struct Capture
 {
-    std::int32_t DeviceCount = 0;
-    base::Flag Open = base::False;
+    std::int32_t DeviceCount = 0;  // as SetupCapture found at start-up; 0: there is no webcam
+    base::Flag Open = base::False; // then one frame is always asked for and has not been taken
     platform::CaptureParams Params{nullptr, CaptureWidth, CaptureHeight};
-    std::vector<std::uint8_t> Buffer; // the target: 4 bytes a pixel, row 0 on top
+    // The target: 4 bytes a pixel, blue, green, red, unused, row 0 on top. The device writes into it while it is open.
+    std::vector<std::uint8_t> Buffer;
 };
 
-// Opens the first device and asks for its first frame. An error number, 0 where it went well.
+// Opens the first device, anew where it is open, and asks for its first frame. An error number, 0 where it went well.
 std::int32_t InitCapture(platform::Webcam& device, Capture& capture);
 
 // Waits until the frame asked for has come, handling window events, then closes the device. timeout: milliseconds; -1
@@ -35,10 +36,11 @@ std::int32_t InitCapture(platform::Webcam& device, Capture& capture);
 std::int32_t DeinitCapture(platform::Platform& platform, Capture& capture, std::int32_t timeout);
 
 // Where the frame asked for has come: turns the rectangle from (left, top), rows counted from the bottom, upside down
-// into the picture and asks for the next one. False: it has not come.
+// into the picture, as far as both have room, and asks for the next one. False: it has not come, or nothing is open.
 bool GetFrame(platform::Webcam& device, Capture& capture, std::int32_t left, std::int32_t top, std::int32_t width,
               std::int32_t height, render::PicArray2D& frame);
 
+// What the player reads: of the numbers above, or of a run-time error below them.
 std::string CaptureErrorText(std::int32_t number);
 }
 

@@ -2,25 +2,19 @@
 
 #include <algorithm>
 #include <cstdlib>
-#include <cstring>
 
 namespace webcam
 {
 namespace
 {
-std::size_t Index(std::int32_t width, std::int32_t x, std::int32_t y)
-{
-    return static_cast<std::size_t>(y) * static_cast<std::size_t>(width) + static_cast<std::size_t>(x);
-}
-
 void MeasureDifferences(Background& background, const render::PicArray2D& frame)
 {
     for (std::int32_t y = 0; y < background.Height; ++y)
     {
         const std::uint8_t* now = frame.Row(y);
         const std::uint8_t* empty = background.Frame.Row(y);
-        std::int16_t* difference = &background.Difference[Index(background.Width, 0, y)];
-        for (std::int32_t x = 0; x < background.Width; ++x, now += 3, empty += 3)
+        std::int16_t* difference = background.Difference.Row(y);
+        for (std::int32_t x = 0; x < background.Width; ++x, now += base::PixelBytes, empty += base::PixelBytes)
             difference[x] = static_cast<std::int16_t>(std::abs(now[0] - empty[0]) + std::abs(now[1] - empty[1]) +
                                                       std::abs(now[2] - empty[2]));
     }
@@ -32,10 +26,10 @@ void SumBlocks(Background& background)
     const std::int32_t width = background.Width;
     for (std::int32_t y = 1; y + 1 < background.Height; ++y)
     {
-        const std::int16_t* below = &background.Difference[Index(width, 0, y - 1)];
+        const std::int16_t* below = background.Difference.Row(y - 1);
         const std::int16_t* here = below + width;
         const std::int16_t* above = here + width;
-        std::int32_t* sum = &background.Sum[Index(width, 0, y)];
+        std::int32_t* sum = background.Sum.Row(y);
         for (std::int32_t x = 1; x + 1 < width; ++x)
             sum[x] = below[x - 1] + below[x] + below[x + 1] + here[x - 1] + here[x] + here[x + 1] + above[x - 1] +
                      above[x] + above[x + 1];
@@ -54,15 +48,14 @@ std::int32_t MotionAmount(MotionDetector& detector, const render::PicArray2D& fr
         return StillMoving;
     }
     std::int64_t total = 0;
-    const auto used = static_cast<std::size_t>(width) * 3; // the padding of a row is not looked at
+    const std::int32_t used = width * base::PixelBytes; // the padding of a row is not looked at
     for (std::int32_t y = 0; y < height; ++y)
     {
         const std::uint8_t* now = frame.Row(y);
-        std::uint8_t* previous =
-            detector.Previous.data() + static_cast<std::size_t>(y) * static_cast<std::size_t>(frame.RowBytes);
-        for (std::size_t i = 0; i < used; ++i)
+        std::uint8_t* previous = detector.Previous.data() + static_cast<std::ptrdiff_t>(y) * frame.RowBytes;
+        for (std::int32_t i = 0; i < used; ++i)
             total += std::abs(now[i] - previous[i]);
-        std::memcpy(previous, now, used);
+        std::copy_n(now, used, previous);
     }
     return static_cast<std::int32_t>(std::min<std::int64_t>(total / (height + 3 * width), StillMoving));
 }
@@ -72,14 +65,13 @@ void SetBackground(Background& background, const render::PicArray2D& frame, cons
     background.Width = header.biWidth;
     background.Height = header.biHeight;
     background.Frame = frame;
-    const auto pixels = static_cast<std::size_t>(header.biWidth) * static_cast<std::size_t>(header.biHeight);
-    background.Difference.resize(pixels);
-    background.Sum.resize(pixels);
+    background.Difference.Reset(header.biWidth, header.biHeight);
+    background.Sum.Reset(header.biWidth, header.biHeight);
 }
 
 void ReplaceBackground(Background& background, render::PicArray2D& frame, const render::Picture& backdrop)
 {
-    if (background.Width == 0 || frame.Rows < background.Height || frame.RowBytes < 3 * background.Width)
+    if (background.Width == 0 || frame.Rows < background.Height || frame.RowBytes < base::PixelBytes * background.Width)
         return;
     MeasureDifferences(background, frame);
     SumBlocks(background);
@@ -87,12 +79,12 @@ void ReplaceBackground(Background& background, render::PicArray2D& frame, const 
     const std::int32_t columns = std::min(background.Width, backdrop.Info.Width);
     for (std::int32_t y = 0; y < rows; ++y)
     {
-        const std::int32_t* sum = &background.Sum[Index(background.Width, 0, y)];
+        const std::int32_t* sum = background.Sum.Row(y);
         const std::uint8_t* from = backdrop.Pixels.Row(y);
         std::uint8_t* to = frame.Row(y);
-        for (std::int32_t x = 0; x < columns; ++x, from += 3, to += 3)
+        for (std::int32_t x = 0; x < columns; ++x, from += base::PixelBytes, to += base::PixelBytes)
             if (sum[x] < ForegroundSum)
-                std::copy_n(from, 3, to);
+                base::CopyPixel(to, from);
     }
 }
 
@@ -101,9 +93,10 @@ void CopyInset(const render::PicArray2D& frame, std::int32_t left, std::int32_t 
 {
     if (left < 0 || top < 0)
         return;
-    const std::int32_t columns = std::min({width, frame.RowBytes / 3 - left, destination.RowBytes / 3});
+    const std::int32_t columns =
+        std::min({width, frame.RowBytes / base::PixelBytes - left, destination.RowBytes / base::PixelBytes});
     const std::int32_t rows = std::min({height, frame.Rows - top, destination.Rows});
     for (std::int32_t y = 0; y < rows && columns > 0; ++y)
-        std::copy_n(frame.Row(top + y) + 3 * left, 3 * columns, destination.Row(y));
+        std::copy_n(frame.Row(top + y) + base::PixelBytes * left, base::PixelBytes * columns, destination.Row(y));
 }
 }

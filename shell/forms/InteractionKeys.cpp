@@ -1,5 +1,6 @@
 // The keys and typed characters. Characters are typed text and what goes by them (Backspace, Ctrl+A, C, V, X);
 // everything else goes by key codes.
+#include "platform/Keys.h"
 #include "shell/forms/Interaction.h"
 
 #include <algorithm>
@@ -8,10 +9,6 @@ namespace forms
 {
 namespace
 {
-constexpr std::int16_t KeyTab = 9, KeyEnter = 13, KeyShift = 16, KeyCtrl = 17, KeyAlt = 18, KeyEsc = 27, KeySpace = 32,
-                       KeyLeft = 37, KeyUpArrow = 38, KeyRight = 39, KeyDownArrow = 40, KeyInsert = 45, KeyDelete = 46,
-                       KeyF4 = 115;
-constexpr std::uint8_t CtrlA = 1, CtrlC = 3, CtrlV = 22, CtrlX = 24;
 constexpr std::int32_t LevelStep = 5; // per cent
 }
 
@@ -19,22 +16,22 @@ void Interaction::KeyUp(std::int16_t code)
 {
     if (Holds(code))
         Release();
-    if (code == KeyShift)
+    if (code == platform::KeyShift)
         Shift = false;
-    else if (code == KeyCtrl)
+    else if (code == platform::KeyCtrl)
         Ctrl = false;
-    else if (code == KeyAlt)
+    else if (code == platform::KeyAlt)
         Alt = false;
 }
 
 void Interaction::KeyDown(std::int16_t code)
 {
     Settle();
-    if (code == KeyShift)
+    if (code == platform::KeyShift)
         Shift = true;
-    else if (code == KeyCtrl)
+    else if (code == platform::KeyCtrl)
         Ctrl = true;
-    else if (code == KeyAlt)
+    else if (code == platform::KeyAlt)
         Alt = true;
     if (Holds(code) || (IsListOpen() && ListKey(code)))
         return;
@@ -46,16 +43,16 @@ void Interaction::KeyDown(std::int16_t code)
         return;
     switch (code)
     {
-    case KeyTab:
+    case platform::KeyTab:
         return StepFocus(Shift ? -1 : 1);
-    case KeyUpArrow:
+    case platform::KeyUp:
         return StepFocus(-1);
-    case KeyDownArrow:
+    case platform::KeyDown:
         return StepFocus(1);
-    case KeyEnter:
-    case KeySpace:
+    case platform::KeyEnter:
+    case platform::KeySpace:
         return Activate(code);
-    case KeyEsc:
+    case platform::KeyEsc:
         ClickDefault();
         return Hold(code);
     default:
@@ -87,7 +84,7 @@ void Interaction::StepFocus(int step)
 void Interaction::Activate(std::int16_t code)
 {
     Control* target = Focused();
-    const bool isEnter = code == KeyEnter;
+    const bool isEnter = code == platform::KeyEnter;
     if (target == nullptr && isEnter)
         target = Of(TheMarks.Hot);
     if (target != nullptr && IsEdited(*target))
@@ -122,9 +119,10 @@ void Interaction::ClickDefault()
 
 bool Interaction::LevelKey(Control& picture, std::int16_t code)
 {
-    if (picture.Type != Kind::Picture || !Owner.HasPointer(picture) || (code != KeyLeft && code != KeyRight))
+    if (picture.Type != Kind::Picture || !Owner.HasPointer(picture) ||
+        (code != platform::KeyLeft && code != platform::KeyRight))
         return false;
-    const std::int32_t level = std::clamp(picture.Value + (code == KeyLeft ? -LevelStep : LevelStep), 0, 100);
+    const std::int32_t level = std::clamp(picture.Value + (code == platform::KeyLeft ? -LevelStep : LevelStep), 0, 100);
     Owner.PointedAt(picture, (picture.Place.W * level + 50) / 100);
     Owner.Changed();
     return true;
@@ -133,9 +131,9 @@ bool Interaction::LevelKey(Control& picture, std::int16_t code)
 bool Interaction::BoxKey(Control& box, std::int16_t code)
 {
     const bool isCombo = box.Type == Kind::ComboBox;
-    if (isCombo && (code == KeyUpArrow || code == KeyDownArrow) && !Alt)
-        StepItem(box, code == KeyDownArrow ? 1 : -1);
-    else if (isCombo && ((code == KeyDownArrow && Alt) || (code == KeyF4 && !Alt)))
+    if (isCombo && (code == platform::KeyUp || code == platform::KeyDown) && !Alt)
+        StepItem(box, code == platform::KeyDown ? 1 : -1);
+    else if (isCombo && ((code == platform::KeyDown && Alt) || (code == platform::KeyF4 && !Alt)))
         OpenList(box);
     else if (!ClipboardKey(box, code))
         return EditKey(box.Text, TheMarks.Edit, code, Shift, Ctrl);
@@ -145,11 +143,11 @@ bool Interaction::BoxKey(Control& box, std::int16_t code)
 // The older names of copy, paste and cut.
 bool Interaction::ClipboardKey(Control& box, std::int16_t code)
 {
-    if (code == KeyInsert && Ctrl)
+    if (code == platform::KeyInsert && Ctrl)
         Copy(box, false);
-    else if (code == KeyInsert && Shift)
+    else if (code == platform::KeyInsert && Shift)
         Paste(box);
-    else if (code == KeyDelete && Shift)
+    else if (code == platform::KeyDelete && Shift)
         Copy(box, true);
     else
         return false;
@@ -175,18 +173,18 @@ void Interaction::Character(std::uint8_t code)
     Settle();
     Control* box = Focused();
     // The space bar that has opened a panel types nothing into it.
-    if (box == nullptr || !IsEdited(*box) || (code == KeySpace && Holds(KeySpace)))
+    if (box == nullptr || !IsEdited(*box) || (code == ' ' && Holds(platform::KeySpace)))
         return;
     switch (code)
     {
-    case CtrlA:
+    case platform::CtrlA:
         SelectAll(TheMarks.Edit, box->Text);
         break;
-    case CtrlC:
-    case CtrlX:
-        Copy(*box, code == CtrlX);
+    case platform::CtrlC:
+    case platform::CtrlX:
+        Copy(*box, code == platform::CtrlX);
         break;
-    case CtrlV:
+    case platform::CtrlV:
         Paste(*box);
         break;
     default:

@@ -1,4 +1,5 @@
 // The list of a combo box.
+#include "platform/Keys.h"
 #include "shell/forms/Boxes.h"
 #include "shell/forms/Interaction.h"
 
@@ -8,7 +9,6 @@ namespace forms
 {
 namespace
 {
-constexpr std::int16_t KeyTab = 9, KeyEnter = 13, KeyEsc = 27, KeyUpArrow = 38, KeyDownArrow = 40, KeyF4 = 115;
 
 // The item that the text is; -1 another text.
 std::int32_t ItemOf(const Control& box)
@@ -86,20 +86,20 @@ void Interaction::StepItem(Control& box, int step)
 bool Interaction::ListKey(std::int16_t code)
 {
     Control& box = *Of(TheMarks.List.Owner);
-    const bool isArrow = code == KeyUpArrow || code == KeyDownArrow;
+    const bool isArrow = code == platform::KeyUp || code == platform::KeyDown;
     if (isArrow && !Alt)
     {
-        ShowItem(box, Stepped(box, TheMarks.List.Item, code == KeyDownArrow ? 1 : -1));
+        ShowItem(box, Stepped(box, TheMarks.List.Item, code == platform::KeyDown ? 1 : -1));
         Owner.Changed();
         return true;
     }
-    if (code == KeyEnter && TheMarks.List.Item >= 0)
+    if (code == platform::KeyEnter && TheMarks.List.Item >= 0)
         Choose(box, TheMarks.List.Item);
-    else if (code == KeyEnter || code == KeyEsc || code == KeyF4 || isArrow)
+    else if (code == platform::KeyEnter || code == platform::KeyEsc || code == platform::KeyF4 || isArrow)
         CloseList();
     else
     {
-        if (code == KeyTab)
+        if (code == platform::KeyTab)
             CloseList();
         return false;
     }

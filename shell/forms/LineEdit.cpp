@@ -1,6 +1,7 @@
 #include "shell/forms/LineEdit.h"
 
 #include "base/Text.h"
+#include "platform/Keys.h"
 
 #include <algorithm>
 
@@ -8,8 +9,6 @@ namespace forms
 {
 namespace
 {
-constexpr std::int16_t KeyEnd = 35, KeyHome = 36, KeyLeft = 37, KeyRight = 39, KeyDelete = 46;
-constexpr std::uint8_t Backspace = 8;
 
 // The codes that the system code page leaves open stand for control characters too.
 bool IsPrintable(std::uint8_t code)
@@ -153,27 +152,27 @@ bool EditKey(std::string& line, Selection& selection, std::int16_t code, bool sh
     const bool collapses = !shift && !ctrl && !selection.IsEmpty();
     switch (code)
     {
-    case KeyHome:
+    case platform::KeyHome:
         MoveCaret(selection, 0, shift);
         return true;
-    case KeyEnd:
+    case platform::KeyEnd:
         MoveCaret(selection, line.size(), shift);
         return true;
-    case KeyLeft:
+    case platform::KeyLeft:
         MoveCaret(selection,
                   collapses ? selection.First()
                   : ctrl    ? WordBefore(line, caret)
                             : Before(line, caret),
                   shift);
         return true;
-    case KeyRight:
+    case platform::KeyRight:
         MoveCaret(selection,
                   collapses ? selection.Last()
                   : ctrl    ? WordBehind(line, caret)
                             : Behind(line, caret),
                   shift);
         return true;
-    case KeyDelete:
+    case platform::KeyDelete:
         if (selection.IsEmpty())
             selection.Anchor = ctrl ? WordBehind(line, caret) : Behind(line, caret);
         EraseSelected(line, selection);
@@ -185,7 +184,7 @@ bool EditKey(std::string& line, Selection& selection, std::int16_t code, bool sh
 
 bool EditCharacter(std::string& line, Selection& selection, std::uint8_t code)
 {
-    if (code == Backspace)
+    if (code == platform::Backspace)
     {
         if (selection.IsEmpty())
             selection.Anchor = Before(line, selection.Caret);

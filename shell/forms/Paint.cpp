@@ -1,7 +1,9 @@
 #include "shell/forms/Paint.h"
 
+#include "base/Geometry.h"
 #include "base/Math.h"
 #include "base/Numbers.h"
+#include "shell/forms/LineEdit.h"
 #include "typeface/Typeface.h"
 
 #include <algorithm>
@@ -10,16 +12,17 @@ namespace forms
 {
 namespace
 {
+constexpr int Opaque = 255;
+
 std::uint8_t Mix(int below, int above, int alpha)
 {
-    return static_cast<std::uint8_t>((below * (255 - alpha) + above * alpha + 127) / 255);
+    return base::Mix<Opaque>(below, above, alpha);
 }
 
-void Blend(std::uint8_t* pixel, Colour colour, int alpha)
+void Blend(std::uint8_t* pixel, base::Rgb colour, int alpha)
 {
-    pixel[0] = Mix(pixel[0], colour.B, alpha);
-    pixel[1] = Mix(pixel[1], colour.G, alpha);
-    pixel[2] = Mix(pixel[2], colour.R, alpha);
+    const base::Rgb below = base::Get(pixel);
+    base::Put(pixel, {Mix(below.R, colour.R, alpha), Mix(below.G, colour.G, alpha), Mix(below.B, colour.B, alpha)});
 }
 
 Rect ClippedTo(const Canvas& canvas, const Rect& rect)
@@ -67,37 +70,31 @@ void Canvas::Resize(std::int32_t width, std::int32_t height)
         return;
     Width = width;
     Height = height;
-    RowBytes = (width * 3 + 3) / 4 * 4;
+    RowBytes = base::PaddedRow(width);
     Bytes.assign(static_cast<std::size_t>(RowBytes) * static_cast<std::size_t>(height), 0);
 }
 
-std::uint8_t* Canvas::At(std::int32_t x, std::int32_t y)
-{
-    return Bytes.data() + static_cast<std::size_t>(Height - 1 - y) * static_cast<std::size_t>(RowBytes) +
-           3 * static_cast<std::size_t>(x);
-}
-
-void Fill(Canvas& canvas, const Rect& rect, Colour colour, int alpha)
+void Fill(Canvas& canvas, const Rect& rect, base::Rgb colour, int alpha)
 {
     FillDownward(canvas, rect, colour, alpha, colour, alpha);
 }
 
-void FillDownward(Canvas& canvas, const Rect& rect, Colour top, int topAlpha, Colour bottom, int bottomAlpha)
+void FillDownward(Canvas& canvas, const Rect& rect, base::Rgb top, int topAlpha, base::Rgb bottom, int bottomAlpha)
 {
     const Rect inside = ClippedTo(canvas, rect);
     const int span = std::max(1, rect.H - 1);
     for (std::int32_t y = inside.Y; y < inside.Y + inside.H; ++y)
     {
-        const int part = (y - rect.Y) * 255 / span;
-        const Colour colour = {Mix(top.R, bottom.R, part), Mix(top.G, bottom.G, part), Mix(top.B, bottom.B, part)};
+        const int part = (y - rect.Y) * Opaque / span;
+        const base::Rgb colour = {Mix(top.R, bottom.R, part), Mix(top.G, bottom.G, part), Mix(top.B, bottom.B, part)};
         const int alpha = Mix(topAlpha, bottomAlpha, part);
         std::uint8_t* pixel = canvas.At(inside.X, y);
-        for (std::int32_t x = 0; x < inside.W; ++x, pixel += 3)
+        for (std::int32_t x = 0; x < inside.W; ++x, pixel += base::PixelBytes)
             Blend(pixel, colour, alpha);
     }
 }
 
-void FillRounded(Canvas& canvas, const Rect& rect, double radius, Colour colour, int alpha)
+void FillRounded(Canvas& canvas, const Rect& rect, double radius, base::Rgb colour, int alpha)
 {
     const Rect inside = ClippedTo(canvas, rect);
     const RoundBox box(rect, radius, 0);
@@ -106,7 +103,7 @@ void FillRounded(Canvas& canvas, const Rect& rect, double radius, Colour colour,
             Blend(canvas.At(x, y), colour, base::RoundEven(box.Coverage(x, y) * alpha));
 }
 
-void OutlineRounded(Canvas& canvas, const Rect& rect, double radius, double thickness, Colour colour, int alpha)
+void OutlineRounded(Canvas& canvas, const Rect& rect, double radius, double thickness, base::Rgb colour, int alpha)
 {
     const Rect inside = ClippedTo(canvas, rect);
     const RoundBox outer(rect, radius, 0), inner(rect, radius, thickness);
@@ -128,20 +125,18 @@ void OutlineRounded(Canvas& canvas, const Rect& rect, double radius, double thic
     }
 }
 
-void DrawStroke(Canvas& canvas, double x1, double y1, double x2, double y2, double thickness, Colour colour, int alpha)
+void DrawStroke(Canvas& canvas, double x1, double y1, double x2, double y2, double thickness, base::Rgb colour,
+                int alpha)
 {
-    const double radius = thickness / 2, dx = x2 - x1, dy = y2 - y1;
-    const double length = dx * dx + dy * dy;
+    const double radius = thickness / 2;
     const std::int32_t left = base::Floor(std::min(x1, x2) - radius), top = base::Floor(std::min(y1, y2) - radius);
     const std::int32_t right = base::Floor(std::max(x1, x2) + radius), bottom = base::Floor(std::max(y1, y2) + radius);
     const Rect inside = ClippedTo(canvas, {left, top, right - left + 1, bottom - top + 1});
     for (std::int32_t y = inside.Y; y < inside.Y + inside.H; ++y)
         for (std::int32_t x = inside.X; x < inside.X + inside.W; ++x)
         {
-            const double px = x + 0.5 - x1, py = y + 0.5 - y1;
-            const double along = length > 0 ? std::clamp((px * dx + py * dy) / length, 0.0, 1.0) : 0.0;
-            const double ox = px - along * dx, oy = py - along * dy;
-            const double cover = std::clamp(radius + 0.5 - base::Sqrt(ox * ox + oy * oy), 0.0, 1.0);
+            const double distance = base::DistanceToSegment(x + 0.5, y + 0.5, x1, y1, x2, y2);
+            const double cover = std::clamp(radius + 0.5 - distance, 0.0, 1.0);
             Blend(canvas.At(x, y), colour, base::RoundEven(cover * alpha));
         }
 }
@@ -151,32 +146,27 @@ void Draw(Canvas& canvas, const Image& image, std::int32_t x, std::int32_t y, in
     const Rect inside = ClippedTo(canvas, {x, y, image.Width, image.Height});
     for (std::int32_t row = inside.Y; row < inside.Y + inside.H; ++row)
     {
-        const Image::Pixel* from = image.Pixels.data() +
-                                   static_cast<std::size_t>(row - y) * static_cast<std::size_t>(image.Width) +
-                                   (inside.X - x);
+        const ImagePixel* from = image.Row(row - y) + (inside.X - x);
         std::uint8_t* to = canvas.At(inside.X, row);
-        for (std::int32_t column = 0; column < inside.W; ++column, ++from, to += 3)
-            Blend(to, {from->R, from->G, from->B}, from->A * alpha / 255);
+        for (std::int32_t column = 0; column < inside.W; ++column, ++from, to += base::PixelBytes)
+            Blend(to, from->Colour, from->Alpha * alpha / Opaque);
     }
 }
 
-void Stretch(Canvas& canvas, const Rect& rect, std::int32_t width, std::int32_t height, std::int32_t rowBytes,
-             const std::uint8_t* bits)
+void Stretch(Canvas& canvas, const Rect& rect, const base::ConstSurface& picture)
 {
-    if (width <= 0 || height <= 0)
+    if (picture.Width <= 0 || picture.Height <= 0)
         return;
+    // The pixel of `of` that lies under the one `at` of `length`.
+    const auto under = [](std::int32_t at, std::int32_t length, std::int32_t of)
+    { return static_cast<std::int32_t>(std::int64_t{at} * of / length); };
     const Rect inside = ClippedTo(canvas, rect);
     for (std::int32_t y = inside.Y; y < inside.Y + inside.H; ++y)
     {
-        const auto fromY = static_cast<std::int32_t>(static_cast<std::int64_t>(y - rect.Y) * height / rect.H);
-        const std::uint8_t* from =
-            bits + static_cast<std::size_t>(height - 1 - fromY) * static_cast<std::size_t>(rowBytes);
+        const std::uint8_t* from = picture.Row(picture.Height - 1 - under(y - rect.Y, rect.H, picture.Height));
         std::uint8_t* to = canvas.At(inside.X, y);
-        for (std::int32_t x = inside.X; x < inside.X + inside.W; ++x, to += 3)
-        {
-            const auto fromX = static_cast<std::int32_t>(static_cast<std::int64_t>(x - rect.X) * width / rect.W);
-            std::copy_n(from + 3 * static_cast<std::size_t>(fromX), 3, to);
-        }
+        for (std::int32_t x = inside.X; x < inside.X + inside.W; ++x, to += base::PixelBytes)
+            base::CopyPixel(to, from + base::PixelBytes * under(x - rect.X, rect.W, picture.Width));
     }
 }
 
@@ -185,7 +175,7 @@ std::int32_t MeasureText(std::string_view text, double size, double weight)
     return base::RoundEven(typeface::Width(ShownPart(text), {size, weight, 0}));
 }
 
-void DrawText(Canvas& canvas, const Rect& rect, std::string_view text, double size, double weight, Colour colour,
+void DrawText(Canvas& canvas, const Rect& rect, std::string_view text, double size, double weight, base::Rgb colour,
               Align align)
 {
     std::int32_t width = MeasureText(text, size, weight);
@@ -193,16 +183,13 @@ void DrawText(Canvas& canvas, const Rect& rect, std::string_view text, double si
         size -= 0.5;
     const std::int32_t spare = rect.W - width;
     const std::int32_t x = rect.X + (align == Align::Left ? 0 : align == Align::Right ? spare : spare / 2);
-    const typeface::Surface surface = {canvas.Bytes, canvas.Width, canvas.Height, canvas.RowBytes};
-    typeface::Draw(surface, x, LineTop(rect, size), {size, weight, 0}, ShownPart(text), {colour.R, colour.G, colour.B});
+    typeface::Draw(canvas.View(), x, LineTop(rect, size), {size, weight, 0}, ShownPart(text), colour);
 }
 
-void DrawLine(Canvas& canvas, const Rect& rect, std::int32_t x, std::string_view text, double size, Colour colour)
+void DrawLine(Canvas& canvas, const Rect& rect, std::int32_t x, std::string_view text, double size, base::Rgb colour)
 {
-    const typeface::Surface surface = {canvas.Bytes, canvas.Width, canvas.Height, canvas.RowBytes};
     const typeface::Clip clip = {rect.X, rect.Y, rect.X + rect.W, rect.Y + rect.H};
-    typeface::Draw(surface, x, LineTop(rect, size), {size, 1, 0}, ShownPart(text), {colour.R, colour.G, colour.B},
-                   clip);
+    typeface::Draw(canvas.View(), x, LineTop(rect, size), {size, 1, 0}, ShownPart(text), colour, clip);
 }
 
 std::vector<std::string_view> BreakLines(std::string_view text, double size, double weight, std::int32_t width)
@@ -224,8 +211,8 @@ std::vector<std::string_view> BreakLines(std::string_view text, double size, dou
     return lines;
 }
 
-void DrawParagraph(Canvas& canvas, const Rect& rect, std::string_view text, double size, double weight, Colour colour,
-                   Align align)
+void DrawParagraph(Canvas& canvas, const Rect& rect, std::string_view text, double size, double weight,
+                   base::Rgb colour, Align align)
 {
     std::vector<std::string_view> lines = BreakLines(text, size, weight, rect.W);
     // No more lines than needed, and then as even as they get: no word stands alone at the end.

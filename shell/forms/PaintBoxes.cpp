@@ -1,7 +1,7 @@
-// Text boxes, combo boxes with their list, check boxes.
+#include "shell/forms/PaintBoxes.h"
+
 #include "base/Numbers.h"
 #include "shell/forms/Boxes.h"
-#include "shell/forms/Style.h"
 #include "typeface/Typeface.h"
 
 #include <algorithm>
@@ -46,7 +46,7 @@ void PaintCaret(Canvas& canvas, const Control& box, const Rect& room, const Mark
 }
 
 // A tip that points down, as wide as a small letter.
-void PaintTip(Canvas& canvas, const Rect& place, std::int32_t textSize, Colour colour)
+void PaintTip(Canvas& canvas, const Rect& place, std::int32_t textSize, base::Rgb colour)
 {
     const double x = place.X + place.W / 2.0, y = place.Y + place.H / 2.0;
     const double reach = textSize * 0.26, thick = std::max(1.2, textSize * 0.11);
@@ -88,7 +88,7 @@ void PaintCheckBox(Canvas& canvas, const Control& box, const Rect& place, const 
         PaintField(canvas, square, radius, {hot, state.Pressed, false, state.Enabled});
     if (ticked)
     {
-        const Colour ink = state.Enabled ? Night : Faint;
+        const base::Rgb ink = state.Enabled ? Night : Faint;
         const double thick = std::max(1.4, side * 0.13), x = square.X, y = square.Y;
         DrawStroke(canvas, x + side * 0.24, y + side * 0.53, x + side * 0.43, y + side * 0.72, thick, ink);
         DrawStroke(canvas, x + side * 0.43, y + side * 0.72, x + side * 0.77, y + side * 0.3, thick, ink);

@@ -1,6 +1,7 @@
-// How each kind of control looks: dark translucent boxes, pale text, one warm accent.
+#include "shell/forms/PaintForm.h"
+
 #include "base/Numbers.h"
-#include "shell/forms/Paint.h"
+#include "shell/forms/PaintBoxes.h"
 #include "shell/forms/Style.h"
 
 #include <algorithm>
@@ -89,7 +90,7 @@ void PaintKey(Canvas& canvas, const Control& label, const Rect& place, const Sta
         OutlineRounded(canvas, place, radius, Unit(canvas, 1), hot ? Pale : Accent, hot ? 160 : 80);
     if (state.Focus)
         PaintRing(canvas, place, radius);
-    const Colour ink = !state.Enabled ? Faint : fixed ? Muted : hot ? Night : Pale;
+    const base::Rgb ink = !state.Enabled ? Faint : fixed ? Muted : hot ? Night : Pale;
     const std::int32_t arrow = label.Style == Look::Choice ? place.H * 2 / 3 : 0;
     const Rect text = {place.X + 4 + arrow / 2, place.Y, place.W - 8 - arrow - arrow / 2, place.H};
     DrawText(canvas, text, label.Caption, label.TextSize, 1, ink, Align::Centre);
@@ -97,7 +98,7 @@ void PaintKey(Canvas& canvas, const Control& label, const Rect& place, const Sta
         return;
     const double reach = label.TextSize * 0.22, x = place.X + place.W - arrow * 0.75, y = place.Y + place.H / 2.0;
     const double thick = std::max(1.2, label.TextSize * 0.1);
-    const Colour tip = hot || !state.Enabled ? ink : Accent;
+    const base::Rgb tip = hot || !state.Enabled ? ink : Accent;
     DrawStroke(canvas, x - reach / 2, y - reach, x + reach / 2, y, thick, tip);
     DrawStroke(canvas, x + reach / 2, y, x - reach / 2, y + reach, thick, tip);
 }
@@ -105,7 +106,7 @@ void PaintKey(Canvas& canvas, const Control& label, const Rect& place, const Sta
 // Underlined, as words that one can click are.
 void PaintLink(Canvas& canvas, const Control& label, const Rect& place, const State& state)
 {
-    const Colour colour = !state.Enabled ? Faint : state.Hot ? Pale : Accent;
+    const base::Rgb colour = !state.Enabled ? Faint : state.Hot ? Pale : Accent;
     if (state.Focus)
         PaintRing(canvas, place, Unit(canvas, 3));
     DrawText(canvas, place, label.Caption, label.TextSize, 1, colour, label.TextAlign);
@@ -129,7 +130,7 @@ void PaintGlow(Canvas& canvas, const Rect& place)
 void PaintLabel(Canvas& canvas, const Control& label, const Rect& place, const State& state)
 {
     const bool stands = (state.Hot || state.Focus) && state.Enabled;
-    const auto draw = [&](double weight, Colour colour) {
+    const auto draw = [&](double weight, base::Rgb colour) {
         DrawText(canvas, place, label.Caption, label.TextSize, weight, state.Enabled ? colour : Faint, label.TextAlign);
     };
     switch (label.Style)
@@ -165,13 +166,30 @@ void PaintLabel(Canvas& canvas, const Control& label, const Rect& place, const S
         break;
     }
 }
-}
 
-void PaintRing(Canvas& canvas, const Rect& place, double radius)
+void PaintControl(Canvas& canvas, const Control& control, const Rect& place, const State& state, const Marks& marks,
+                  PicturePainter& pictures)
 {
-    const std::int32_t gap = std::max(2, base::RoundEven(Unit(canvas, 2.5)));
-    const Rect ring = {place.X - gap, place.Y - gap, place.W + 2 * gap, place.H + 2 * gap};
-    OutlineRounded(canvas, ring, radius + gap, std::max(1.0, Unit(canvas, 1.5)), Accent, 255);
+    switch (control.Type)
+    {
+    case Kind::Label:
+        return PaintLabel(canvas, control, place, state);
+    case Kind::Button:
+        return PaintButton(canvas, control, place, state);
+    case Kind::TextBox:
+    case Kind::ComboBox:
+        return PaintTextBox(canvas, control, place, state, marks);
+    case Kind::CheckBox:
+        return PaintCheckBox(canvas, control, place, state);
+    case Kind::Picture:
+        pictures.PaintPicture(canvas, control, place);
+        if (state.Focus)
+            PaintRing(canvas, place, place.H / 2.0);
+        return;
+    case Kind::Frame:
+        return;
+    }
+}
 }
 
 void DrawLevel(Canvas& canvas, const Rect& rect, double share, bool enabled)
@@ -199,29 +217,7 @@ void PaintForm(Canvas& canvas, const Form& form, const Marks& marks, PicturePain
             continue;
         const std::int16_t index = form.IndexOf(control);
         const State state = {index == marks.Hot, index == marks.Pressed, index == form.Focus, form.IsEnabled(control)};
-        switch (control.Type)
-        {
-        case Kind::Label:
-            PaintLabel(canvas, control, place, state);
-            break;
-        case Kind::Button:
-            PaintButton(canvas, control, place, state);
-            break;
-        case Kind::TextBox:
-        case Kind::ComboBox:
-            PaintTextBox(canvas, control, place, state, marks);
-            break;
-        case Kind::CheckBox:
-            PaintCheckBox(canvas, control, place, state);
-            break;
-        case Kind::Picture:
-            pictures.PaintPicture(canvas, control, place);
-            if (state.Focus)
-                PaintRing(canvas, place, place.H / 2.0);
-            break;
-        case Kind::Frame:
-            break;
-        }
+        PaintControl(canvas, control, place, state, marks, pictures);
     }
     const auto owner = static_cast<std::size_t>(marks.List.Owner);
     if (marks.List.Owner >= 0 && owner < form.Controls.size())

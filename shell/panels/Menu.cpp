@@ -26,7 +26,7 @@ constexpr std::array<EntryDesign, 4> Designs = {{
 }};
 constexpr std::size_t Start = 0, Options = 1, Credits = 2, Exit = 3;
 
-constexpr forms::Colour Shade = {10, 12, 20};
+constexpr base::Rgb Shade = {10, 12, 20};
 
 std::int32_t Part(std::int32_t whole, double share)
 {

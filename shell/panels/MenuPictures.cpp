@@ -1,6 +1,7 @@
 #include "shell/panels/MenuPictures.h"
 
 #include "base/Numbers.h"
+#include "shell/forms/Scale.h"
 
 #include <algorithm>
 

@@ -15,10 +15,10 @@ using forms::Look;
 struct Stage
 {
     const char* Text; // what the player is told
-    forms::Colour Colour;
+    base::Rgb Colour;
 };
 
-constexpr forms::Colour Done = {96, 208, 112};
+constexpr base::Rgb Done = {96, 208, 112};
 
 constexpr std::array<Stage, 5> Stages = {{
     {"", forms::Muted},
@@ -126,8 +126,9 @@ void Webcam::ShowCalibration()
 
 void Webcam::PaintPreview(forms::Canvas& canvas, const forms::Rect& place) const
 {
-    forms::Stretch(canvas, place, TheWebcam.FrameHeader.biWidth, TheWebcam.FrameHeader.biHeight,
-                   TheWebcam.Frame.RowBytes, TheWebcam.Frame.Bytes.data());
+    forms::Stretch(canvas, place,
+                   {TheWebcam.Frame.Bytes.data(), TheWebcam.Frame.RowBytes, TheWebcam.FrameHeader.biWidth,
+                    TheWebcam.FrameHeader.biHeight});
     constexpr double around = 2;
     forms::OutlineRounded(canvas, {place.X - 2, place.Y - 2, place.W + 4, place.H + 4}, around, around,
                           StageOf(TheWebcam.State).Colour);

@@ -3,6 +3,7 @@
 #pragma once
 #include "shell/forms/Boxes.h"
 #include "shell/forms/Interaction.h"
+#include "shell/forms/PaintForm.h"
 #include "shell/forms/Style.h"
 #include "tests/support/Pixels.h"
 
@@ -104,7 +105,7 @@ struct Panel : forms::FormOwner, forms::PicturePainter
         forms::PaintForm(Canvas, Form, Marks(), *this);
     }
     Rgb PixelAt(std::int32_t x, std::int32_t y) { return support::PixelAt(Canvas, x, y); }
-    int CountOf(const forms::Rect& where, forms::Colour colour)
+    int CountOf(const forms::Rect& where, base::Rgb colour)
     {
         int count = 0;
         for (std::int32_t y = where.Y; y < where.Y + where.H; ++y)

@@ -16,7 +16,7 @@ inline Rgb PixelAt(forms::Canvas& canvas, std::int32_t x, std::int32_t y)
     return {pixel[2], pixel[1], pixel[0]};
 }
 
-inline Rgb ToRgb(forms::Colour colour)
+inline Rgb ToRgb(base::Rgb colour)
 {
     return {colour.R, colour.G, colour.B};
 }
@@ -26,7 +26,7 @@ inline render::Picture Checker(std::int32_t width, std::int32_t height)
     render::Picture picture;
     picture.Info.Width = width;
     picture.Info.Height = height;
-    picture.Pixels.Allocate(height, (width * 3 + 3) / 4 * 4);
+    picture.Pixels.Allocate(height, base::PaddedRow(width));
     for (std::int32_t y = 0; y < height; ++y)
         for (std::int32_t x = 0; x < width; ++x)
             picture.Pixels.Row(y)[3 * x + 2] = (x + y) % 2 == 0 ? 200 : 0;

@@ -39,11 +39,7 @@ struct EngineTest : testing::Test
         return frames;
     }
     // As a car of that speed sounds with a factor of 25.
-    void Drive(float speed)
-    {
-        Engine.Step = static_cast<float>(world::EngineNote(speed));
-        Engine.Gain = static_cast<std::int16_t>((std::abs(speed) + 5) * 25);
-    }
+    void Drive(float speed) { audio::SetSpeed(Engine, world::EngineNote(speed), speed, 25); }
     // The entries that a buffer was made from.
     std::vector<int> Entries()
     {
@@ -54,6 +50,38 @@ struct EngineTest : testing::Test
         return Frames(512);
     }
 };
+
+TEST_F(EngineTest, TheNoteIsTheStepAndSpeedTheGain)
+{
+    audio::SetSpeed(Engine, 0.35, 0.5f, 25);
+    EXPECT_EQ(Engine.Step, 0.35f);
+    EXPECT_EQ(Engine.Gain, 138); // 137.5, halves to the even one
+    audio::SetSpeed(Engine, 0.2, 0, 25);
+    EXPECT_EQ(Engine.Gain, 125);
+    audio::SetSpeed(Engine, 0.5, -1, 25); // backwards it is as loud
+    EXPECT_EQ(Engine.Gain, 150);
+    audio::SetSpeed(Engine, 0.275, 0.25f, 2); // 10.5
+    EXPECT_EQ(Engine.Gain, 10);
+    audio::SetSpeed(Engine, 0.2, 2, -3);
+    EXPECT_EQ(Engine.Gain, -21);
+}
+
+TEST_F(EngineTest, AGainThatDoesNotFitKeepsItsFormerValueAndThePitchFollows)
+{
+    constexpr float none = std::numeric_limits<float>::quiet_NaN(), endless = std::numeric_limits<float>::infinity();
+    audio::SetSpeed(Engine, 0.4, 8, 2500);
+    EXPECT_EQ(Engine.Gain, 32500);
+    float note = 0.5f;
+    for (const float speed : {8.11f, 9.0f, 1e9f, endless, -endless, none})
+    {
+        note += 0.125f;
+        audio::SetSpeed(Engine, note, speed, 2500);
+        EXPECT_EQ(Engine.Gain, 32500) << speed;
+        EXPECT_EQ(Engine.Step, note) << speed;
+    }
+    audio::SetSpeed(Engine, 0.4, 8.106f, 2500); // 32765
+    EXPECT_EQ(Engine.Gain, 32765);
+}
 
 TEST_F(EngineTest, AFileOfBytesBecomesATableAroundZero)
 {

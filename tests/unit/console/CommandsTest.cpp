@@ -1,10 +1,14 @@
 // What commands do to the records.
-#include "tests/unit/console/Desk.h"
+#include "tests/support/Desk.h"
+
+#include <gtest/gtest.h>
 
 namespace
 {
-struct Commands : test::Desk
+struct Commands : testing::Test, support::Desk
 {
+    using support::Desk::Run;
+
     Commands()
     {
         for (const float x : {0.0f, 10.0f, 20.0f, 30.0f})

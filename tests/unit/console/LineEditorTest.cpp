@@ -1,11 +1,13 @@
 // Opening, closing, recall, editing, the clipboard.
-#include "tests/unit/console/Desk.h"
+#include "tests/support/Desk.h"
+
+#include <gtest/gtest.h>
 
 namespace
 {
 constexpr int Backslash = 220, Esc = 27, Up = 38, CtrlC = 3, CtrlV = 22, Enter = 13, Backspace = 8;
 
-struct LineEditor : test::Desk
+struct LineEditor : testing::Test, support::Desk
 {
     LineEditor() { KeyUp(Backslash); }
     std::string& Text() { return Line().Text; }

@@ -65,8 +65,8 @@ TEST(Paint, TheFrameIsStretchedToTheCanvas)
     Canvas canvas;
     canvas.Resize(6, 4);
     const render::Picture picture = Checker(3, 2);
-    forms::Stretch(canvas, {0, 0, canvas.Width, canvas.Height}, 3, 2, picture.Pixels.RowBytes,
-                   picture.Pixels.Bytes.data());
+    forms::Stretch(canvas, {0, 0, canvas.Width, canvas.Height},
+                   {picture.Pixels.Bytes.data(), picture.Pixels.RowBytes, 3, 2});
     EXPECT_EQ(PixelAt(canvas, 0, 0)[0], 0); // source row 1, the top one
     EXPECT_EQ(PixelAt(canvas, 1, 1)[0], 0);
     EXPECT_EQ(PixelAt(canvas, 2, 0)[0], 200);

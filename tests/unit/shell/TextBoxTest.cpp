@@ -30,7 +30,7 @@ struct TextBox : testing::Test, support::Panel
         Input.MouseUp(to);
     }
     // The columns of the text's room that hold the colour in its middle row; -1 none.
-    std::pair<std::int32_t, std::int32_t> ColumnsOf(forms::Colour colour, std::int32_t y)
+    std::pair<std::int32_t, std::int32_t> ColumnsOf(base::Rgb colour, std::int32_t y)
     {
         std::int32_t first = -1, last = -1;
         for (std::int32_t x = Room().X; x < Room().X + Room().W; ++x)

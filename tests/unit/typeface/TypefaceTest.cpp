@@ -1,7 +1,10 @@
 #include "typeface/Typeface.h"
+
 #include "base/Text.h"
 #include "typeface/Glyphs.h"
+
 #include <gtest/gtest.h>
+
 #include <limits>
 #include <numeric>
 #include <string>
@@ -16,11 +19,11 @@ struct Paper
     std::vector<std::uint8_t> Bits;
 
     Paper(int width, int height)
-        : Width(width), Height(height), RowBytes((width * 3 + 3) & ~3),
+        : Width(width), Height(height), RowBytes(base::PaddedRow(width)),
           Bits(static_cast<std::size_t>(RowBytes) * static_cast<std::size_t>(height))
     {
     }
-    typeface::Surface Surface() { return {Bits, Width, Height, RowBytes}; }
+    base::Surface Surface() { return {Bits.data(), RowBytes, Width, Height}; }
     // Green of the pixel in row `y` from the top.
     int At(int x, int y) const
     {
@@ -30,7 +33,7 @@ struct Paper
     int Sum() const { return std::accumulate(Bits.begin(), Bits.end(), 0); }
 };
 
-constexpr typeface::Colour White{255, 255, 255};
+constexpr base::Rgb White{255, 255, 255};
 
 int Ink(std::string_view text, double size)
 {
@@ -139,13 +142,23 @@ TEST(Typeface, TextOutsideThePictureIsCutOff)
     EXPECT_EQ(empty.Sum(), 0);
 }
 
-TEST(Typeface, TooFewBytesDrawNothing)
+TEST(Typeface, ASurfaceWithoutPixelsIsLeftAlone)
 {
-    Paper paper(20, 20);
-    typeface::Surface surface = paper.Surface();
-    surface.Height = 21;
-    EXPECT_EQ(typeface::Draw(surface, 0, 0, {18, 1, 0}, "W", White), typeface::Width("W", 18));
-    EXPECT_EQ(paper.Sum(), 0);
+    for (const base::Surface& none :
+         {base::Surface{}, base::Surface{nullptr, 0, 20, 0}, base::Surface{nullptr, 60, 0, 20}})
+        EXPECT_EQ(typeface::Draw(none, 0, 0, {18, 1, 0}, "W", White), typeface::Width("W", 18));
+}
+
+TEST(Typeface, PixelsBesideTheSurfaceStayAsTheyAre)
+{
+    Paper paper(20, 20), whole(20, 20);
+    typeface::Draw(whole.Surface(), 0, 0, {18, 1, 0}, "W", White);
+    base::Surface corner = paper.Surface();
+    corner.Width = 9; // the rows go on behind
+    typeface::Draw(corner, 0, 0, {18, 1, 0}, "W", White);
+    for (int y = 0; y < 20; ++y)
+        for (int x = 0; x < 20; ++x)
+            EXPECT_EQ(paper.At(x, y), x < 9 ? whole.At(x, y) : 0) << x << " " << y;
 }
 
 TEST(Typeface, NumbersThatAreNoneDrawNothingOutside)

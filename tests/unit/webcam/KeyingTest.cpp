@@ -120,7 +120,7 @@ TEST_F(Keying, TheGreatestDifferencesDoNotWrap)
     Shot black(7, 5, 0), white(7, 5, 255);
     webcam::SetBackground(Model, black.Pixels, black.Header);
     Key(white);
-    EXPECT_EQ(Model.Sum[3 + 2 * 7], 9 * 765);
+    EXPECT_EQ(Model.Sum.At(3, 2), 9 * 765);
     EXPECT_EQ(white.At(3, 2)[0], 255);
 }
 

@@ -1,19 +1,19 @@
-// A console over a few records, a clipboard and a timer that only remember.
+// tests/support/Desk.h: a console over the records of a small world, with a clipboard and a timer that only remember,
+// and hands that use it.
 #pragma once
 #include "base/Text.h"
 #include "console/Console.h"
 #include "tests/unit/world/World.h"
 
-#include <gtest/gtest.h>
-
 #include <optional>
 #include <string>
+#include <string_view>
 
-namespace test
+namespace support
 {
-struct Desk : testing::Test, private console::Host
+struct Desk : console::Host
 {
-    World TheWorld;
+    test::World TheWorld;
     render::Screen Screen;
     std::string LastCommand = "\\";
     std::string Clipboard;
@@ -40,13 +40,15 @@ struct Desk : testing::Test, private console::Host
         return Line().Text;
     }
 
+    // ---- console::Host ----
+    std::string ClipboardText() override { return Clipboard; }
+    void SetClipboardText(const std::string& text) override { Clipboard = text; }
+    void SetElapsed(std::int32_t milliseconds) override { Elapsed = milliseconds; }
+
 private:
     std::int16_t Label(std::string_view text)
     {
         return render::MakeLabel2D(TheWorld.Scene, 1, 1, 0, 0.5f, 4, {255, 255, 255}, 0, text);
     }
-    std::string ClipboardText() override { return Clipboard; }
-    void SetClipboardText(const std::string& text) override { Clipboard = text; }
-    void SetElapsed(std::int32_t milliseconds) override { Elapsed = milliseconds; }
 };
 }
