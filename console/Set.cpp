@@ -2,7 +2,7 @@
 #include "console/Commands.h"
 #include "console/Properties.h"
 #include "render/SceneFields.h"
-#include "world/Dynamics.h"
+#include "world/Driving.h"
 
 namespace console
 {

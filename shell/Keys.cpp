@@ -63,12 +63,9 @@ bool Form1::BoundKeyUp(std::int16_t code)
     world::Race& race = TheGame.Race;
     if (isBoundTo(Action::Autopilot))
     {
-        const bool exists = race.UserPlayer >= 0 && static_cast<std::size_t>(race.UserPlayer) < race.Players.size();
-        if (race.RaceOver != base::False && exists)
-        {
-            world::Player& user = race.Players[static_cast<std::size_t>(race.UserPlayer)];
-            user.Control = user.Control == 0 ? 1 : 0;
-        }
+        world::Player* user = world::FindPlayer(race, race.UserPlayer);
+        if (race.RaceOver != base::False && user != nullptr)
+            user->Control = user->Control == 0 ? 1 : 0;
     }
     else if (isBoundTo(Action::NextPlayer))
         StepViewPlayer(1);

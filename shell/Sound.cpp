@@ -2,7 +2,7 @@
 #include "base/Numbers.h"
 #include "render/Primitives.h"
 #include "shell/Form1.h"
-#include "world/Dynamics.h"
+#include "world/Driving.h"
 
 #include <cmath>
 
@@ -62,11 +62,10 @@ void Form1::CloseAudio(bool& cancel)
 // Pitch and loudness of the car that the camera follows, not of the user's own.
 void Form1::SetEngineSound()
 {
-    const world::Race& race = TheGame.Race;
-    const std::int16_t viewed = TheGame.Camera.ViewPlayer;
-    if (viewed < 0 || static_cast<std::size_t>(viewed) >= race.Players.size())
+    const world::Player* viewed = world::FindPlayer(TheGame.Race, TheGame.Camera.ViewPlayer);
+    if (viewed == nullptr)
         return;
-    const float speed = race.Players[static_cast<std::size_t>(viewed)].Speed;
+    const float speed = viewed->Speed;
     audio::EngineSound& engine = TheGame.Engine;
     engine.Step = static_cast<float>(world::EngineNote(speed));
     // A gain that 16 bits cannot hold keeps its former value.

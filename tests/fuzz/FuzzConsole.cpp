@@ -6,7 +6,7 @@
 #include "fuzz/Folder.h"
 #include "render/Primitives.h"
 #include "render/RenderFrame.h"
-#include "unit/world/World.h"
+#include "tests/support/World.h"
 
 #include <cstdlib>
 
@@ -15,14 +15,9 @@ namespace
 constexpr int MostLines = 40; // so that an input takes milliseconds
 constexpr int Open = 220, Close = 27, Recall = 38;
 
-struct Finish final : world::FinishSink
-{
-    void Finished(const std::string&) override {}
-};
-
 struct Desk final : console::Host
 {
-    test::World World;
+    support::World World;
     render::Screen Screen;
     std::string LastCommand = "\\";
     std::string Clipboard;
@@ -44,6 +39,7 @@ struct Desk final : console::Host
                     render::EditObjMeshPt(World.Scene, body, 0, i, j, static_cast<float>(i), 1, static_cast<float>(j),
                                           0, 0);
         }
+        World.Race.GameTime = world::ReleaseTime;
         World.Keys.KeyAccel = World.Keys.KeyLeft = base::True;
         for (render::Glyph& glyph : Font.Glyphs)
             glyph = {1, 5, 7, std::vector<std::uint8_t>(5 * 7, 255)};
@@ -54,14 +50,7 @@ struct Desk final : console::Host
     void KeyUp(int code) { console::ConsoleKeyUp(Console, static_cast<std::int16_t>(code)); }
     void Tick()
     {
-        Finish finish;
-        world::Simulation sim = World.Sim();
-        world::ComputePlaces(World.Scene, World.Race);
-        world::RaceStep(sim, finish);
-        world::Collide(sim);
-        world::DamageSmoke(sim);
-        world::ComputerDrive(sim);
-        world::UserDrive(sim);
+        World.Tick();
         render::DrawObjects(World.Scene, World.Camera, Screen);
     }
     void DrawAnswer()

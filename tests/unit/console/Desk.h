@@ -2,7 +2,7 @@
 #pragma once
 #include "base/Text.h"
 #include "console/Console.h"
-#include "tests/unit/world/World.h"
+#include "tests/support/World.h"
 
 #include <gtest/gtest.h>
 
@@ -13,7 +13,7 @@ namespace test
 {
 struct Desk : testing::Test, private console::Host
 {
-    World TheWorld;
+    support::World TheWorld;
     render::Screen Screen;
     std::string LastCommand = "\\";
     std::string Clipboard;
