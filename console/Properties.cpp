@@ -1,6 +1,7 @@
 #include "console/Properties.h"
 
 #include "base/Text.h"
+#include "render/Camera.h"
 #include "world/Race.h"
 
 #include <algorithm>

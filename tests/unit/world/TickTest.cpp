@@ -119,7 +119,7 @@ TEST_F(Tick, TheShakeOfACollisionFadesInTheSameStepAndOnlyWithTheWebcam)
 TEST_F(Tick, ThePlainStepIsTheSame)
 {
     for (int n = 0; n < 12; ++n)
-        World.AddCar(static_cast<float>(n % 4), static_cast<float>(n) / 4.0f);
+        World.AddCar(static_cast<float>(n % 4), static_cast<float>(n) / 4.0f, static_cast<float>(n) / 8.0f);
     for (world::Player& player : World.Race.Players)
         player.Speed = 2;
     World.Race.GameTime = world::ReleaseTime;
