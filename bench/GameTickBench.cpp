@@ -1,7 +1,7 @@
 // The simulation of one game tick, and its collisions against the plain walk over all pairs. Scenes are made here:
 // cars on a round course, objects with spheres all over the world.
-#include "render/Primitives.h"
-#include "world/RaceLogic.h"
+#include "tests/support/World.h"
+#include "world/Collision.h"
 
 #include <benchmark/benchmark.h>
 
@@ -14,24 +14,7 @@ constexpr float WorldSize = 700.0f;
 constexpr int GateCount = 24;
 constexpr int CarSpheres = 10;
 
-struct NoFinish final : world::FinishSink
-{
-    void Finished(const std::string&) override {}
-};
-
-struct World
-{
-    render::Scene Scene;
-    world::Race Race;
-    render::Camera Camera;
-    world::HeldKeys Keys;
-    world::RaceAssets Assets;
-    base::Random Random;
-    float Shake = 0;
-    bool InBox = false;
-
-    world::Simulation Sim() { return {Scene, Race, Camera, Keys, Assets, Random, 1.0f, true, Shake, InBox}; }
-};
+using support::World;
 
 float Between(base::Random& random, double low, double high)
 {
@@ -90,7 +73,10 @@ std::unique_ptr<World> MakeWorld(int cars, int objects)
 {
     auto made = std::make_unique<World>();
     World& world = *made;
+    world.Random.Script.clear();
     world.Random.Seed(11);
+    world.WebcamOn = true;
+    world.Race.GameTime = world::ReleaseTime; // every car drives
     for (int n = 0; n < cars; ++n)
         AddCar(world, n);
     for (int n = 0; n < objects; ++n)
@@ -104,25 +90,9 @@ std::unique_ptr<World> MakeWorld(int cars, int objects)
     }
     world.Race.Map.ACheckpoints = world.Race.Map.Checkpoints;
     world.Race.Map.NumCheckpoints = world.Race.Map.NumGrass = GateCount;
-    auto picture = std::make_shared<render::Picture>();
-    picture->Info = {1, 1, 4, 1, 24};
-    picture->Pixels.Allocate(1, 4);
-    world.Assets.Smoke = world.Assets.FireRed = world.Assets.FireYellow = world.Assets.Water = picture;
+    world.MakePictures();
     world.Keys.KeyAccel = base::True;
     return made;
-}
-
-void Tick(World& world)
-{
-    NoFinish finish;
-    world::Simulation sim = world.Sim();
-    world.Race.GameTime += 25;
-    world::ComputePlaces(world.Scene, world.Race);
-    world::RaceStep(sim, finish);
-    world::Collide(sim);
-    world::DamageSmoke(sim);
-    world::ComputerDrive(sim);
-    world::UserDrive(sim);
 }
 
 // Cars, objects. The race goes on from tick to tick, and begins anew after a minute.
@@ -139,7 +109,7 @@ void GameTick(benchmark::State& state)
             world = MakeWorld(static_cast<int>(state.range(0)), static_cast<int>(state.range(1)));
             state.ResumeTiming();
         }
-        Tick(*world);
+        world->Tick();
     }
 }
 
@@ -147,7 +117,7 @@ template <void (*Walk)(world::Simulation&)> void Collisions(benchmark::State& st
 {
     const std::unique_ptr<World> world = MakeWorld(static_cast<int>(state.range(0)), static_cast<int>(state.range(1)));
     for (int tick = 0; tick < 40; ++tick)
-        Tick(*world);
+        world->Tick();
     world::Simulation sim = world->Sim();
     for (auto _ : state)
         Walk(sim);

@@ -78,7 +78,7 @@ Reply ReplyTo(Console& console, std::string_view line)
 std::int16_t PlayerIndex(const world::Race& race, double number)
 {
     const std::int16_t index = base::ToInt16(number);
-    if (index < 0 || index >= race.NumPlayers || index >= std::ssize(race.Players))
+    if (world::FindPlayer(race, index) == nullptr)
         Fail(BadIndex);
     return index;
 }

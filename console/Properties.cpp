@@ -5,6 +5,7 @@
 #include "base/Text.h"
 #include "console/ShowNumber.h"
 #include "render/Camera.h"
+#include "world/Race.h"
 
 #include <algorithm>
 #include <iterator>

@@ -2,7 +2,8 @@
 #include "base/Numbers.h"
 #include "console/Commands.h"
 #include "console/Properties.h"
-#include "world/Dynamics.h"
+#include "render/SceneFields.h"
+#include "world/Driving.h"
 
 namespace console
 {

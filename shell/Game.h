@@ -9,7 +9,7 @@
 #include "render/Screen.h"
 #include "shell/TickTimer.h"
 #include "webcam/Calibration.h"
-#include "world/Race.h"
+#include "world/Simulation.h"
 
 #include <array>
 #include <cstdint>
@@ -96,6 +96,7 @@ struct Game
     render::Camera Camera;
     render::Screen Screen;
     world::Race Race;
+    world::TickScratch Scratch;
     world::HeldKeys Keys;
     world::RaceAssets Assets;
     base::Random Random;

@@ -3,7 +3,7 @@
 #include "base/Numbers.h"
 #include "base/RuntimeError.h"
 #include "render/Primitives.h"
-#include "world/Dynamics.h"
+#include "world/Driving.h"
 
 #include <algorithm>
 #include <array>
@@ -46,10 +46,10 @@ void SetColour(render::Label2D& label, render::Rgb colour)
 
 const world::Player& ViewedPlayer(const Game& game)
 {
-    const std::int16_t index = game.Camera.ViewPlayer;
-    if (index < 0 || static_cast<std::size_t>(index) >= game.Race.Players.size())
+    const world::Player* player = world::FindPlayer(game.Race, game.Camera.ViewPlayer);
+    if (player == nullptr)
         throw base::RuntimeError(base::ErrorIndex);
-    return game.Race.Players[static_cast<std::size_t>(index)];
+    return *player;
 }
 
 void ShowFrameRate(Game& game)

@@ -82,12 +82,9 @@ bool RaceKeys::BoundKeyUp(std::int16_t code)
 // After the finish alone.
 void RaceKeys::ToggleAutopilot()
 {
-    world::Race& race = TheGame.Race;
-    const bool exists = race.UserPlayer >= 0 && static_cast<std::size_t>(race.UserPlayer) < race.Players.size();
-    if (race.RaceOver == base::False || !exists)
-        return;
-    world::Player& user = race.Players[static_cast<std::size_t>(race.UserPlayer)];
-    user.Control = user.Control == 0 ? 1 : 0;
+    world::Player* user = world::FindPlayer(TheGame.Race, TheGame.Race.UserPlayer);
+    if (TheGame.Race.RaceOver != base::False && user != nullptr)
+        user->Control = user->Control == 0 ? 1 : 0;
 }
 
 void RaceKeys::StepViewPlayer(int step)

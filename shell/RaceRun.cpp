@@ -1,13 +1,11 @@
 #include "shell/RaceRun.h"
 
-#include "base/Math.h"
 #include "render/Primitives.h"
 #include "render/RenderFrame.h"
 #include "shell/Hud.h"
 #include "shell/HudElements.h"
 #include "shell/Views.h"
-
-#include <cmath>
+#include "world/Tick.h"
 
 namespace shell
 {
@@ -23,34 +21,6 @@ void SetPicVisible(render::Scene& scene, std::int16_t pic, bool visible)
 {
     if (scene.Pics.Has(pic))
         scene.Pics.At(pic).Visible = visible ? 1 : 0;
-}
-
-const world::Player* FindPlayer(const world::Race& race, std::int32_t index)
-{
-    if (index < 0 || static_cast<std::size_t>(index) >= race.Players.size())
-        return nullptr;
-    return &race.Players[static_cast<std::size_t>(index)];
-}
-
-// The trophy turns before the camera.
-void FloatTrophy(render::Scene& scene, const render::Camera& camera, std::int16_t cup)
-{
-    if (!scene.Objects.Has(cup))
-        return;
-    render::Obj& trophy = scene.Objects.At(cup);
-    trophy.AngleA = static_cast<float>(trophy.AngleA + 0.05);
-    trophy.AngleB = static_cast<float>(camera.CamPitch / 2.0);
-    trophy.X = static_cast<float>(camera.CamX - 5 * base::Sin(camera.CamYaw + 0.4));
-    trophy.Y = static_cast<float>(camera.CamY + 5 * base::Sin(camera.CamPitch + 0.3));
-    trophy.Z = static_cast<float>(camera.CamZ + 5 * base::Cos(camera.CamYaw + 0.4));
-}
-
-// The jitter of the webcam picture fades, but a fast car keeps shaking.
-void DecayShake(float& shake, const world::Player* user)
-{
-    shake = static_cast<float>(shake * 0.96);
-    if (shake < 0.6 && user != nullptr && std::abs(user->Speed) >= 1)
-        shake = 0.6f;
 }
 
 struct WindowSink final : render::FrameSink
@@ -138,6 +108,7 @@ world::Simulation RaceRun::MakeSimulation()
             game.Keys,
             game.Assets,
             game.Random,
+            game.Scratch,
             game.Settings.EffQuality,
             game.Settings.WebcamOn != base::False,
             game.Run.Shake,
@@ -146,28 +117,13 @@ world::Simulation RaceRun::MakeSimulation()
 
 void RaceRun::GameT_Tick()
 {
-    constexpr std::int32_t Released = 3000; // milliseconds: before that no car moves
     TheGame.Timers.Advance(Platform.TickCount());
     TheGame.Timers.GameT.Tick();
-
+    TheGame.Race.GameTime = TheGame.Timers.GameT.Elapsed;
+    TheSound.SetEngineSound(); // of the speed that the car has between two steps
     world::Simulation simulation = MakeSimulation();
-    world::Race& race = TheGame.Race;
-    race.GameTime = TheGame.Timers.GameT.Elapsed;
-    world::ComputePlaces(TheGame.Scene, race);
-    TheSound.SetEngineSound();
-    if (race.RaceOver != base::False)
-        FloatTrophy(TheGame.Scene, TheGame.Camera, TheGame.Assets.CupObj);
-    world::RaceStep(simulation, *this);
+    world::GameTick(simulation, *this);
     SetPicVisible(TheGame.Scene, TheGame.Hud.Repair, TheGame.Run.InBox);
-    world::Collide(simulation);
-    world::DamageSmoke(simulation);
-    if (race.GameTime >= Released)
-    {
-        world::ComputerDrive(simulation);
-        world::UserDrive(simulation);
-    }
-    if (TheGame.Settings.WebcamOn != base::False)
-        DecayShake(TheGame.Run.Shake, FindPlayer(race, race.UserPlayer));
     PlaceCamera();
 }
 

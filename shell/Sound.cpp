@@ -2,7 +2,7 @@
 
 #include "base/Numbers.h"
 #include "render/Primitives.h"
-#include "world/Dynamics.h"
+#include "world/Driving.h"
 
 namespace shell
 {
@@ -73,12 +73,10 @@ void Sound::StopEngine()
 // Of the followed car, not of the user's own.
 void Sound::SetEngineSound()
 {
-    const world::Race& race = TheGame.Race;
-    const std::int16_t viewed = TheGame.Camera.ViewPlayer;
-    if (viewed < 0 || static_cast<std::size_t>(viewed) >= race.Players.size())
+    const world::Player* viewed = world::FindPlayer(TheGame.Race, TheGame.Camera.ViewPlayer);
+    if (viewed == nullptr)
         return;
-    const float speed = race.Players[static_cast<std::size_t>(viewed)].Speed;
-    audio::SetSpeed(Engine, world::EngineNote(speed), speed, Settings.EffectsFactor);
+    audio::SetSpeed(Engine, world::EngineNote(viewed->Speed), viewed->Speed, Settings.EffectsFactor);
 }
 
 void Sound::WaveDone(std::int32_t user)

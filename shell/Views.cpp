@@ -168,14 +168,12 @@ void PlaceView(Camera& camera, render::Scene& scene, const world::Race& race, co
 {
     if (camera.View < 0 || camera.View > 7)
         return;
-    if (camera.ViewPlayer < 0 || static_cast<std::size_t>(camera.ViewPlayer) >= race.Players.size())
+    const world::Player* player = world::FindPlayer(race, camera.ViewPlayer);
+    if (player == nullptr || !scene.Objects.Has(player->Obj))
         return;
-    const world::Player& player = race.Players[static_cast<std::size_t>(camera.ViewPlayer)];
-    if (!scene.Objects.Has(player.Obj))
-        return;
-    const Followed car(scene.Objects.At(player.Obj), player.Speed);
+    const Followed car(scene.Objects.At(player->Obj), player->Speed);
     Place(camera, car, keys);
     if (scene.Objects.Has(arrowObj))
-        PlaceArrow(scene.Objects.At(arrowObj), car, race.Map, player.NextCheckpoint, camera.View == 1);
+        PlaceArrow(scene.Objects.At(arrowObj), car, race.Map, player->NextCheckpoint, camera.View == 1);
 }
 }

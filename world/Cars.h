@@ -1,6 +1,7 @@
 // world/Cars.h: small helpers of the simulation's procedures: records by index, rounding to a field, distances.
 #pragma once
 #include "base/Numbers.h"
+#include "render/Camera.h"
 #include "render/Scene.h"
 #include "world/Race.h"
 
@@ -14,12 +15,7 @@ inline float Single(double value)
     return static_cast<float>(value);
 }
 
-// Null where there is none: indices come from scripts and the console.
-inline Player* PlayerAt(Race& race, std::int32_t index)
-{
-    return index >= 0 && index < race.NumPlayers ? &race.Players[static_cast<std::size_t>(index)] : nullptr;
-}
-
+// Null where there is none.
 inline render::Obj* ObjectAt(render::Scene& scene, std::int32_t index)
 {
     return scene.Objects.Has(index) ? &scene.Objects.Items[static_cast<std::size_t>(index)] : nullptr;

@@ -1,7 +1,8 @@
-// Collisions: who touches whom, the damage, and how the two part.
+#include "world/Collision.h"
+
 #include "base/Math.h"
 #include "world/Cars.h"
-#include "world/Dynamics.h"
+#include "world/Driving.h"
 
 #include <algorithm>
 #include <bit>
@@ -200,8 +201,8 @@ void Shake(Simulation& sim, const Body& i, const Body& j, double strength)
 
 Body BodyOf(Simulation& sim, std::size_t object)
 {
-    const std::int16_t index = sim.Race.Scratch.CarOf[object];
-    return {sim.Scene.Objects.Items[object], PlayerAt(sim.Race, index), index};
+    const std::int16_t index = sim.Scratch.CarOf[object];
+    return {sim.Scene.Objects.Items[object], FindPlayer(sim.Race, index), index};
 }
 
 // One ordered pair of objects with spheres. True where they touched, and so have moved.
@@ -211,7 +212,7 @@ bool CollidePair(Simulation& sim, std::size_t first, std::size_t second)
     const render::Obj& b = sim.Scene.Objects.Items[second];
     if (!AreNear(a, b))
         return false;
-    TickScratch& scratch = sim.Race.Scratch;
+    TickScratch& scratch = sim.Scratch;
     Contact contact;
     if (!FindContact(a, RotationOf(a, scratch.Rotations[first]), b, RotationOf(b, scratch.Rotations[second]),
                      scratch.Centres, contact))
@@ -239,11 +240,11 @@ bool CollidePair(Simulation& sim, std::size_t first, std::size_t second)
 // Which player drives each object, and which objects can touch at all. Neither changes while the pairs are walked.
 void ListBodies(Simulation& sim)
 {
-    TickScratch& scratch = sim.Race.Scratch;
+    TickScratch& scratch = sim.Scratch;
     scratch.CarOf.assign(sim.Scene.Objects.Items.size(), -1);
     for (std::int16_t index = sim.Race.NumPlayers; index-- > 0;)
     {
-        const std::int16_t object = PlayerAt(sim.Race, index)->Obj;
+        const std::int16_t object = FindPlayer(sim.Race, index)->Obj;
         if (sim.Scene.Objects.Has(object))
             scratch.CarOf[static_cast<std::size_t>(object)] = index;
     }
@@ -258,7 +259,7 @@ void ListBodies(Simulation& sim)
 void CollidePlain(Simulation& sim)
 {
     ListBodies(sim);
-    const std::vector<std::int16_t>& bodies = sim.Race.Scratch.Bodies;
+    const std::vector<std::int16_t>& bodies = sim.Scratch.Bodies;
     for (std::size_t a = 0; a < bodies.size(); ++a)
         for (std::size_t b = a + 1; b < bodies.size(); ++b)
             CollidePair(sim, static_cast<std::size_t>(bodies[a]), static_cast<std::size_t>(bodies[b]));
@@ -267,9 +268,9 @@ void CollidePlain(Simulation& sim)
 void Collide(Simulation& sim)
 {
     ListBodies(sim);
-    const std::vector<std::int16_t>& bodies = sim.Race.Scratch.Bodies;
-    std::vector<Footprint>& footprints = sim.Race.Scratch.Footprints;
-    NearStrips& strips = sim.Race.Scratch.Strips;
+    const std::vector<std::int16_t>& bodies = sim.Scratch.Bodies;
+    std::vector<Footprint>& footprints = sim.Scratch.Footprints;
+    NearStrips& strips = sim.Scratch.Strips;
     const auto object = [&](std::size_t body) { return static_cast<std::size_t>(bodies[body]); };
     const auto place = [&](std::size_t body)
     {

@@ -1,7 +1,8 @@
-// The computer drivers: each steers at its next checkpoint and brakes for the bend behind it.
+#include "world/ComputerDrive.h"
+
 #include "base/Math.h"
 #include "world/Cars.h"
-#include "world/RaceLogic.h"
+#include "world/Driving.h"
 
 #include <cmath>
 
@@ -86,7 +87,7 @@ void ComputerDrive(Simulation& sim)
 {
     for (std::int16_t index = 0; index < sim.Race.NumPlayers; ++index)
     {
-        Player& player = *PlayerAt(sim.Race, index);
+        Player& player = *FindPlayer(sim.Race, index);
         render::Obj* car = ObjectAt(sim.Scene, player.Obj);
         if (player.Control == 0 || car == nullptr)
             continue;

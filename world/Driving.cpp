@@ -1,7 +1,7 @@
-// How cars answer their controls: speed, steering, movement, damage.
+#include "world/Driving.h"
+
 #include "base/Math.h"
 #include "world/Cars.h"
-#include "world/Dynamics.h"
 
 #include <array>
 #include <cmath>
@@ -25,6 +25,16 @@ std::size_t GearIndex(float speed)
     while (gear < GearTops.size() && speed >= static_cast<float>(GearTops[gear]))
         ++gear;
     return gear;
+}
+
+void Darken(render::Ground& ground, std::int32_t column, std::int32_t row, double strength)
+{
+    render::PicArray2D& pixels = ground.Sharp.Pixels;
+    if (column < 0 || column >= ground.Width || row < 0 || row >= ground.Height || pixels.Empty())
+        return;
+    std::uint8_t* texel = pixels.Row(row) + static_cast<std::ptrdiff_t>(column) * 3;
+    for (int channel = 0; channel < 3; ++channel)
+        texel[channel] = base::RoundByte(texel[channel] * strength);
 }
 
 void Accelerate(Simulation& sim, Player& player)
@@ -137,9 +147,22 @@ void ApplyDamage(Player& player)
     player.CurBrake = Single(player.Brake / weakness);
 }
 
+void TyreMarks(Simulation& sim, const Player& player, double strength)
+{
+    const render::Obj* car = ObjectAt(sim.Scene, player.Obj);
+    if (car == nullptr)
+        return;
+    render::Ground& ground = sim.Scene.Ground;
+    const double cosA = base::Cos(car->AngleA);
+    const double sinA = base::Sin(car->AngleA);
+    for (const int side : {1, -1})
+        Darken(ground, base::RoundEven((car->X + side * cosA) * ground.GroundScale),
+               base::RoundEven((car->Z + side * sinA) * ground.GroundScale), strength);
+}
+
 void UserDrive(Simulation& sim)
 {
-    Player* player = PlayerAt(sim.Race, sim.Race.UserPlayer);
+    Player* player = FindPlayer(sim.Race, sim.Race.UserPlayer);
     if (player == nullptr || player->Control != 0)
         return;
     render::Obj* car = ObjectAt(sim.Scene, player->Obj);

@@ -58,7 +58,7 @@ void DamageSmoke(Simulation& sim)
     if (sim.EffQuality > 0.0f)
         for (std::int16_t index = 0; index < sim.Race.NumPlayers; ++index)
         {
-            Player& player = *PlayerAt(sim.Race, index);
+            Player& player = *FindPlayer(sim.Race, index);
             const render::Obj* car = ObjectAt(sim.Scene, player.Obj);
             if (car != nullptr && player.Damage > 1.0f && sim.Race.GameTime > player.NextSmoke)
                 SmokeOrBurn(sim, player, *car);

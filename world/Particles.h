@@ -1,7 +1,7 @@
 // world/Particles.h: what the simulation sends up: smoke, fire, water.
 #pragma once
 #include "render/Effects.h"
-#include "world/Dynamics.h"
+#include "world/Simulation.h"
 
 namespace world
 {
@@ -9,11 +9,13 @@ struct Emission
 {
     const render::PicReference& Picture;
     render::Kind Kind;
-    double Life; // ticks, rounded, at most 32767
-    double X, Y, Z;
-    double Scale, Alpha;
+    double Life;         // ticks, rounded, at most 32767
+    double X, Y, Z;      // world units
+    double Scale, Alpha; // as in Sprite3D
 };
 
 // No particle without a picture, nor where the scene already holds a great many sprites.
 void Spawn(Simulation& sim, const Emission& emission);
+// Smoke and fire of damaged cars, unless EffQuality is 0, then one step of every particle.
+void DamageSmoke(Simulation& sim);
 }

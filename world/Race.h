@@ -3,12 +3,10 @@
 #pragma once
 #include "base/Fields.h"
 #include "base/Numbers.h"
-#include "base/Random.h"
-#include "render/Camera.h"
 #include "render/PicArray.h"
-#include "world/NearStrips.h"
 
 #include <cstdint>
+#include <iterator>
 #include <vector>
 
 namespace world
@@ -38,32 +36,6 @@ struct Map
     std::int16_t NumCheckpoints = 0, NumBoxes = 0, NumGrass = 0, NumWater = 0;
 };
 
-// A player in the running order.
-struct Standing
-{
-    std::int16_t Passed = 0, Player = 0;
-    double ToGo = 0; // ground distance to the next checkpoint
-};
-
-// The rotation of two angles, computed anew only when they have changed.
-struct KnownRotation
-{
-    float AngleA = 0, AngleB = 0;
-    render::Rotation Rotation; // of the angles above
-};
-
-// What the procedures of a tick derive, kept so that no tick allocates. Nothing here needs to be reset or saved.
-struct TickScratch
-{
-    std::vector<Standing> Standings;
-    std::vector<std::int16_t> CarOf;      // by object: the player that drives it, -1 for none
-    std::vector<KnownRotation> Rotations; // by object
-    std::vector<std::int16_t> Bodies;     // the objects that can touch
-    std::vector<Footprint> Footprints;    // by body, as it stands
-    NearStrips Strips;
-    std::vector<render::Point3> Centres; // of the spheres of the second of a pair
-};
-
 struct Race
 {
     std::int16_t Laps = 5;
@@ -73,8 +45,17 @@ struct Race
     std::int16_t UserPlayer = 0;
     std::vector<Player> Players;
     world::Map Map;
-    TickScratch Scratch;
 };
+
+// Null where there is none: indices come from scripts, the console and the players' keys.
+inline Player* FindPlayer(Race& race, std::int32_t index)
+{
+    return index >= 0 && index < std::ssize(race.Players) ? &race.Players[static_cast<std::size_t>(index)] : nullptr;
+}
+inline const Player* FindPlayer(const Race& race, std::int32_t index)
+{
+    return FindPlayer(const_cast<Race&>(race), index);
+}
 
 // The keys held down; -1 while held.
 struct HeldKeys

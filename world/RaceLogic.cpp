@@ -1,7 +1,7 @@
-// Running order, checkpoints, laps and the finish.
 #include "world/RaceLogic.h"
 
 #include "world/Cars.h"
+#include "world/Zones.h"
 
 #include <algorithm>
 #include <cmath>
@@ -97,14 +97,15 @@ void Finish(Simulation& sim, Player& player, FinishSink& finish)
 }
 }
 
-void ComputePlaces(const render::Scene& scene, Race& race)
+void ComputePlaces(Simulation& sim)
 {
-    std::vector<Standing>& standings = race.Scratch.Standings;
+    Race& race = sim.Race;
+    std::vector<Standing>& standings = sim.Scratch.Standings;
     standings.clear();
     for (std::int16_t index = 0; index < race.NumPlayers; ++index)
     {
-        const Player& player = *PlayerAt(race, index);
-        standings.push_back({player.Passed, index, DistanceToGo(scene, race.Map, player)});
+        const Player& player = *FindPlayer(race, index);
+        standings.push_back({player.Passed, index, DistanceToGo(sim.Scene, race.Map, player)});
     }
     std::sort(standings.begin(), standings.end(), ComesBefore);
 
@@ -119,7 +120,7 @@ void ComputePlaces(const render::Scene& scene, Race& race)
             equal = at;
         // Without a distance nobody is ahead by it.
         const std::size_t ahead = std::isnan(here.ToGo) ? group : equal;
-        PlayerAt(race, here.Player)->Place = static_cast<std::int16_t>(ahead + 1);
+        FindPlayer(race, here.Player)->Place = static_cast<std::int16_t>(ahead + 1);
     }
 }
 
@@ -129,7 +130,7 @@ void RaceStep(Simulation& sim, FinishSink& finish)
     sim.InBox = false;
     for (std::int16_t index = 0; index < race.NumPlayers; ++index)
     {
-        Player& player = *PlayerAt(race, index);
+        Player& player = *FindPlayer(race, index);
         const render::Obj* car = ObjectAt(sim.Scene, player.Obj);
         if (car != nullptr && PassesCheckpoint(race.Map, player, *car))
             CountCheckpoint(player, race.Map, sim.Random);

@@ -1,7 +1,8 @@
-// Where a car stands: repair boxes, grass and water, and the marks that its tyres leave.
+#include "world/Zones.h"
+
 #include "base/Math.h"
 #include "world/Cars.h"
-#include "world/Dynamics.h"
+#include "world/Driving.h"
 #include "world/Particles.h"
 
 #include <algorithm>
@@ -16,16 +17,6 @@ bool IsInsideAny(const render::Obj& car, const std::vector<Target>& zones, std::
 {
     const auto end = zones.begin() + std::min<std::ptrdiff_t>(count, std::ssize(zones));
     return std::any_of(zones.begin(), end, [&](const Target& zone) { return IsInside(car, zone); });
-}
-
-void Darken(render::Ground& ground, std::int32_t column, std::int32_t row, double strength)
-{
-    render::PicArray2D& pixels = ground.Sharp.Pixels;
-    if (column < 0 || column >= ground.Width || row < 0 || row >= ground.Height || pixels.Empty())
-        return;
-    std::uint8_t* texel = pixels.Row(row) + static_cast<std::ptrdiff_t>(column) * 3;
-    for (int channel = 0; channel < 3; ++channel)
-        texel[channel] = base::RoundByte(texel[channel] * strength);
 }
 
 // One puff beside the car.
@@ -43,22 +34,9 @@ void Splash(Simulation& sim, const Player& player, const render::Obj& car)
 }
 }
 
-void TyreMarks(Simulation& sim, const Player& player, double strength)
-{
-    const render::Obj* car = ObjectAt(sim.Scene, player.Obj);
-    if (car == nullptr)
-        return;
-    render::Ground& ground = sim.Scene.Ground;
-    const double cosA = base::Cos(car->AngleA);
-    const double sinA = base::Sin(car->AngleA);
-    for (const int side : {1, -1})
-        Darken(ground, base::RoundEven((car->X + side * cosA) * ground.GroundScale),
-               base::RoundEven((car->Z + side * sinA) * ground.GroundScale), strength);
-}
-
 void ApplyZones(Simulation& sim, std::int16_t index)
 {
-    Player* player = PlayerAt(sim.Race, index);
+    Player* player = FindPlayer(sim.Race, index);
     const render::Obj* car = player != nullptr ? ObjectAt(sim.Scene, player->Obj) : nullptr;
     if (car == nullptr)
         return;

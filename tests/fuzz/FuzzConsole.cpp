@@ -5,6 +5,7 @@
 #include "platform/Keys.h"
 #include "render/RenderFrame.h"
 #include "tests/support/Desk.h"
+#include "world/Tick.h"
 
 #include <cstdlib>
 
@@ -12,11 +13,6 @@ namespace
 {
 constexpr int MostLines = 40; // so that an input takes milliseconds
 constexpr int Open = platform::KeyBackslash, Close = platform::KeyEsc, Recall = platform::KeyUp;
-
-struct Finish final : world::FinishSink
-{
-    void Finished(const std::string&) override {}
-};
 
 struct FuzzDesk final : support::Desk
 {
@@ -37,6 +33,7 @@ struct FuzzDesk final : support::Desk
                     render::EditObjMeshPt(TheWorld.Scene, body, 0, i, j, static_cast<float>(i), 1,
                                           static_cast<float>(j), 0, 0);
         }
+        TheWorld.Race.GameTime = world::ReleaseTime;
         TheWorld.Keys.KeyAccel = TheWorld.Keys.KeyLeft = base::True;
         for (render::Glyph& glyph : Font.Glyphs)
             glyph = {1, 5, 7, std::vector<std::uint8_t>(5 * 7, 255)};
@@ -46,14 +43,7 @@ struct FuzzDesk final : support::Desk
 
     void Tick()
     {
-        Finish finish;
-        world::Simulation sim = TheWorld.Sim();
-        world::ComputePlaces(TheWorld.Scene, TheWorld.Race);
-        world::RaceStep(sim, finish);
-        world::Collide(sim);
-        world::DamageSmoke(sim);
-        world::ComputerDrive(sim);
-        world::UserDrive(sim);
+        TheWorld.Tick();
         render::DrawObjects(TheWorld.Scene, TheWorld.Camera, Screen);
     }
     void DrawAnswer()

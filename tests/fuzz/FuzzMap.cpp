@@ -1,33 +1,14 @@
-// Any bytes as a map script, beside files that it may name. What stands on the map then races for a few ticks, and the
-// collisions must be those of the plain walk.
+// Any bytes as a map script, beside files that it may name. What stands on the map then races for a few ticks, which
+// must end as those with the plain walk over the collisions do.
 #include "fuzz/Folder.h"
+#include "tests/support/World.h"
 #include "world/Loaders.h"
-#include "world/RaceLogic.h"
 
 #include <bit>
 #include <cstdlib>
 
 namespace
 {
-struct NoFinish final : world::FinishSink
-{
-    void Finished(const std::string&) override {}
-};
-
-struct Game
-{
-    render::Scene Scene;
-    world::Race Race;
-    render::Camera Camera;
-    world::HeldKeys Keys;
-    world::RaceAssets Assets;
-    base::Random Random;
-    float Shake = 0;
-    bool InBox = false;
-
-    world::Simulation Sim() { return {Scene, Race, Camera, Keys, Assets, Random, 1.0f, true, Shake, InBox}; }
-};
-
 bool SamePlace(const render::Obj& a, const render::Obj& b)
 {
     const auto same = [](float x, float y)
@@ -35,25 +16,14 @@ bool SamePlace(const render::Obj& a, const render::Obj& b)
     return same(a.X, b.X) && same(a.Z, b.Z) && same(a.AngleA, b.AngleA) && same(a.AngleB, b.AngleB);
 }
 
-void Tick(Game& game)
+void Tick(support::World& game)
 {
-    NoFinish finish;
-    world::Simulation sim = game.Sim();
-    game.Race.GameTime += 25;
-    world::ComputePlaces(game.Scene, game.Race);
-    world::RaceStep(sim, finish);
-
-    Game judge = game;
-    world::Simulation judgeSim = judge.Sim();
-    world::CollidePlain(judgeSim);
-    world::Collide(sim);
+    support::World judge = game;
+    judge.Tick(world::GameTickPlain);
+    game.Tick();
     for (std::size_t object = 0; object < game.Scene.Objects.Items.size(); ++object)
         if (!SamePlace(game.Scene.Objects.Items[object], judge.Scene.Objects.Items[object]))
             std::abort();
-
-    world::DamageSmoke(sim);
-    world::ComputerDrive(sim);
-    world::UserDrive(sim);
 }
 
 void WriteCompanions(const fuzz::Folder& folder)
@@ -75,7 +45,10 @@ int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size)
     folder.Write("map.loader", fuzz::Text(data, size));
     WriteCompanions(folder);
     fuzz::NoMessages messages;
-    Game game;
+    support::World game;
+    game.Random.Script.clear();
+    game.WebcamOn = true;
+    game.Race.GameTime = world::ReleaseTime;
     game.Keys.KeyAccel = game.Keys.KeyLeft = base::True;
     world::LoadMap(game.Scene, game.Race, messages, folder.Files(), "map.loader", true);
     if (game.Scene.Bytes < (1u << 20)) // larger scenes are copied too slowly

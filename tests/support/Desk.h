@@ -3,7 +3,7 @@
 #pragma once
 #include "base/Text.h"
 #include "console/Console.h"
-#include "tests/unit/world/World.h"
+#include "tests/support/World.h"
 
 #include <optional>
 #include <string>
@@ -13,7 +13,7 @@ namespace support
 {
 struct Desk : console::Host
 {
-    test::World TheWorld;
+    World TheWorld;
     render::Screen Screen;
     std::string LastCommand = "\\";
     std::string Clipboard;

@@ -1,7 +1,7 @@
 #include "audio/EngineSound.h"
 #include "base/RuntimeError.h"
 #include "tests/support/TempFolder.h"
-#include "world/Dynamics.h"
+#include "world/Driving.h"
 
 #include <gmock/gmock.h>
 

@@ -1,6 +1,6 @@
 // A tick of the simulation takes no memory once its lists have grown.
 #include "tests/support/Allocations.h"
-#include "World.h"
+#include "tests/support/World.h"
 
 #include <gtest/gtest.h>
 
@@ -8,17 +8,13 @@
 
 namespace
 {
-struct NoFinish : world::FinishSink
-{
-    void Finished(const std::string&) override {}
-};
-
 // Cars that drive, collide, are dented, smoke and splash.
-test::World BusyWorld()
+support::World BusyWorld()
 {
-    test::World world;
+    support::World world;
     world.Random.Script.clear();
     world.Random.Seed(5);
+    world.Race.GameTime = world::ReleaseTime;
     world.MakePictures();
     world.SetGround(256, 256, 1, 200);
     world.SetCheckpoints({{20, 0, 20, 15}, {100, 0, 20, 15}, {100, 0, 100, 15}, {20, 0, 100, 15}});
@@ -33,33 +29,20 @@ test::World BusyWorld()
         world.AddBall(static_cast<float>(n % 20 * 6), std::floor(static_cast<float>(n) / 20) * 12, 2, 1);
     return world;
 }
-
-void Tick(test::World& world)
-{
-    NoFinish finish;
-    world::Simulation sim = world.Sim();
-    world.Race.GameTime += 25;
-    world::ComputePlaces(world.Scene, world.Race);
-    world::RaceStep(sim, finish);
-    world::Collide(sim);
-    world::DamageSmoke(sim);
-    world::ComputerDrive(sim);
-    world::UserDrive(sim);
-}
 }
 
 TEST(Allocation, NoneInATickOnceTheListsHaveGrown)
 {
-    test::World world = BusyWorld();
+    support::World world = BusyWorld();
     for (int tick = 0; tick < 400; ++tick)
-        Tick(world);
+        world.Tick();
     EXPECT_GT(world.Scene.Particles.size(), 0u);
     // The lists of particles may still find a new height: memory for them is had before.
     world.Scene.Particles.reserve(world.Scene.Particles.size() + 1000);
     world.Scene.Sprites.Items.reserve(world.Scene.Sprites.Items.size() + 1000);
     const std::size_t before = support::Allocations();
     for (int tick = 0; tick < 400; ++tick)
-        Tick(world);
+        world.Tick();
     EXPECT_EQ(support::Allocations() - before, 0u);
     EXPECT_GT(before, 0u); // the counter counts
 }

@@ -1,5 +1,7 @@
 // The fast walk over the pairs against the plain one: after every tick of random scenes, every bit is the same.
-#include "World.h"
+#include "tests/support/World.h"
+#include "world/Collision.h"
+#include "world/Driving.h"
 
 #include <gtest/gtest.h>
 
@@ -28,7 +30,7 @@ float Between(base::Random& random, double low, double high)
 }
 
 // One of one to eight spheres, with links to a mesh where it is a car.
-void AddObject(test::World& world, base::Random& random, const Recipe& recipe, bool car)
+void AddObject(support::World& world, base::Random& random, const Recipe& recipe, bool car)
 {
     const auto spheres = static_cast<std::int16_t>(1 + base::Floor(random.Next() * 8));
     const float radius = Between(random, 0.2, recipe.Radius);
@@ -57,11 +59,11 @@ void AddObject(test::World& world, base::Random& random, const Recipe& recipe, b
     ++world.Race.NumPlayers;
 }
 
-test::World Build(const Recipe& recipe, std::uint64_t seed)
+support::World Build(const Recipe& recipe, std::uint64_t seed)
 {
     base::Random random;
     random.Seed(seed);
-    test::World world;
+    support::World world;
     world.Random.Seed(seed + 1);
     world.WebcamOn = true;
     for (int n = 0; n < recipe.Objects; ++n)
@@ -70,7 +72,7 @@ test::World Build(const Recipe& recipe, std::uint64_t seed)
 }
 
 // Everything that a collision may change, as bits.
-std::vector<std::uint64_t> Bits(const test::World& world)
+std::vector<std::uint64_t> Bits(const support::World& world)
 {
     std::vector<std::uint64_t> bits;
     const auto add = [&](float value) { bits.push_back(std::bit_cast<std::uint32_t>(value)); };
@@ -112,8 +114,8 @@ TEST_P(CollisionJudge, EveryTickGivesTheSameBits)
     int touched = 0;
     for (std::uint64_t seed = 1; seed <= 12; ++seed)
     {
-        test::World fast = Build(GetParam(), seed);
-        test::World plain = fast;
+        support::World fast = Build(GetParam(), seed);
+        support::World plain = fast;
         for (int tick = 0; tick < 12; ++tick)
         {
             const std::vector<std::uint64_t> before = Bits(plain);
@@ -149,7 +151,7 @@ TEST(CollisionJudgeOddNumbers, GiveTheSameBits)
     const Recipe recipe = {80, 8, 60, 6, 6};
     for (std::uint64_t seed = 1; seed <= 20; ++seed)
     {
-        test::World fast = Build(recipe, seed);
+        support::World fast = Build(recipe, seed);
         for (int n = 0; n < 30; ++n)
         {
             render::Obj& object = fast.Object(base::Floor(random.Next() * 80));
@@ -157,7 +159,7 @@ TEST(CollisionJudgeOddNumbers, GiveTheSameBits)
                                      &object.Radius, &object.Mass, &object.Sfere[0].R};
             *fields[base::Floor(random.Next() * 7)] = odd[base::Floor(random.Next() * 9)];
         }
-        test::World plain = fast;
+        support::World plain = fast;
         for (int tick = 0; tick < 5; ++tick)
         {
             world::Simulation fastSim = fast.Sim();

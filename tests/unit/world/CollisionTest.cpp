@@ -1,4 +1,5 @@
-#include "World.h"
+#include "world/Collision.h"
+#include "tests/support/World.h"
 
 #include <gtest/gtest.h>
 
@@ -10,7 +11,7 @@ namespace
 // Every test holds for the fast walk and for the plain one.
 struct Collision : testing::TestWithParam<void (*)(world::Simulation&)>
 {
-    test::World World;
+    support::World World;
     void Collide()
     {
         world::Simulation sim = World.Sim();
@@ -333,7 +334,7 @@ TEST_P(Collision, AGridMadeAnewAfterTheModelHasNoUndamagedPoints)
 namespace
 {
 // A car of seven spheres, all at its centre, that is hit with the last one when the others are small; against a ball.
-void AddGlassCar(test::World& world, std::size_t hit)
+void AddGlassCar(support::World& world, std::size_t hit)
 {
     world.AddCar(0, 0);
     render::Obj& car = world.Object(0);
@@ -462,16 +463,16 @@ TEST_P(Collision, WhatIsNoNumberCollidesWithNothing)
 {
     constexpr float nan = std::numeric_limits<float>::quiet_NaN();
     constexpr float inf = std::numeric_limits<float>::infinity();
-    using Change = void (*)(test::World&, float);
-    const Change changes[] = {[](test::World& world, float odd) { world.Object(0).X = odd; },
-                              [](test::World& world, float odd) { world.Object(0).Y = odd; },
-                              [](test::World& world, float odd) { world.Object(0).Z = odd; },
-                              [](test::World& world, float odd) { world.Object(0).AngleA = odd; },
-                              [](test::World& world, float odd) { world.Object(0).AngleB = odd; },
-                              [](test::World& world, float odd) { world.Object(0).Radius = odd; },
-                              [](test::World& world, float odd) { world.Object(0).Sfere[0].R = odd; },
-                              [](test::World& world, float odd) { world.Object(0).Sfere[0].X = odd; },
-                              [](test::World& world, float odd) { world.Player(0).Speed = odd; }};
+    using Change = void (*)(support::World&, float);
+    const Change changes[] = {[](support::World& world, float odd) { world.Object(0).X = odd; },
+                              [](support::World& world, float odd) { world.Object(0).Y = odd; },
+                              [](support::World& world, float odd) { world.Object(0).Z = odd; },
+                              [](support::World& world, float odd) { world.Object(0).AngleA = odd; },
+                              [](support::World& world, float odd) { world.Object(0).AngleB = odd; },
+                              [](support::World& world, float odd) { world.Object(0).Radius = odd; },
+                              [](support::World& world, float odd) { world.Object(0).Sfere[0].R = odd; },
+                              [](support::World& world, float odd) { world.Object(0).Sfere[0].X = odd; },
+                              [](support::World& world, float odd) { world.Player(0).Speed = odd; }};
     for (const float odd : {nan, inf, -inf})
         for (std::size_t change = 0; change < std::size(changes); ++change)
         {

@@ -1,4 +1,5 @@
-#include "World.h"
+#include "world/ComputerDrive.h"
+#include "tests/support/World.h"
 
 #include <gtest/gtest.h>
 
@@ -10,7 +11,7 @@ namespace
 // A computer's car at the origin heading along +z; checkpoint 0 lies straight ahead, checkpoint 1 to its right.
 struct ComputerDrive : testing::Test
 {
-    test::World World;
+    support::World World;
     void SetUp() override
     {
         World.AddCar(0, 0);

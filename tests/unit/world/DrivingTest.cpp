@@ -1,4 +1,5 @@
-#include "World.h"
+#include "world/Driving.h"
+#include "tests/support/World.h"
 
 #include <gtest/gtest.h>
 
@@ -14,7 +15,7 @@ namespace
 // One user's car at (10, 10), heading along +z, on a ground of two texels a unit whose bytes are 100.
 struct Driving : testing::Test
 {
-    test::World World;
+    support::World World;
     void SetUp() override
     {
         World.AddCar(10, 10);

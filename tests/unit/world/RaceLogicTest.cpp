@@ -1,4 +1,4 @@
-#include "World.h"
+#include "tests/support/World.h"
 
 #include <gtest/gtest.h>
 
@@ -16,7 +16,7 @@ struct Sink : world::FinishSink
 // Two checkpoints of radius 5: at (0, 100) and at (100, 100).
 struct RaceLogic : testing::Test
 {
-    test::World World;
+    support::World World;
     Sink Finish;
     void SetUp() override { World.SetCheckpoints({{0, 9, 100, 5}, {100, 9, 100, 5}}); }
     world::Player& Car(std::int32_t index = 0) { return World.Player(index); }
@@ -27,7 +27,8 @@ struct RaceLogic : testing::Test
     }
     std::vector<int> Places()
     {
-        world::ComputePlaces(World.Scene, World.Race);
+        world::Simulation sim = World.Sim();
+        world::ComputePlaces(sim);
         std::vector<int> places;
         for (const world::Player& player : World.Race.Players)
             places.push_back(player.Place);
@@ -120,8 +121,7 @@ TEST_F(RaceLogic, ManyPlayersStopAtTheGreatestPlace)
     for (world::Player& player : World.Race.Players)
         player.Passed = 1;
     Car(0).Passed = 0;
-    world::ComputePlaces(World.Scene, World.Race);
-    EXPECT_EQ(Car(0).Place, 32767);
+    EXPECT_EQ(Places()[0], 32767);
 }
 
 TEST_F(RaceLogic, ACheckpointIsPassedOnceInsideItsZone)

@@ -1,5 +1,6 @@
 #include "render/Effects.h"
-#include "World.h"
+#include "tests/support/World.h"
+#include "world/Particles.h"
 
 #include <gtest/gtest.h>
 
@@ -11,7 +12,7 @@ namespace
 // One car at (10, 1, 20), heading 0.5, with all pictures; the clock stands at 1000.
 struct Smoke : testing::Test
 {
-    test::World World;
+    support::World World;
     void SetUp() override
     {
         World.MakePictures();

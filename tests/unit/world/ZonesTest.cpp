@@ -1,4 +1,6 @@
-#include "World.h"
+#include "world/Zones.h"
+#include "tests/support/World.h"
+#include "world/Driving.h"
 
 #include <gtest/gtest.h>
 
@@ -9,7 +11,7 @@ namespace
 // The user's car at (10, 10) inside one zone of radius 5, of the kind that the test chooses.
 struct Zones : testing::Test
 {
-    test::World World;
+    support::World World;
     void SetUp() override { World.AddCar(10, 10); }
     world::Player& Car() { return World.Player(0); }
     void Add(std::vector<world::Target>& list, std::int16_t& count, float radius = 5.0f)
@@ -191,7 +193,7 @@ TEST_F(Zones, ACarThatIsNowhereIsInNoZone)
 
 TEST(TyreMarks, DarkenTheTexelsUnderBothSides)
 {
-    test::World world;
+    support::World world;
     world.AddCar(10, 10, 1.570796f); // heading along -x: its sides lie along z
     world.SetGround(32, 32, 1, 101);
     world::Simulation sim = world.Sim();
@@ -212,7 +214,7 @@ TEST(TyreMarks, DarkenTheTexelsUnderBothSides)
 
 TEST(TyreMarks, RoundToTheNearestTexelTiesToEven)
 {
-    test::World world;
+    support::World world;
     world.AddCar(11.5f, 10);
     world.SetGround(32, 32, 1, 100);
     world::Simulation sim = world.Sim();
@@ -223,7 +225,7 @@ TEST(TyreMarks, RoundToTheNearestTexelTiesToEven)
 
 TEST(TyreMarks, OutsideTheGroundThereIsNothingToMark)
 {
-    test::World world;
+    support::World world;
     world.AddCar(0, 0);
     world.SetGround(4, 4, 1, 100);
     world::Simulation sim = world.Sim();

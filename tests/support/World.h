@@ -1,15 +1,21 @@
-// A small world for the tests of the simulation: everything a tick reads and writes, and cars to put into it.
+// A small world for tests, benchmarks and fuzzers of the simulation: everything a tick reads and writes, and cars to
+// put into it.
 #pragma once
 #include "render/Primitives.h"
-#include "world/Dynamics.h"
-#include "world/RaceLogic.h"
+#include "world/Tick.h"
 
 #include <initializer_list>
 #include <memory>
 #include <vector>
 
-namespace test
+namespace support
 {
+// A finish that nobody shows.
+struct NoFinish final : world::FinishSink
+{
+    void Finished(const std::string&) override {}
+};
+
 struct World
 {
     render::Scene Scene;
@@ -18,6 +24,7 @@ struct World
     world::HeldKeys Keys;
     world::RaceAssets Assets;
     base::Random Random;
+    world::TickScratch Scratch;
     float EffQuality = 1.0f;
     bool WebcamOn = false;
     float Shake = 0.0f;
@@ -25,7 +32,18 @@ struct World
 
     World() { Random.Script = {0.75}; }
 
-    world::Simulation Sim() { return {Scene, Race, Camera, Keys, Assets, Random, EffQuality, WebcamOn, Shake, InBox}; }
+    world::Simulation Sim()
+    {
+        return {Scene, Race, Camera, Keys, Assets, Random, Scratch, EffQuality, WebcamOn, Shake, InBox};
+    }
+    // The next step of the race, by Collide or CollidePlain.
+    void Tick(void (*step)(world::Simulation&, world::FinishSink&) = world::GameTick)
+    {
+        NoFinish finish;
+        world::Simulation sim = Sim();
+        Race.GameTime += 25;
+        step(sim, finish);
+    }
 
     render::Obj& Object(std::int32_t index) { return Scene.Objects.At(index); }
     world::Player& Player(std::int32_t index) { return Race.Players.at(static_cast<std::size_t>(index)); }
