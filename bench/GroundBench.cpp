@@ -5,7 +5,6 @@
 
 #include <benchmark/benchmark.h>
 
-#include <atomic>
 #include <memory>
 
 namespace
@@ -44,7 +43,7 @@ void Fast(benchmark::State& state)
     World world(static_cast<int>(state.range(1)), static_cast<int>(state.range(2)), static_cast<int>(state.range(0)),
                 static_cast<int>(state.range(3)));
     for (auto _ : state)
-        render::DrawGround(world.Scene, world.View->Camera, world.View->Screen);
+        render::DrawGround(world.Scene, world.View->Camera, world.View->Screen, world.View->Threads);
 }
 }
 

@@ -22,7 +22,7 @@ const std::uint8_t* ShippedFrames::Draw()
     render::Camera camera = Cameras[Next++ % Cameras.size()];
     // The path was recorded at another resolution: the same angle of view.
     camera.Zoom = camera.Zoom / camera.MinZoom * game.Camera.MinZoom;
-    render::RenderFrame(game.Scene, camera, game.Screen, nullptr);
+    render::RenderFrame(game.Scene, camera, game.Screen, game.GroundThreads);
     return game.Screen.Frame.Bytes.data();
 }
 }

@@ -4,6 +4,7 @@
 #include "base/Numbers.h"
 #include "render/Blend.h"
 #include "render/Double2.h"
+#include "render/GroundThreads.h"
 
 #include <algorithm>
 #include <bit>
@@ -167,13 +168,13 @@ void FillSpan(const GroundView& view, const RowSpan& span, std::int32_t margin, 
 
 // The walk that the three filters share: by rows, because rows lie together in memory. fill draws one span of a ground
 // row.
-template <class Fill> void WalkRows(const GroundView& view, const Band& band, WalkGate& gate, Fill&& fill)
+template <class Fill> void WalkRows(const GroundView& view, const Band& band, StopCheck& check, Fill&& fill)
 {
     if (band.Last < band.First)
         return;
     for (std::int32_t y = 0; y < view.ScreenH; ++y)
     {
-        if (!gate.MayGoOn())
+        if (check.MustStop())
             return;
         float* depth = view.Depth + y * view.DepthRow;
         std::fill(depth + band.First, depth + band.Last + 1, FarDepth);
@@ -259,14 +260,14 @@ void FillNearest(const GroundView& view, const RowSpan& span, std::int32_t margi
 }
 }
 
-void GroundNearest(const GroundView& view, const Band& band, WalkGate& gate)
+void GroundNearest(const GroundView& view, const Band& band, StopCheck& check)
 {
-    WalkRows(view, band, gate, [&](const RowSpan& span) { FillNearest(view, span, 0); });
+    WalkRows(view, band, check, [&](const RowSpan& span) { FillNearest(view, span, 0); });
 }
 
-void GroundLinear(const GroundView& view, const Band& band, WalkGate& gate)
+void GroundLinear(const GroundView& view, const Band& band, StopCheck& check)
 {
-    WalkRows(view, band, gate,
+    WalkRows(view, band, check,
              [&](const RowSpan& span)
              {
                  const double w = view.RowAux[span.Y], rest = 1.0 - w;
@@ -276,10 +277,10 @@ void GroundLinear(const GroundView& view, const Band& band, WalkGate& gate)
              });
 }
 
-void GroundAniso(const GroundView& view, const Band& band, WalkGate& gate)
+void GroundAniso(const GroundView& view, const Band& band, StopCheck& check)
 {
     FindTaps(view, band);
-    WalkRows(view, band, gate,
+    WalkRows(view, band, check,
              [&](const RowSpan& span)
              {
                  const float aux = view.RowAux[span.Y];

@@ -1,7 +1,6 @@
 // render/Ground.h: the ground and sky pass, which fills every pixel and empties every depth cell of its columns.
-// Several threads walk disjoint bands at once; they read the view and write their own columns only.
+// Several threads draw disjoint bands at once; they read the view and write their own columns only.
 #pragma once
-#include "render/GroundWalkers.h"
 #include "render/Scene.h"
 #include "render/Screen.h"
 
@@ -9,6 +8,8 @@
 
 namespace render
 {
+class StopCheck;
+
 // A picture as the pixel loops read it: Width and Height never exceed the bytes that are there.
 struct TexelField
 {
@@ -66,8 +67,8 @@ void GroundPlain(const GroundView& view, const Band& band, std::int16_t filter);
 // One pixel of it; y is a ground row.
 void GroundPixelPlain(const GroundView& view, std::int16_t filter, std::int32_t x, std::int32_t y, std::uint8_t* pixel);
 
-// The same bytes by rows. A gate that closes leaves the rest of the band as it is.
-void GroundNearest(const GroundView& view, const Band& band, WalkGate& gate);
-void GroundLinear(const GroundView& view, const Band& band, WalkGate& gate);
-void GroundAniso(const GroundView& view, const Band& band, WalkGate& gate);
+// The same bytes by rows. The check that says stop leaves the rest of the band as it is.
+void GroundNearest(const GroundView& view, const Band& band, StopCheck& check);
+void GroundLinear(const GroundView& view, const Band& band, StopCheck& check);
+void GroundAniso(const GroundView& view, const Band& band, StopCheck& check);
 }

@@ -3,32 +3,33 @@
 #include "base/Numbers.h"
 #include "render/Draw2D.h"
 #include "render/Ground.h"
-#include "render/GroundWalkers.h"
+#include "render/GroundThreads.h"
 #include "render/Lines.h"
 #include "render/Sprites.h"
 #include "render/Triangles.h"
+
+#include <algorithm>
 
 namespace render
 {
 namespace
 {
-struct GroundPass final : BandWalk
+// There are 2 x processors + 1 bands, and the calling thread draws too.
+int HelpersFor(std::size_t bands)
 {
-    explicit GroundPass(const GroundView& groundView, std::int16_t txtFilter) : View(groundView), Filter(txtFilter) {}
+    const int processors = std::max((static_cast<int>(bands) - 1) / 2, 1);
+    return processors - 1;
+}
 
-    void Walk(const Band& band, WalkGate& gate) const override
-    {
-        if (Filter == 1)
-            GroundLinear(View, band, gate);
-        else if (Filter == 2)
-            GroundAniso(View, band, gate);
-        else
-            GroundNearest(View, band, gate);
-    }
-
-    const GroundView& View;
-    std::int16_t Filter;
-};
+void DrawBand(const GroundView& view, std::int16_t filter, const Band& band, StopCheck& check)
+{
+    if (filter == 1)
+        GroundLinear(view, band, check);
+    else if (filter == 2)
+        GroundAniso(view, band, check);
+    else
+        GroundNearest(view, band, check);
+}
 
 // Deliberate: the far side of the bounding sphere is projected, and only the upper edge of the screen is strict.
 bool IsInView(const Camera& camera, const Screen& screen, const Obj& object)
@@ -132,18 +133,19 @@ void DrawLabel(const Scene& scene, const Surface& surface, const Label2D& label)
 }
 }
 
-void DrawGround(const Scene& scene, const Camera& camera, Screen& screen)
+void DrawGround(const Scene& scene, const Camera& camera, Screen& screen, GroundThreads& threads)
 {
     const GroundView view = MakeGroundView(scene, camera, screen);
-    const GroundPass pass(view, screen.TxtFilter);
+    const std::int16_t filter = screen.TxtFilter;
     if (screen.SingleThread != 0)
     {
         std::atomic<bool> never{false};
-        WalkGate gate(never);
-        pass.Walk(screen.Bands.front(), gate);
+        StopCheck check(never);
+        return DrawBand(view, filter, screen.Bands.front(), check);
     }
-    else
-        screen.Walkers->Run(pass, screen.Bands, std::chrono::milliseconds(screen.GroundLimit));
+    threads.Resize(HelpersFor(screen.Bands.size()));
+    threads.Run([&view, filter](const Band& band, StopCheck& check) { DrawBand(view, filter, band, check); },
+                screen.Bands, std::chrono::milliseconds(screen.GroundLimit));
 }
 
 void DrawObjects(const Scene& scene, const Camera& camera, Screen& screen)
@@ -173,13 +175,13 @@ void DrawHud(const Scene& scene, Screen& screen)
             DrawLabel(scene, surface, label);
 }
 
-void RenderFrame(const Scene& scene, const Camera& camera, Screen& screen, FrameSink* sink)
+void RenderFrame(const Scene& scene, const Camera& camera, Screen& screen, GroundThreads& threads)
 {
     if (screen.Frame.Empty())
         return; // no resolution was applied yet
     UpdateSkyOffset(camera, screen);
     UpdateRowTables(camera, screen);
-    DrawGround(scene, camera, screen);
+    DrawGround(scene, camera, screen, threads);
     DrawObjects(scene, camera, screen);
     DrawWorldMeshes(scene, camera, screen);
     DrawPolys(scene, camera, screen);
@@ -187,7 +189,5 @@ void RenderFrame(const Scene& scene, const Camera& camera, Screen& screen, Frame
         if (IsDrawn(sprite))
             DrawSprite3D(camera, screen, sprite);
     DrawHud(scene, screen);
-    if (sink != nullptr)
-        sink->Present(screen.ScreenW, screen.ScreenH, screen.Frame.Bytes);
 }
 }

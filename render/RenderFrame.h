@@ -4,25 +4,18 @@
 #include "render/Scene.h"
 #include "render/Screen.h"
 
-#include <cstdint>
-#include <span>
-
 namespace render
 {
-// Whoever shows a finished frame: bottom-up rows of blue, green, red, padded to 4 bytes, borrowed for the call.
-struct FrameSink
-{
-    virtual ~FrameSink() = default;
-    virtual void Present(int width, int height, std::span<const std::uint8_t> bits) = 0;
-};
+class GroundThreads;
 
-// Draws into screen.Frame and presents it when sink is not null.
-void RenderFrame(const Scene& scene, const Camera& camera, Screen& screen, FrameSink* sink);
+// Draws into screen.Frame and screen.Depth; nothing before a resolution was applied. The threads are made as many as
+// the screen's bands are meant for, and rest when it returns.
+void RenderFrame(const Scene& scene, const Camera& camera, Screen& screen, GroundThreads& threads);
 
 // The steps, each alone.
 void UpdateSkyOffset(const Camera& camera, Screen& screen);
 void UpdateRowTables(const Camera& camera, Screen& screen);
-void DrawGround(const Scene& scene, const Camera& camera, Screen& screen);
+void DrawGround(const Scene& scene, const Camera& camera, Screen& screen, GroundThreads& threads);
 void DrawObjects(const Scene& scene, const Camera& camera, Screen& screen);
 void DrawHud(const Scene& scene, Screen& screen);
 }

@@ -2,25 +2,16 @@
 #pragma once
 #include "base/Fields.h"
 #include "base/Trapped.h"
+#include "render/Bands.h"
 #include "render/Camera.h"
 #include "render/PicArray.h"
 
 #include <cstdint>
-#include <memory>
 #include <vector>
 
 namespace render
 {
 inline constexpr float FarDepth = 3.4028230607370965e38f; // an empty depth cell
-
-struct Band
-{
-    std::int32_t First = 0, Last = 0; // columns, both included; empty where Last < First
-};
-
-// With b = width / count in single precision, band i runs from round(b i) to round(b (i + 1) - 1). Where both are
-// rounded from a half (even counts only) the last column is the one before the next band, so none is left out or twice.
-std::vector<Band> MakeBands(std::int32_t width, std::int16_t count);
 
 // Where the anisotropic filter reads beside a texel, for one screen column.
 inline constexpr std::int32_t MostTaps = 14;
@@ -30,15 +21,8 @@ struct ColumnTaps
     std::int32_t HasTies = 0;           // a step lies between two texels: the offsets do not hold
 };
 
-class GroundWalkers; // the threads of the ground pass, see render/GroundWalkers.h
-
 struct Screen
 {
-    Screen();
-    ~Screen();
-    Screen(const Screen&) = delete;
-    Screen& operator=(const Screen&) = delete;
-
     std::int32_t ScreenW = 0, ScreenH = 0; // pixels
     std::int32_t ScreenMaxX = 0, ScreenMaxY = 0;
     std::int32_t RowBytes = 0, RowBytesLast = 0; // 3 * ScreenW, and 3 less
@@ -55,13 +39,11 @@ struct Screen
     std::vector<double> ColumnSlope;                        // one a screen column, and one more for pairwise reading
     std::vector<ColumnTaps> Taps;                           // one a screen column
     std::vector<Band> Bands;
-    std::int32_t GroundLimit = 60;          // milliseconds the ground pass may take before it is cut off
-    std::unique_ptr<GroundWalkers> Walkers; // made with the resolution
+    std::int32_t GroundLimit = 60; // milliseconds the ground pass may take before it is cut off
 };
 
-// Takes a resolution: derived fields, MinZoom and Zoom (2 x MinZoom), frame, depth buffer, row tables, bands, walkers
-// (as many as ThreadCount tells processors: it is 2 x processors + 1). A size that cannot be is reported and leaves a
-// screen of 0 x 0, on which nothing is drawn.
+// Takes a resolution: derived fields, MinZoom and Zoom (2 x MinZoom), frame, depth buffer, row tables, bands (as many
+// as ThreadCount says). A size that cannot be is reported and leaves a screen of 0 x 0, on which nothing is drawn.
 void ApplyResolution(base::MessageSink& messages, Screen& screen, Camera& camera, std::int32_t width,
                      std::int32_t height);
 // "nessuno", "lineare", "anisotropico"; empty for any other filter.

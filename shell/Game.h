@@ -4,6 +4,7 @@
 #include "audio/Soundtrack.h"
 #include "base/Fields.h"
 #include "base/Random.h"
+#include "render/GroundThreads.h"
 #include "render/Scene.h"
 #include "render/Screen.h"
 #include "shell/TickTimer.h"
@@ -89,6 +90,7 @@ struct Game
     render::Scene Scene;
     render::Camera Camera;
     render::Screen Screen;
+    render::GroundThreads GroundThreads;
     world::Race Race;
     world::HeldKeys Keys;
     world::RaceAssets Assets;

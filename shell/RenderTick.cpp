@@ -20,16 +20,6 @@ template <class Body> void CarryOn(Body&& body)
     {
     }
 }
-
-struct WindowSink final : render::FrameSink
-{
-    explicit WindowSink(platform::Window& window) : Window(window) {}
-    void Present(int width, int height, std::span<const std::uint8_t> bits) override
-    {
-        Window.Present(width, height, bits);
-    }
-    platform::Window& Window;
-};
 }
 
 // Every 500 ms: the frames that were really drawn since the last measurement.
@@ -73,20 +63,18 @@ void Form1::RenderT_Tick()
 
 void Form1::Draw()
 {
-    render::RenderFrame(TheGame.Scene, TheGame.Camera, TheGame.Screen, nullptr);
+    render::RenderFrame(TheGame.Scene, TheGame.Camera, TheGame.Screen, TheGame.GroundThreads);
 }
 
 // Draws a frame and shows it: as it is while nothing covers it, else with the controls over it.
 void Form1::ShowFrame()
 {
+    Draw();
+    const render::Screen& screen = TheGame.Screen;
     if (IsAnyControlShown())
-    {
-        Draw();
         Repaint();
-        return;
-    }
-    WindowSink sink(*TheWindow);
-    render::RenderFrame(TheGame.Scene, TheGame.Camera, TheGame.Screen, &sink);
+    else if (!screen.Frame.Empty())
+        TheWindow->Present(screen.ScreenW, screen.ScreenH, screen.Frame.Bytes);
 }
 
 void Form1::PlaceCamera()

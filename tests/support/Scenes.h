@@ -2,6 +2,7 @@
 #pragma once
 #include "base/Random.h"
 #include "render/GroundTexture.h"
+#include "render/GroundThreads.h"
 #include "render/Primitives.h"
 #include "render/Scene.h"
 #include "render/Screen.h"
@@ -59,6 +60,7 @@ struct View
     support::Messages Messages;
     render::Camera Camera;
     render::Screen Screen;
+    render::GroundThreads Threads;
 
     View(int width, int height, int filter = 0, int threads = 3)
     {

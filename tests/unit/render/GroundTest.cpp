@@ -35,7 +35,7 @@ void Compare(const render::Scene& scene, scenes::View& view)
     const std::vector<float> depth = screen.Depth;
     std::fill(screen.Frame.Bytes.begin(), screen.Frame.Bytes.end(), std::uint8_t{77});
     std::fill(screen.Depth.begin(), screen.Depth.end(), 1.0f);
-    render::DrawGround(scene, view.Camera, screen);
+    render::DrawGround(scene, view.Camera, screen, view.Threads);
     const auto differs = std::mismatch(plain.begin(), plain.end(), screen.Frame.Bytes.begin());
     ASSERT_EQ(differs.first, plain.end())
         << "first other byte in row " << (differs.first - plain.begin()) / screen.Frame.RowBytes << ", column "
@@ -95,7 +95,7 @@ void Draw(const render::Scene& scene, scenes::View& view)
 {
     render::UpdateSkyOffset(view.Camera, view.Screen);
     render::UpdateRowTables(view.Camera, view.Screen);
-    render::DrawGround(scene, view.Camera, view.Screen);
+    render::DrawGround(scene, view.Camera, view.Screen, view.Threads);
 }
 
 // A ground of one grey, sharp and blurred, with the row weight given.
@@ -105,7 +105,7 @@ std::unique_ptr<scenes::View> DrawWeighted(render::Scene& scene, int filter, flo
     view->Look(100, 1, 100, 0, 0);
     render::UpdateRowTables(view->Camera, view->Screen);
     std::fill(view->Screen.RowAux.begin(), view->Screen.RowAux.end(), aux);
-    render::DrawGround(scene, view->Camera, view->Screen);
+    render::DrawGround(scene, view->Camera, view->Screen, view->Threads);
     return view;
 }
 }
@@ -332,7 +332,7 @@ TEST(Ground, StepsThatEndBetweenTexelsFollowThePlainRule)
             const Band all{0, view.Screen.ScreenMaxX};
             render::GroundPlain(render::MakeGroundView(scene, view.Camera, view.Screen), all, 2);
             const std::vector<std::uint8_t> plain = view.Screen.Frame.Bytes;
-            render::DrawGround(scene, view.Camera, view.Screen);
+            render::DrawGround(scene, view.Camera, view.Screen, view.Threads);
             EXPECT_NE(view.Screen.Taps[120].HasTies, 0);
             EXPECT_EQ(view.Screen.Taps[3].HasTies, 0);
             EXPECT_EQ(plain, view.Screen.Frame.Bytes);

@@ -22,19 +22,6 @@ namespace
 {
 constexpr unsigned Red = 0x0000FF, Green = 0x00FF00, Blue = 0xFF0000; // as Bytes() gives them
 
-struct Shown : render::FrameSink
-{
-    int Times = 0, Width = 0, Height = 0;
-    std::span<const std::uint8_t> Bits;
-    void Present(int width, int height, std::span<const std::uint8_t> bits) override
-    {
-        ++Times;
-        Width = width;
-        Height = height;
-        Bits = bits;
-    }
-};
-
 // 240 x 200, zoom 200, centre (120, 100), the eye in the origin: at depth 200 a unit is a pixel.
 struct Eye : scenes::View
 {
@@ -42,13 +29,13 @@ struct Eye : scenes::View
     explicit Eye(int threads = 1) : View(240, 200, 0, threads) { Look(0, 0, 0, 0, 0); }
     unsigned At(int x, int y)
     {
-        RenderFrame(Scene, Camera, Screen, nullptr);
+        RenderFrame(Scene, Camera, Screen, Threads);
         return scenes::Bytes(Pixel(x, y));
     }
     // Whether anything but the black sky is in the frame.
     bool Draws()
     {
-        RenderFrame(Scene, Camera, Screen, nullptr);
+        RenderFrame(Scene, Camera, Screen, Threads);
         return std::any_of(Screen.Frame.Bytes.begin(), Screen.Frame.Bytes.end(), [](int byte) { return byte != 0; });
     }
 };
@@ -91,32 +78,28 @@ void Add(Scene& scene, Obj object)
 }
 }
 
-TEST(RenderFrame, PresentsTheFrameOnceWithItsPaddedRows)
+TEST(RenderFrame, FillsTheFrameWithItsPaddedRows)
 {
     scenes::View view(241, 201);
-    Shown shown;
     Scene scene;
-    RenderFrame(scene, view.Camera, view.Screen, &shown);
-    EXPECT_EQ(shown.Times, 1);
-    EXPECT_EQ(shown.Width, 241);
-    EXPECT_EQ(shown.Height, 201);
-    EXPECT_EQ(shown.Bits.data(), view.Screen.Frame.Bytes.data()); // not a copy
-    EXPECT_EQ(shown.Bits.size(), 724u * 201u);
-    RenderFrame(scene, view.Camera, view.Screen, nullptr);
-    EXPECT_EQ(shown.Times, 1);
+    std::fill(view.Screen.Frame.Bytes.begin(), view.Screen.Frame.Bytes.end(), std::uint8_t{77});
+    RenderFrame(scene, view.Camera, view.Screen, view.Threads);
+    EXPECT_EQ(view.Screen.Frame.Bytes.size(), 724u * 201u);
+    EXPECT_EQ(scenes::Bytes(view.Pixel(0, 0)), 0u);
+    EXPECT_EQ(scenes::Bytes(view.Pixel(240, 200)), 0u);
+    EXPECT_EQ(view.Screen.Frame.Bytes.back(), 77); // the padding is nobody's
 }
 
 TEST(RenderFrame, WithoutAResolutionNothingHappens)
 {
     render::Screen screen;
-    Shown shown;
-    RenderFrame(Scene(), render::Camera(), screen, &shown);
-    EXPECT_EQ(shown.Times, 0);
+    render::GroundThreads threads;
+    RenderFrame(Scene(), render::Camera(), screen, threads);
+    EXPECT_TRUE(screen.Frame.Empty());
 }
 
-// The time is over before the pass begins: what was in the frame stays, everything after the ground is drawn, and the
-// frame is shown.
-TEST(RenderFrame, AGroundPassOutOfTimeIsCutOffAndTheFrameIsShown)
+// The time is over before the pass begins: what was in the frame stays, and everything after the ground is drawn.
+TEST(RenderFrame, AGroundPassOutOfTimeIsCutOff)
 {
     for (const int threads : {1, 3, 5, 16})
     {
@@ -124,19 +107,16 @@ TEST(RenderFrame, AGroundPassOutOfTimeIsCutOffAndTheFrameIsShown)
         render::MakeRect2D(view.Scene, 10, 10, 5, 5, 0, {255, 0, 0}, 1);
         std::fill(view.Screen.Frame.Bytes.begin(), view.Screen.Frame.Bytes.end(), std::uint8_t{77});
         view.Screen.GroundLimit = 0;
-        Shown shown;
-        RenderFrame(view.Scene, view.Camera, view.Screen, &shown);
-        EXPECT_EQ(shown.Times, 1);
+        RenderFrame(view.Scene, view.Camera, view.Screen, view.Threads);
         EXPECT_EQ(scenes::Bytes(view.Pixel(200, 100)), 0x4D4D4Du);
         EXPECT_EQ(scenes::Bytes(view.Pixel(12, 12)), Red);
         view.Screen.GroundLimit = 600000;
-        RenderFrame(view.Scene, view.Camera, view.Screen, &shown);
-        EXPECT_EQ(shown.Times, 2);
+        RenderFrame(view.Scene, view.Camera, view.Screen, view.Threads);
         EXPECT_EQ(scenes::Bytes(view.Pixel(200, 100)), 0u); // whole again
     }
 }
 
-// A pass that is truly too slow: two walkers cannot draw twelve million pixels in a millisecond.
+// A pass that is truly too slow: two threads cannot draw twelve million pixels in a millisecond.
 TEST(RenderFrame, ASlowGroundPassLeavesItsLastRowsAsTheyWere)
 {
     scenes::View view(4000, 3000, 2, 5);
@@ -148,9 +128,7 @@ TEST(RenderFrame, ASlowGroundPassLeavesItsLastRowsAsTheyWere)
     view.Look(250, 40, 250, 0.5f, -1.5f);
     std::fill(view.Screen.Depth.begin(), view.Screen.Depth.end(), 1.0f);
     view.Screen.GroundLimit = 1;
-    Shown shown;
-    RenderFrame(scene, view.Camera, view.Screen, &shown);
-    EXPECT_EQ(shown.Times, 1);
+    RenderFrame(scene, view.Camera, view.Screen, view.Threads);
     EXPECT_GT(std::count(view.Screen.Depth.begin(), view.Screen.Depth.end(), 1.0f), 0);
 }
 
@@ -475,7 +453,7 @@ TEST(RenderFrame, IsThePlainFrameForRandomWorlds)
             { return static_cast<float>(scenes::Draw(place, least, most)); };
             view->Look(draw(0, 120), draw(0.5, 12), draw(0, 90), draw(-4, 4), draw(-0.9, 0.3));
         }
-        RenderFrame(scene, fast.Camera, fast.Screen, nullptr);
+        RenderFrame(scene, fast.Camera, fast.Screen, fast.Threads);
         DrawPlain(scene, plain.Camera, plain.Screen);
         ASSERT_EQ(fast.Screen.Frame.Bytes, plain.Screen.Frame.Bytes) << round;
         ASSERT_EQ(fast.Screen.Depth, plain.Screen.Depth) << round;
@@ -536,6 +514,6 @@ TEST(RenderFrame, NumbersThatAreNoneDoNoHarm)
             if (round % 4 == 0)
                 UpdateCameraTrig(view.Camera);
         }
-        RenderFrame(scene, view.Camera, view.Screen, nullptr);
+        RenderFrame(scene, view.Camera, view.Screen, view.Threads);
     }
 }
