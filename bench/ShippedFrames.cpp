@@ -6,6 +6,12 @@
 
 namespace bench
 {
+const char* FilterName(std::int16_t filter)
+{
+    constexpr const char* names[] = {"nessuno", "lineare", "anisotropico"};
+    return filter >= 0 && filter < 3 ? names[filter] : "";
+}
+
 ShippedFrames::ShippedFrames() : Cameras(Race.RecordPath(1600)) {}
 
 void ShippedFrames::Prepare(std::int32_t width, std::int32_t height, std::int16_t filter)

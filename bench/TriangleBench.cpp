@@ -39,12 +39,12 @@ template <bool Textured, bool Fast> void Fill(benchmark::State& state)
 {
     Triangles world(static_cast<int>(state.range(0)), static_cast<int>(state.range(1)));
     render::Screen& screen = world.View.Screen;
-    const render::TexelField texture = render::MakeTexelField(world.Picture.Pixels, 256, 256);
+    const base::ConstSurface texture = render::MakeSurface(world.Picture.Pixels, 256, 256);
     const render::Rgb colour{10, 20, 30};
     for (auto _ : state)
     {
         state.PauseTiming();
-        std::fill(screen.Depth.begin(), screen.Depth.end(), render::FarDepth);
+        std::fill(screen.Depth.Cells.begin(), screen.Depth.Cells.end(), render::FarDepth);
         state.ResumeTiming();
         for (std::size_t i = 0; i + 2 < world.Corners.size(); i += 3)
         {

@@ -13,12 +13,6 @@
 
 namespace render
 {
-TexelField MakeTexelField(const PicArray2D& pixels, std::int32_t width, std::int32_t height)
-{
-    return {pixels.Bytes.data(), pixels.RowBytes, std::clamp(width, 0, pixels.RowBytes / 3),
-            std::clamp(height, 0, pixels.Rows)};
-}
-
 GroundView MakeGroundView(const Scene& scene, const Camera& camera, Screen& screen)
 {
     GroundView view;
@@ -30,12 +24,12 @@ GroundView MakeGroundView(const Scene& scene, const Camera& camera, Screen& scre
     view.Zoom = camera.Zoom;
     view.CenterX = screen.CenterX;
     view.GroundScale = scene.Ground.GroundScale;
-    view.Sharp = MakeTexelField(scene.Ground.Sharp.Pixels, scene.Ground.Width, scene.Ground.Height);
+    view.Sharp = MakeSurface(scene.Ground.Sharp.Pixels, scene.Ground.Width, scene.Ground.Height);
     const PicArray2D& blur = scene.Ground.GroundBlur;
     const bool same =
         blur.Rows == scene.Ground.Sharp.Pixels.Rows && blur.RowBytes == scene.Ground.Sharp.Pixels.RowBytes;
-    view.Blurred = same ? MakeTexelField(blur, scene.Ground.Width, scene.Ground.Height) : view.Sharp;
-    view.Sky = MakeTexelField(scene.Sky.Pixels, scene.Sky.Info.Width, scene.Sky.Info.Height);
+    view.Blurred = same ? MakeSurface(blur, scene.Ground.Width, scene.Ground.Height) : view.Sharp;
+    view.Sky = MakeSurface(scene.Sky);
     view.SkyOffset = (screen.SkyOffset % SkyWidth + SkyWidth) % SkyWidth;
     view.ScreenH = screen.ScreenH;
     view.RowAngle = screen.RowAngle.data();
@@ -48,7 +42,7 @@ GroundView MakeGroundView(const Scene& scene, const Camera& camera, Screen& scre
     view.Taps = screen.Taps.data();
     view.Frame = screen.Frame.Bytes.data();
     view.FrameRowBytes = screen.Frame.RowBytes;
-    view.Depth = screen.Depth.data();
+    view.Depth = screen.Depth.Cells.data();
     view.DepthRow = screen.ScreenW;
     return view;
 }
@@ -70,11 +64,6 @@ struct RowSpan
     std::int32_t First = 0, Count = 0; // columns, Count at most Chunk
     std::uint8_t* Pixels = nullptr;    // of the first column
 };
-
-void Copy(std::uint8_t* pixel, const std::uint8_t* from)
-{
-    std::memcpy(pixel, from, 3);
-}
 
 // Load3 where a fourth byte may be read as well.
 std::uint32_t Load3Of4(const std::uint8_t* from)
@@ -107,7 +96,7 @@ void FindTexels(const GroundView& view, const RowSpan& span, TexelRun& run)
 class Inside
 {
 public:
-    Inside(const TexelField& field, std::int32_t margin)
+    Inside(const base::ConstSurface& field, std::int32_t margin)
         : Least(static_cast<std::uint32_t>(margin)),
           Columns(static_cast<std::uint32_t>(std::max(field.Width - 2 * margin, 0))),
           Rows(static_cast<std::uint32_t>(std::max(field.Height - 2 * margin, 0)))
@@ -129,7 +118,7 @@ void CopySky(const GroundView& view, const Band& band, std::int32_t y)
     if (view.Sky.Width < SkyWidth || row < 0 || row >= view.Sky.Height)
     {
         for (std::int32_t x = band.First; x <= band.Last; ++x, pixel += 3)
-            Copy(pixel, SkyPixel(view, x, row));
+            base::CopyPixel(pixel, SkyPixel(view, x, row));
         return;
     }
     for (std::int32_t x = band.First; x <= band.Last;)
@@ -163,7 +152,7 @@ void FillSpan(const GroundView& view, const RowSpan& span, std::int32_t margin, 
         if (inside(run.U[i], run.V[i]))
             ground(run.U[i], run.V[i], span.First + i, pixel);
         else
-            Copy(pixel, SkyPixel(view, span.First + i, skyRow));
+            base::CopyPixel(pixel, SkyPixel(view, span.First + i, skyRow));
 }
 
 // The walk that the three filters share: by rows, because rows lie together in memory. fill draws one span of a ground
@@ -256,7 +245,7 @@ void FillNearest(const GroundView& view, const RowSpan& span, std::int32_t margi
 {
     FillSpan(view, span, margin,
              [sharp = view.Sharp](std::int32_t u, std::int32_t v, std::int32_t, std::uint8_t* pixel)
-             { Copy(pixel, sharp.At(u, v)); });
+             { base::CopyPixel(pixel, sharp.At(u, v)); });
 }
 }
 

@@ -10,31 +10,14 @@ namespace render
 {
 class StopCheck;
 
-// A picture as the pixel loops read it: Width and Height never exceed the bytes that are there.
-struct TexelField
-{
-    const std::uint8_t* Bytes = nullptr;
-    std::ptrdiff_t RowBytes = 0;
-    std::int32_t Width = 0, Height = 0;
-
-    // One comparison an axis: as unsigned numbers, negative ones are the largest.
-    bool Has(std::int32_t u, std::int32_t v) const
-    {
-        return static_cast<std::uint32_t>(u) < static_cast<std::uint32_t>(Width) &&
-               static_cast<std::uint32_t>(v) < static_cast<std::uint32_t>(Height);
-    }
-    const std::uint8_t* At(std::int32_t u, std::int32_t v) const { return Bytes + v * RowBytes + u * 3; }
-};
-TexelField MakeTexelField(const PicArray2D& pixels, std::int32_t width, std::int32_t height);
-
 // What the pass reads, gathered once a frame, and where it writes.
 struct GroundView
 {
     double CamX = 0, CamZ = 0, SinYaw = 0, CosYaw = 0, Yaw = 0;
     double Zoom = 0, CenterX = 0;
     double GroundScale = 1;
-    TexelField Sharp, Blurred; // Blurred is Sharp where no blurred copy was made
-    TexelField Sky;
+    base::ConstSurface Sharp, Blurred; // Blurred is Sharp where no blurred copy was made
+    base::ConstSurface Sky;
     std::int32_t SkyOffset = 0; // 0 … 819
     std::int32_t ScreenH = 0;
     const float *RowAngle = nullptr, *RowSlant = nullptr, *RowDist = nullptr, *RowAux = nullptr;

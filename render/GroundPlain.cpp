@@ -2,19 +2,12 @@
 #include "base/Numbers.h"
 #include "render/Ground.h"
 
-#include <algorithm>
-
 namespace render
 {
 namespace
 {
 constexpr std::uint8_t Black[3] = {0, 0, 0};
 constexpr std::int32_t Margin = 15; // of the anisotropic filter: its widest footprint stays inside the texture
-
-void Copy(std::uint8_t* pixel, const std::uint8_t* from)
-{
-    std::copy_n(from, 3, pixel);
-}
 
 double Slope(const GroundView& view, std::int32_t x)
 {
@@ -54,7 +47,7 @@ void AnisoPlain(const GroundView& view, const GroundTexel& at, std::int32_t x, f
     // A yaw that is no number gives no steps.
     const bool steps = du >= -1.0f && du <= 1.0f && dv >= -1.0f && dv <= 1.0f;
     if ((n == 0 && aux < 0.3) || !steps)
-        Copy(pixel, centre);
+        base::CopyPixel(pixel, centre);
     else if (n == 0)
     {
         const std::int32_t w = base::RoundEven(aux / 0.03);
@@ -92,13 +85,13 @@ void GroundPixelPlain(const GroundView& view, std::int16_t filter, std::int32_t 
     const bool ground =
         at.U >= margin && at.U < view.Sharp.Width - margin && at.V >= margin && at.V < view.Sharp.Height - margin;
     if (!ground)
-        Copy(pixel, SkyPixel(view, x, SkyRow(view, y)));
+        base::CopyPixel(pixel, SkyPixel(view, x, SkyRow(view, y)));
     else if (filter == 1)
         BlendPlain(view, at, view.RowAux[y], pixel);
     else if (filter == 2)
         AnisoPlain(view, at, x, view.RowAux[y], pixel);
     else
-        Copy(pixel, view.Sharp.At(at.U, at.V));
+        base::CopyPixel(pixel, view.Sharp.At(at.U, at.V));
 }
 
 void GroundPlain(const GroundView& view, const Band& band, std::int16_t filter)
@@ -109,7 +102,7 @@ void GroundPlain(const GroundView& view, const Band& band, std::int16_t filter)
             std::uint8_t* pixel = view.Frame + y * view.FrameRowBytes + x * 3;
             view.Depth[y * view.DepthRow + x] = FarDepth;
             if (IsSkyRow(view, y))
-                Copy(pixel, SkyPixel(view, x, SkyRow(view, y)));
+                base::CopyPixel(pixel, SkyPixel(view, x, SkyRow(view, y)));
             else
                 GroundPixelPlain(view, filter, x, y, pixel);
         }

@@ -3,6 +3,7 @@
 // (red); rows are padded to 4 bytes.
 #pragma once
 #include "base/Files.h"
+#include "base/Pixels.h"
 #include "base/Trapped.h"
 
 #include <cstdint>
@@ -69,6 +70,12 @@ struct Picture
     PicInfo Info;
     PicArray2D Pixels;
 };
+
+// The pixels as drawing routines read them: of that size, but never more than the bytes that are there. Valid as long
+// as the array keeps its storage.
+base::ConstSurface MakeSurface(const PicArray2D& pixels, std::int32_t width, std::int32_t height);
+// Of the size that its description gives.
+base::ConstSurface MakeSurface(const Picture& picture);
 
 // Fills the header for the width and height it holds and allocates the pixels, all 0. Reports its own errors.
 void MakePicArray2D(base::MessageSink& messages, PicHeader& header, PicArray2D& pixels);

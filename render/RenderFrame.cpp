@@ -6,6 +6,7 @@
 #include "render/GroundThreads.h"
 #include "render/Lines.h"
 #include "render/Sprites.h"
+#include "render/Text.h"
 #include "render/Triangles.h"
 
 #include <algorithm>
@@ -65,12 +66,12 @@ template <class See, class Draw> void ForEachTriangle(const PointGrid& grid, See
     }
 }
 
-TexelField TextureOf(const Scene& scene, std::int16_t slot)
+base::ConstSurface TextureOf(const Scene& scene, std::int16_t slot)
 {
     if (!scene.Textures.Has(slot) || scene.Textures.At(slot).Free != 0)
         return {};
     const Texture& texture = scene.Textures.At(slot);
-    return MakeTexelField(texture.Pic.Pixels, texture.Width, texture.Height);
+    return MakeSurface(texture.Pic.Pixels, texture.Width, texture.Height);
 }
 
 void DrawMesh(const Scene& scene, const Camera& camera, Screen& screen, const Obj& object, const Rotation& rotation,
@@ -118,19 +119,6 @@ void DrawPolys(const Scene& scene, const Camera& camera, Screen& screen)
         }
     }
 }
-
-void DrawLabel(const Scene& scene, const Surface& surface, const Label2D& label)
-{
-    const Font& font = scene.Font;
-    const Colour colour{label.ColR, label.ColG, label.ColB};
-    const std::int32_t tab = TabPixels(font, label.Scale, label.TabWidth);
-    if (label.Style == 0)
-        DrawTextLeft(surface, font, label.X, label.Y, label.Scale, tab, colour, label.Fade, label.Text);
-    else if (label.Style == 1)
-        DrawTextRight(surface, font, label.X, label.Y, label.Scale, colour, label.Fade, label.Text);
-    else if (label.Style == 2)
-        DrawTextCentred(surface, font, label.X, label.Y, label.Scale, tab, colour, label.Fade, label.Text);
-}
 }
 
 void DrawGround(const Scene& scene, const Camera& camera, Screen& screen, GroundThreads& threads)
@@ -163,7 +151,7 @@ void DrawObjects(const Scene& scene, const Camera& camera, Screen& screen)
 
 void DrawHud(const Scene& scene, Screen& screen)
 {
-    const Surface surface = FrameSurface(screen);
+    const base::Surface surface = FrameSurface(screen);
     for (const Pic2D& pic : scene.Pics.Items)
         if (IsDrawn(pic))
             DrawPic2D(surface, pic.Pic, base::RoundEven(pic.X), base::RoundEven(pic.Y));
@@ -172,7 +160,7 @@ void DrawHud(const Scene& scene, Screen& screen)
             FillRect2D(surface, rect.X, rect.Y, rect.W, rect.H, {rect.ColR, rect.ColG, rect.ColB});
     for (const Label2D& label : scene.Labels.Items)
         if (IsDrawn(label))
-            DrawLabel(scene, surface, label);
+            DrawLabel(surface, scene.Font, label);
 }
 
 void RenderFrame(const Scene& scene, const Camera& camera, Screen& screen, GroundThreads& threads)

@@ -12,8 +12,6 @@ void TakeSize(Screen& screen, std::int32_t width, std::int32_t height)
     screen.ScreenH = height;
     screen.ScreenMaxX = width - 1;
     screen.ScreenMaxY = height - 1;
-    screen.RowBytes = width * 3;
-    screen.RowBytesLast = screen.RowBytes - 3;
     const std::int32_t column = width / 2, row = height / 2; // whole pixels
     screen.CenterX = static_cast<float>(column);
     screen.CenterY = static_cast<float>(row);
@@ -22,7 +20,7 @@ void TakeSize(Screen& screen, std::int32_t width, std::int32_t height)
 void MakeTables(Screen& screen)
 {
     const auto columns = static_cast<std::size_t>(screen.ScreenW), rows = static_cast<std::size_t>(screen.ScreenH);
-    screen.Depth.assign(columns * rows, FarDepth);
+    screen.Depth.Reset(screen.ScreenW, screen.ScreenH, FarDepth);
     for (std::vector<float>* table : {&screen.RowAngle, &screen.RowSlant, &screen.RowDist, &screen.RowAux})
         table->assign(rows, 0.0f);
     screen.ColumnSlope.assign(columns + 1, 0.0);
@@ -42,20 +40,5 @@ void ApplyResolution(base::MessageSink& messages, Screen& screen, Camera& camera
     camera.MinZoom = std::min(screen.CenterX, screen.CenterY);
     camera.Zoom = 2.0f * camera.MinZoom;
     MakeTables(screen);
-}
-
-const char* FilterName(std::int16_t filter)
-{
-    switch (filter)
-    {
-    case 0:
-        return "nessuno";
-    case 1:
-        return "lineare";
-    case 2:
-        return "anisotropico";
-    default:
-        return "";
-    }
 }
 }

@@ -25,7 +25,6 @@ struct Screen
 {
     std::int32_t ScreenW = 0, ScreenH = 0; // pixels
     std::int32_t ScreenMaxX = 0, ScreenMaxY = 0;
-    std::int32_t RowBytes = 0, RowBytesLast = 0; // 3 * ScreenW, and 3 less
     float CenterX = 0, CenterY = 0;
     float NearZ = 0.01f, FarZ = 400.0f;
     std::int16_t TxtFilter = 2;    // 0 "nessuno", 1 "lineare", 2 "anisotropico"; any other draws as 0
@@ -34,7 +33,7 @@ struct Screen
     std::int32_t SkyOffset = 0;    // 0 to 819
     PicHeader Header;              // of the frame
     PicArray2D Frame;
-    std::vector<float> Depth;                               // ScreenH rows of ScreenW
+    base::Grid<float> Depth;                                // ScreenW x ScreenH cells
     std::vector<float> RowAngle, RowSlant, RowDist, RowAux; // one a screen row
     std::vector<double> ColumnSlope;                        // one a screen column, and one more for pairwise reading
     std::vector<ColumnTaps> Taps;                           // one a screen column
@@ -46,8 +45,12 @@ struct Screen
 // as ThreadCount says). A size that cannot be is reported and leaves a screen of 0 x 0, on which nothing is drawn.
 void ApplyResolution(base::MessageSink& messages, Screen& screen, Camera& camera, std::int32_t width,
                      std::int32_t height);
-// "nessuno", "lineare", "anisotropico"; empty for any other filter.
-const char* FilterName(std::int16_t filter);
+
+// The frame's pixels, to be drawn on. Valid until the next resolution.
+inline base::Surface FrameSurface(Screen& screen)
+{
+    return {screen.Frame.Bytes.data(), screen.Frame.RowBytes, screen.ScreenW, screen.ScreenH};
+}
 }
 
 template <> struct base::FieldsOf<render::Screen>

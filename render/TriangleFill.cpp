@@ -4,7 +4,6 @@
 #include "render/Double2.h"
 
 #include <algorithm>
-#include <cstring>
 #include <utility>
 
 // Rounding and order of every line are those of the plain routines.
@@ -85,7 +84,7 @@ void DrawRow(const Ends& ends, std::int32_t screenW, float* depth, std::uint8_t*
         (rest * leftU + t * rightU).StoreRounded(u);
         (rest * leftV + t * rightV).StoreRounded(v);
         for (std::int32_t i = 0; i < 2; ++i)
-            if (isNearer[i] && paint.Put(pixels + (x + i) * 3, u[i], v[i]))
+            if (isNearer[i] && paint.Put(pixels + (x + i) * base::PixelBytes, u[i], v[i]))
                 depth[x + i] = z[i];
     }
 }
@@ -118,7 +117,7 @@ void Fill(Screen& screen, const ScreenCorner& a, const ScreenCorner& b, const Sc
         const std::int32_t stop = high.Y == last->Y ? end : std::min(high.Y - 1, end);
         const std::int32_t count = std::min(stop - y + 1, mostRows);
         Edges(*first, *last, low, high).Find(y, count, ends);
-        float* depth = screen.Depth.data() + static_cast<std::ptrdiff_t>(y) * screen.ScreenW;
+        float* depth = screen.Depth.Row(y);
         std::uint8_t* pixels = screen.Frame.Row(y);
         for (std::int32_t i = 0; i < count; ++i, depth += screen.ScreenW, pixels += screen.Frame.RowBytes)
             DrawRow(ends[i], screen.ScreenW, depth, pixels, paint);
@@ -129,39 +128,40 @@ void Fill(Screen& screen, const ScreenCorner& a, const ScreenCorner& b, const Sc
 // What pixels are painted with: Put gives false where pixel and depth are to stay.
 struct FlatPaint
 {
-    std::uint8_t Bytes[3];
+    std::uint8_t Bytes[base::PixelBytes];
 
+    explicit FlatPaint(base::Rgb colour) { base::Put(Bytes, colour); }
     bool Put(std::uint8_t* pixel, std::int32_t, std::int32_t) const
     {
-        std::memcpy(pixel, Bytes, 3);
+        base::CopyPixel(pixel, Bytes);
         return true;
     }
 };
 
 struct TexelPaint
 {
-    TexelField Texture;
+    base::ConstSurface Texture;
 
     bool Put(std::uint8_t* pixel, std::int32_t u, std::int32_t v) const
     {
         if (!Texture.Has(u, v))
             return false;
         const std::uint8_t* texel = Texture.At(u, v);
-        if ((texel[0] | texel[1] | texel[2]) == 0)
+        if (base::IsBlack(texel))
             return false;
-        std::memcpy(pixel, texel, 3);
+        base::CopyPixel(pixel, texel);
         return true;
     }
 };
 }
 
-void FillTriFlat(Screen& screen, const ScreenCorner& a, const ScreenCorner& b, const ScreenCorner& c, Rgb colour)
+void FillTriFlat(Screen& screen, const ScreenCorner& a, const ScreenCorner& b, const ScreenCorner& c, base::Rgb colour)
 {
-    Fill(screen, a, b, c, FlatPaint{{colour.B, colour.G, colour.R}});
+    Fill(screen, a, b, c, FlatPaint(colour));
 }
 
 void FillTriTex(Screen& screen, const ScreenCorner& a, const ScreenCorner& b, const ScreenCorner& c,
-                const TexelField& texture)
+                const base::ConstSurface& texture)
 {
     Fill(screen, a, b, c, TexelPaint{texture});
 }

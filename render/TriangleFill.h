@@ -1,7 +1,7 @@
 // render/TriangleFill.h: filling a projected triangle: rows between its corners, depth-tested pixels. Corners may lie
 // anywhere in 32 bits; only rows and columns of the screen are walked.
 #pragma once
-#include "render/Ground.h"
+#include "base/Pixels.h"
 #include "render/Screen.h"
 
 #include <algorithm>
@@ -24,13 +24,14 @@ inline bool IsRejected(const Screen& screen, const ScreenCorner& a, const Screen
 }
 
 // A pixel is written where its depth is strictly less than the depth cell, which then takes it.
-void FillTriFlat(Screen& screen, const ScreenCorner& a, const ScreenCorner& b, const ScreenCorner& c, Rgb colour);
+void FillTriFlat(Screen& screen, const ScreenCorner& a, const ScreenCorner& b, const ScreenCorner& c, base::Rgb colour);
 // Texels of three zero bytes, and texels outside the texture, leave pixel and depth untouched.
 void FillTriTex(Screen& screen, const ScreenCorner& a, const ScreenCorner& b, const ScreenCorner& c,
-                const TexelField& texture);
+                const base::ConstSurface& texture);
 
 // The same pixel by pixel. The judges of the two above.
-void FillTriFlatPlain(Screen& screen, const ScreenCorner& a, const ScreenCorner& b, const ScreenCorner& c, Rgb colour);
+void FillTriFlatPlain(Screen& screen, const ScreenCorner& a, const ScreenCorner& b, const ScreenCorner& c,
+                      base::Rgb colour);
 void FillTriTexPlain(Screen& screen, const ScreenCorner& a, const ScreenCorner& b, const ScreenCorner& c,
-                     const TexelField& texture);
+                     const base::ConstSurface& texture);
 }

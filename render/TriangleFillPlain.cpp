@@ -62,47 +62,34 @@ void WalkTriangle(const Screen& screen, const ScreenCorner& a, const ScreenCorne
         }
     }
 }
-
-std::uint8_t* PixelAt(Screen& screen, std::int32_t x, std::int32_t y)
-{
-    return screen.Frame.Row(y) + x * 3;
 }
 
-float& DepthAt(Screen& screen, std::int32_t x, std::int32_t y)
-{
-    return screen
-        .Depth[static_cast<std::size_t>(y) * static_cast<std::size_t>(screen.ScreenW) + static_cast<std::size_t>(x)];
-}
-}
-
-void FillTriFlatPlain(Screen& screen, const ScreenCorner& a, const ScreenCorner& b, const ScreenCorner& c, Rgb colour)
+void FillTriFlatPlain(Screen& screen, const ScreenCorner& a, const ScreenCorner& b, const ScreenCorner& c,
+                      base::Rgb colour)
 {
     WalkTriangle(screen, a, b, c,
                  [&](std::int32_t x, std::int32_t y, float z, std::int32_t, std::int32_t)
                  {
-                     if (!(z < DepthAt(screen, x, y)))
+                     if (!(z < screen.Depth.At(x, y)))
                          return;
-                     DepthAt(screen, x, y) = z;
-                     std::uint8_t* pixel = PixelAt(screen, x, y);
-                     pixel[0] = colour.B;
-                     pixel[1] = colour.G;
-                     pixel[2] = colour.R;
+                     screen.Depth.At(x, y) = z;
+                     base::Put(FrameSurface(screen).At(x, y), colour);
                  });
 }
 
 void FillTriTexPlain(Screen& screen, const ScreenCorner& a, const ScreenCorner& b, const ScreenCorner& c,
-                     const TexelField& texture)
+                     const base::ConstSurface& texture)
 {
     WalkTriangle(screen, a, b, c,
                  [&](std::int32_t x, std::int32_t y, float z, std::int32_t u, std::int32_t v)
                  {
-                     if (!texture.Has(u, v) || !(z < DepthAt(screen, x, y)))
+                     if (!texture.Has(u, v) || !(z < screen.Depth.At(x, y)))
                          return;
                      const std::uint8_t* texel = texture.At(u, v);
-                     if (texel[0] == 0 && texel[1] == 0 && texel[2] == 0)
+                     if (base::IsBlack(texel))
                          return;
-                     DepthAt(screen, x, y) = z;
-                     std::copy_n(texel, 3, PixelAt(screen, x, y));
+                     screen.Depth.At(x, y) = z;
+                     base::CopyPixel(FrameSurface(screen).At(x, y), texel);
                  });
 }
 }

@@ -162,7 +162,7 @@ void DrawSeenFlat(const Scene& scene, const Camera& camera, Screen& screen, cons
 }
 
 void DrawTriTex(const Camera& camera, Screen& screen, const Corner& a, const Corner& b, const Corner& c,
-                const TexelField& texture)
+                const base::ConstSurface& texture)
 {
     if (texture.Width < 1 || texture.Height < 1)
         return;

@@ -28,7 +28,7 @@ void DrawTriFlat(const Scene& scene, const Camera& camera, Screen& screen, const
                  const Point3& c, Rgb colour);
 // Textured; texels are interpolated on the screen, without perspective.
 void DrawTriTex(const Camera& camera, Screen& screen, const Corner& a, const Corner& b, const Corner& c,
-                const TexelField& texture);
+                const base::ConstSurface& texture);
 // The same for corners already seen, as a grid shares them between its triangles.
 void DrawSeenFlat(const Scene& scene, const Camera& camera, Screen& screen, const Corner& a, const Corner& b,
                   const Corner& c, Rgb colour);

@@ -3,6 +3,7 @@
 #include "base/Numbers.h"
 #include "base/RuntimeError.h"
 #include "render/Primitives.h"
+#include "render/Text.h"
 #include "world/Dynamics.h"
 
 #include <algorithm>

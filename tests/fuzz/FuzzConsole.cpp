@@ -6,6 +6,7 @@
 #include "fuzz/Folder.h"
 #include "render/Primitives.h"
 #include "render/RenderFrame.h"
+#include "render/Text.h"
 #include "unit/world/World.h"
 
 #include <cstdlib>
@@ -68,7 +69,7 @@ struct Desk final : console::Host
     {
         const render::Label2D& label = World.Scene.Labels.At(Console.Line);
         const std::int32_t tab = render::TabPixels(Font, label.Scale, label.TabWidth);
-        render::DrawTextLeft({Bits.data(), 96 * 3, 96, 64}, Font, 1, 50, label.Scale, tab, {255, 255, 255}, 1,
+        render::DrawTextLeft({Bits.data(), 96 * 3, 96, 64}, Font, {label.Scale, tab, {255, 255, 255}, 1}, 1, 50,
                              label.Text);
     }
     // The line is a whole text of bounded length, and no longer than what can be typed unless it is an answer.

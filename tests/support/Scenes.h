@@ -26,7 +26,7 @@ inline int DrawWhole(base::Random& random, int least, int most)
 inline render::Picture Blank(int width, int height)
 {
     render::Picture picture;
-    picture.Info = {width, height, (width * 3 + 3) & ~3, 1, 24};
+    picture.Info = {width, height, base::PaddedRow(width), 1, 24};
     picture.Pixels.Allocate(height, picture.Info.RowBytes);
     return picture;
 }
@@ -79,11 +79,7 @@ struct View
         render::UpdateCameraTrig(Camera);
     }
     const std::uint8_t* Pixel(int x, int y) const { return Screen.Frame.Row(y) + x * 3; }
-    float Depth(int x, int y) const
-    {
-        return Screen.Depth[static_cast<std::size_t>(y) * static_cast<std::size_t>(Screen.ScreenW) +
-                            static_cast<std::size_t>(x)];
-    }
+    float Depth(int x, int y) const { return Screen.Depth.At(x, y); }
 };
 
 // Blue, green, red of a pixel as one number, 0xBBGGRR.

@@ -29,18 +29,18 @@ void Compare(const render::Scene& scene, scenes::View& view)
     render::UpdateSkyOffset(view.Camera, screen);
     render::UpdateRowTables(view.Camera, screen);
     std::fill(screen.Frame.Bytes.begin(), screen.Frame.Bytes.end(), std::uint8_t{77});
-    std::fill(screen.Depth.begin(), screen.Depth.end(), 1.0f);
+    std::fill(screen.Depth.Cells.begin(), screen.Depth.Cells.end(), 1.0f);
     render::GroundPlain(render::MakeGroundView(scene, view.Camera, screen), {0, screen.ScreenMaxX}, screen.TxtFilter);
     const std::vector<std::uint8_t> plain = screen.Frame.Bytes;
-    const std::vector<float> depth = screen.Depth;
+    const std::vector<float> depth = screen.Depth.Cells;
     std::fill(screen.Frame.Bytes.begin(), screen.Frame.Bytes.end(), std::uint8_t{77});
-    std::fill(screen.Depth.begin(), screen.Depth.end(), 1.0f);
+    std::fill(screen.Depth.Cells.begin(), screen.Depth.Cells.end(), 1.0f);
     render::DrawGround(scene, view.Camera, screen, view.Threads);
     const auto differs = std::mismatch(plain.begin(), plain.end(), screen.Frame.Bytes.begin());
     ASSERT_EQ(differs.first, plain.end())
         << "first other byte in row " << (differs.first - plain.begin()) / screen.Frame.RowBytes << ", column "
         << (differs.first - plain.begin()) % screen.Frame.RowBytes / 3;
-    ASSERT_EQ(depth, screen.Depth);
+    ASSERT_EQ(depth, screen.Depth.Cells);
 }
 
 // Pixels of the frame that are not the sky's.
@@ -252,9 +252,9 @@ TEST(Ground, EmptiesEveryDepthCell)
     const render::Scene scene = CountedScene(100, 100);
     scenes::View view(241, 201, 2);
     view.Look(50, 1, 20, 0, 0);
-    std::fill(view.Screen.Depth.begin(), view.Screen.Depth.end(), 1.0f);
+    std::fill(view.Screen.Depth.Cells.begin(), view.Screen.Depth.Cells.end(), 1.0f);
     Draw(scene, view);
-    EXPECT_EQ(view.Screen.Depth, std::vector<float>(241 * 201, 3.4028230607370965e38f));
+    EXPECT_EQ(view.Screen.Depth.Cells, std::vector<float>(241 * 201, 3.4028230607370965e38f));
 }
 
 // With the weight at its limit one eighth of the sharp texel still shows.
@@ -368,7 +368,7 @@ TEST(Ground, AnyNumberOfThreadsDrawsTheSame)
             many.Look(50, 3, 30, 0.3f, -0.1f);
             Draw(scene, many);
             ASSERT_EQ(many.Screen.Frame.Bytes, one.Screen.Frame.Bytes) << filter << " " << threads;
-            ASSERT_EQ(many.Screen.Depth, one.Screen.Depth);
+            ASSERT_EQ(many.Screen.Depth.Cells, one.Screen.Depth.Cells);
         }
     }
 }

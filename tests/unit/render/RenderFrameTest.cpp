@@ -126,10 +126,10 @@ TEST(RenderFrame, ASlowGroundPassLeavesItsLastRowsAsTheyWere)
     scene.Sky = scenes::Noise(random, render::SkyWidth, 50);
     scenes::SetGround(scene, scenes::Noise(random, 500, 500));
     view.Look(250, 40, 250, 0.5f, -1.5f);
-    std::fill(view.Screen.Depth.begin(), view.Screen.Depth.end(), 1.0f);
+    std::fill(view.Screen.Depth.Cells.begin(), view.Screen.Depth.Cells.end(), 1.0f);
     view.Screen.GroundLimit = 1;
     RenderFrame(scene, view.Camera, view.Screen, view.Threads);
-    EXPECT_GT(std::count(view.Screen.Depth.begin(), view.Screen.Depth.end(), 1.0f), 0);
+    EXPECT_GT(std::count(view.Screen.Depth.Cells.begin(), view.Screen.Depth.Cells.end(), 1.0f), 0);
 }
 
 TEST(RenderFrame, TheLimitIs60Milliseconds)
@@ -402,7 +402,7 @@ void DrawPlain(const Scene& scene, const render::Camera& camera, render::Screen&
             {
                 if (mesh.Colour < 0)
                     DrawTriTex(camera, screen, p, q, s,
-                               render::MakeTexelField(scene.Textures.At(mesh.TexIndex).Pic.Pixels, 30, 20));
+                               render::MakeSurface(scene.Textures.At(mesh.TexIndex).Pic.Pixels, 30, 20));
                 else
                     DrawTriFlat(scene, camera, screen, p.World, q.World, s.World, {mesh.ColR, mesh.ColG, mesh.ColB});
             };
@@ -456,7 +456,7 @@ TEST(RenderFrame, IsThePlainFrameForRandomWorlds)
         RenderFrame(scene, fast.Camera, fast.Screen, fast.Threads);
         DrawPlain(scene, plain.Camera, plain.Screen);
         ASSERT_EQ(fast.Screen.Frame.Bytes, plain.Screen.Frame.Bytes) << round;
-        ASSERT_EQ(fast.Screen.Depth, plain.Screen.Depth) << round;
+        ASSERT_EQ(fast.Screen.Depth.Cells, plain.Screen.Depth.Cells) << round;
     }
 }
 

@@ -5,16 +5,12 @@
 
 #include <gtest/gtest.h>
 
-#include <string>
-
 TEST(ApplyResolution, DerivesEverythingFromTheSize)
 {
     const scenes::View view(601, 313, 0, 5);
     const render::Screen& screen = view.Screen;
     EXPECT_EQ(screen.ScreenMaxX, 600);
     EXPECT_EQ(screen.ScreenMaxY, 312);
-    EXPECT_EQ(screen.RowBytes, 1803);
-    EXPECT_EQ(screen.RowBytesLast, 1800);
     EXPECT_EQ(screen.CenterX, 300.0f); // cut, not rounded
     EXPECT_EQ(screen.CenterY, 156.0f);
     EXPECT_EQ(view.Camera.MinZoom, 156.0f);
@@ -23,7 +19,7 @@ TEST(ApplyResolution, DerivesEverythingFromTheSize)
     EXPECT_EQ(screen.Header.biHeight, 313);
     EXPECT_EQ(screen.Frame.RowBytes, 1804); // padded to four bytes
     EXPECT_EQ(screen.Frame.Rows, 313);
-    EXPECT_EQ(screen.Depth.size(), 601u * 313u);
+    EXPECT_EQ(screen.Depth.Cells.size(), 601u * 313u);
     EXPECT_EQ(screen.RowAngle.size(), 313u);
     EXPECT_EQ(screen.Bands.size(), 5u);
     EXPECT_TRUE(view.Messages.Boxes.empty());
@@ -53,13 +49,4 @@ TEST(ApplyResolution, AnImpossibleSizeIsReportedAndDrawsNothing)
         EXPECT_EQ(view.Screen.ScreenW, 0);
         render::RenderFrame(render::Scene(), view.Camera, view.Screen, view.Threads);
     }
-}
-
-TEST(FilterName, IsItalianAndEmptyForOthers)
-{
-    EXPECT_EQ(std::string(render::FilterName(0)), "nessuno");
-    EXPECT_EQ(std::string(render::FilterName(1)), "lineare");
-    EXPECT_EQ(std::string(render::FilterName(2)), "anisotropico");
-    EXPECT_EQ(std::string(render::FilterName(3)), "");
-    EXPECT_EQ(std::string(render::FilterName(-1)), "");
 }

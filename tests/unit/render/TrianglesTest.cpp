@@ -26,8 +26,8 @@ struct Origin : scenes::View
     }
     std::size_t Drawn() const
     {
-        return static_cast<std::size_t>(
-            std::count_if(Screen.Depth.begin(), Screen.Depth.end(), [](float z) { return z != render::FarDepth; }));
+        return static_cast<std::size_t>(std::count_if(Screen.Depth.Cells.begin(), Screen.Depth.Cells.end(),
+                                                      [](float z) { return z != render::FarDepth; }));
     }
 };
 }
@@ -132,7 +132,7 @@ TEST(NearPlane, OneCornerBehindLeavesTwoTriangles)
     FillTriFlat(expected.Screen, a, b, p, colour);
     FillTriFlat(expected.Screen, b, q, p, colour);
     EXPECT_EQ(view.Screen.Frame.Bytes, expected.Screen.Frame.Bytes);
-    EXPECT_EQ(view.Screen.Depth, expected.Screen.Depth);
+    EXPECT_EQ(view.Screen.Depth.Cells, expected.Screen.Depth.Cells);
     // In row 0 the common edge B - P is at column 133: what lies right of it is the second triangle's.
     EXPECT_LT(view.Depth(110, 0), 1.0f);
     EXPECT_LT(view.Depth(200, 0), 1.0f);
@@ -147,7 +147,7 @@ TEST(NearPlane, TwoCornersBehindLeaveOneTriangle)
     // -0.3 x 0.495 = -0.1485: column -2850.
     FillTriFlat(expected.Screen, {-2850, -3900, 0.01f}, {3090, -3900, 0.01f}, {120, 60, 1}, {200, 100, 50});
     EXPECT_EQ(view.Screen.Frame.Bytes, expected.Screen.Frame.Bytes);
-    EXPECT_EQ(view.Screen.Depth, expected.Screen.Depth);
+    EXPECT_EQ(view.Screen.Depth.Cells, expected.Screen.Depth.Cells);
     EXPECT_GT(view.Drawn(), 0u);
 }
 
@@ -157,7 +157,7 @@ TEST(NearPlane, CutTexelsAreInterpolatedWithTheCorner)
     base::Random random;
     random.Seed(9);
     const render::Picture picture = scenes::Noise(random, 16, 16);
-    const render::TexelField texture = render::MakeTexelField(picture.Pixels, 16, 16);
+    const base::ConstSurface texture = render::MakeSurface(picture.Pixels, 16, 16);
     Origin view;
     render::DrawTriTex(view.Camera, view.Screen, SeeCorner(view.Camera, view.Screen, {-0.3f, -0.2f, 1}, 0, 15),
                        SeeCorner(view.Camera, view.Screen, {0.3f, -0.2f, 1}, 15, 15),
