@@ -11,17 +11,30 @@ namespace render
 {
 inline constexpr double HalfPi = 1.570796, Pi = 3.141592, TwoPi = 6.283184; // the constants of every formula
 
+// From where the followed car is seen. The numbers are those of the key that goes through them.
+enum View : std::int16_t
+{
+    Chase = 0,        // from behind and above
+    Driver = 1,       // from the driver's seat; backward as in the mirror where that is asked for
+    Overhead = 2,     // straight down, higher with the speed
+    ReverseChase = 3, // from before the car
+    Orbit = 4,        // circling round the car
+    Side = 5,         // from beside the car, at wheel height
+    Overview = 6,     // a fixed place over the map
+    Still = 7         // the camera stays where it is
+};
+
 struct Camera
 {
-    float CamX = 0, CamY = 1, CamZ = 0; // world units
-    float CamYaw = 0, CamPitch = 0;     // positive yaw turns from +z toward -x, positive pitch upward
-    float CamCosYaw = 1, CamSinYaw = 0; // derived; only UpdateCameraTrig writes them
-    float CamCosPitch = 1, CamSinPitch = 0;
-    float Zoom = 0, MinZoom = 0; // focal length in pixels and its lower bound
-    float Radius = 0;            // chase distance, world units
-    float CamSway = 0;           // sideways lean of the driver's head, radians
-    std::int16_t View = 0;       // camera view, 0 to 7
-    std::int16_t ViewPlayer = 0; // the car that the camera follows and the display describes
+    float CamX = 0, CamY = 1, CamZ = 0;     // the eye, world units
+    float CamYaw = 0, CamPitch = 0;         // radians; positive yaw turns from +z toward -x, positive pitch upward
+    float CamCosYaw = 1, CamSinYaw = 0;     // derived; only UpdateCameraTrig writes them
+    float CamCosPitch = 1, CamSinPitch = 0; // derived as well
+    float Zoom = 0, MinZoom = 0;            // focal length in pixels and its lower bound
+    float Radius = 0;                       // distance of the chasing views, world units
+    float CamSway = 0;                      // sideways lean of the driver's head, radians
+    std::int16_t View = Chase;              // a View; any other number leaves the camera alone
+    std::int16_t ViewPlayer = 0;            // the car that the camera follows and the display describes
 };
 
 // Refreshes the four derived fields. Call after every change of an angle.

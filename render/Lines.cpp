@@ -19,7 +19,7 @@ bool HasLeft(std::int32_t place, double direction, std::int32_t most)
 }
 
 void DrawLine3D(const Scene& scene, const Camera& camera, Screen& screen, const Point3& from, const Point3& to,
-                Rgb colour)
+                base::Rgb colour)
 {
     const Point3 a = WorldToCamera(camera, from.X, from.Y, from.Z), b = WorldToCamera(camera, to.X, to.Y, to.Z);
     if (!IsSeen(screen, a.Z) || !IsSeen(screen, b.Z))

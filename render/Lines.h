@@ -7,5 +7,5 @@ namespace render
 {
 // Drawn where both ends are in front of the eye and no farther than FarZ and the first end is on the screen.
 void DrawLine3D(const Scene& scene, const Camera& camera, Screen& screen, const Point3& from, const Point3& to,
-                Rgb colour);
+                base::Rgb colour);
 }

@@ -5,6 +5,7 @@
 #include "render/Ground.h"
 #include "render/GroundThreads.h"
 #include "render/Lines.h"
+#include "render/RowTables.h"
 #include "render/Sprites.h"
 #include "render/Text.h"
 #include "render/Triangles.h"
@@ -22,16 +23,6 @@ int HelpersFor(std::size_t bands)
     return processors - 1;
 }
 
-void DrawBand(const GroundView& view, std::int16_t filter, const Band& band, StopCheck& check)
-{
-    if (filter == 1)
-        GroundLinear(view, band, check);
-    else if (filter == 2)
-        GroundAniso(view, band, check);
-    else
-        GroundNearest(view, band, check);
-}
-
 // Deliberate: the far side of the bounding sphere is projected, and only the upper edge of the screen is strict.
 bool IsInView(const Camera& camera, const Screen& screen, const Obj& object)
 {
@@ -46,20 +37,20 @@ bool IsInView(const Camera& camera, const Screen& screen, const Obj& object)
     return s.X + r >= 0.0 && s.X - r <= screen.ScreenW && s.Y + r >= 0.0 && s.Y - r < screen.ScreenH;
 }
 
-// Calls draw(a, b, c) for the two triangles of every cell, (i, j), (i + 1, j), (i, j + 1) and (i + 1, j + 1),
-// (i + 1, j), (i, j + 1). see(point) brings a point before the camera; neighbouring cells share what it gives.
-template <class See, class Draw> void ForEachTriangle(const PointGrid& grid, See&& see, Draw&& draw)
+// Calls draw(triangle) for the two triangles of every cell, (i, j), (i + 1, j), (i, j + 1) and (i + 1, j + 1),
+// (i + 1, j), (i, j + 1). transform(point) gives a point's vertex; neighbouring cells share it.
+template <class Transform, class Draw> void ForEachTriangle(const PointGrid& grid, Transform&& transform, Draw&& draw)
 {
     if (grid.Cols < 2)
         return;
     for (std::int32_t i = 0; i + 1 < grid.Rows; ++i)
     {
-        Corner a = see(grid.At(i, 0)), b = see(grid.At(i + 1, 0));
+        Vertex a = transform(grid.At(i, 0)), b = transform(grid.At(i + 1, 0));
         for (std::int32_t j = 0; j + 1 < grid.Cols; ++j)
         {
-            const Corner c = see(grid.At(i, j + 1)), d = see(grid.At(i + 1, j + 1));
-            draw(a, b, c);
-            draw(d, b, c);
+            const Vertex c = transform(grid.At(i, j + 1)), d = transform(grid.At(i + 1, j + 1));
+            draw(Triangle{a, b, c});
+            draw(Triangle{d, b, c});
             a = c;
             b = d;
         }
@@ -77,32 +68,32 @@ base::ConstSurface TextureOf(const Scene& scene, std::int16_t slot)
 void DrawMesh(const Scene& scene, const Camera& camera, Screen& screen, const Obj& object, const Rotation& rotation,
               const ObjMesh& mesh)
 {
-    const auto see = [&](const MeshPt& point)
+    const auto transform = [&](const MeshPt& point)
     {
-        return SeeCorner(camera, screen, RotatePoint(rotation, object.X, object.Y, object.Z, point.X, point.Y, point.Z),
-                         point.U, point.V);
+        return TransformVertex(camera, screen,
+                               RotatePoint(rotation, object.X, object.Y, object.Z, point.X, point.Y, point.Z), point.U,
+                               point.V);
     };
     if (mesh.Colour < 0)
-        ForEachTriangle(
-            mesh.Pts, see,
-            [&, texture = TextureOf(scene, mesh.TexIndex)](const Corner& a, const Corner& b, const Corner& c)
-            { DrawTriTex(camera, screen, a, b, c, texture); });
+        ForEachTriangle(mesh.Pts, transform,
+                        [&, texture = TextureOf(scene, mesh.TexIndex)](const Triangle& triangle)
+                        { DrawTriTex(camera, screen, triangle, texture); });
     else
-        ForEachTriangle(
-            mesh.Pts, see,
-            [&, colour = Rgb{mesh.ColR, mesh.ColG, mesh.ColB}](const Corner& a, const Corner& b, const Corner& c)
-            { DrawSeenFlat(scene, camera, screen, a, b, c, colour); });
+        ForEachTriangle(mesh.Pts, transform,
+                        [&, colour = base::Rgb{mesh.ColR, mesh.ColG, mesh.ColB}](const Triangle& triangle)
+                        { DrawTriFlat(scene, camera, screen, triangle, colour); });
 }
 
 void DrawWorldMeshes(const Scene& scene, const Camera& camera, Screen& screen)
 {
-    const auto see = [&](const MeshPt& point) { return SeeCorner(camera, screen, {point.X, point.Y, point.Z}); };
+    const auto transform = [&](const MeshPt& point) {
+        return TransformVertex(camera, screen, {point.X, point.Y, point.Z});
+    };
     for (const ObjMesh& mesh : scene.WorldMeshes)
         if (IsDrawn(mesh))
-            ForEachTriangle(
-                mesh.Pts, see,
-                [&, colour = Rgb{mesh.ColR, mesh.ColG, mesh.ColB}](const Corner& a, const Corner& b, const Corner& c)
-                { DrawSeenFlat(scene, camera, screen, a, b, c, colour); });
+            ForEachTriangle(mesh.Pts, transform,
+                            [&, colour = base::Rgb{mesh.ColR, mesh.ColG, mesh.ColB}](const Triangle& triangle)
+                            { DrawTriFlat(scene, camera, screen, triangle, colour); });
 }
 
 void DrawPolys(const Scene& scene, const Camera& camera, Screen& screen)
@@ -111,7 +102,7 @@ void DrawPolys(const Scene& scene, const Camera& camera, Screen& screen)
     {
         if (!IsDrawn(poly))
             continue;
-        const Rgb colour{poly.ColR, poly.ColG, poly.ColB};
+        const base::Rgb colour{poly.ColR, poly.ColG, poly.ColB};
         for (std::size_t i = 1; i < poly.Pts.size(); ++i)
         {
             const PolyPt &from = poly.Pts[i - 1], &to = poly.Pts[i];
@@ -124,16 +115,15 @@ void DrawPolys(const Scene& scene, const Camera& camera, Screen& screen)
 void DrawGround(const Scene& scene, const Camera& camera, Screen& screen, GroundThreads& threads)
 {
     const GroundView view = MakeGroundView(scene, camera, screen);
-    const std::int16_t filter = screen.TxtFilter;
     if (screen.SingleThread != 0)
     {
         std::atomic<bool> never{false};
         StopCheck check(never);
-        return DrawBand(view, filter, screen.Bands.front(), check);
+        return DrawGroundBand(view, screen.Bands.front(), check);
     }
     threads.Resize(HelpersFor(screen.Bands.size()));
-    threads.Run([&view, filter](const Band& band, StopCheck& check) { DrawBand(view, filter, band, check); },
-                screen.Bands, std::chrono::milliseconds(screen.GroundLimit));
+    threads.Run([&view](const Band& band, StopCheck& check) { DrawGroundBand(view, band, check); }, screen.Bands,
+                std::chrono::milliseconds(screen.GroundLimit));
 }
 
 void DrawObjects(const Scene& scene, const Camera& camera, Screen& screen)
@@ -169,6 +159,7 @@ void RenderFrame(const Scene& scene, const Camera& camera, Screen& screen, Groun
         return; // no resolution was applied yet
     UpdateSkyOffset(camera, screen);
     UpdateRowTables(camera, screen);
+    UpdateColumnSlopes(camera, screen);
     DrawGround(scene, camera, screen, threads);
     DrawObjects(scene, camera, screen);
     DrawWorldMeshes(scene, camera, screen);

@@ -12,10 +12,11 @@ class GroundThreads;
 // the screen's bands are meant for, and rest when it returns.
 void RenderFrame(const Scene& scene, const Camera& camera, Screen& screen, GroundThreads& threads);
 
-// The steps, each alone.
-void UpdateSkyOffset(const Camera& camera, Screen& screen);
-void UpdateRowTables(const Camera& camera, Screen& screen);
+// Its larger steps, each alone.
+// Fills frame and depth buffer. The screen's tables must be those of the camera: see render/RowTables.h.
 void DrawGround(const Scene& scene, const Camera& camera, Screen& screen, GroundThreads& threads);
+// All objects whose bounding sphere reaches into the view, in the order of their list.
 void DrawObjects(const Scene& scene, const Camera& camera, Screen& screen);
+// Pictures, rectangles and texts over everything; the depth buffer has no part in it.
 void DrawHud(const Scene& scene, Screen& screen);
 }

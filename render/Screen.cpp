@@ -21,7 +21,8 @@ void MakeTables(Screen& screen)
 {
     const auto columns = static_cast<std::size_t>(screen.ScreenW), rows = static_cast<std::size_t>(screen.ScreenH);
     screen.Depth.Reset(screen.ScreenW, screen.ScreenH, FarDepth);
-    for (std::vector<float>* table : {&screen.RowAngle, &screen.RowSlant, &screen.RowDist, &screen.RowAux})
+    for (std::vector<float>* table :
+         {&screen.RowAngle, &screen.RowSlant, &screen.RowDist, &screen.BlurWeight, &screen.TapCount})
         table->assign(rows, 0.0f);
     screen.ColumnSlope.assign(columns + 1, 0.0);
     screen.Taps.assign(columns, ColumnTaps{});

@@ -24,7 +24,7 @@ struct Slope
 };
 
 // Where a row meets the long edge, 0, and the short one, 1. Without initial values: tables of it are filled at once.
-struct Ends
+struct SpanEnds
 {
     std::int32_t X[2]; // columns, not clamped to the screen
     double Z[2];
@@ -35,16 +35,16 @@ struct Ends
 class Edges
 {
 public:
-    Edges(const ScreenCorner& first, const ScreenCorner& last, const ScreenCorner& low, const ScreenCorner& high)
+    Edges(const ScreenVertex& first, const ScreenVertex& last, const ScreenVertex& low, const ScreenVertex& high)
         : Y(Double2::Of(first.Y, low.Y)), Rows(Double2::Of(last.Y, high.Y) - Y), X(first.X, last.X, low.X, high.X),
           Z(first.Z, last.Z, low.Z, high.Z), U(first.U, last.U, low.U, high.U), V(first.V, last.V, low.V, high.V)
     {
     }
 
-    void Find(std::int32_t y, std::int32_t count, Ends* ends) const
+    void Find(std::int32_t y, std::int32_t count, SpanEnds* ends) const
     {
         Double2 n = Double2::Of(y) - Y;
-        for (const Ends* stop = ends + count; ends != stop; ++ends, n = n + Double2::Of(1.0))
+        for (const SpanEnds* stop = ends + count; ends != stop; ++ends, n = n + Double2::Of(1.0))
         {
             X.At(n, Rows).StoreRounded(ends->X);
             Z.At(n, Rows).Store(ends->Z);
@@ -60,7 +60,7 @@ private:
 
 // Two pixels at a time; texels are found where one of the two is nearer than its depth cell.
 template <class Paint>
-void DrawRow(const Ends& ends, std::int32_t screenW, float* depth, std::uint8_t* pixels, const Paint& paint)
+void DrawRow(const SpanEnds& ends, std::int32_t screenW, float* depth, std::uint8_t* pixels, const Paint& paint)
 {
     const int left = ends.X[0] <= ends.X[1] ? 0 : 1, right = 1 - left;
     const std::int32_t first = std::max(ends.X[left], 0), last = std::min(ends.X[right], screenW - 1);
@@ -92,12 +92,12 @@ void DrawRow(const Ends& ends, std::int32_t screenW, float* depth, std::uint8_t*
 // Draws the rows of a triangle that are on the screen. The ends of many are found before the first is drawn, because
 // drawing branches as the picture has it, and the processor then starts its divisions late.
 template <class Paint>
-void Fill(Screen& screen, const ScreenCorner& a, const ScreenCorner& b, const ScreenCorner& c, const Paint& paint)
+void Fill(Screen& screen, const ScreenVertex& a, const ScreenVertex& b, const ScreenVertex& c, const Paint& paint)
 {
     if (IsRejected(screen, a, b, c))
         return;
-    const ScreenCorner *first = &a, *middle = &b, *last = &c;
-    // Equal rows keep the order of the corners.
+    const ScreenVertex *first = &a, *middle = &b, *last = &c;
+    // Equal rows keep the order of the vertices.
     if (middle->Y < first->Y)
         std::swap(first, middle);
     if (last->Y < middle->Y)
@@ -107,13 +107,13 @@ void Fill(Screen& screen, const ScreenCorner& a, const ScreenCorner& b, const Sc
             std::swap(first, middle);
     }
     constexpr std::int32_t mostRows = 32;
-    Ends ends[mostRows];
+    SpanEnds ends[mostRows];
     const std::int32_t end = std::min(last->Y, screen.ScreenH - 1);
     for (std::int32_t y = std::max(first->Y, 0); y <= end;)
     {
-        // The middle corner's row belongs to the upper part, where there is one.
+        // The middle vertex's row belongs to the upper part, where there is one.
         const bool lower = y < middle->Y || middle->Y == last->Y;
-        const ScreenCorner &low = lower ? *first : *middle, &high = lower ? *middle : *last;
+        const ScreenVertex &low = lower ? *first : *middle, &high = lower ? *middle : *last;
         const std::int32_t stop = high.Y == last->Y ? end : std::min(high.Y - 1, end);
         const std::int32_t count = std::min(stop - y + 1, mostRows);
         Edges(*first, *last, low, high).Find(y, count, ends);
@@ -155,12 +155,12 @@ struct TexelPaint
 };
 }
 
-void FillTriFlat(Screen& screen, const ScreenCorner& a, const ScreenCorner& b, const ScreenCorner& c, base::Rgb colour)
+void FillTriFlat(Screen& screen, const ScreenVertex& a, const ScreenVertex& b, const ScreenVertex& c, base::Rgb colour)
 {
     Fill(screen, a, b, c, FlatPaint(colour));
 }
 
-void FillTriTex(Screen& screen, const ScreenCorner& a, const ScreenCorner& b, const ScreenCorner& c,
+void FillTriTex(Screen& screen, const ScreenVertex& a, const ScreenVertex& b, const ScreenVertex& c,
                 const base::ConstSurface& texture)
 {
     Fill(screen, a, b, c, TexelPaint{texture});

@@ -2,6 +2,7 @@
 
 #include "base/Numbers.h"
 #include "render/Primitives.h"
+#include "render/Spanner.h"
 
 #include <iterator>
 
@@ -116,7 +117,7 @@ void MakeHud(render::Scene& scene, base::MessageSink& messages, Hud& hud, std::i
 {
     for (const Element& element : Elements)
         hud.*element.Index = Make(element, scene, messages, element.X.In(width), element.Y.In(height));
-    PaintSpanner(scene.Pics.At(hud.Repair).Pic);
+    render::PaintSpanner(scene.Pics.At(hud.Repair).Pic);
 }
 
 void PlaceHud(render::Scene& scene, const Hud& hud, std::int32_t width, std::int32_t height)

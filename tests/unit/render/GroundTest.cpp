@@ -1,6 +1,8 @@
 #include "render/Ground.h"
 
+#include "render/GroundPlain.h"
 #include "render/RenderFrame.h"
+#include "render/RowTables.h"
 #include "tests/support/Scenes.h"
 
 #include <gtest/gtest.h>
@@ -28,9 +30,10 @@ void Compare(const render::Scene& scene, scenes::View& view)
     render::Screen& screen = view.Screen;
     render::UpdateSkyOffset(view.Camera, screen);
     render::UpdateRowTables(view.Camera, screen);
+    render::UpdateColumnSlopes(view.Camera, screen);
     std::fill(screen.Frame.Bytes.begin(), screen.Frame.Bytes.end(), std::uint8_t{77});
     std::fill(screen.Depth.Cells.begin(), screen.Depth.Cells.end(), 1.0f);
-    render::GroundPlain(render::MakeGroundView(scene, view.Camera, screen), {0, screen.ScreenMaxX}, screen.TxtFilter);
+    render::GroundPlain(render::MakeGroundView(scene, view.Camera, screen), {0, screen.ScreenMaxX});
     const std::vector<std::uint8_t> plain = screen.Frame.Bytes;
     const std::vector<float> depth = screen.Depth.Cells;
     std::fill(screen.Frame.Bytes.begin(), screen.Frame.Bytes.end(), std::uint8_t{77});
@@ -95,16 +98,19 @@ void Draw(const render::Scene& scene, scenes::View& view)
 {
     render::UpdateSkyOffset(view.Camera, view.Screen);
     render::UpdateRowTables(view.Camera, view.Screen);
+    render::UpdateColumnSlopes(view.Camera, view.Screen);
     render::DrawGround(scene, view.Camera, view.Screen, view.Threads);
 }
 
 // A ground of one grey, sharp and blurred, with the row weight given.
-std::unique_ptr<scenes::View> DrawWeighted(render::Scene& scene, int filter, float aux)
+std::unique_ptr<scenes::View> DrawWeighted(render::Scene& scene, int filter, float weight)
 {
     auto view = std::make_unique<scenes::View>(240, 200, filter);
     view->Look(100, 1, 100, 0, 0);
     render::UpdateRowTables(view->Camera, view->Screen);
-    std::fill(view->Screen.RowAux.begin(), view->Screen.RowAux.end(), aux);
+    render::UpdateColumnSlopes(view->Camera, view->Screen);
+    for (std::vector<float>* table : {&view->Screen.BlurWeight, &view->Screen.TapCount})
+        std::fill(table->begin(), table->end(), weight);
     render::DrawGround(scene, view->Camera, view->Screen, view->Threads);
     return view;
 }
@@ -328,9 +334,10 @@ TEST(Ground, StepsThatEndBetweenTexelsFollowThePlainRule)
             view.Look(place, 1, place, 0, 0);
             view.Camera.CamCosYaw = cosYaw; // a = 0 in the middle column: dv is the cosine itself
             render::UpdateRowTables(view.Camera, view.Screen);
-            std::fill(view.Screen.RowAux.begin(), view.Screen.RowAux.end(), 14.0f);
+            render::UpdateColumnSlopes(view.Camera, view.Screen);
+            std::fill(view.Screen.TapCount.begin(), view.Screen.TapCount.end(), 14.0f);
             const Band all{0, view.Screen.ScreenMaxX};
-            render::GroundPlain(render::MakeGroundView(scene, view.Camera, view.Screen), all, 2);
+            render::GroundPlain(render::MakeGroundView(scene, view.Camera, view.Screen), all);
             const std::vector<std::uint8_t> plain = view.Screen.Frame.Bytes;
             render::DrawGround(scene, view.Camera, view.Screen, view.Threads);
             EXPECT_NE(view.Screen.Taps[120].HasTies, 0);

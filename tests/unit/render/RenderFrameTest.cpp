@@ -1,8 +1,9 @@
 #include "render/RenderFrame.h"
 
 #include "render/Draw2D.h"
-#include "render/Ground.h"
+#include "render/GroundPlain.h"
 #include "render/Lines.h"
+#include "render/RowTables.h"
 #include "render/Sprites.h"
 #include "render/Triangles.h"
 #include "tests/support/Scenes.h"
@@ -378,7 +379,8 @@ void DrawPlain(const Scene& scene, const render::Camera& camera, render::Screen&
 {
     UpdateSkyOffset(camera, screen);
     UpdateRowTables(camera, screen);
-    GroundPlain(MakeGroundView(scene, camera, screen), {0, screen.ScreenMaxX}, screen.TxtFilter);
+    UpdateColumnSlopes(camera, screen);
+    GroundPlain(MakeGroundView(scene, camera, screen), {0, screen.ScreenMaxX});
     for (const Obj& object : scene.Objects.Items)
     {
         const render::Point3 c = WorldToCamera(camera, object.X, object.Y, object.Z);
@@ -395,16 +397,16 @@ void DrawPlain(const Scene& scene, const render::Camera& camera, render::Screen&
             const auto corner = [&](int i, int j)
             {
                 const render::MeshPt& p = mesh.Pts.At(i, j);
-                return SeeCorner(camera, screen, RotatePoint(rotation, object.X, object.Y, object.Z, p.X, p.Y, p.Z),
-                                 p.U, p.V);
+                return TransformVertex(camera, screen,
+                                       RotatePoint(rotation, object.X, object.Y, object.Z, p.X, p.Y, p.Z), p.U, p.V);
             };
-            const auto triangle = [&](const render::Corner& p, const render::Corner& q, const render::Corner& s)
+            const auto triangle = [&](const render::Vertex& p, const render::Vertex& q, const render::Vertex& s)
             {
                 if (mesh.Colour < 0)
-                    DrawTriTex(camera, screen, p, q, s,
+                    DrawTriTex(camera, screen, {p, q, s},
                                render::MakeSurface(scene.Textures.At(mesh.TexIndex).Pic.Pixels, 30, 20));
                 else
-                    DrawTriFlat(scene, camera, screen, p.World, q.World, s.World, {mesh.ColR, mesh.ColG, mesh.ColB});
+                    DrawTriFlat(scene, camera, screen, {p, q, s}, {mesh.ColR, mesh.ColG, mesh.ColB});
             };
             for (int i = 0; i <= mesh.Rows - 2 && mesh.Free == 0; ++i)
                 for (int j = 0; j <= mesh.Cols - 2; ++j)
@@ -416,12 +418,14 @@ void DrawPlain(const Scene& scene, const render::Camera& camera, render::Screen&
     }
     for (const render::ObjMesh& mesh : scene.WorldMeshes)
     {
-        const auto world = [&](int i, int j) {
-            return render::Point3{mesh.Pts.At(i, j).X, mesh.Pts.At(i, j).Y, mesh.Pts.At(i, j).Z};
+        const auto vertex = [&](int i, int j)
+        {
+            const render::MeshPt& p = mesh.Pts.At(i, j);
+            return TransformVertex(camera, screen, {p.X, p.Y, p.Z});
         };
         const render::Rgb colour{mesh.ColR, mesh.ColG, mesh.ColB};
-        DrawTriFlat(scene, camera, screen, world(0, 0), world(1, 0), world(0, 1), colour);
-        DrawTriFlat(scene, camera, screen, world(1, 1), world(1, 0), world(0, 1), colour);
+        DrawTriFlat(scene, camera, screen, {vertex(0, 0), vertex(1, 0), vertex(0, 1)}, colour);
+        DrawTriFlat(scene, camera, screen, {vertex(1, 1), vertex(1, 0), vertex(0, 1)}, colour);
     }
     for (const render::Poly& poly : scene.Polys.Items)
         for (std::size_t i = 0; i + 1 < poly.Pts.size(); ++i)

@@ -1,4 +1,4 @@
-#include "render/TriangleFill.h"
+#include "render/TriangleFillPlain.h"
 
 #include "tests/support/Scenes.h"
 
@@ -10,13 +10,13 @@
 #include <limits>
 #include <string>
 
-using render::ScreenCorner;
+using render::ScreenVertex;
 
 namespace
 {
 constexpr render::Rgb Ink{1, 2, 3};
 
-ScreenCorner At(std::int32_t x, std::int32_t y, float z = 1, double u = 0, double v = 0)
+ScreenVertex At(std::int32_t x, std::int32_t y, float z = 1, double u = 0, double v = 0)
 {
     return {x, y, z, u, v};
 }
@@ -34,7 +34,7 @@ std::string Rows(const scenes::View& view)
     return text;
 }
 
-std::string Flat(const ScreenCorner& a, const ScreenCorner& b, const ScreenCorner& c)
+std::string Flat(const ScreenVertex& a, const ScreenVertex& b, const ScreenVertex& c)
 {
     scenes::View view(12, 8);
     FillTriFlat(view.Screen, a, b, c, Ink);
@@ -229,11 +229,11 @@ TEST(FillTri, FastIsPlainForRandomTriangles)
         if (round % 500 == 0)
             for (scenes::View* view : {&plain, &fast})
                 std::fill(view->Screen.Depth.Cells.begin(), view->Screen.Depth.Cells.end(), render::FarDepth);
-        ScreenCorner corner[3];
+        ScreenVertex corner[3];
         const double size = reach[round % 6];
         const double x = scenes::Draw(random, 0, 241), y = scenes::Draw(random, 0, 203);
         const double ending = round % 2 == 0 ? 40.0 : 4.0;
-        for (ScreenCorner& c : corner)
+        for (ScreenVertex& c : corner)
             c = At(base::RoundEven(std::clamp(x + scenes::Draw(random, -size, size), -2.1e9, 2.1e9)),
                    base::RoundEven(std::clamp(y + scenes::Draw(random, -size, size), -2.1e9, 2.1e9)),
                    static_cast<float>(scenes::Draw(random, 0.01, ending)), scenes::Draw(random, -5, 45),

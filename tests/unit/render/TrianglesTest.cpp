@@ -9,7 +9,7 @@
 #include <limits>
 
 using render::Point3;
-using render::ScreenCorner;
+using render::ScreenVertex;
 
 namespace
 {
@@ -20,9 +20,13 @@ struct Origin : scenes::View
 {
     render::Scene Scene;
     Origin() : View(240, 200) { Look(0, 0, 0, 0, 0); }
+    render::Vertex At(const Point3& point, std::int32_t u = 0, std::int32_t v = 0) const
+    {
+        return TransformVertex(Camera, Screen, point, u, v);
+    }
     void Flat(const Point3& a, const Point3& b, const Point3& c)
     {
-        render::DrawTriFlat(Scene, Camera, Screen, a, b, c, Grey);
+        DrawTriFlat(Scene, Camera, Screen, {At(a), At(b), At(c)}, Grey);
     }
     std::size_t Drawn() const
     {
@@ -127,7 +131,7 @@ TEST(NearPlane, OneCornerBehindLeavesTwoTriangles)
     Origin view;
     view.Flat({-0.3f, -0.2f, 1}, {0.3f, -0.2f, 1}, {0, -0.2f, -1});
     Origin expected;
-    const ScreenCorner a{60, 60, 1}, b{180, 60, 1}, p{-2910, -3900, 0.01f}, q{3150, -3900, 0.01f};
+    const ScreenVertex a{60, 60, 1}, b{180, 60, 1}, p{-2910, -3900, 0.01f}, q{3150, -3900, 0.01f};
     const render::Rgb colour{200, 100, 50}; // a level face keeps its light
     FillTriFlat(expected.Screen, a, b, p, colour);
     FillTriFlat(expected.Screen, b, q, p, colour);
@@ -159,13 +163,13 @@ TEST(NearPlane, CutTexelsAreInterpolatedWithTheCorner)
     const render::Picture picture = scenes::Noise(random, 16, 16);
     const base::ConstSurface texture = render::MakeSurface(picture.Pixels, 16, 16);
     Origin view;
-    render::DrawTriTex(view.Camera, view.Screen, SeeCorner(view.Camera, view.Screen, {-0.3f, -0.2f, 1}, 0, 15),
-                       SeeCorner(view.Camera, view.Screen, {0.3f, -0.2f, 1}, 15, 15),
-                       SeeCorner(view.Camera, view.Screen, {0, -0.2f, -1}, 8, 0), texture);
+    DrawTriTex(view.Camera, view.Screen,
+               {view.At({-0.3f, -0.2f, 1}, 0, 15), view.At({0.3f, -0.2f, 1}, 15, 15), view.At({0, -0.2f, -1}, 8, 0)},
+               texture);
     Origin expected;
     const double t = (1.0 - 0.01f) / 2.0;
-    const ScreenCorner a{60, 60, 1, 0, 15}, b{180, 60, 1, 15, 15};
-    const ScreenCorner p{-2910, -3900, 0.01f, 8 * t, 15 - 15 * t}, q{3150, -3900, 0.01f, 15 - 7 * t, 15 - 15 * t};
+    const ScreenVertex a{60, 60, 1, 0, 15}, b{180, 60, 1, 15, 15};
+    const ScreenVertex p{-2910, -3900, 0.01f, 8 * t, 15 - 15 * t}, q{3150, -3900, 0.01f, 15 - 7 * t, 15 - 15 * t};
     FillTriTex(expected.Screen, a, b, p, texture);
     FillTriTex(expected.Screen, b, q, p, texture);
     EXPECT_EQ(view.Screen.Frame.Bytes, expected.Screen.Frame.Bytes);
@@ -175,9 +179,7 @@ TEST(NearPlane, CutTexelsAreInterpolatedWithTheCorner)
 TEST(DrawTriTex, WithoutATextureNothingIsDrawn)
 {
     Origin view;
-    render::DrawTriTex(view.Camera, view.Screen, SeeCorner(view.Camera, view.Screen, {-1, -1, 5}),
-                       SeeCorner(view.Camera, view.Screen, {1, -1, 5}), SeeCorner(view.Camera, view.Screen, {-1, 1, 5}),
-                       {});
+    DrawTriTex(view.Camera, view.Screen, {view.At({-1, -1, 5}), view.At({1, -1, 5}), view.At({-1, 1, 5})}, {});
     EXPECT_EQ(view.Drawn(), 0u);
 }
 
