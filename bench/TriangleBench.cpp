@@ -40,7 +40,7 @@ template <bool Textured, bool Fast> void Fill(benchmark::State& state)
     Triangles world(static_cast<int>(state.range(0)), static_cast<int>(state.range(1)));
     render::Screen& screen = world.View.Screen;
     const base::ConstSurface texture = render::MakeSurface(world.Picture.Pixels, 256, 256);
-    const render::Rgb colour{10, 20, 30};
+    const base::Rgb colour{10, 20, 30};
     for (auto _ : state)
     {
         state.PauseTiming();

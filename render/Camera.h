@@ -9,7 +9,8 @@
 
 namespace render
 {
-inline constexpr double HalfPi = 1.570796, Pi = 3.141592, TwoPi = 6.283184; // the constants of every formula
+// The constants of every formula. Deliberate: six decimals.
+inline constexpr double HalfPi = 1.570796, Pi = 3.141592, TwoPi = 6.283184;
 
 // From where the followed car is seen. The numbers are those of the key that goes through them.
 enum View : std::int16_t
@@ -42,12 +43,14 @@ void UpdateCameraTrig(Camera& camera);
 
 struct Point3
 {
-    float X = 0, Y = 0, Z = 0;
+    float X = 0, Y = 0, Z = 0; // world units
 };
 
-// Every point of a frame passes through WorldToCamera, RotatePoint and Project: they are inline.
+// Every point of a frame passes through WorldToCamera, RotatePoint and Project: they are inline. All three sum in
+// double precision.
 
-// Camera space: Z is the depth, growing away from the eye. Sums in double, stores floats.
+// World to camera space: X to the right, Y upward, Z the depth, growing away from the eye. Stores floats. Reads the
+// four derived fields, not the angles.
 inline Point3 WorldToCamera(const Camera& camera, float x, float y, float z)
 {
     const double cosYaw = camera.CamCosYaw, sinYaw = camera.CamSinYaw;
@@ -63,10 +66,12 @@ inline Point3 WorldToCamera(const Camera& camera, float x, float y, float z)
 // Sine and cosine of an object's two rotations, computed once per object.
 struct Rotation
 {
-    float CosA = 1, SinA = 0, CosB = 1, SinB = 0;
+    float CosA = 1, SinA = 0; // about the vertical axis: the heading
+    float CosB = 1, SinB = 0; // then the pitch
 };
+// Radians.
 Rotation MakeRotation(float angleA, float angleB);
-// Object-local point to world.
+// Object-local point to world; (ox, oy, oz) is the object's place. Stores floats.
 inline Point3 RotatePoint(const Rotation& rotation, float ox, float oy, float oz, float px, float py, float pz)
 {
     const double cosA = rotation.CosA, sinA = rotation.SinA, cosB = rotation.CosB, sinB = rotation.SinB;
@@ -75,16 +80,19 @@ inline Point3 RotatePoint(const Rotation& rotation, float ox, float oy, float oz
             static_cast<float>(t * cosB + sinB * py + oz)};
 }
 
-// Projected position: pixels, rounded. base::OutOfRange where the point is not finite or off every scale.
+// A place on the frame, off it as well: whole pixels, row 0 at the bottom.
 struct ScreenPoint
 {
     std::int32_t X = 0, Y = 0;
 };
+// Camera space to screen, rounded. base::OutOfRange where the point is not finite or off every scale; what lies behind
+// the eye is the caller's to leave out.
 inline ScreenPoint Project(double x, double y, double depth, float zoom, float centerX, float centerY)
 {
     return {base::RoundEven(x / depth * zoom + centerX), base::RoundEven(y / depth * zoom + centerY)};
 }
 
+// Lengths, in the units of what is given.
 double Dist2D(double x1, double y1, double x2, double y2);
 double Dist3D(double x1, double y1, double z1, double x2, double y2, double z2);
 double VecLen(double x, double y, double z);
@@ -94,9 +102,8 @@ double AngleOf(double y, double x);
 // NaN where the angle is no number or its thousandths need more than 32 bits.
 double WrapAngle(double angle);
 
-using base::Rgb;
-// Red in the low byte. Meaningful for colours of 0 and above.
-Rgb SplitRGB(std::int32_t colour);
+// A colour of one number: red in the low byte, then green, then blue. Meaningful for colours of 0 and above.
+base::Rgb SplitRGB(std::int32_t colour);
 }
 
 template <> struct base::FieldsOf<render::Camera>

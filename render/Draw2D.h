@@ -7,7 +7,7 @@
 
 namespace render
 {
-// Copies the picture opaquely, its bottom-left pixel at (x, y), clipped on all four sides.
+// Copies the picture opaquely, black texels too, its bottom-left pixel at (x, y), clipped on all four sides.
 void DrawPic2D(const base::Surface& surface, const Picture& picture, std::int32_t x, std::int32_t y);
 // Columns x to x + w and rows y to y + h, both ends included, clipped. Sums are 16-bit; one that does not fit draws
 // nothing.

@@ -58,11 +58,11 @@ struct Element
     std::int32_t Style;
     float Scale;
     std::int16_t TabWidth;
-    render::Rgb Colour;
+    base::Rgb Colour;
     std::uint8_t Visible;
 };
 
-constexpr render::Rgb White = {255, 255, 255};
+constexpr base::Rgb White = {255, 255, 255};
 constexpr std::int32_t PreviewSize = 70, SpannerSize = 32;
 constexpr std::int16_t BarWidth = 15, BarHeight = 5; // from (0, 3) to (15, 8)
 constexpr std::size_t TextRoom = 256;                // bytes: no tick allocates

@@ -46,7 +46,7 @@ render::ObjMesh Square(float x, float y, float z, float side, std::int32_t colou
 {
     render::ObjMesh mesh;
     mesh.Colour = colour;
-    const render::Rgb split = render::SplitRGB(colour);
+    const base::Rgb split = render::SplitRGB(colour);
     mesh.ColR = split.R;
     mesh.ColG = split.G;
     mesh.ColB = split.B;
@@ -423,7 +423,7 @@ void DrawPlain(const Scene& scene, const render::Camera& camera, render::Screen&
             const render::MeshPt& p = mesh.Pts.At(i, j);
             return TransformVertex(camera, screen, {p.X, p.Y, p.Z});
         };
-        const render::Rgb colour{mesh.ColR, mesh.ColG, mesh.ColB};
+        const base::Rgb colour{mesh.ColR, mesh.ColG, mesh.ColB};
         DrawTriFlat(scene, camera, screen, {vertex(0, 0), vertex(1, 0), vertex(0, 1)}, colour);
         DrawTriFlat(scene, camera, screen, {vertex(1, 1), vertex(1, 0), vertex(0, 1)}, colour);
     }

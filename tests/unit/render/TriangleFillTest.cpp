@@ -14,7 +14,7 @@ using render::ScreenVertex;
 
 namespace
 {
-constexpr render::Rgb Ink{1, 2, 3};
+constexpr base::Rgb Ink{1, 2, 3};
 
 ScreenVertex At(std::int32_t x, std::int32_t y, float z = 1, double u = 0, double v = 0)
 {
@@ -242,7 +242,7 @@ TEST(FillTri, FastIsPlainForRandomTriangles)
             corner[1].Y = corner[0].Y; // flat bottoms and tops
         if (round % 11 == 0)
             corner[2].X = corner[0].X;
-        const render::Rgb colour{static_cast<std::uint8_t>(round), 2, 3};
+        const base::Rgb colour{static_cast<std::uint8_t>(round), 2, 3};
         if (round % 3 == 0)
         {
             FillTriFlatPlain(plain.Screen, corner[0], corner[1], corner[2], colour);

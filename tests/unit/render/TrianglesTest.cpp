@@ -13,7 +13,7 @@ using render::ScreenVertex;
 
 namespace
 {
-constexpr render::Rgb Grey{200, 100, 50};
+constexpr base::Rgb Grey{200, 100, 50};
 
 // 240 x 200, zoom 200, centre (120, 100); the eye in the origin, looking along +z.
 struct Origin : scenes::View
@@ -132,7 +132,7 @@ TEST(NearPlane, OneCornerBehindLeavesTwoTriangles)
     view.Flat({-0.3f, -0.2f, 1}, {0.3f, -0.2f, 1}, {0, -0.2f, -1});
     Origin expected;
     const ScreenVertex a{60, 60, 1}, b{180, 60, 1}, p{-2910, -3900, 0.01f}, q{3150, -3900, 0.01f};
-    const render::Rgb colour{200, 100, 50}; // a level face keeps its light
+    const base::Rgb colour{200, 100, 50}; // a level face keeps its light
     FillTriFlat(expected.Screen, a, b, p, colour);
     FillTriFlat(expected.Screen, b, q, p, colour);
     EXPECT_EQ(view.Screen.Frame.Bytes, expected.Screen.Frame.Bytes);
