@@ -19,10 +19,10 @@ struct Rgb
     friend bool operator==(const Rgb&, const Rgb&) = default;
 };
 
-// Bytes of a padded row. The width must be at least 0 and below 2^31 / 3 - 1.
+// Bytes of a padded row. They fit 32 bits for widths below 2^31 / 3 - 1.
 constexpr std::int32_t PaddedRow(std::int32_t width)
 {
-    return (width * PixelBytes + 3) & ~3;
+    return static_cast<std::int32_t>((std::int64_t{width} * PixelBytes + 3) & ~std::int64_t{3});
 }
 
 inline void Put(std::uint8_t* pixel, Rgb colour)
@@ -114,5 +114,7 @@ template <class Cell> struct Grid
     const Cell* Row(std::int32_t row) const { return Cells.data() + static_cast<std::ptrdiff_t>(row) * Width; }
     Cell& At(std::int32_t x, std::int32_t row) { return Row(row)[x]; }
     const Cell& At(std::int32_t x, std::int32_t row) const { return Row(row)[x]; }
+
+    friend bool operator==(const Grid&, const Grid&) = default;
 };
 }

@@ -61,7 +61,7 @@ void Frame(benchmark::State& state)
 {
     World world(static_cast<int>(state.range(1)), static_cast<int>(state.range(2)), static_cast<int>(state.range(0)));
     for (auto _ : state)
-        render::RenderFrame(world.Scene, world.View->Camera, world.View->Screen, nullptr);
+        render::RenderFrame(world.Scene, world.View->Camera, world.View->Screen, world.View->Threads);
 }
 }
 

@@ -31,7 +31,7 @@ double MedianFrame(bench::ShippedFrames& frames, const Setting& setting, std::si
 {
     using Clock = std::chrono::steady_clock;
     frames.Prepare(setting.Width, setting.Height, setting.Filter);
-    for (std::size_t i = 0; i < frames.PathLength(); ++i) // caches and walkers warm, and back at the beginning
+    for (std::size_t i = 0; i < frames.PathLength(); ++i) // caches and threads warm, and back at the beginning
         frames.Draw();
     std::vector<double> times(rounds * frames.PathLength());
     for (double& time : times)
@@ -60,5 +60,5 @@ int main(int count, char** words)
     bench::ShippedFrames frames;
     for (const Setting& setting : Settings)
         std::printf("%dx%d \"%s\"\t%.3f\n", static_cast<int>(setting.Width), static_cast<int>(setting.Height),
-                    render::FilterName(setting.Filter), MedianFrame(frames, setting, rounds));
+                    bench::FilterName(setting.Filter), MedianFrame(frames, setting, rounds));
 }

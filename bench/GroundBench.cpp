@@ -1,11 +1,11 @@
 // The ground pass alone: each filter, plain and fast, on one thread; and fast on all of them.
-#include "render/Ground.h"
+#include "render/GroundPlain.h"
 #include "render/RenderFrame.h"
+#include "render/RowTables.h"
 #include "tests/support/Scenes.h"
 
 #include <benchmark/benchmark.h>
 
-#include <atomic>
 #include <memory>
 
 namespace
@@ -26,6 +26,7 @@ struct World
         View->Look(500.0f, 7.0f, 400.0f, 0.4f, -0.1f);
         render::UpdateSkyOffset(View->Camera, View->Screen);
         render::UpdateRowTables(View->Camera, View->Screen);
+        render::UpdateColumnSlopes(View->Camera, View->Screen);
     }
 };
 
@@ -35,7 +36,7 @@ void Plain(benchmark::State& state)
                 1);
     const render::GroundView view = render::MakeGroundView(world.Scene, world.View->Camera, world.View->Screen);
     for (auto _ : state)
-        render::GroundPlain(view, {0, world.View->Screen.ScreenMaxX}, world.View->Screen.TxtFilter);
+        render::GroundPlain(view, {0, world.View->Screen.ScreenMaxX});
 }
 
 // threads 1: the calling one alone, as against the plain form; 5: the bands of two processors.
@@ -44,7 +45,7 @@ void Fast(benchmark::State& state)
     World world(static_cast<int>(state.range(1)), static_cast<int>(state.range(2)), static_cast<int>(state.range(0)),
                 static_cast<int>(state.range(3)));
     for (auto _ : state)
-        render::DrawGround(world.Scene, world.View->Camera, world.View->Screen);
+        render::DrawGround(world.Scene, world.View->Camera, world.View->Screen, world.View->Threads);
 }
 }
 

@@ -18,7 +18,7 @@ void WholeFrame(benchmark::State& state)
     frames.Prepare(static_cast<std::int32_t>(state.range(0)), static_cast<std::int32_t>(state.range(1)), filter);
     for (auto _ : state)
         benchmark::DoNotOptimize(frames.Draw());
-    state.SetLabel(render::FilterName(filter));
+    state.SetLabel(bench::FilterName(filter));
 }
 BENCHMARK(WholeFrame)
     ->ArgsProduct({{600}, {312}, {0, 1, 2}})

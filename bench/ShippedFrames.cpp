@@ -6,6 +6,12 @@
 
 namespace bench
 {
+const char* FilterName(std::int16_t filter)
+{
+    constexpr const char* names[] = {"nessuno", "lineare", "anisotropico"};
+    return filter >= 0 && filter < 3 ? names[filter] : "";
+}
+
 ShippedFrames::ShippedFrames() : Cameras(Race.RecordPath(1600)) {}
 
 void ShippedFrames::Prepare(std::int32_t width, std::int32_t height, std::int16_t filter)
@@ -22,7 +28,7 @@ const std::uint8_t* ShippedFrames::Draw()
     render::Camera camera = Cameras[Next++ % Cameras.size()];
     // The path was recorded at another resolution: the same angle of view.
     camera.Zoom = camera.Zoom / camera.MinZoom * game.Camera.MinZoom;
-    render::RenderFrame(game.Scene, camera, game.Screen, nullptr);
+    render::RenderFrame(game.Scene, camera, game.Screen, game.GroundThreads);
     return game.Screen.Frame.Bytes.data();
 }
 }

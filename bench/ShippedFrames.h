@@ -9,13 +9,16 @@
 
 namespace bench
 {
+// As the options call it; empty for any other number.
+const char* FilterName(std::int16_t filter);
+
 class ShippedFrames
 {
 public:
     // Loads the race and records the path.
     ShippedFrames();
 
-    // Pixels; the filter as `TxtFilter` numbers it. With the bands and walkers that the game would take on this
+    // Pixels; the filter as `TxtFilter` numbers it. With the bands and threads that the game would take on this
     // machine.
     void Prepare(std::int32_t width, std::int32_t height, std::int16_t filter);
     // Draws the frame of the path's next camera, the path over and over, and gives its pixels.

@@ -1,5 +1,5 @@
 // The triangle fill alone, plain and fast: many small triangles (cars), and few large ones (walls near the camera).
-#include "render/TriangleFill.h"
+#include "render/TriangleFillPlain.h"
 #include "tests/support/Scenes.h"
 
 #include <benchmark/benchmark.h>
@@ -9,11 +9,11 @@
 
 namespace
 {
-using render::ScreenCorner;
+using render::ScreenVertex;
 
 struct Triangles
 {
-    std::vector<ScreenCorner> Corners;
+    std::vector<ScreenVertex> Corners;
     render::Picture Picture;
     scenes::View View{1200, 900};
 
@@ -39,16 +39,16 @@ template <bool Textured, bool Fast> void Fill(benchmark::State& state)
 {
     Triangles world(static_cast<int>(state.range(0)), static_cast<int>(state.range(1)));
     render::Screen& screen = world.View.Screen;
-    const render::TexelField texture = render::MakeTexelField(world.Picture.Pixels, 256, 256);
-    const render::Rgb colour{10, 20, 30};
+    const base::ConstSurface texture = render::MakeSurface(world.Picture.Pixels, 256, 256);
+    const base::Rgb colour{10, 20, 30};
     for (auto _ : state)
     {
         state.PauseTiming();
-        std::fill(screen.Depth.begin(), screen.Depth.end(), render::FarDepth);
+        std::fill(screen.Depth.Cells.begin(), screen.Depth.Cells.end(), render::FarDepth);
         state.ResumeTiming();
         for (std::size_t i = 0; i + 2 < world.Corners.size(); i += 3)
         {
-            const ScreenCorner &a = world.Corners[i], &b = world.Corners[i + 1], &c = world.Corners[i + 2];
+            const ScreenVertex &a = world.Corners[i], &b = world.Corners[i + 1], &c = world.Corners[i + 2];
             if constexpr (Textured)
                 Fast ? FillTriTex(screen, a, b, c, texture) : FillTriTexPlain(screen, a, b, c, texture);
             else

@@ -13,19 +13,22 @@ inline std::uint32_t Load3(const std::uint8_t* from)
     return static_cast<std::uint32_t>(from[0] | from[1] << 8 | from[2] << 16);
 }
 
+// The way back; three bytes are written.
 inline void Store3(std::uint8_t* to, std::uint32_t bytes)
 {
     for (int c = 0; c < 3; ++c)
         to[c] = static_cast<std::uint8_t>(bytes >> 8 * c);
 }
 
+// How a mixed channel becomes a byte.
 enum class Rounding
 {
     Down,
     Nearest
 };
 
-// Each channel a x weightA + b x weightB, for weights of 0 and above whose sum is 1 (as far as doubles go).
+// Each channel a x weightA + b x weightB, for weights of 0 and above whose sum is 1 (as far as doubles go), rounded
+// down or to the nearest whole number, ties to even. Three bytes are read and written; pixel may be a or b.
 template <Rounding How>
 void Blend(const std::uint8_t* a, double weightA, const std::uint8_t* b, double weightB, std::uint8_t* pixel)
 {

@@ -57,7 +57,7 @@ double WrapAngle(double angle)
     return wrapped < -Pi ? wrapped + TwoPi : wrapped;
 }
 
-Rgb SplitRGB(std::int32_t colour)
+base::Rgb SplitRGB(std::int32_t colour)
 {
     const auto bits = static_cast<std::uint32_t>(colour);
     return {static_cast<std::uint8_t>(bits), static_cast<std::uint8_t>(bits >> 8),

@@ -4,6 +4,8 @@
 #include "base/Numbers.h"
 #include "render/Blend.h"
 #include "render/Double2.h"
+#include "render/GroundPlain.h"
+#include "render/GroundThreads.h"
 
 #include <algorithm>
 #include <bit>
@@ -12,50 +14,9 @@
 
 namespace render
 {
-TexelField MakeTexelField(const PicArray2D& pixels, std::int32_t width, std::int32_t height)
-{
-    return {pixels.Bytes.data(), pixels.RowBytes, std::clamp(width, 0, pixels.RowBytes / 3),
-            std::clamp(height, 0, pixels.Rows)};
-}
-
-GroundView MakeGroundView(const Scene& scene, const Camera& camera, Screen& screen)
-{
-    GroundView view;
-    view.CamX = camera.CamX;
-    view.CamZ = camera.CamZ;
-    view.SinYaw = camera.CamSinYaw;
-    view.CosYaw = camera.CamCosYaw;
-    view.Yaw = camera.CamYaw;
-    view.Zoom = camera.Zoom;
-    view.CenterX = screen.CenterX;
-    view.GroundScale = scene.Ground.GroundScale;
-    view.Sharp = MakeTexelField(scene.Ground.Sharp.Pixels, scene.Ground.Width, scene.Ground.Height);
-    const PicArray2D& blur = scene.Ground.GroundBlur;
-    const bool same =
-        blur.Rows == scene.Ground.Sharp.Pixels.Rows && blur.RowBytes == scene.Ground.Sharp.Pixels.RowBytes;
-    view.Blurred = same ? MakeTexelField(blur, scene.Ground.Width, scene.Ground.Height) : view.Sharp;
-    view.Sky = MakeTexelField(scene.Sky.Pixels, scene.Sky.Info.Width, scene.Sky.Info.Height);
-    view.SkyOffset = (screen.SkyOffset % SkyWidth + SkyWidth) % SkyWidth;
-    view.ScreenH = screen.ScreenH;
-    view.RowAngle = screen.RowAngle.data();
-    view.RowSlant = screen.RowSlant.data();
-    view.RowDist = screen.RowDist.data();
-    view.RowAux = screen.RowAux.data();
-    for (std::int32_t x = 0; x < screen.ScreenW; ++x)
-        screen.ColumnSlope[static_cast<std::size_t>(x)] = (x - view.CenterX) / view.Zoom;
-    view.ColumnSlope = screen.ColumnSlope.data();
-    view.Taps = screen.Taps.data();
-    view.Frame = screen.Frame.Bytes.data();
-    view.FrameRowBytes = screen.Frame.RowBytes;
-    view.Depth = screen.Depth.data();
-    view.DepthRow = screen.ScreenW;
-    return view;
-}
-
 namespace
 {
 constexpr std::int32_t Chunk = 64; // columns whose texels are found before they are fetched
-constexpr std::int32_t Margin = 15;
 
 // A run of texels of one row.
 struct TexelRun
@@ -69,11 +30,6 @@ struct RowSpan
     std::int32_t First = 0, Count = 0; // columns, Count at most Chunk
     std::uint8_t* Pixels = nullptr;    // of the first column
 };
-
-void Copy(std::uint8_t* pixel, const std::uint8_t* from)
-{
-    std::memcpy(pixel, from, 3);
-}
 
 // Load3 where a fourth byte may be read as well.
 std::uint32_t Load3Of4(const std::uint8_t* from)
@@ -101,18 +57,18 @@ void FindTexels(const GroundView& view, const RowSpan& span, TexelRun& run)
     }
 }
 
-// Whether a texel lies in the field with that margin on every side: one comparison an axis, as negative numbers are
+// The texels that are at least `margin` from every side of the picture. One comparison an axis, as negative numbers are
 // the largest of the unsigned ones.
-class Inside
+class Interior
 {
 public:
-    Inside(const TexelField& field, std::int32_t margin)
+    Interior(const base::ConstSurface& picture, std::int32_t margin)
         : Least(static_cast<std::uint32_t>(margin)),
-          Columns(static_cast<std::uint32_t>(std::max(field.Width - 2 * margin, 0))),
-          Rows(static_cast<std::uint32_t>(std::max(field.Height - 2 * margin, 0)))
+          Columns(static_cast<std::uint32_t>(std::max(picture.Width - 2 * margin, 0))),
+          Rows(static_cast<std::uint32_t>(std::max(picture.Height - 2 * margin, 0)))
     {
     }
-    bool operator()(std::int32_t u, std::int32_t v) const
+    bool Has(std::int32_t u, std::int32_t v) const
     {
         return static_cast<std::uint32_t>(u) - Least < Columns && static_cast<std::uint32_t>(v) - Least < Rows;
     }
@@ -124,20 +80,20 @@ private:
 void CopySky(const GroundView& view, const Band& band, std::int32_t y)
 {
     const std::int32_t row = SkyRow(view, y);
-    std::uint8_t* pixel = view.Frame + y * view.FrameRowBytes + band.First * 3;
+    std::uint8_t* pixel = view.Frame.At(band.First, y);
     if (view.Sky.Width < SkyWidth || row < 0 || row >= view.Sky.Height)
     {
-        for (std::int32_t x = band.First; x <= band.Last; ++x, pixel += 3)
-            Copy(pixel, SkyPixel(view, x, row));
+        for (std::int32_t x = band.First; x <= band.Last; ++x, pixel += base::PixelBytes)
+            base::CopyPixel(pixel, SkyPixel(view, x, row));
         return;
     }
     for (std::int32_t x = band.First; x <= band.Last;)
     {
         const std::int32_t column = (view.SkyOffset + x) % SkyWidth;
         const std::int32_t count = std::min(SkyWidth - column, band.Last - x + 1);
-        std::memcpy(pixel, view.Sky.At(column, row), static_cast<std::size_t>(count) * 3);
+        std::memcpy(pixel, view.Sky.At(column, row), static_cast<std::size_t>(count) * base::PixelBytes);
         x += count;
-        pixel += count * 3;
+        pixel += count * base::PixelBytes;
     }
 }
 
@@ -147,35 +103,34 @@ void FillSpan(const GroundView& view, const RowSpan& span, std::int32_t margin, 
 {
     TexelRun run;
     FindTexels(view, span, run);
-    const Inside inside(view.Sharp, margin);
+    const Interior interior(view.Sharp, margin);
     std::uint8_t* pixel = span.Pixels;
     // Along a row u and v only grow or only shrink: between two texels inside there is none outside.
     const std::int32_t last = span.Count - 1;
-    if (inside(run.U[0], run.V[0]) && inside(run.U[last], run.V[last]))
+    if (interior.Has(run.U[0], run.V[0]) && interior.Has(run.U[last], run.V[last]))
     {
-        for (std::int32_t i = 0; i < span.Count; ++i, pixel += 3)
+        for (std::int32_t i = 0; i < span.Count; ++i, pixel += base::PixelBytes)
             ground(run.U[i], run.V[i], span.First + i, pixel);
         return;
     }
     const std::int32_t skyRow = SkyRow(view, span.Y);
-    for (std::int32_t i = 0; i < span.Count; ++i, pixel += 3)
-        if (inside(run.U[i], run.V[i]))
+    for (std::int32_t i = 0; i < span.Count; ++i, pixel += base::PixelBytes)
+        if (interior.Has(run.U[i], run.V[i]))
             ground(run.U[i], run.V[i], span.First + i, pixel);
         else
-            Copy(pixel, SkyPixel(view, span.First + i, skyRow));
+            base::CopyPixel(pixel, SkyPixel(view, span.First + i, skyRow));
 }
 
-// The walk that the three filters share: by rows, because rows lie together in memory. fill draws one span of a ground
-// row.
-template <class Fill> void WalkRows(const GroundView& view, const Band& band, WalkGate& gate, Fill&& fill)
+// What the three filters share: row by row, because rows lie together in memory. fill draws one span of a ground row.
+template <class Fill> void DrawRows(const GroundView& view, const Band& band, StopCheck& check, Fill&& fill)
 {
     if (band.Last < band.First)
         return;
-    for (std::int32_t y = 0; y < view.ScreenH; ++y)
+    for (std::int32_t y = 0; y < view.Frame.Height; ++y)
     {
-        if (!gate.MayGoOn())
+        if (check.MustStop())
             return;
-        float* depth = view.Depth + y * view.DepthRow;
+        float* depth = view.Depth->Row(y);
         std::fill(depth + band.First, depth + band.Last + 1, FarDepth);
         if (IsSkyRow(view, y))
         {
@@ -183,7 +138,7 @@ template <class Fill> void WalkRows(const GroundView& view, const Band& band, Wa
             continue;
         }
         for (std::int32_t x = band.First; x <= band.Last; x += Chunk)
-            fill(RowSpan{y, x, std::min(Chunk, band.Last - x + 1), view.Frame + y * view.FrameRowBytes + x * 3});
+            fill(RowSpan{y, x, std::min(Chunk, band.Last - x + 1), view.Frame.At(x, y)});
     }
 }
 
@@ -206,7 +161,7 @@ void FindTaps(const GroundView& view, const Band& band)
         for (std::int32_t k = 1; k <= MostTaps && taps.HasTies == 0; ++k)
         {
             const std::int32_t u = base::RoundEven(k * du), v = base::RoundEven(k * dv);
-            taps.Offset[k - 1] = static_cast<std::int32_t>(v * view.Sharp.RowBytes) + u * 3;
+            taps.Offset[k - 1] = static_cast<std::int32_t>(v * view.Sharp.RowBytes) + u * base::PixelBytes;
             taps.HasTies = IsTie(k * du) || IsTie(k * dv);
         }
     }
@@ -229,12 +184,12 @@ void FillTent(const GroundView& view, const RowSpan& span, const Tent& tent)
     const auto mean = [reciprocal](std::uint32_t sum)
     { return static_cast<std::uint32_t>((sum & 0xFFFF) * reciprocal >> 32); };
     constexpr std::uint32_t blueRed = 0xFF00FF, green = 0xFF;
-    FillSpan(view, span, Margin,
+    FillSpan(view, span, TapMargin,
              [&](std::int32_t u, std::int32_t v, std::int32_t x, std::uint8_t* pixel)
              {
                  const ColumnTaps& taps = view.Taps[x];
                  if (taps.HasTies != 0)
-                     return GroundPixelPlain(view, 2, x, span.Y, pixel);
+                     return GroundPixelPlain(view, x, span.Y, pixel);
                  const std::uint8_t* centre = view.Sharp.At(u, v);
                  const std::uint32_t middle = Load3Of4(centre);
                  std::uint32_t sumBlueRed = (middle & blueRed) * tent.MiddleWeight;
@@ -255,43 +210,56 @@ void FillNearest(const GroundView& view, const RowSpan& span, std::int32_t margi
 {
     FillSpan(view, span, margin,
              [sharp = view.Sharp](std::int32_t u, std::int32_t v, std::int32_t, std::uint8_t* pixel)
-             { Copy(pixel, sharp.At(u, v)); });
+             { base::CopyPixel(pixel, sharp.At(u, v)); });
 }
 }
 
-void GroundNearest(const GroundView& view, const Band& band, WalkGate& gate)
+void GroundNearest(const GroundView& view, const Band& band, StopCheck& check)
 {
-    WalkRows(view, band, gate, [&](const RowSpan& span) { FillNearest(view, span, 0); });
+    DrawRows(view, band, check, [&](const RowSpan& span) { FillNearest(view, span, 0); });
 }
 
-void GroundLinear(const GroundView& view, const Band& band, WalkGate& gate)
+void GroundLinear(const GroundView& view, const Band& band, StopCheck& check)
 {
-    WalkRows(view, band, gate,
+    DrawRows(view, band, check,
              [&](const RowSpan& span)
              {
-                 const double w = view.RowAux[span.Y], rest = 1.0 - w;
+                 const double w = view.BlurWeight[span.Y], rest = 1.0 - w;
                  FillSpan(view, span, 0,
                           [&](std::int32_t u, std::int32_t v, std::int32_t, std::uint8_t* pixel)
                           { Blend<Rounding::Down>(view.Blurred.At(u, v), w, view.Sharp.At(u, v), rest, pixel); });
              });
 }
 
-void GroundAniso(const GroundView& view, const Band& band, WalkGate& gate)
+void GroundAniso(const GroundView& view, const Band& band, StopCheck& check)
 {
     FindTaps(view, band);
-    WalkRows(view, band, gate,
+    DrawRows(view, band, check,
              [&](const RowSpan& span)
              {
-                 const float aux = view.RowAux[span.Y];
-                 const std::int32_t n = base::Floor(aux);
-                 const auto w = static_cast<std::uint32_t>(base::RoundEven(aux / 0.03));
+                 const float taps = view.TapCount[span.Y];
+                 const std::int32_t n = base::Floor(taps);
+                 const auto w = static_cast<std::uint32_t>(base::RoundEven(taps / SideWeightStep));
                  const auto width = static_cast<std::uint32_t>(n);
                  if (n > 0)
                      FillTent(view, span, {n, width + 1, width, (width + 2) * width + 1});
-                 else if (aux < 0.3)
-                     FillNearest(view, span, Margin);
+                 else if (taps < FewestTaps)
+                     FillNearest(view, span, TapMargin);
                  else
                      FillTent(view, span, {1, (50 - w) * 2, w, 100});
              });
+}
+
+void DrawGroundBand(const GroundView& view, const Band& band, StopCheck& check)
+{
+    switch (view.TxtFilter)
+    {
+    case Filter::Linear:
+        return GroundLinear(view, band, check);
+    case Filter::Anisotropic:
+        return GroundAniso(view, band, check);
+    default:
+        return GroundNearest(view, band, check);
+    }
 }
 }

@@ -1,20 +1,16 @@
+#include "render/GroundPlain.h"
+
 #include "base/Math.h"
 #include "base/Numbers.h"
-#include "render/Ground.h"
-
-#include <algorithm>
 
 namespace render
 {
 namespace
 {
-constexpr std::uint8_t Black[3] = {0, 0, 0};
-constexpr std::int32_t Margin = 15; // of the anisotropic filter: its widest footprint stays inside the texture
-
-void Copy(std::uint8_t* pixel, const std::uint8_t* from)
+struct GroundTexel
 {
-    std::copy_n(from, 3, pixel);
-}
+    std::int32_t U = 0, V = 0; // base::OutOfRange where it is no texel of any picture
+};
 
 double Slope(const GroundView& view, std::int32_t x)
 {
@@ -44,20 +40,20 @@ const std::uint8_t* Tap(const GroundView& view, const GroundTexel& at, double k,
     return view.Sharp.At(base::RoundEven(at.U + k * du), base::RoundEven(at.V + k * dv));
 }
 
-void AnisoPlain(const GroundView& view, const GroundTexel& at, std::int32_t x, float aux, std::uint8_t* pixel)
+void AnisoPlain(const GroundView& view, const GroundTexel& at, std::int32_t x, float taps, std::uint8_t* pixel)
 {
     const double a = base::Atan(Slope(view, x)) + view.Yaw;
     const float du = static_cast<float>(view.SinYaw * base::Sin(a));
     const float dv = static_cast<float>(view.CosYaw * base::Cos(a));
     const std::uint8_t* centre = view.Sharp.At(at.U, at.V);
-    const std::int32_t n = base::Floor(aux);
+    const std::int32_t n = base::Floor(taps);
     // A yaw that is no number gives no steps.
     const bool steps = du >= -1.0f && du <= 1.0f && dv >= -1.0f && dv <= 1.0f;
-    if ((n == 0 && aux < 0.3) || !steps)
-        Copy(pixel, centre);
+    if ((n == 0 && taps < FewestTaps) || !steps)
+        base::CopyPixel(pixel, centre);
     else if (n == 0)
     {
-        const std::int32_t w = base::RoundEven(aux / 0.03);
+        const std::int32_t w = base::RoundEven(taps / SideWeightStep);
         const std::uint8_t* left = Tap(view, at, -1.0, du, dv);
         const std::uint8_t* right = Tap(view, at, 1.0, du, dv);
         for (int c = 0; c < 3; ++c)
@@ -74,44 +70,33 @@ void AnisoPlain(const GroundView& view, const GroundTexel& at, std::int32_t x, f
 }
 }
 
-std::int32_t SkyRow(const GroundView& view, std::int32_t y)
-{
-    return base::RoundEven(static_cast<double>(y) / view.ScreenH * (view.Sky.Height - 1));
-}
-
-const std::uint8_t* SkyPixel(const GroundView& view, std::int32_t x, std::int32_t skyRow)
-{
-    const std::int32_t column = (view.SkyOffset + x) % SkyWidth;
-    return view.Sky.Has(column, skyRow) ? view.Sky.At(column, skyRow) : Black;
-}
-
-void GroundPixelPlain(const GroundView& view, std::int16_t filter, std::int32_t x, std::int32_t y, std::uint8_t* pixel)
+void GroundPixelPlain(const GroundView& view, std::int32_t x, std::int32_t y, std::uint8_t* pixel)
 {
     const GroundTexel at = TexelPlain(view, x, y);
-    const std::int32_t margin = filter == 2 ? Margin : 0;
+    const std::int32_t margin = view.TxtFilter == Filter::Anisotropic ? TapMargin : 0;
     const bool ground =
         at.U >= margin && at.U < view.Sharp.Width - margin && at.V >= margin && at.V < view.Sharp.Height - margin;
     if (!ground)
-        Copy(pixel, SkyPixel(view, x, SkyRow(view, y)));
-    else if (filter == 1)
-        BlendPlain(view, at, view.RowAux[y], pixel);
-    else if (filter == 2)
-        AnisoPlain(view, at, x, view.RowAux[y], pixel);
+        base::CopyPixel(pixel, SkyPixel(view, x, SkyRow(view, y)));
+    else if (view.TxtFilter == Filter::Linear)
+        BlendPlain(view, at, view.BlurWeight[y], pixel);
+    else if (view.TxtFilter == Filter::Anisotropic)
+        AnisoPlain(view, at, x, view.TapCount[y], pixel);
     else
-        Copy(pixel, view.Sharp.At(at.U, at.V));
+        base::CopyPixel(pixel, view.Sharp.At(at.U, at.V));
 }
 
-void GroundPlain(const GroundView& view, const Band& band, std::int16_t filter)
+void GroundPlain(const GroundView& view, const Band& band)
 {
     for (std::int32_t x = band.First; x <= band.Last; ++x)
-        for (std::int32_t y = 0; y < view.ScreenH; ++y)
+        for (std::int32_t y = 0; y < view.Frame.Height; ++y)
         {
-            std::uint8_t* pixel = view.Frame + y * view.FrameRowBytes + x * 3;
-            view.Depth[y * view.DepthRow + x] = FarDepth;
+            std::uint8_t* pixel = view.Frame.At(x, y);
+            view.Depth->At(x, y) = FarDepth;
             if (IsSkyRow(view, y))
-                Copy(pixel, SkyPixel(view, x, SkyRow(view, y)));
+                base::CopyPixel(pixel, SkyPixel(view, x, SkyRow(view, y)));
             else
-                GroundPixelPlain(view, filter, x, y, pixel);
+                GroundPixelPlain(view, x, y, pixel);
         }
 }
 }

@@ -5,7 +5,7 @@ namespace render
 namespace
 {
 // A neighbour's place; beyond the border, the one on the opposite side, and in a picture of one texel itself.
-std::int32_t Mirrored(std::int32_t place, std::int32_t step, std::int32_t size)
+std::int32_t Neighbour(std::int32_t place, std::int32_t step, std::int32_t size)
 {
     if (place + step >= 0 && place + step < size)
         return place + step;
@@ -37,16 +37,17 @@ void BlurGround(Ground& ground)
     blur.Allocate(sharp.Rows, sharp.RowBytes);
     for (std::int32_t v = 0; v < ground.Height; ++v)
     {
-        const std::uint8_t* below = sharp.Row(Mirrored(v, -1, ground.Height));
+        const std::uint8_t* below = sharp.Row(Neighbour(v, -1, ground.Height));
         const std::uint8_t* same = sharp.Row(v);
-        const std::uint8_t* above = sharp.Row(Mirrored(v, 1, ground.Height));
+        const std::uint8_t* above = sharp.Row(Neighbour(v, 1, ground.Height));
         std::uint8_t* texel = blur.Row(v);
         for (std::int32_t u = 0; u < ground.Width; ++u)
         {
-            const std::int32_t left = Mirrored(u, -1, ground.Width) * 3, right = Mirrored(u, 1, ground.Width) * 3;
-            const std::int32_t middle = u * 3;
+            const std::int32_t left = Neighbour(u, -1, ground.Width) * base::PixelBytes,
+                               right = Neighbour(u, 1, ground.Width) * base::PixelBytes;
+            const std::int32_t middle = u * base::PixelBytes;
             // Deliberate: the texel itself is left out.
-            for (std::int32_t c = 0; c < 3; ++c)
+            for (std::int32_t c = 0; c < base::PixelBytes; ++c)
                 *texel++ = static_cast<std::uint8_t>((below[left + c] + below[middle + c] + below[right + c] +
                                                       same[left + c] + same[right + c] + above[left + c] +
                                                       above[middle + c] + above[right + c]) >>

@@ -19,7 +19,7 @@ bool HasLeft(std::int32_t place, double direction, std::int32_t most)
 }
 
 void DrawLine3D(const Scene& scene, const Camera& camera, Screen& screen, const Point3& from, const Point3& to,
-                Rgb colour)
+                base::Rgb colour)
 {
     const Point3 a = WorldToCamera(camera, from.X, from.Y, from.Z), b = WorldToCamera(camera, to.X, to.Y, to.Z);
     if (!IsSeen(screen, a.Z) || !IsSeen(screen, b.Z))
@@ -34,9 +34,10 @@ void DrawLine3D(const Scene& scene, const Camera& camera, Screen& screen, const 
         return;
     const double stepX = (static_cast<double>(q.X) - p.X) / length, stepY = (static_cast<double>(q.Y) - p.Y) / length;
     const double stepZ = (static_cast<double>(b.Z) - a.Z) / length;
-    const std::uint8_t bytes[3] = {base::RoundByte(static_cast<double>(colour.B) * scene.LightB),
-                                   base::RoundByte(static_cast<double>(colour.G) * scene.LightG),
-                                   base::RoundByte(static_cast<double>(colour.R) * scene.LightR)};
+    const base::Rgb lit{base::RoundByte(static_cast<double>(colour.R) * scene.LightR),
+                        base::RoundByte(static_cast<double>(colour.G) * scene.LightG),
+                        base::RoundByte(static_cast<double>(colour.B) * scene.LightB)};
+    const base::Surface frame = FrameSurface(screen);
     for (double t = 0.0; t <= length; t += 1.0)
     {
         const std::int32_t x = base::RoundEven(p.X + stepX * t), y = base::RoundEven(p.Y + stepY * t);
@@ -46,15 +47,11 @@ void DrawLine3D(const Scene& scene, const Camera& camera, Screen& screen, const 
         if (x < 0 || x > screen.ScreenMaxX || y < 0 || y > screen.ScreenMaxY)
             continue;
         const auto z = static_cast<float>(a.Z + stepZ * t);
-        float& cell = screen.Depth[static_cast<std::size_t>(y) * static_cast<std::size_t>(screen.ScreenW) +
-                                   static_cast<std::size_t>(x)];
+        float& cell = screen.Depth.At(x, y);
         if (!(z < cell))
             continue;
         cell = z;
-        std::uint8_t* pixel = screen.Frame.Row(y) + x * 3;
-        pixel[0] = bytes[0];
-        pixel[1] = bytes[1];
-        pixel[2] = bytes[2];
+        base::Put(frame.At(x, y), lit);
     }
 }
 }

@@ -5,7 +5,9 @@
 
 namespace render
 {
-// Drawn where both ends are in front of the eye and no farther than FarZ and the first end is on the screen.
+// Drawn where both ends are in front of the eye and no farther than FarZ and the first end is on the screen; the other
+// end may lie anywhere. One pixel a step of one pixel's length, in the colour times the scene's light, where it is
+// strictly nearer than the depth cell, which then takes its depth. Deliberate: NearZ has no part in it.
 void DrawLine3D(const Scene& scene, const Camera& camera, Screen& screen, const Point3& from, const Point3& to,
-                Rgb colour);
+                base::Rgb colour);
 }

@@ -35,12 +35,6 @@ bool IsPictureSize(std::int32_t size)
 {
     return size >= 1 && size <= LargestPicture;
 }
-
-// The row length of a size that is known to fit.
-std::int32_t RowLength(std::int32_t width)
-{
-    return (width * 3 + 3) & ~3;
-}
 }
 
 std::int32_t WidthBytes(base::MessageSink& messages, std::int32_t width)
@@ -49,11 +43,11 @@ std::int32_t WidthBytes(base::MessageSink& messages, std::int32_t width)
     base::Trapped(messages, "WidthBytes",
                   [&]
                   {
-                      const std::int64_t wide = static_cast<std::int64_t>(width) * 3 + 3;
+                      const std::int64_t wide = std::int64_t{width} * base::PixelBytes + 3;
                       if (wide > std::numeric_limits<std::int32_t>::max() ||
                           wide < std::numeric_limits<std::int32_t>::min())
                           throw base::RuntimeError(base::ErrorOverflow);
-                      bytes = static_cast<std::int32_t>(wide) & ~3;
+                      bytes = base::PaddedRow(width);
                   });
     return bytes;
 }
@@ -63,7 +57,7 @@ void PicArray2D::Allocate(std::int32_t rows, std::int32_t rowBytes)
     if (rows < 1 || rowBytes < 1)
         throw base::RuntimeError(base::ErrorIndex);
     const auto size = static_cast<std::uint64_t>(rows) * static_cast<std::uint64_t>(rowBytes);
-    if (size > static_cast<std::uint64_t>(LargestPicture) * RowLength(LargestPicture))
+    if (size > static_cast<std::uint64_t>(LargestPicture) * base::PaddedRow(LargestPicture))
         throw base::RuntimeError(base::ErrorMemory);
     Bytes.assign(static_cast<std::size_t>(size), 0);
     Rows = rows;
@@ -74,6 +68,17 @@ void PicArray2D::Clear()
 {
     Rows = RowBytes = 0;
     Bytes = {};
+}
+
+base::ConstSurface MakeSurface(const PicArray2D& pixels, std::int32_t width, std::int32_t height)
+{
+    return {pixels.Bytes.data(), pixels.RowBytes, std::clamp(width, 0, pixels.RowBytes / base::PixelBytes),
+            std::clamp(height, 0, pixels.Rows)};
+}
+
+base::ConstSurface MakeSurface(const Picture& picture)
+{
+    return MakeSurface(picture.Pixels, picture.Info.Width, picture.Info.Height);
 }
 
 void MakePicArray2D(base::MessageSink& messages, PicHeader& header, PicArray2D& pixels)

@@ -3,6 +3,7 @@
 // (red); rows are padded to 4 bytes.
 #pragma once
 #include "base/Files.h"
+#include "base/Pixels.h"
 #include "base/Trapped.h"
 
 #include <cstdint>
@@ -22,11 +23,11 @@ std::int32_t WidthBytes(base::MessageSink& messages, std::int32_t width);
 // The 40-byte information header of a bitmap, handed to the presentation.
 struct PicHeader
 {
-    std::int32_t biSize = 0;
-    std::int32_t biWidth = 0;
-    std::int32_t biHeight = 0; // positive: bottom-up
-    std::int16_t biPlanes = 0;
-    std::int16_t biBitCount = 0;
+    std::int32_t biSize = 0;     // bytes of this header: 40
+    std::int32_t biWidth = 0;    // pixels
+    std::int32_t biHeight = 0;   // pixels; positive: bottom-up
+    std::int16_t biPlanes = 0;   // 1
+    std::int16_t biBitCount = 0; // 24; all that follow are 0
     std::int32_t biCompression = 0;
     std::int32_t biSizeImage = 0;
     std::int32_t biXPelsPerMeter = 0;
@@ -39,11 +40,12 @@ struct PicHeader
 struct PicInfo
 {
     std::int32_t Width = 0, Height = 0; // pixels
-    std::int32_t RowBytes = 0;
-    std::int16_t Planes = 0, BitCount = 0;
+    std::int32_t RowBytes = 0;          // of a padded row
+    std::int16_t Planes = 0;            // as the file has it
+    std::int16_t BitCount = 0;          // as the file has it; the pixels are taken as 24-bit ones whatever it says
 };
 
-// The bytes: Rows rows of RowBytes bytes.
+// The bytes: Rows rows of RowBytes bytes. How many of a row's are pixels is not known here: see MakeSurface.
 struct PicArray2D
 {
     std::int32_t Rows = 0, RowBytes = 0;
@@ -58,7 +60,7 @@ struct PicArray2D
         return Bytes.data() + static_cast<std::size_t>(row) * static_cast<std::size_t>(RowBytes);
     }
     bool Empty() const { return Bytes.empty(); }
-    // All bytes 0. RuntimeError 9 for a size below 1, 7 for one above the largest picture.
+    // All bytes 0, in place of what there was. RuntimeError 9 for a size below 1, 7 for one above the largest picture.
     void Allocate(std::int32_t rows, std::int32_t rowBytes);
     void Clear(); // gives the storage back
 };
@@ -70,7 +72,14 @@ struct Picture
     PicArray2D Pixels;
 };
 
-// Fills the header for the width and height it holds and allocates the pixels, all 0. Reports its own errors.
+// The pixels as drawing routines read them: of that size, but never more than the bytes that are there. Valid as long
+// as the array keeps its storage.
+base::ConstSurface MakeSurface(const PicArray2D& pixels, std::int32_t width, std::int32_t height);
+// Of the size that its description gives.
+base::ConstSurface MakeSurface(const Picture& picture);
+
+// Fills the header for the width and height it holds and allocates the pixels, all 0. Reports its own errors; the
+// pixels are empty then.
 void MakePicArray2D(base::MessageSink& messages, PicHeader& header, PicArray2D& pixels);
 
 // Reads an uncompressed 24-bit ".bmp" file. Deliberate: the pixels are taken to begin right behind the 54 header bytes.

@@ -180,7 +180,7 @@ void EditObjMesh(Scene& scene, std::int32_t object, std::int32_t mesh, std::int1
         edited.TexIndex = texture;
         return;
     }
-    const Rgb split = SplitRGB(colour);
+    const base::Rgb split = SplitRGB(colour);
     edited.ColR = split.R;
     edited.ColG = split.G;
     edited.ColB = split.B;
@@ -215,7 +215,7 @@ std::int16_t MakePoly(Scene& scene, std::int32_t points, std::int32_t colour, st
     CheckRoom(scene, bytes);
     const std::int16_t index = scene.Polys.Take();
     Poly& poly = scene.Polys.At(index);
-    const Rgb split = SplitRGB(colour);
+    const base::Rgb split = SplitRGB(colour);
     poly.Visible = visible;
     poly.ColR = split.R;
     poly.ColG = split.G;
@@ -284,7 +284,7 @@ void MovePic2D(Scene& scene, std::int32_t pic, float x, float y)
 }
 
 std::int16_t MakeLabel2D(Scene& scene, std::int16_t x, std::int16_t y, std::int32_t style, float scale,
-                         std::int16_t tabWidth, Rgb colour, std::uint8_t visible, std::string_view text)
+                         std::int16_t tabWidth, base::Rgb colour, std::uint8_t visible, std::string_view text)
 {
     const std::int16_t index = scene.Labels.Take();
     Label2D& label = scene.Labels.At(index);
@@ -307,7 +307,7 @@ void SetLabelText(Scene& scene, std::int32_t label, std::string_view text)
 }
 
 std::int16_t MakeRect2D(Scene& scene, std::int16_t x, std::int16_t y, std::int16_t w, std::int16_t h,
-                        std::int32_t hidden, Rgb colour, std::uint8_t visible)
+                        std::int32_t hidden, base::Rgb colour, std::uint8_t visible)
 {
     const std::int16_t index = scene.Rects.Take();
     Rect2D& rect = scene.Rects.At(index);

@@ -45,11 +45,11 @@ std::int16_t MakePic2D(Scene& scene, base::MessageSink& messages, float x, float
                        std::int32_t height, std::uint8_t visible);
 void MovePic2D(Scene& scene, std::int32_t pic, float x, float y);
 std::int16_t MakeLabel2D(Scene& scene, std::int16_t x, std::int16_t y, std::int32_t style, float scale,
-                         std::int16_t tabWidth, Rgb colour, std::uint8_t visible, std::string_view text);
+                         std::int16_t tabWidth, base::Rgb colour, std::uint8_t visible, std::string_view text);
 // No allocation once the text has been as long before.
 void SetLabelText(Scene& scene, std::int32_t label, std::string_view text);
 std::int16_t MakeRect2D(Scene& scene, std::int16_t x, std::int16_t y, std::int16_t w, std::int16_t h,
-                        std::int32_t hidden, Rgb colour, std::uint8_t visible);
+                        std::int32_t hidden, base::Rgb colour, std::uint8_t visible);
 void SetRectW(Scene& scene, std::int32_t rect, std::int16_t value);
 
 // Textures, by path (exact, case-sensitive). A new one takes the last free slot, else a new slot at the end; a bitmap

@@ -3,32 +3,25 @@
 #include "base/Numbers.h"
 #include "render/Draw2D.h"
 #include "render/Ground.h"
-#include "render/GroundWalkers.h"
+#include "render/GroundThreads.h"
 #include "render/Lines.h"
+#include "render/RowTables.h"
 #include "render/Sprites.h"
+#include "render/Text.h"
 #include "render/Triangles.h"
+
+#include <algorithm>
 
 namespace render
 {
 namespace
 {
-struct GroundPass final : BandWalk
+// There are 2 x processors + 1 bands, and the calling thread draws too.
+int HelpersFor(std::size_t bands)
 {
-    explicit GroundPass(const GroundView& groundView, std::int16_t txtFilter) : View(groundView), Filter(txtFilter) {}
-
-    void Walk(const Band& band, WalkGate& gate) const override
-    {
-        if (Filter == 1)
-            GroundLinear(View, band, gate);
-        else if (Filter == 2)
-            GroundAniso(View, band, gate);
-        else
-            GroundNearest(View, band, gate);
-    }
-
-    const GroundView& View;
-    std::int16_t Filter;
-};
+    const int processors = std::max((static_cast<int>(bands) - 1) / 2, 1);
+    return processors - 1;
+}
 
 // Deliberate: the far side of the bounding sphere is projected, and only the upper edge of the screen is strict.
 bool IsInView(const Camera& camera, const Screen& screen, const Obj& object)
@@ -44,63 +37,63 @@ bool IsInView(const Camera& camera, const Screen& screen, const Obj& object)
     return s.X + r >= 0.0 && s.X - r <= screen.ScreenW && s.Y + r >= 0.0 && s.Y - r < screen.ScreenH;
 }
 
-// Calls draw(a, b, c) for the two triangles of every cell, (i, j), (i + 1, j), (i, j + 1) and (i + 1, j + 1),
-// (i + 1, j), (i, j + 1). see(point) brings a point before the camera; neighbouring cells share what it gives.
-template <class See, class Draw> void ForEachTriangle(const PointGrid& grid, See&& see, Draw&& draw)
+// Calls draw(triangle) for the two triangles of every cell, (i, j), (i + 1, j), (i, j + 1) and (i + 1, j + 1),
+// (i + 1, j), (i, j + 1). transform(point) gives a point's vertex; neighbouring cells share it.
+template <class Transform, class Draw> void ForEachTriangle(const PointGrid& grid, Transform&& transform, Draw&& draw)
 {
     if (grid.Cols < 2)
         return;
     for (std::int32_t i = 0; i + 1 < grid.Rows; ++i)
     {
-        Corner a = see(grid.At(i, 0)), b = see(grid.At(i + 1, 0));
+        Vertex a = transform(grid.At(i, 0)), b = transform(grid.At(i + 1, 0));
         for (std::int32_t j = 0; j + 1 < grid.Cols; ++j)
         {
-            const Corner c = see(grid.At(i, j + 1)), d = see(grid.At(i + 1, j + 1));
-            draw(a, b, c);
-            draw(d, b, c);
+            const Vertex c = transform(grid.At(i, j + 1)), d = transform(grid.At(i + 1, j + 1));
+            draw(Triangle{a, b, c});
+            draw(Triangle{d, b, c});
             a = c;
             b = d;
         }
     }
 }
 
-TexelField TextureOf(const Scene& scene, std::int16_t slot)
+base::ConstSurface TextureOf(const Scene& scene, std::int16_t slot)
 {
     if (!scene.Textures.Has(slot) || scene.Textures.At(slot).Free != 0)
         return {};
     const Texture& texture = scene.Textures.At(slot);
-    return MakeTexelField(texture.Pic.Pixels, texture.Width, texture.Height);
+    return MakeSurface(texture.Pic.Pixels, texture.Width, texture.Height);
 }
 
 void DrawMesh(const Scene& scene, const Camera& camera, Screen& screen, const Obj& object, const Rotation& rotation,
               const ObjMesh& mesh)
 {
-    const auto see = [&](const MeshPt& point)
+    const auto transform = [&](const MeshPt& point)
     {
-        return SeeCorner(camera, screen, RotatePoint(rotation, object.X, object.Y, object.Z, point.X, point.Y, point.Z),
-                         point.U, point.V);
+        return TransformVertex(camera, screen,
+                               RotatePoint(rotation, object.X, object.Y, object.Z, point.X, point.Y, point.Z), point.U,
+                               point.V);
     };
     if (mesh.Colour < 0)
-        ForEachTriangle(
-            mesh.Pts, see,
-            [&, texture = TextureOf(scene, mesh.TexIndex)](const Corner& a, const Corner& b, const Corner& c)
-            { DrawTriTex(camera, screen, a, b, c, texture); });
+        ForEachTriangle(mesh.Pts, transform,
+                        [&, texture = TextureOf(scene, mesh.TexIndex)](const Triangle& triangle)
+                        { DrawTriTex(camera, screen, triangle, texture); });
     else
-        ForEachTriangle(
-            mesh.Pts, see,
-            [&, colour = Rgb{mesh.ColR, mesh.ColG, mesh.ColB}](const Corner& a, const Corner& b, const Corner& c)
-            { DrawSeenFlat(scene, camera, screen, a, b, c, colour); });
+        ForEachTriangle(mesh.Pts, transform,
+                        [&, colour = base::Rgb{mesh.ColR, mesh.ColG, mesh.ColB}](const Triangle& triangle)
+                        { DrawTriFlat(scene, camera, screen, triangle, colour); });
 }
 
 void DrawWorldMeshes(const Scene& scene, const Camera& camera, Screen& screen)
 {
-    const auto see = [&](const MeshPt& point) { return SeeCorner(camera, screen, {point.X, point.Y, point.Z}); };
+    const auto transform = [&](const MeshPt& point) {
+        return TransformVertex(camera, screen, {point.X, point.Y, point.Z});
+    };
     for (const ObjMesh& mesh : scene.WorldMeshes)
         if (IsDrawn(mesh))
-            ForEachTriangle(
-                mesh.Pts, see,
-                [&, colour = Rgb{mesh.ColR, mesh.ColG, mesh.ColB}](const Corner& a, const Corner& b, const Corner& c)
-                { DrawSeenFlat(scene, camera, screen, a, b, c, colour); });
+            ForEachTriangle(mesh.Pts, transform,
+                            [&, colour = base::Rgb{mesh.ColR, mesh.ColG, mesh.ColB}](const Triangle& triangle)
+                            { DrawTriFlat(scene, camera, screen, triangle, colour); });
 }
 
 void DrawPolys(const Scene& scene, const Camera& camera, Screen& screen)
@@ -109,7 +102,7 @@ void DrawPolys(const Scene& scene, const Camera& camera, Screen& screen)
     {
         if (!IsDrawn(poly))
             continue;
-        const Rgb colour{poly.ColR, poly.ColG, poly.ColB};
+        const base::Rgb colour{poly.ColR, poly.ColG, poly.ColB};
         for (std::size_t i = 1; i < poly.Pts.size(); ++i)
         {
             const PolyPt &from = poly.Pts[i - 1], &to = poly.Pts[i];
@@ -117,33 +110,20 @@ void DrawPolys(const Scene& scene, const Camera& camera, Screen& screen)
         }
     }
 }
-
-void DrawLabel(const Scene& scene, const Surface& surface, const Label2D& label)
-{
-    const Font& font = scene.Font;
-    const Colour colour{label.ColR, label.ColG, label.ColB};
-    const std::int32_t tab = TabPixels(font, label.Scale, label.TabWidth);
-    if (label.Style == 0)
-        DrawTextLeft(surface, font, label.X, label.Y, label.Scale, tab, colour, label.Fade, label.Text);
-    else if (label.Style == 1)
-        DrawTextRight(surface, font, label.X, label.Y, label.Scale, colour, label.Fade, label.Text);
-    else if (label.Style == 2)
-        DrawTextCentred(surface, font, label.X, label.Y, label.Scale, tab, colour, label.Fade, label.Text);
-}
 }
 
-void DrawGround(const Scene& scene, const Camera& camera, Screen& screen)
+void DrawGround(const Scene& scene, const Camera& camera, Screen& screen, GroundThreads& threads)
 {
     const GroundView view = MakeGroundView(scene, camera, screen);
-    const GroundPass pass(view, screen.TxtFilter);
     if (screen.SingleThread != 0)
     {
         std::atomic<bool> never{false};
-        WalkGate gate(never);
-        pass.Walk(screen.Bands.front(), gate);
+        StopCheck check(never);
+        return DrawGroundBand(view, screen.Bands.front(), check);
     }
-    else
-        screen.Walkers->Run(pass, screen.Bands, std::chrono::milliseconds(screen.GroundLimit));
+    threads.Resize(HelpersFor(screen.Bands.size()));
+    threads.Run([&view](const Band& band, StopCheck& check) { DrawGroundBand(view, band, check); }, screen.Bands,
+                std::chrono::milliseconds(screen.GroundLimit));
 }
 
 void DrawObjects(const Scene& scene, const Camera& camera, Screen& screen)
@@ -161,7 +141,7 @@ void DrawObjects(const Scene& scene, const Camera& camera, Screen& screen)
 
 void DrawHud(const Scene& scene, Screen& screen)
 {
-    const Surface surface = FrameSurface(screen);
+    const base::Surface surface = FrameSurface(screen);
     for (const Pic2D& pic : scene.Pics.Items)
         if (IsDrawn(pic))
             DrawPic2D(surface, pic.Pic, base::RoundEven(pic.X), base::RoundEven(pic.Y));
@@ -170,16 +150,17 @@ void DrawHud(const Scene& scene, Screen& screen)
             FillRect2D(surface, rect.X, rect.Y, rect.W, rect.H, {rect.ColR, rect.ColG, rect.ColB});
     for (const Label2D& label : scene.Labels.Items)
         if (IsDrawn(label))
-            DrawLabel(scene, surface, label);
+            DrawLabel(surface, scene.Font, label);
 }
 
-void RenderFrame(const Scene& scene, const Camera& camera, Screen& screen, FrameSink* sink)
+void RenderFrame(const Scene& scene, const Camera& camera, Screen& screen, GroundThreads& threads)
 {
     if (screen.Frame.Empty())
         return; // no resolution was applied yet
     UpdateSkyOffset(camera, screen);
     UpdateRowTables(camera, screen);
-    DrawGround(scene, camera, screen);
+    UpdateColumnSlopes(camera, screen);
+    DrawGround(scene, camera, screen, threads);
     DrawObjects(scene, camera, screen);
     DrawWorldMeshes(scene, camera, screen);
     DrawPolys(scene, camera, screen);
@@ -187,7 +168,5 @@ void RenderFrame(const Scene& scene, const Camera& camera, Screen& screen, Frame
         if (IsDrawn(sprite))
             DrawSprite3D(camera, screen, sprite);
     DrawHud(scene, screen);
-    if (sink != nullptr)
-        sink->Present(screen.ScreenW, screen.ScreenH, screen.Frame.Bytes);
 }
 }

@@ -4,25 +4,19 @@
 #include "render/Scene.h"
 #include "render/Screen.h"
 
-#include <cstdint>
-#include <span>
-
 namespace render
 {
-// Whoever shows a finished frame: bottom-up rows of blue, green, red, padded to 4 bytes, borrowed for the call.
-struct FrameSink
-{
-    virtual ~FrameSink() = default;
-    virtual void Present(int width, int height, std::span<const std::uint8_t> bits) = 0;
-};
+class GroundThreads;
 
-// Draws into screen.Frame and presents it when sink is not null.
-void RenderFrame(const Scene& scene, const Camera& camera, Screen& screen, FrameSink* sink);
+// Draws into screen.Frame and screen.Depth; nothing before a resolution was applied. The threads are made as many as
+// the screen's bands are meant for, and rest when it returns.
+void RenderFrame(const Scene& scene, const Camera& camera, Screen& screen, GroundThreads& threads);
 
-// The steps, each alone.
-void UpdateSkyOffset(const Camera& camera, Screen& screen);
-void UpdateRowTables(const Camera& camera, Screen& screen);
-void DrawGround(const Scene& scene, const Camera& camera, Screen& screen);
+// Its larger steps, each alone.
+// Fills frame and depth buffer. The screen's tables must be those of the camera: see render/RowTables.h.
+void DrawGround(const Scene& scene, const Camera& camera, Screen& screen, GroundThreads& threads);
+// All objects whose bounding sphere reaches into the view, in the order of their list.
 void DrawObjects(const Scene& scene, const Camera& camera, Screen& screen);
+// Pictures, rectangles and texts over everything; the depth buffer has no part in it.
 void DrawHud(const Scene& scene, Screen& screen);
 }

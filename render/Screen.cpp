@@ -1,26 +1,9 @@
 #include "render/Screen.h"
 
-#include "base/Numbers.h"
-#include "render/GroundWalkers.h"
-
 #include <algorithm>
 
 namespace render
 {
-Screen::Screen() = default;
-Screen::~Screen() = default;
-
-std::vector<Band> MakeBands(std::int32_t width, std::int16_t count)
-{
-    const std::int32_t number = std::max<std::int32_t>(count, 1);
-    const float b = static_cast<float>(width) / static_cast<float>(number);
-    const auto first = [&](std::int32_t i) { return base::RoundEven(static_cast<double>(b) * i); };
-    std::vector<Band> bands(static_cast<std::size_t>(number));
-    for (std::int32_t i = 0; i < number; ++i)
-        bands[static_cast<std::size_t>(i)] = {first(i), first(i + 1) - 1};
-    return bands;
-}
-
 namespace
 {
 void TakeSize(Screen& screen, std::int32_t width, std::int32_t height)
@@ -29,8 +12,6 @@ void TakeSize(Screen& screen, std::int32_t width, std::int32_t height)
     screen.ScreenH = height;
     screen.ScreenMaxX = width - 1;
     screen.ScreenMaxY = height - 1;
-    screen.RowBytes = width * 3;
-    screen.RowBytesLast = screen.RowBytes - 3;
     const std::int32_t column = width / 2, row = height / 2; // whole pixels
     screen.CenterX = static_cast<float>(column);
     screen.CenterY = static_cast<float>(row);
@@ -39,8 +20,9 @@ void TakeSize(Screen& screen, std::int32_t width, std::int32_t height)
 void MakeTables(Screen& screen)
 {
     const auto columns = static_cast<std::size_t>(screen.ScreenW), rows = static_cast<std::size_t>(screen.ScreenH);
-    screen.Depth.assign(columns * rows, FarDepth);
-    for (std::vector<float>* table : {&screen.RowAngle, &screen.RowSlant, &screen.RowDist, &screen.RowAux})
+    screen.Depth.Reset(screen.ScreenW, screen.ScreenH, FarDepth);
+    for (std::vector<float>* table :
+         {&screen.RowAngle, &screen.RowSlant, &screen.RowDist, &screen.BlurWeight, &screen.TapCount})
         table->assign(rows, 0.0f);
     screen.ColumnSlope.assign(columns + 1, 0.0);
     screen.Taps.assign(columns, ColumnTaps{});
@@ -51,7 +33,6 @@ void MakeTables(Screen& screen)
 void ApplyResolution(base::MessageSink& messages, Screen& screen, Camera& camera, std::int32_t width,
                      std::int32_t height)
 {
-    screen.Walkers.reset();
     screen.Header.biWidth = width;
     screen.Header.biHeight = height;
     MakePicArray2D(messages, screen.Header, screen.Frame);
@@ -60,22 +41,5 @@ void ApplyResolution(base::MessageSink& messages, Screen& screen, Camera& camera
     camera.MinZoom = std::min(screen.CenterX, screen.CenterY);
     camera.Zoom = 2.0f * camera.MinZoom;
     MakeTables(screen);
-    const int processors = std::max((screen.ThreadCount - 1) / 2, 1);
-    screen.Walkers = std::make_unique<GroundWalkers>(processors - 1);
-}
-
-const char* FilterName(std::int16_t filter)
-{
-    switch (filter)
-    {
-    case 0:
-        return "nessuno";
-    case 1:
-        return "lineare";
-    case 2:
-        return "anisotropico";
-    default:
-        return "";
-    }
 }
 }

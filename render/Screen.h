@@ -1,71 +1,76 @@
-// render/Screen.h: what depends on the resolution: frame, depth buffer, row tables, bands of the ground pass.
+// render/Screen.h: what depends on the resolution: the frame with its depth cells, and the tables of the ground pass.
+// Plain data, filled on the window's thread; while the ground pass runs its threads read it and write the frame's, the
+// depth buffer's and the taps' columns of their own bands.
 #pragma once
 #include "base/Fields.h"
+#include "base/Pixels.h"
 #include "base/Trapped.h"
+#include "render/Bands.h"
 #include "render/Camera.h"
 #include "render/PicArray.h"
 
 #include <cstdint>
-#include <memory>
 #include <vector>
 
 namespace render
 {
 inline constexpr float FarDepth = 3.4028230607370965e38f; // an empty depth cell
 
-struct Band
+// How the ground's texels become pixels.
+enum Filter : std::int16_t
 {
-    std::int32_t First = 0, Last = 0; // columns, both included; empty where Last < First
+    Nearest = 0,    // "nessuno": the one texel
+    Linear = 1,     // "lineare": the texel and its blurred copy, mixed by distance
+    Anisotropic = 2 // "anisotropico": the texels along the ray, more of them farther away
 };
 
-// With b = width / count in single precision, band i runs from round(b i) to round(b (i + 1) - 1). Where both are
-// rounded from a half (even counts only) the last column is the one before the next band, so none is left out or twice.
-std::vector<Band> MakeBands(std::int32_t width, std::int16_t count);
-
 // Where the anisotropic filter reads beside a texel, for one screen column.
-inline constexpr std::int32_t MostTaps = 14;
+inline constexpr std::int32_t MostTaps = 14; // on each side
 struct ColumnTaps
 {
     std::int32_t Offset[MostTaps] = {}; // bytes from the texel to its k-th neighbour along the ray, k from 1
-    std::int32_t HasTies = 0;           // a step lies between two texels: the offsets do not hold
+    std::int32_t HasTies = 0;           // not 0: a step ends between two texels, and the offsets do not hold
 };
-
-class GroundWalkers; // the threads of the ground pass, see render/GroundWalkers.h
 
 struct Screen
 {
-    Screen();
-    ~Screen();
-    Screen(const Screen&) = delete;
-    Screen& operator=(const Screen&) = delete;
+    std::int32_t ScreenW = 0, ScreenH = 0;       // pixels; 0 before a resolution was applied
+    std::int32_t ScreenMaxX = 0, ScreenMaxY = 0; // the last column and the last row
+    float CenterX = 0, CenterY = 0;              // pixels: where the eye looks, half the size without its fraction
+    float NearZ = 0.01f, FarZ = 400.0f;   // world units of depth: nearer is cut off, lines and sprites end at FarZ
+    std::int16_t TxtFilter = Anisotropic; // a Filter; any other number draws as Nearest
+    std::int16_t ThreadCount = 1;         // bands of the next resolution: 2 x processors + 1
+    std::int16_t SingleThread = 0;        // development switch; not 0: only the first band is drawn
+    std::int32_t SkyOffset = 0;           // column of the panorama at the frame's left border, 0 to 819
+    PicHeader Header;                     // of the frame
+    PicArray2D Frame;                     // ScreenH rows of ScreenW pixels, padded
+    base::Grid<float> Depth;              // depth of each pixel, world units; FarDepth where only ground or sky is
 
-    std::int32_t ScreenW = 0, ScreenH = 0; // pixels
-    std::int32_t ScreenMaxX = 0, ScreenMaxY = 0;
-    std::int32_t RowBytes = 0, RowBytesLast = 0; // 3 * ScreenW, and 3 less
-    float CenterX = 0, CenterY = 0;
-    float NearZ = 0.01f, FarZ = 400.0f;
-    std::int16_t TxtFilter = 2;    // 0 "nessuno", 1 "lineare", 2 "anisotropico"; any other draws as 0
-    std::int16_t ThreadCount = 1;  // bands of the ground pass
-    std::int16_t SingleThread = 0; // development switch
-    std::int32_t SkyOffset = 0;    // 0 to 819
-    PicHeader Header;              // of the frame
-    PicArray2D Frame;
-    std::vector<float> Depth;                               // ScreenH rows of ScreenW
-    std::vector<float> RowAngle, RowSlant, RowDist, RowAux; // one a screen row
-    std::vector<double> ColumnSlope;                        // one a screen column, and one more for pairwise reading
-    std::vector<ColumnTaps> Taps;                           // one a screen column
-    std::vector<Band> Bands;
-    std::int32_t GroundLimit = 60;          // milliseconds the ground pass may take before it is cut off
-    std::unique_ptr<GroundWalkers> Walkers; // made with the resolution
+    // One entry a screen row, see render/RowTables.h.
+    std::vector<float> RowAngle;   // radians
+    std::vector<float> RowSlant;   // world units
+    std::vector<float> RowDist;    // world units
+    std::vector<float> BlurWeight; // share of the blurred copy, 0 to 0.875; kept while the filter is Linear
+    std::vector<float> TapCount;   // texels on each side, with a fraction, 0 to MostTaps; kept while it is Anisotropic
+
+    // One entry a screen column.
+    std::vector<double> ColumnSlope; // pixels from CenterX per pixel of zoom; one entry more, for reading in pairs
+    std::vector<ColumnTaps> Taps;    // written by the pass itself while the filter is Anisotropic
+
+    std::vector<Band> Bands;       // the columns, split as ThreadCount said when the resolution was applied
+    std::int32_t GroundLimit = 60; // milliseconds the ground pass may take before it is cut off
 };
 
-// Takes a resolution: derived fields, MinZoom and Zoom (2 x MinZoom), frame, depth buffer, row tables, bands, walkers
-// (as many as ThreadCount tells processors: it is 2 x processors + 1). A size that cannot be is reported and leaves a
-// screen of 0 x 0, on which nothing is drawn.
+// Takes a resolution in pixels: writes the derived fields, MinZoom and Zoom (2 x MinZoom), frame, depth buffer, tables
+// and bands, all empty. A size that cannot be is reported and leaves a screen of 0 x 0, on which nothing is drawn.
 void ApplyResolution(base::MessageSink& messages, Screen& screen, Camera& camera, std::int32_t width,
                      std::int32_t height);
-// "nessuno", "lineare", "anisotropico"; empty for any other filter.
-const char* FilterName(std::int16_t filter);
+
+// The frame's pixels, to be drawn on. Valid until the next resolution.
+inline base::Surface FrameSurface(Screen& screen)
+{
+    return {screen.Frame.Bytes.data(), screen.Frame.RowBytes, screen.ScreenW, screen.ScreenH};
+}
 }
 
 template <> struct base::FieldsOf<render::Screen>

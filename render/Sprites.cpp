@@ -2,11 +2,9 @@
 
 #include "base/Numbers.h"
 #include "render/Blend.h"
-#include "render/Ground.h"
 
 #include <algorithm>
 #include <array>
-#include <cstring>
 
 namespace render
 {
@@ -15,7 +13,7 @@ namespace
 // A sprite as it lands on the screen.
 struct Placed
 {
-    TexelField Picture;
+    base::ConstSurface Picture;
     double Factor = 0;                  // screen pixels per texel
     std::int32_t Columns = 0, Rows = 0; // destination pixels
     std::int32_t X = 0, Y = 0;          // of its lower left pixel
@@ -28,7 +26,7 @@ bool Place(const Camera& camera, const Screen& screen, const Sprite3D& sprite, P
 {
     if (sprite.Pixels == nullptr || !(sprite.Alpha == sprite.Alpha))
         return false;
-    placed.Picture = MakeTexelField(sprite.Pixels->Pixels, sprite.Width, sprite.Height);
+    placed.Picture = MakeSurface(sprite.Pixels->Pixels, sprite.Width, sprite.Height);
     const Point3 at = WorldToCamera(camera, sprite.X, sprite.Y, sprite.Z);
     if (!(at.Z > screen.NearZ && at.Z <= screen.FarZ) || placed.Picture.Width < 1 || placed.Picture.Height < 1)
         return false;
@@ -59,11 +57,6 @@ void Mix(std::uint8_t* pixel, const std::uint8_t* texel, double alpha)
     for (int c = 0; c < 3; ++c)
         pixel[c] = base::RoundByte(pixel[c] * (1.0 - alpha) + texel[c] * alpha);
 }
-
-bool IsTransparent(const std::uint8_t* texel)
-{
-    return (texel[0] | texel[1] | texel[2]) == 0;
-}
 }
 
 void DrawSprite3DPlain(const Camera& camera, Screen& screen, const Sprite3D& sprite)
@@ -76,15 +69,14 @@ void DrawSprite3DPlain(const Camera& camera, Screen& screen, const Sprite3D& spr
              column < placed.Columns && placed.X + column < screen.ScreenW; ++column)
         {
             const std::int32_t u = base::Floor(column / placed.Factor), v = base::Floor(row / placed.Factor);
-            if (!placed.Picture.Has(u, v) || IsTransparent(placed.Picture.At(u, v)))
+            if (!placed.Picture.Has(u, v) || base::IsBlack(placed.Picture.At(u, v)))
                 continue;
             const std::int32_t x = placed.X + column, y = placed.Y + row;
-            if (!(placed.Depth < screen.Depth[static_cast<std::size_t>(y) * static_cast<std::size_t>(screen.ScreenW) +
-                                              static_cast<std::size_t>(x)]))
+            if (!(placed.Depth < screen.Depth.At(x, y)))
                 continue;
-            std::uint8_t* pixel = screen.Frame.Row(y) + x * 3;
+            std::uint8_t* pixel = FrameSurface(screen).At(x, y);
             if (placed.Alpha == 1.0)
-                std::copy_n(placed.Picture.At(u, v), 3, pixel);
+                base::CopyPixel(pixel, placed.Picture.At(u, v));
             else
                 Mix(pixel, placed.Picture.At(u, v), placed.Alpha);
         }
@@ -104,25 +96,27 @@ void DrawSprite3D(const Camera& camera, Screen& screen, const Sprite3D& sprite)
     const std::int32_t count = std::min(placed.Columns, screen.ScreenW - placed.X) - first;
     if (count > static_cast<std::int32_t>(mostColumns) || !(placed.Alpha >= 0.0 && placed.Alpha <= 1.0))
         return DrawSprite3DPlain(camera, screen, sprite);
+    if (count < 1)
+        return; // beside the screen
     for (std::int32_t i = 0; i < count; ++i)
         texelAt[static_cast<std::size_t>(i)] =
-            std::clamp(base::Floor((first + i) / placed.Factor), 0, placed.Picture.Width - 1) * 3;
+            std::clamp(base::Floor((first + i) / placed.Factor), 0, placed.Picture.Width - 1) * base::PixelBytes;
     for (std::int32_t row = std::max(0, -placed.Y); row < placed.Rows && placed.Y + row < screen.ScreenH; ++row)
     {
         const std::int32_t v = base::Floor(row / placed.Factor);
         if (v < 0 || v >= placed.Picture.Height)
             continue;
         const std::uint8_t* texels = placed.Picture.At(0, v);
-        const std::ptrdiff_t y = placed.Y + row, x = placed.X + first;
-        const float* depth = screen.Depth.data() + y * screen.ScreenW + x;
-        std::uint8_t* pixel = screen.Frame.Bytes.data() + y * screen.Frame.RowBytes + x * 3;
-        for (std::int32_t i = 0; i < count; ++i, pixel += 3)
+        const std::int32_t x = placed.X + first, y = placed.Y + row;
+        const float* depth = screen.Depth.Row(y) + x;
+        std::uint8_t* pixel = FrameSurface(screen).At(x, y);
+        for (std::int32_t i = 0; i < count; ++i, pixel += base::PixelBytes)
         {
             const std::uint8_t* texel = texels + texelAt[static_cast<std::size_t>(i)];
-            if (!(placed.Depth < depth[i]) || IsTransparent(texel))
+            if (!(placed.Depth < depth[i]) || base::IsBlack(texel))
                 continue;
             if (copies)
-                std::memcpy(pixel, texel, 3);
+                base::CopyPixel(pixel, texel);
             else
                 Blend<Rounding::Nearest>(pixel, rest, texel, placed.Alpha, pixel);
         }

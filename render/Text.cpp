@@ -1,6 +1,7 @@
-#include "base/Text.h"
+#include "render/Text.h"
+
 #include "base/Numbers.h"
-#include "render/Font.h"
+#include "base/Text.h"
 
 #include <algorithm>
 #include <limits>
@@ -42,6 +43,25 @@ std::uint8_t Faded(std::uint8_t channel, double factor)
 {
     return static_cast<std::uint8_t>(std::clamp(base::Floor(channel * factor), 0, 255));
 }
+
+base::Rgb Faded(const TextLook& look)
+{
+    if (look.Fade == 1.0f)
+        return look.Colour;
+    return {Faded(look.Colour.R, look.Fade), Faded(look.Colour.G, look.Fade), Faded(look.Colour.B, look.Fade)};
+}
+
+// The columns or rows of a drawn glyph, counted from its own first, that lie on the surface.
+struct DrawnPart
+{
+    std::int64_t First = 0, Last = 0; // both included; none where Last < First
+};
+
+DrawnPart PartOnSurface(std::int32_t place, std::int32_t last, std::int32_t size)
+{
+    return {std::max<std::int64_t>(0, -static_cast<std::int64_t>(place)),
+            std::min<std::int64_t>(last, static_cast<std::int64_t>(size) - 1 - place)};
+}
 }
 
 std::int32_t TabPixels(const Font& font, float scale, std::int16_t tabWidth)
@@ -66,8 +86,8 @@ std::int16_t TextWidth(const Font& font, float scale, std::string_view text, std
     return static_cast<std::int16_t>(std::min<std::int32_t>(widest, std::numeric_limits<std::int16_t>::max()));
 }
 
-void DrawTextLeft(const Surface& surface, const Font& font, std::int32_t x, std::int32_t y, float scale,
-                  std::int32_t tab, Colour colour, float factor, std::string_view text)
+void DrawTextLeft(const base::Surface& surface, const Font& font, const TextLook& look, std::int32_t x, std::int32_t y,
+                  std::string_view text)
 {
     std::int32_t penX = x, penY = y;
     for (std::size_t at = 0; at < text.size();)
@@ -76,24 +96,24 @@ void DrawTextLeft(const Surface& surface, const Font& font, std::int32_t x, std:
         if (code == Return)
         {
             penX = x;
-            penY = Moved(penY, -LineStep(font, scale));
+            penY = Moved(penY, -LineStep(font, look.Scale));
         }
         else if (code == Tab)
         {
             const double distance = static_cast<double>(penX) - x;
             if (distance >= 0.0)
-                penX = Moved(x, NextStop(base::RoundEven(distance), tab));
+                penX = Moved(x, NextStop(base::RoundEven(distance), look.Tab));
         }
         else if (const Glyph* glyph = font.Find(code))
         {
-            DrawGlyph(surface, *glyph, penX, penY, scale, colour, factor);
-            penX = Moved(penX, Advance(*glyph, scale));
+            DrawGlyph(surface, *glyph, penX, penY, look);
+            penX = Moved(penX, Advance(*glyph, look.Scale));
         }
     }
 }
 
-void DrawTextRight(const Surface& surface, const Font& font, std::int32_t x, std::int32_t y, float scale, Colour colour,
-                   float factor, std::string_view text)
+void DrawTextRight(const base::Surface& surface, const Font& font, const TextLook& look, std::int32_t x, std::int32_t y,
+                   std::string_view text)
 {
     std::int32_t penX = x, penY = y;
     for (std::size_t at = text.size(); at > 0;)
@@ -102,18 +122,18 @@ void DrawTextRight(const Surface& surface, const Font& font, std::int32_t x, std
         if (code == Return)
         {
             penX = x;
-            penY = Moved(penY, LineStep(font, scale));
+            penY = Moved(penY, LineStep(font, look.Scale));
         }
         else if (const Glyph* glyph = font.Find(code))
         {
-            penX = Moved(penX, -Advance(*glyph, scale));
-            DrawGlyph(surface, *glyph, penX, penY, scale, colour, factor);
+            penX = Moved(penX, -Advance(*glyph, look.Scale));
+            DrawGlyph(surface, *glyph, penX, penY, look);
         }
     }
 }
 
-void DrawTextCentred(const Surface& surface, const Font& font, std::int32_t x, std::int32_t y, float scale,
-                     std::int32_t tab, Colour colour, float factor, std::string_view text)
+void DrawTextCentred(const base::Surface& surface, const Font& font, const TextLook& look, std::int32_t x,
+                     std::int32_t y, std::string_view text)
 {
     constexpr std::string_view lineEnd = "\r\n";
     std::int32_t penY = y;
@@ -121,58 +141,57 @@ void DrawTextCentred(const Surface& surface, const Font& font, std::int32_t x, s
     {
         const std::size_t end = text.find(lineEnd);
         const std::string_view line = text.substr(0, end);
-        const double half = TextWidth(font, scale, line, tab) / 2;
-        DrawTextLeft(surface, font, Moved(x, -half), penY, scale, tab, colour, factor, line);
-        penY = Moved(penY, -LineStep(font, scale));
+        const double half = TextWidth(font, look.Scale, line, look.Tab) / 2;
+        DrawTextLeft(surface, font, look, Moved(x, -half), penY, line);
+        penY = Moved(penY, -LineStep(font, look.Scale));
         more = end != std::string_view::npos;
         if (more)
             text.remove_prefix(end + lineEnd.size());
     }
 }
 
-void DrawGlyph(const Surface& surface, const Glyph& glyph, std::int32_t x, std::int32_t y, float scale, Colour colour,
-               float factor)
+void DrawLabel(const base::Surface& surface, const Font& font, const Label2D& label)
 {
-    const double size = scale;
-    if (!(size > 0.0) || !(factor == factor) || glyph.GlyphW < 1 || glyph.GlyphH < 1)
+    const TextLook look{
+        label.Scale, TabPixels(font, label.Scale, label.TabWidth), {label.ColR, label.ColG, label.ColB}, label.Fade};
+    if (label.Style == 0)
+        DrawTextLeft(surface, font, look, label.X, label.Y, label.Text);
+    else if (label.Style == 1)
+        DrawTextRight(surface, font, look, label.X, label.Y, label.Text);
+    else if (label.Style == 2)
+        DrawTextCentred(surface, font, look, label.X, label.Y, label.Text);
+}
+
+void DrawGlyph(const base::Surface& surface, const Glyph& glyph, std::int32_t x, std::int32_t y, const TextLook& look)
+{
+    const double size = look.Scale;
+    if (!(size > 0.0) || !(look.Fade == look.Fade) || glyph.GlyphW < 1 || glyph.GlyphH < 1)
         return;
-    if (factor != 1.0f)
-        colour = {Faded(colour.R, factor), Faded(colour.G, factor), Faded(colour.B, factor)};
-    const std::int32_t lastColumn = base::Floor((glyph.GlyphW - 1) * size);
-    const std::int32_t lastRow = base::Floor((glyph.GlyphH - 1) * size);
-    // The part of the glyph that lies on the surface, in the glyph's own drawn columns and rows.
-    const std::int64_t firstI = std::max<std::int64_t>(0, -static_cast<std::int64_t>(x));
-    const std::int64_t firstJ = std::max<std::int64_t>(0, -static_cast<std::int64_t>(y));
-    const std::int64_t lastI = std::min<std::int64_t>(lastColumn, static_cast<std::int64_t>(surface.Width) - 1 - x);
-    const std::int64_t lastJ = std::min<std::int64_t>(lastRow, static_cast<std::int64_t>(surface.Height) - 1 - y);
-    if (lastI < firstI || lastJ < firstJ)
+    const base::Rgb colour = Faded(look);
+    const DrawnPart columns = PartOnSurface(x, base::Floor((glyph.GlyphW - 1) * size), surface.Width);
+    const DrawnPart rows = PartOnSurface(y, base::Floor((glyph.GlyphH - 1) * size), surface.Height);
+    if (columns.Last < columns.First || rows.Last < rows.First)
         return; // beside the surface, as most of a line that is too long for it
     const auto maskRow = [&](std::int64_t j)
     {
         const std::int32_t row = base::Floor(static_cast<double>(j) / size);
-        return row >= 0 && row < glyph.GlyphH
-                   ? glyph.Mask.data() + static_cast<std::size_t>(row) * static_cast<std::size_t>(glyph.GlyphW)
-                   : nullptr;
+        return row >= 0 && row < glyph.GlyphH ? glyph.Row(row) : nullptr;
     };
-    for (std::int64_t j = firstJ; j <= lastJ; ++j)
+    for (std::int64_t j = rows.First; j <= rows.Last; ++j)
     {
         const std::uint8_t* ink = maskRow(j);
         const std::uint8_t* below = j > 0 ? maskRow(j - 1) : nullptr; // under the lowest row there is no ink
         std::uint8_t* pixel =
-            surface.Bytes + static_cast<std::ptrdiff_t>((y + j) * surface.RowBytes + (x + firstI) * 3);
-        for (std::int64_t i = firstI; i <= lastI; ++i, pixel += 3)
+            surface.At(static_cast<std::int32_t>(x + columns.First), static_cast<std::int32_t>(y + j));
+        for (std::int64_t i = columns.First; i <= columns.Last; ++i, pixel += base::PixelBytes)
         {
             const std::int32_t column = base::Floor(static_cast<double>(i) / size);
             if (column < 0 || column >= glyph.GlyphW)
                 continue;
             if (ink != nullptr && ink[column] != 0)
-            {
-                pixel[0] = colour.B;
-                pixel[1] = colour.G;
-                pixel[2] = colour.R;
-            }
+                base::Put(pixel, colour);
             else if (below != nullptr && below[column] != 0)
-                pixel[0] = pixel[1] = pixel[2] = 0;
+                base::Put(pixel, {});
         }
     }
 }

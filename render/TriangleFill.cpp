@@ -4,7 +4,6 @@
 #include "render/Double2.h"
 
 #include <algorithm>
-#include <cstring>
 #include <utility>
 
 // Rounding and order of every line are those of the plain routines.
@@ -25,7 +24,7 @@ struct Slope
 };
 
 // Where a row meets the long edge, 0, and the short one, 1. Without initial values: tables of it are filled at once.
-struct Ends
+struct SpanEnds
 {
     std::int32_t X[2]; // columns, not clamped to the screen
     double Z[2];
@@ -36,16 +35,16 @@ struct Ends
 class Edges
 {
 public:
-    Edges(const ScreenCorner& first, const ScreenCorner& last, const ScreenCorner& low, const ScreenCorner& high)
+    Edges(const ScreenVertex& first, const ScreenVertex& last, const ScreenVertex& low, const ScreenVertex& high)
         : Y(Double2::Of(first.Y, low.Y)), Rows(Double2::Of(last.Y, high.Y) - Y), X(first.X, last.X, low.X, high.X),
           Z(first.Z, last.Z, low.Z, high.Z), U(first.U, last.U, low.U, high.U), V(first.V, last.V, low.V, high.V)
     {
     }
 
-    void Find(std::int32_t y, std::int32_t count, Ends* ends) const
+    void Find(std::int32_t y, std::int32_t count, SpanEnds* ends) const
     {
         Double2 n = Double2::Of(y) - Y;
-        for (const Ends* stop = ends + count; ends != stop; ++ends, n = n + Double2::Of(1.0))
+        for (const SpanEnds* stop = ends + count; ends != stop; ++ends, n = n + Double2::Of(1.0))
         {
             X.At(n, Rows).StoreRounded(ends->X);
             Z.At(n, Rows).Store(ends->Z);
@@ -61,7 +60,7 @@ private:
 
 // Two pixels at a time; texels are found where one of the two is nearer than its depth cell.
 template <class Paint>
-void DrawRow(const Ends& ends, std::int32_t screenW, float* depth, std::uint8_t* pixels, const Paint& paint)
+void DrawRow(const SpanEnds& ends, std::int32_t screenW, float* depth, std::uint8_t* pixels, const Paint& paint)
 {
     const int left = ends.X[0] <= ends.X[1] ? 0 : 1, right = 1 - left;
     const std::int32_t first = std::max(ends.X[left], 0), last = std::min(ends.X[right], screenW - 1);
@@ -85,7 +84,7 @@ void DrawRow(const Ends& ends, std::int32_t screenW, float* depth, std::uint8_t*
         (rest * leftU + t * rightU).StoreRounded(u);
         (rest * leftV + t * rightV).StoreRounded(v);
         for (std::int32_t i = 0; i < 2; ++i)
-            if (isNearer[i] && paint.Put(pixels + (x + i) * 3, u[i], v[i]))
+            if (isNearer[i] && paint.Put(pixels + (x + i) * base::PixelBytes, u[i], v[i]))
                 depth[x + i] = z[i];
     }
 }
@@ -93,12 +92,12 @@ void DrawRow(const Ends& ends, std::int32_t screenW, float* depth, std::uint8_t*
 // Draws the rows of a triangle that are on the screen. The ends of many are found before the first is drawn, because
 // drawing branches as the picture has it, and the processor then starts its divisions late.
 template <class Paint>
-void Fill(Screen& screen, const ScreenCorner& a, const ScreenCorner& b, const ScreenCorner& c, const Paint& paint)
+void Fill(Screen& screen, const ScreenVertex& a, const ScreenVertex& b, const ScreenVertex& c, const Paint& paint)
 {
     if (IsRejected(screen, a, b, c))
         return;
-    const ScreenCorner *first = &a, *middle = &b, *last = &c;
-    // Equal rows keep the order of the corners.
+    const ScreenVertex *first = &a, *middle = &b, *last = &c;
+    // Equal rows keep the order of the vertices.
     if (middle->Y < first->Y)
         std::swap(first, middle);
     if (last->Y < middle->Y)
@@ -108,17 +107,17 @@ void Fill(Screen& screen, const ScreenCorner& a, const ScreenCorner& b, const Sc
             std::swap(first, middle);
     }
     constexpr std::int32_t mostRows = 32;
-    Ends ends[mostRows];
+    SpanEnds ends[mostRows];
     const std::int32_t end = std::min(last->Y, screen.ScreenH - 1);
     for (std::int32_t y = std::max(first->Y, 0); y <= end;)
     {
-        // The middle corner's row belongs to the upper part, where there is one.
+        // The middle vertex's row belongs to the upper part, where there is one.
         const bool lower = y < middle->Y || middle->Y == last->Y;
-        const ScreenCorner &low = lower ? *first : *middle, &high = lower ? *middle : *last;
+        const ScreenVertex &low = lower ? *first : *middle, &high = lower ? *middle : *last;
         const std::int32_t stop = high.Y == last->Y ? end : std::min(high.Y - 1, end);
         const std::int32_t count = std::min(stop - y + 1, mostRows);
         Edges(*first, *last, low, high).Find(y, count, ends);
-        float* depth = screen.Depth.data() + static_cast<std::ptrdiff_t>(y) * screen.ScreenW;
+        float* depth = screen.Depth.Row(y);
         std::uint8_t* pixels = screen.Frame.Row(y);
         for (std::int32_t i = 0; i < count; ++i, depth += screen.ScreenW, pixels += screen.Frame.RowBytes)
             DrawRow(ends[i], screen.ScreenW, depth, pixels, paint);
@@ -129,39 +128,40 @@ void Fill(Screen& screen, const ScreenCorner& a, const ScreenCorner& b, const Sc
 // What pixels are painted with: Put gives false where pixel and depth are to stay.
 struct FlatPaint
 {
-    std::uint8_t Bytes[3];
+    std::uint8_t Bytes[base::PixelBytes];
 
+    explicit FlatPaint(base::Rgb colour) { base::Put(Bytes, colour); }
     bool Put(std::uint8_t* pixel, std::int32_t, std::int32_t) const
     {
-        std::memcpy(pixel, Bytes, 3);
+        base::CopyPixel(pixel, Bytes);
         return true;
     }
 };
 
 struct TexelPaint
 {
-    TexelField Texture;
+    base::ConstSurface Texture;
 
     bool Put(std::uint8_t* pixel, std::int32_t u, std::int32_t v) const
     {
         if (!Texture.Has(u, v))
             return false;
         const std::uint8_t* texel = Texture.At(u, v);
-        if ((texel[0] | texel[1] | texel[2]) == 0)
+        if (base::IsBlack(texel))
             return false;
-        std::memcpy(pixel, texel, 3);
+        base::CopyPixel(pixel, texel);
         return true;
     }
 };
 }
 
-void FillTriFlat(Screen& screen, const ScreenCorner& a, const ScreenCorner& b, const ScreenCorner& c, Rgb colour)
+void FillTriFlat(Screen& screen, const ScreenVertex& a, const ScreenVertex& b, const ScreenVertex& c, base::Rgb colour)
 {
-    Fill(screen, a, b, c, FlatPaint{{colour.B, colour.G, colour.R}});
+    Fill(screen, a, b, c, FlatPaint(colour));
 }
 
-void FillTriTex(Screen& screen, const ScreenCorner& a, const ScreenCorner& b, const ScreenCorner& c,
-                const TexelField& texture)
+void FillTriTex(Screen& screen, const ScreenVertex& a, const ScreenVertex& b, const ScreenVertex& c,
+                const base::ConstSurface& texture)
 {
     Fill(screen, a, b, c, TexelPaint{texture});
 }

@@ -1,5 +1,6 @@
+#include "render/TriangleFillPlain.h"
+
 #include "base/Numbers.h"
-#include "render/TriangleFill.h"
 
 #include <algorithm>
 #include <array>
@@ -9,7 +10,7 @@ namespace render
 namespace
 {
 // One end of a span: the place on an edge at some row.
-struct End
+struct SpanEnd
 {
     std::int32_t X = 0;
     double Z = 0;
@@ -22,7 +23,7 @@ double Between(double a, double b, double n, double d)
 }
 
 // The edge from low to high at row y; they lie in different rows.
-End EdgeAt(const ScreenCorner& low, const ScreenCorner& high, std::int32_t y)
+SpanEnd EdgeAt(const ScreenVertex& low, const ScreenVertex& high, std::int32_t y)
 {
     const double n = static_cast<double>(y) - low.Y, d = static_cast<double>(high.Y) - low.Y;
     return {base::RoundEven(Between(low.X, high.X, n, d)), Between(low.Z, high.Z, n, d),
@@ -31,25 +32,25 @@ End EdgeAt(const ScreenCorner& low, const ScreenCorner& high, std::int32_t y)
 
 // Calls pixel(x, y, z, u, v) for every pixel of the triangle that lies on the screen.
 template <class Pixel>
-void WalkTriangle(const Screen& screen, const ScreenCorner& a, const ScreenCorner& b, const ScreenCorner& c,
+void ForEachPixel(const Screen& screen, const ScreenVertex& a, const ScreenVertex& b, const ScreenVertex& c,
                   Pixel&& pixel)
 {
     if (IsRejected(screen, a, b, c))
         return;
-    std::array<ScreenCorner, 3> corner{a, b, c};
-    std::stable_sort(corner.begin(), corner.end(),
-                     [](const ScreenCorner& p, const ScreenCorner& q) { return p.Y < q.Y; });
-    const ScreenCorner &first = corner[0], &middle = corner[1], &last = corner[2];
+    std::array<ScreenVertex, 3> vertex{a, b, c};
+    std::stable_sort(vertex.begin(), vertex.end(),
+                     [](const ScreenVertex& p, const ScreenVertex& q) { return p.Y < q.Y; });
+    const ScreenVertex &first = vertex[0], &middle = vertex[1], &last = vertex[2];
     const std::int32_t end = std::min(last.Y, screen.ScreenH - 1);
     for (std::int32_t y = std::max(first.Y, 0); y <= end; ++y)
     {
-        const End onLong = EdgeAt(first, last, y);
-        // The middle corner's row belongs to the upper part, where there is one.
+        const SpanEnd onLong = EdgeAt(first, last, y);
+        // The middle vertex's row belongs to the upper part, where there is one.
         const bool lower = y < middle.Y || middle.Y == last.Y;
-        const End onShort = lower ? EdgeAt(first, middle, y) : EdgeAt(middle, last, y);
+        const SpanEnd onShort = lower ? EdgeAt(first, middle, y) : EdgeAt(middle, last, y);
         const bool longIsLeft = onLong.X <= onShort.X;
-        const End& left = longIsLeft ? onLong : onShort;
-        const End& right = longIsLeft ? onShort : onLong;
+        const SpanEnd& left = longIsLeft ? onLong : onShort;
+        const SpanEnd& right = longIsLeft ? onShort : onLong;
         const double width = static_cast<double>(right.X) - left.X;
         const std::int32_t stop = std::min(right.X, screen.ScreenW - 1);
         for (std::int32_t x = std::max(left.X, 0); x <= stop; ++x)
@@ -62,47 +63,34 @@ void WalkTriangle(const Screen& screen, const ScreenCorner& a, const ScreenCorne
         }
     }
 }
-
-std::uint8_t* PixelAt(Screen& screen, std::int32_t x, std::int32_t y)
-{
-    return screen.Frame.Row(y) + x * 3;
 }
 
-float& DepthAt(Screen& screen, std::int32_t x, std::int32_t y)
+void FillTriFlatPlain(Screen& screen, const ScreenVertex& a, const ScreenVertex& b, const ScreenVertex& c,
+                      base::Rgb colour)
 {
-    return screen
-        .Depth[static_cast<std::size_t>(y) * static_cast<std::size_t>(screen.ScreenW) + static_cast<std::size_t>(x)];
-}
-}
-
-void FillTriFlatPlain(Screen& screen, const ScreenCorner& a, const ScreenCorner& b, const ScreenCorner& c, Rgb colour)
-{
-    WalkTriangle(screen, a, b, c,
+    ForEachPixel(screen, a, b, c,
                  [&](std::int32_t x, std::int32_t y, float z, std::int32_t, std::int32_t)
                  {
-                     if (!(z < DepthAt(screen, x, y)))
+                     if (!(z < screen.Depth.At(x, y)))
                          return;
-                     DepthAt(screen, x, y) = z;
-                     std::uint8_t* pixel = PixelAt(screen, x, y);
-                     pixel[0] = colour.B;
-                     pixel[1] = colour.G;
-                     pixel[2] = colour.R;
+                     screen.Depth.At(x, y) = z;
+                     base::Put(FrameSurface(screen).At(x, y), colour);
                  });
 }
 
-void FillTriTexPlain(Screen& screen, const ScreenCorner& a, const ScreenCorner& b, const ScreenCorner& c,
-                     const TexelField& texture)
+void FillTriTexPlain(Screen& screen, const ScreenVertex& a, const ScreenVertex& b, const ScreenVertex& c,
+                     const base::ConstSurface& texture)
 {
-    WalkTriangle(screen, a, b, c,
+    ForEachPixel(screen, a, b, c,
                  [&](std::int32_t x, std::int32_t y, float z, std::int32_t u, std::int32_t v)
                  {
-                     if (!texture.Has(u, v) || !(z < DepthAt(screen, x, y)))
+                     if (!texture.Has(u, v) || !(z < screen.Depth.At(x, y)))
                          return;
                      const std::uint8_t* texel = texture.At(u, v);
-                     if (texel[0] == 0 && texel[1] == 0 && texel[2] == 0)
+                     if (base::IsBlack(texel))
                          return;
-                     DepthAt(screen, x, y) = z;
-                     std::copy_n(texel, 3, PixelAt(screen, x, y));
+                     screen.Depth.At(x, y) = z;
+                     base::CopyPixel(FrameSurface(screen).At(x, y), texel);
                  });
 }
 }

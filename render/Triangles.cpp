@@ -11,21 +11,21 @@ namespace render
 {
 namespace
 {
-// A corner on its way to the screen: camera space, texels not yet rounded.
-struct ClipCorner
+// A vertex in camera space with texels that are not rounded yet: one of the triangle or one that clipping made.
+struct ClipVertex
 {
     double X = 0, Y = 0;
     float Z = 0;
     double U = 0, V = 0;
 };
 
-ClipCorner ToClip(const Corner& corner)
+ClipVertex ToClip(const Vertex& vertex)
 {
-    return {corner.Seen.X, corner.Seen.Y, corner.Seen.Z, corner.Landed.U, corner.Landed.V};
+    return {vertex.View.X, vertex.View.Y, vertex.View.Z, vertex.Screen.U, vertex.Screen.V};
 }
 
-// Where the edge from a corner in front to one behind meets the near plane.
-ClipCorner Cut(const ClipCorner& front, const ClipCorner& behind, float nearZ)
+// Where the edge from a vertex in front to one behind meets the near plane.
+ClipVertex Cut(const ClipVertex& front, const ClipVertex& behind, float nearZ)
 {
     const double t = (static_cast<double>(front.Z) - nearZ) / (static_cast<double>(front.Z) - behind.Z);
     const auto at = [t](double a, double b) { return a + (b - a) * t; };
@@ -36,67 +36,68 @@ ClipCorner Cut(const ClipCorner& front, const ClipCorner& behind, float nearZ)
 struct Pieces
 {
     std::size_t Count = 0;
-    std::array<std::array<ClipCorner, 3>, 2> Triangle;
+    std::array<std::array<ClipVertex, 3>, 2> Triangle;
 };
 
-Pieces ClipNear(const ClipCorner& a, const ClipCorner& b, const ClipCorner& c, float nearZ)
+Pieces ClipNear(const ClipVertex& a, const ClipVertex& b, const ClipVertex& c, float nearZ)
 {
-    const std::array<ClipCorner, 3> corner{a, b, c};
+    const std::array<ClipVertex, 3> vertex{a, b, c};
     std::array<std::size_t, 3> front{}, behind{};
     std::size_t fronts = 0, behinds = 0;
     for (std::size_t i = 0; i < 3; ++i)
-        if (corner[i].Z < nearZ)
+        if (vertex[i].Z < nearZ)
             behind[behinds++] = i;
         else
             front[fronts++] = i;
     Pieces pieces;
     if (fronts == 2)
     {
-        const ClipCorner &first = corner[front[0]], &second = corner[front[1]];
-        const ClipCorner p = Cut(first, corner[behind[0]], nearZ), q = Cut(second, corner[behind[0]], nearZ);
+        const ClipVertex &first = vertex[front[0]], &second = vertex[front[1]];
+        const ClipVertex p = Cut(first, vertex[behind[0]], nearZ), q = Cut(second, vertex[behind[0]], nearZ);
         pieces.Count = 2;
         pieces.Triangle = {{{first, second, p}, {second, q, p}}};
     }
     else if (fronts == 1)
     {
         pieces.Count = 1;
-        pieces.Triangle[0] = corner; // the cuts take the places of the corners behind
+        pieces.Triangle[0] = vertex; // the cuts take the places of the vertices behind
         for (const std::size_t i : {behind[0], behind[1]})
-            pieces.Triangle[0][i] = Cut(corner[front[0]], corner[i], nearZ);
+            pieces.Triangle[0][i] = Cut(vertex[front[0]], vertex[i], nearZ);
     }
     return pieces;
 }
 
-ScreenCorner Land(const Camera& camera, const Screen& screen, const ClipCorner& from)
+ScreenVertex ProjectVertex(const Camera& camera, const Screen& screen, const ClipVertex& from)
 {
     const ScreenPoint at = Project(from.X, from.Y, from.Z, camera.Zoom, screen.CenterX, screen.CenterY);
     return {at.X, at.Y, from.Z, from.U, from.V};
 }
 
-// False where it is on no screen: not a number, or farther than 32 bits of pixels.
-bool HasPlace(const ScreenCorner& corner)
+// False where the projection is not a number, or farther than 32 bits of pixels.
+bool IsPlace(const ScreenVertex& vertex)
 {
-    return corner.X != base::OutOfRange && corner.Y != base::OutOfRange;
+    return vertex.X != base::OutOfRange && vertex.Y != base::OutOfRange;
 }
 
 // Clips, and calls fill(a, b, c) for each piece that may show. Nearly every triangle is wholly in front, and then its
-// corners need not be projected again.
+// vertices need not be projected again.
 template <class Fill>
-void ForEachPiece(const Camera& camera, const Screen& screen, const Corner& a, const Corner& b, const Corner& c,
-                  Fill&& fill)
+void ForEachPiece(const Camera& camera, const Screen& screen, const Triangle& triangle, Fill&& fill)
 {
-    const auto fillLanded = [&](const ScreenCorner& p, const ScreenCorner& q, const ScreenCorner& r)
+    const auto& [a, b, c] = triangle;
+    const auto fillPiece = [&](const ScreenVertex& p, const ScreenVertex& q, const ScreenVertex& r)
     {
-        if (HasPlace(p) && HasPlace(q) && HasPlace(r) && !IsRejected(screen, p, q, r))
+        if (IsPlace(p) && IsPlace(q) && IsPlace(r) && !IsRejected(screen, p, q, r))
             fill(p, q, r);
     };
     const float nearZ = screen.NearZ;
-    if (!(a.Seen.Z < nearZ || b.Seen.Z < nearZ || c.Seen.Z < nearZ))
-        return fillLanded(a.Landed, b.Landed, c.Landed);
+    if (!(a.View.Z < nearZ || b.View.Z < nearZ || c.View.Z < nearZ))
+        return fillPiece(a.Screen, b.Screen, c.Screen);
     const Pieces pieces = ClipNear(ToClip(a), ToClip(b), ToClip(c), nearZ);
     for (std::size_t i = 0; i < pieces.Count; ++i)
-        fillLanded(Land(camera, screen, pieces.Triangle[i][0]), Land(camera, screen, pieces.Triangle[i][1]),
-                   Land(camera, screen, pieces.Triangle[i][2]));
+        fillPiece(ProjectVertex(camera, screen, pieces.Triangle[i][0]),
+                  ProjectVertex(camera, screen, pieces.Triangle[i][1]),
+                  ProjectVertex(camera, screen, pieces.Triangle[i][2]));
 }
 
 // Angle whose tangent is a / b, for a, b of 0 and above.
@@ -108,16 +109,22 @@ double Steepness(double a, double b)
 }
 }
 
-Corner SeeCorner(const Camera& camera, const Screen& screen, const Point3& world, std::int32_t u, std::int32_t v)
+Vertex TransformVertex(const Camera& camera, const Screen& screen, const Point3& world, std::int32_t u, std::int32_t v)
 {
-    const Point3 seen = WorldToCamera(camera, world.X, world.Y, world.Z);
-    const ClipCorner texelled{seen.X, seen.Y, seen.Z, static_cast<double>(u), static_cast<double>(v)};
-    return {world, seen, Land(camera, screen, texelled)};
+    const Point3 view = WorldToCamera(camera, world.X, world.Y, world.Z);
+    const ClipVertex clip{view.X, view.Y, view.Z, static_cast<double>(u), static_cast<double>(v)};
+    return {world, view, ProjectVertex(camera, screen, clip)};
 }
 
 double Extent(double a, double b, double c)
 {
     return std::max({a, b, c}) - std::min({a, b, c});
+}
+
+namespace
+{
+// Six times Pi, in single precision: so that a face loses an eighth of its light or so.
+constexpr double ShadeDivisor = static_cast<float>(6.0 * Pi);
 }
 
 double FaceShade(const Point3& a, const Point3& b, const Point3& c)
@@ -129,27 +136,19 @@ double FaceShade(const Point3& a, const Point3& b, const Point3& c)
     ex /= length;
     ey /= length;
     ez /= length;
-    return 1.0 - (ey * Steepness(ez, ex) + ex * Steepness(ey, ez) + ez * Steepness(ey, ex)) / 18.849552154541016;
+    return 1.0 - (ey * Steepness(ez, ex) + ex * Steepness(ey, ez) + ez * Steepness(ey, ex)) / ShadeDivisor;
 }
 
-void DrawTriFlat(const Scene& scene, const Camera& camera, Screen& screen, const Point3& a, const Point3& b,
-                 const Point3& c, Rgb colour)
-{
-    DrawSeenFlat(scene, camera, screen, SeeCorner(camera, screen, a), SeeCorner(camera, screen, b),
-                 SeeCorner(camera, screen, c), colour);
-}
-
-void DrawSeenFlat(const Scene& scene, const Camera& camera, Screen& screen, const Corner& a, const Corner& b,
-                  const Corner& c, Rgb colour)
+void DrawTriFlat(const Scene& scene, const Camera& camera, Screen& screen, const Triangle& triangle, base::Rgb colour)
 {
     bool shaded = false; // the arctangents are left until something shows
     double shade = 1.0;
-    ForEachPiece(camera, screen, a, b, c,
-                 [&](const ScreenCorner& p, const ScreenCorner& q, const ScreenCorner& r)
+    ForEachPiece(camera, screen, triangle,
+                 [&](const ScreenVertex& p, const ScreenVertex& q, const ScreenVertex& r)
                  {
                      if (!shaded)
                      {
-                         shade = FaceShade(a.World, b.World, c.World);
+                         shade = FaceShade(triangle.A.World, triangle.B.World, triangle.C.World);
                          shaded = true;
                      }
                      if (!(shade == shade))
@@ -161,13 +160,12 @@ void DrawSeenFlat(const Scene& scene, const Camera& camera, Screen& screen, cons
                  });
 }
 
-void DrawTriTex(const Camera& camera, Screen& screen, const Corner& a, const Corner& b, const Corner& c,
-                const TexelField& texture)
+void DrawTriTex(const Camera& camera, Screen& screen, const Triangle& triangle, const base::ConstSurface& texture)
 {
     if (texture.Width < 1 || texture.Height < 1)
         return;
-    ForEachPiece(camera, screen, a, b, c,
-                 [&](const ScreenCorner& p, const ScreenCorner& q, const ScreenCorner& r)
-                 { FillTriTex(screen, p, q, r, texture); });
+    ForEachPiece(camera, screen, triangle,
+                 [&](const ScreenVertex& a, const ScreenVertex& b, const ScreenVertex& c)
+                 { FillTriTex(screen, a, b, c, texture); });
 }
 }

@@ -1,21 +1,31 @@
-// render/Triangles.h: triangles given in world coordinates: shading, near clipping, projection. The filling is in
-// render/TriangleFill.h.
+// render/Triangles.h: triangles given in world coordinates: transformation, shading, near clipping, projection. The
+// filling is in render/TriangleFill.h.
 #pragma once
+#include "base/Pixels.h"
 #include "render/Scene.h"
 #include "render/Screen.h"
 #include "render/TriangleFill.h"
 
+#include <cstdint>
+
 namespace render
 {
-// A corner in the world, as the camera sees it, and on the screen, found once for all the triangles that share it.
-struct Corner
+// A triangle's corner in the three spaces that it passes through, found once for all the triangles that share it.
+struct Vertex
 {
-    Point3 World, Seen;
-    ScreenCorner Landed; // holds in front of the near plane only
+    Point3 World;        // world units
+    Point3 View;         // camera space: Z is the depth
+    ScreenVertex Screen; // holds in front of the near plane only
 };
 // u, v: texels.
-Corner SeeCorner(const Camera& camera, const Screen& screen, const Point3& world, std::int32_t u = 0,
-                 std::int32_t v = 0);
+Vertex TransformVertex(const Camera& camera, const Screen& screen, const Point3& world, std::int32_t u = 0,
+                       std::int32_t v = 0);
+
+// Three vertices for the length of a call.
+struct Triangle
+{
+    const Vertex &A, &B, &C;
+};
 
 // Largest minus smallest of three coordinates.
 double Extent(double a, double b, double c);
@@ -23,13 +33,9 @@ double Extent(double a, double b, double c);
 // Deliberate: the extents stand for the face's normal.
 double FaceShade(const Point3& a, const Point3& b, const Point3& c);
 
-// Flat-shaded, in the colour times shade times light.
-void DrawTriFlat(const Scene& scene, const Camera& camera, Screen& screen, const Point3& a, const Point3& b,
-                 const Point3& c, Rgb colour);
-// Textured; texels are interpolated on the screen, without perspective.
-void DrawTriTex(const Camera& camera, Screen& screen, const Corner& a, const Corner& b, const Corner& c,
-                const TexelField& texture);
-// The same for corners already seen, as a grid shares them between its triangles.
-void DrawSeenFlat(const Scene& scene, const Camera& camera, Screen& screen, const Corner& a, const Corner& b,
-                  const Corner& c, Rgb colour);
+// What lies nearer than NearZ is cut off; what is left is drawn into frame and depth buffer.
+// Flat-shaded, in the colour times shade times the scene's light.
+void DrawTriFlat(const Scene& scene, const Camera& camera, Screen& screen, const Triangle& triangle, base::Rgb colour);
+// Textured; an empty texture draws nothing.
+void DrawTriTex(const Camera& camera, Screen& screen, const Triangle& triangle, const base::ConstSurface& texture);
 }

@@ -5,6 +5,7 @@
 #include "base/Fields.h"
 #include "base/Random.h"
 #include "platform/Keys.h"
+#include "render/GroundThreads.h"
 #include "render/Scene.h"
 #include "render/Screen.h"
 #include "shell/TickTimer.h"
@@ -95,6 +96,7 @@ struct Game
     render::Scene Scene;
     render::Camera Camera;
     render::Screen Screen;
+    render::GroundThreads GroundThreads;
     world::Race Race;
     world::TickScratch Scratch;
     world::HeldKeys Keys;

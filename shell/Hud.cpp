@@ -3,6 +3,7 @@
 #include "base/Numbers.h"
 #include "base/RuntimeError.h"
 #include "render/Primitives.h"
+#include "render/Text.h"
 #include "world/Driving.h"
 
 #include <algorithm>
@@ -36,7 +37,7 @@ struct Line
     operator std::string_view() const { return {Bytes.data(), Length}; }
 };
 
-void SetColour(render::Label2D& label, render::Rgb colour)
+void SetColour(render::Label2D& label, base::Rgb colour)
 {
     label.ColR = colour.R;
     label.ColG = colour.G;
@@ -55,7 +56,7 @@ const world::Player& ViewedPlayer(const Game& game)
 void ShowFrameRate(Game& game)
 {
     const bool fast = game.Run.Fps >= game.Settings.TargetFps - 2;
-    SetColour(game.Scene.Labels.At(game.Hud.FrameRate), fast ? render::Rgb{0, 200, 0} : render::Rgb{200, 0, 0});
+    SetColour(game.Scene.Labels.At(game.Hud.FrameRate), fast ? base::Rgb{0, 200, 0} : base::Rgb{200, 0, 0});
     render::SetLabelText(game.Scene, game.Hud.FrameRate, Line() << game.Run.Fps << " fps");
 }
 
@@ -107,9 +108,9 @@ void ShowDamage(Game& game)
     if (bar.Visible == 0)
         return;
     const float damage = ViewedPlayer(game).Damage;
-    const render::Rgb colour = damage > 3   ? render::Rgb{180, 0, 0}
-                               : damage > 1 ? render::Rgb{230, 230, 0}
-                                            : render::Rgb{0, 180, 0};
+    const base::Rgb colour = damage > 3   ? base::Rgb{180, 0, 0}
+                             : damage > 1 ? base::Rgb{230, 230, 0}
+                                          : base::Rgb{0, 180, 0};
     bar.ColR = colour.R;
     bar.ColG = colour.G;
     bar.ColB = colour.B;

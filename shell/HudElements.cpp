@@ -2,6 +2,7 @@
 
 #include "base/Numbers.h"
 #include "render/Primitives.h"
+#include "render/Spanner.h"
 
 #include <iterator>
 
@@ -57,11 +58,11 @@ struct Element
     std::int32_t Style;
     float Scale;
     std::int16_t TabWidth;
-    render::Rgb Colour;
+    base::Rgb Colour;
     std::uint8_t Visible;
 };
 
-constexpr render::Rgb White = {255, 255, 255};
+constexpr base::Rgb White = {255, 255, 255};
 constexpr std::int32_t PreviewSize = 70, SpannerSize = 32;
 constexpr std::int16_t BarWidth = 15, BarHeight = 5; // from (0, 3) to (15, 8)
 constexpr std::size_t TextRoom = 256;                // bytes: no tick allocates
@@ -116,7 +117,7 @@ void MakeHud(render::Scene& scene, base::MessageSink& messages, Hud& hud, std::i
 {
     for (const Element& element : Elements)
         hud.*element.Index = Make(element, scene, messages, element.X.In(width), element.Y.In(height));
-    PaintSpanner(scene.Pics.At(hud.Repair).Pic);
+    render::PaintSpanner(scene.Pics.At(hud.Repair).Pic);
 }
 
 void PlaceHud(render::Scene& scene, const Hud& hud, std::int32_t width, std::int32_t height)

@@ -9,6 +9,4 @@ namespace shell
 void MakeHud(render::Scene& scene, base::MessageSink& messages, Hud& hud, std::int32_t width, std::int32_t height);
 // Moves them to the anchors of a frame of that size.
 void PlaceHud(render::Scene& scene, const Hud& hud, std::int32_t width, std::int32_t height);
-// The spanner of the repair indicator, 32 x 32.
-void PaintSpanner(render::Picture& picture);
 }

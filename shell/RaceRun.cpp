@@ -22,16 +22,6 @@ void SetPicVisible(render::Scene& scene, std::int16_t pic, bool visible)
     if (scene.Pics.Has(pic))
         scene.Pics.At(pic).Visible = visible ? 1 : 0;
 }
-
-struct WindowSink final : render::FrameSink
-{
-    explicit WindowSink(platform::Window& window) : Window(window) {}
-    void Present(int width, int height, std::span<const std::uint8_t> bits) override
-    {
-        Window.Present({bits.data(), base::PaddedRow(width), width, height});
-    }
-    platform::Window& Window;
-};
 }
 
 void RaceRun::StartProcess()
@@ -165,19 +155,16 @@ void RaceRun::RenderT_Tick()
 
 void RaceRun::Draw()
 {
-    render::RenderFrame(TheGame.Scene, TheGame.Camera, TheGame.Screen, nullptr);
+    render::RenderFrame(TheGame.Scene, TheGame.Camera, TheGame.Screen, TheGame.GroundThreads);
 }
 
 void RaceRun::ShowFrame()
 {
+    Draw();
     if (View.IsAnyControlShown())
-    {
-        Draw();
         View.Repaint();
-        return;
-    }
-    WindowSink sink(Window);
-    render::RenderFrame(TheGame.Scene, TheGame.Camera, TheGame.Screen, &sink);
+    else if (!TheGame.Screen.Frame.Empty())
+        Window.Present(render::FrameSurface(TheGame.Screen));
 }
 
 void RaceRun::PlaceCamera()

@@ -74,7 +74,7 @@ void AwardTrophy(Simulation& sim, std::int16_t place)
         return;
     trophy->Visible = 1;
     const std::int32_t metal = metals[place - 1];
-    const render::Rgb colour = render::SplitRGB(metal);
+    const base::Rgb colour = render::SplitRGB(metal);
     for (const std::size_t index : {6u, 7u})
         if (index < trophy->Mesh.size())
         {

@@ -4,6 +4,7 @@
 #include "fuzz/Folder.h"
 #include "platform/Keys.h"
 #include "render/RenderFrame.h"
+#include "render/Text.h"
 #include "tests/support/Desk.h"
 #include "world/Tick.h"
 
@@ -50,7 +51,7 @@ struct FuzzDesk final : support::Desk
     {
         const render::Label2D& label = Line();
         const std::int32_t tab = render::TabPixels(Font, label.Scale, label.TabWidth);
-        render::DrawTextLeft({Bits.data(), 96 * 3, 96, 64}, Font, 1, 50, label.Scale, tab, {255, 255, 255}, 1,
+        render::DrawTextLeft({Bits.data(), 96 * 3, 96, 64}, Font, {label.Scale, tab, {255, 255, 255}, 1}, 1, 50,
                              label.Text);
     }
     // The line is a whole text of bounded length, and no longer than what can be typed unless it is an answer.

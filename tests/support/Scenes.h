@@ -2,6 +2,7 @@
 #pragma once
 #include "base/Random.h"
 #include "render/GroundTexture.h"
+#include "render/GroundThreads.h"
 #include "render/Primitives.h"
 #include "render/Scene.h"
 #include "render/Screen.h"
@@ -25,7 +26,7 @@ inline int DrawWhole(base::Random& random, int least, int most)
 inline render::Picture Blank(int width, int height)
 {
     render::Picture picture;
-    picture.Info = {width, height, (width * 3 + 3) & ~3, 1, 24};
+    picture.Info = {width, height, base::PaddedRow(width), 1, 24};
     picture.Pixels.Allocate(height, picture.Info.RowBytes);
     return picture;
 }
@@ -59,6 +60,7 @@ struct View
     support::Messages Messages;
     render::Camera Camera;
     render::Screen Screen;
+    render::GroundThreads Threads;
 
     View(int width, int height, int filter = 0, int threads = 3)
     {
@@ -77,11 +79,7 @@ struct View
         render::UpdateCameraTrig(Camera);
     }
     const std::uint8_t* Pixel(int x, int y) const { return Screen.Frame.Row(y) + x * 3; }
-    float Depth(int x, int y) const
-    {
-        return Screen.Depth[static_cast<std::size_t>(y) * static_cast<std::size_t>(Screen.ScreenW) +
-                            static_cast<std::size_t>(x)];
-    }
+    float Depth(int x, int y) const { return Screen.Depth.At(x, y); }
 };
 
 // Blue, green, red of a pixel as one number, 0xBBGGRR.

@@ -43,7 +43,7 @@ void Depth(Session& session, Words& words, Object&)
 {
     const std::string name = FileName(words);
     std::string bytes;
-    for (const float depth : session.Form()->State().Screen.Depth)
+    for (const float depth : session.Form()->State().Screen.Depth.Cells)
         for (int shift = 0; shift < 32; shift += 8)
             bytes += static_cast<char>((std::bit_cast<std::uint32_t>(depth) >> shift) & 0xFFu);
     Save(session, name, bytes);

@@ -3,6 +3,7 @@
 #include "console/Texts.h"
 #include "render/Font.h"
 #include "render/PicArray.h"
+#include "render/Text.h"
 #include "tests/support/Messages.h"
 
 #include <gtest/gtest.h>

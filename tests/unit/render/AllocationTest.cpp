@@ -10,14 +10,6 @@
 #include <memory>
 #include <string>
 
-namespace
-{
-struct NoSink : render::FrameSink
-{
-    void Present(int, int, std::span<const std::uint8_t>) override {}
-};
-}
-
 TEST(Allocation, NoneInAFrameWithTextSpritesAndParticles)
 {
     base::Random random;
@@ -48,7 +40,6 @@ TEST(Allocation, NoneInAFrameWithTextSpritesAndParticles)
         render::MakeLabel2D(scene, 120, 100, style, 1.5f, 4, {9, 9, 9}, 1, "PRIMA\tRIGA\r\nSECONDA RIGA");
     scenes::View view(600, 312, 0, 5);
     view.Look(100, 3, 100, 0.1f, -0.1f);
-    NoSink sink;
     std::string text;
     const auto frame = [&](int number)
     {
@@ -58,7 +49,7 @@ TEST(Allocation, NoneInAFrameWithTextSpritesAndParticles)
         render::AdvanceParticles(scene, random);
         text.assign(static_cast<std::size_t>(number % 30), 'X');
         render::SetLabelText(scene, 0, text);
-        RenderFrame(scene, view.Camera, view.Screen, &sink);
+        RenderFrame(scene, view.Camera, view.Screen, view.Threads);
     };
     for (int number = 0; number < 60; ++number)
         frame(number);

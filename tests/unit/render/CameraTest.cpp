@@ -158,7 +158,7 @@ TEST(WrapAngle, WhatIsNoAngleStaysNone)
 
 TEST(SplitRGB, RedIsTheLowByte)
 {
-    const render::Rgb colour = render::SplitRGB(0x123456);
+    const base::Rgb colour = render::SplitRGB(0x123456);
     EXPECT_EQ(colour.R, 0x56);
     EXPECT_EQ(colour.G, 0x34);
     EXPECT_EQ(colour.B, 0x12);

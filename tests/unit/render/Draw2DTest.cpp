@@ -13,7 +13,7 @@ namespace
 struct Paper : scenes::View
 {
     Paper() : View(6, 4) {}
-    render::Surface Surface() { return render::FrameSurface(Screen); }
+    base::Surface Surface() { return render::FrameSurface(Screen); }
     std::string Rows() const
     {
         std::string text;

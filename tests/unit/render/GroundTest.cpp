@@ -1,6 +1,8 @@
 #include "render/Ground.h"
 
+#include "render/GroundPlain.h"
 #include "render/RenderFrame.h"
+#include "render/RowTables.h"
 #include "tests/support/Scenes.h"
 
 #include <gtest/gtest.h>
@@ -28,19 +30,20 @@ void Compare(const render::Scene& scene, scenes::View& view)
     render::Screen& screen = view.Screen;
     render::UpdateSkyOffset(view.Camera, screen);
     render::UpdateRowTables(view.Camera, screen);
+    render::UpdateColumnSlopes(view.Camera, screen);
     std::fill(screen.Frame.Bytes.begin(), screen.Frame.Bytes.end(), std::uint8_t{77});
-    std::fill(screen.Depth.begin(), screen.Depth.end(), 1.0f);
-    render::GroundPlain(render::MakeGroundView(scene, view.Camera, screen), {0, screen.ScreenMaxX}, screen.TxtFilter);
+    std::fill(screen.Depth.Cells.begin(), screen.Depth.Cells.end(), 1.0f);
+    render::GroundPlain(render::MakeGroundView(scene, view.Camera, screen), {0, screen.ScreenMaxX});
     const std::vector<std::uint8_t> plain = screen.Frame.Bytes;
-    const std::vector<float> depth = screen.Depth;
+    const std::vector<float> depth = screen.Depth.Cells;
     std::fill(screen.Frame.Bytes.begin(), screen.Frame.Bytes.end(), std::uint8_t{77});
-    std::fill(screen.Depth.begin(), screen.Depth.end(), 1.0f);
-    render::DrawGround(scene, view.Camera, screen);
+    std::fill(screen.Depth.Cells.begin(), screen.Depth.Cells.end(), 1.0f);
+    render::DrawGround(scene, view.Camera, screen, view.Threads);
     const auto differs = std::mismatch(plain.begin(), plain.end(), screen.Frame.Bytes.begin());
     ASSERT_EQ(differs.first, plain.end())
         << "first other byte in row " << (differs.first - plain.begin()) / screen.Frame.RowBytes << ", column "
         << (differs.first - plain.begin()) % screen.Frame.RowBytes / 3;
-    ASSERT_EQ(depth, screen.Depth);
+    ASSERT_EQ(depth, screen.Depth.Cells);
 }
 
 // Pixels of the frame that are not the sky's.
@@ -95,17 +98,20 @@ void Draw(const render::Scene& scene, scenes::View& view)
 {
     render::UpdateSkyOffset(view.Camera, view.Screen);
     render::UpdateRowTables(view.Camera, view.Screen);
-    render::DrawGround(scene, view.Camera, view.Screen);
+    render::UpdateColumnSlopes(view.Camera, view.Screen);
+    render::DrawGround(scene, view.Camera, view.Screen, view.Threads);
 }
 
 // A ground of one grey, sharp and blurred, with the row weight given.
-std::unique_ptr<scenes::View> DrawWeighted(render::Scene& scene, int filter, float aux)
+std::unique_ptr<scenes::View> DrawWeighted(render::Scene& scene, int filter, float weight)
 {
     auto view = std::make_unique<scenes::View>(240, 200, filter);
     view->Look(100, 1, 100, 0, 0);
     render::UpdateRowTables(view->Camera, view->Screen);
-    std::fill(view->Screen.RowAux.begin(), view->Screen.RowAux.end(), aux);
-    render::DrawGround(scene, view->Camera, view->Screen);
+    render::UpdateColumnSlopes(view->Camera, view->Screen);
+    for (std::vector<float>* table : {&view->Screen.BlurWeight, &view->Screen.TapCount})
+        std::fill(table->begin(), table->end(), weight);
+    render::DrawGround(scene, view->Camera, view->Screen, view->Threads);
     return view;
 }
 }
@@ -252,9 +258,9 @@ TEST(Ground, EmptiesEveryDepthCell)
     const render::Scene scene = CountedScene(100, 100);
     scenes::View view(241, 201, 2);
     view.Look(50, 1, 20, 0, 0);
-    std::fill(view.Screen.Depth.begin(), view.Screen.Depth.end(), 1.0f);
+    std::fill(view.Screen.Depth.Cells.begin(), view.Screen.Depth.Cells.end(), 1.0f);
     Draw(scene, view);
-    EXPECT_EQ(view.Screen.Depth, std::vector<float>(241 * 201, 3.4028230607370965e38f));
+    EXPECT_EQ(view.Screen.Depth.Cells, std::vector<float>(241 * 201, 3.4028230607370965e38f));
 }
 
 // With the weight at its limit one eighth of the sharp texel still shows.
@@ -328,11 +334,12 @@ TEST(Ground, StepsThatEndBetweenTexelsFollowThePlainRule)
             view.Look(place, 1, place, 0, 0);
             view.Camera.CamCosYaw = cosYaw; // a = 0 in the middle column: dv is the cosine itself
             render::UpdateRowTables(view.Camera, view.Screen);
-            std::fill(view.Screen.RowAux.begin(), view.Screen.RowAux.end(), 14.0f);
+            render::UpdateColumnSlopes(view.Camera, view.Screen);
+            std::fill(view.Screen.TapCount.begin(), view.Screen.TapCount.end(), 14.0f);
             const Band all{0, view.Screen.ScreenMaxX};
-            render::GroundPlain(render::MakeGroundView(scene, view.Camera, view.Screen), all, 2);
+            render::GroundPlain(render::MakeGroundView(scene, view.Camera, view.Screen), all);
             const std::vector<std::uint8_t> plain = view.Screen.Frame.Bytes;
-            render::DrawGround(scene, view.Camera, view.Screen);
+            render::DrawGround(scene, view.Camera, view.Screen, view.Threads);
             EXPECT_NE(view.Screen.Taps[120].HasTies, 0);
             EXPECT_EQ(view.Screen.Taps[3].HasTies, 0);
             EXPECT_EQ(plain, view.Screen.Frame.Bytes);
@@ -368,7 +375,7 @@ TEST(Ground, AnyNumberOfThreadsDrawsTheSame)
             many.Look(50, 3, 30, 0.3f, -0.1f);
             Draw(scene, many);
             ASSERT_EQ(many.Screen.Frame.Bytes, one.Screen.Frame.Bytes) << filter << " " << threads;
-            ASSERT_EQ(many.Screen.Depth, one.Screen.Depth);
+            ASSERT_EQ(many.Screen.Depth.Cells, one.Screen.Depth.Cells);
         }
     }
 }

@@ -58,7 +58,7 @@ TEST(DrawLine3D, DepthIsLinearAndTestedLikeThatOfTriangles)
     EXPECT_EQ(view.Depth(160, 100), 150.0f);
     EXPECT_EQ(view.Depth(200, 100), 100.0f);
     Lines hidden;
-    std::fill(hidden.Screen.Depth.begin(), hidden.Screen.Depth.end(), 150.0f);
+    std::fill(hidden.Screen.Depth.Cells.begin(), hidden.Screen.Depth.Cells.end(), 150.0f);
     hidden.Draw({0, 0, 200}, {40, 0, 100});
     EXPECT_EQ(scenes::Bytes(hidden.Pixel(160, 100)), 0u); // equal depth: the first stays
     EXPECT_EQ(scenes::Bytes(hidden.Pixel(161, 100)), 0x1E140Au);

@@ -1,8 +1,9 @@
 #include "render/RenderFrame.h"
 
 #include "render/Draw2D.h"
-#include "render/Ground.h"
+#include "render/GroundPlain.h"
 #include "render/Lines.h"
+#include "render/RowTables.h"
 #include "render/Sprites.h"
 #include "render/Triangles.h"
 #include "tests/support/Scenes.h"
@@ -22,19 +23,6 @@ namespace
 {
 constexpr unsigned Red = 0x0000FF, Green = 0x00FF00, Blue = 0xFF0000; // as Bytes() gives them
 
-struct Shown : render::FrameSink
-{
-    int Times = 0, Width = 0, Height = 0;
-    std::span<const std::uint8_t> Bits;
-    void Present(int width, int height, std::span<const std::uint8_t> bits) override
-    {
-        ++Times;
-        Width = width;
-        Height = height;
-        Bits = bits;
-    }
-};
-
 // 240 x 200, zoom 200, centre (120, 100), the eye in the origin: at depth 200 a unit is a pixel.
 struct Eye : scenes::View
 {
@@ -42,13 +30,13 @@ struct Eye : scenes::View
     explicit Eye(int threads = 1) : View(240, 200, 0, threads) { Look(0, 0, 0, 0, 0); }
     unsigned At(int x, int y)
     {
-        RenderFrame(Scene, Camera, Screen, nullptr);
+        RenderFrame(Scene, Camera, Screen, Threads);
         return scenes::Bytes(Pixel(x, y));
     }
     // Whether anything but the black sky is in the frame.
     bool Draws()
     {
-        RenderFrame(Scene, Camera, Screen, nullptr);
+        RenderFrame(Scene, Camera, Screen, Threads);
         return std::any_of(Screen.Frame.Bytes.begin(), Screen.Frame.Bytes.end(), [](int byte) { return byte != 0; });
     }
 };
@@ -58,7 +46,7 @@ render::ObjMesh Square(float x, float y, float z, float side, std::int32_t colou
 {
     render::ObjMesh mesh;
     mesh.Colour = colour;
-    const render::Rgb split = render::SplitRGB(colour);
+    const base::Rgb split = render::SplitRGB(colour);
     mesh.ColR = split.R;
     mesh.ColG = split.G;
     mesh.ColB = split.B;
@@ -91,32 +79,28 @@ void Add(Scene& scene, Obj object)
 }
 }
 
-TEST(RenderFrame, PresentsTheFrameOnceWithItsPaddedRows)
+TEST(RenderFrame, FillsTheFrameWithItsPaddedRows)
 {
     scenes::View view(241, 201);
-    Shown shown;
     Scene scene;
-    RenderFrame(scene, view.Camera, view.Screen, &shown);
-    EXPECT_EQ(shown.Times, 1);
-    EXPECT_EQ(shown.Width, 241);
-    EXPECT_EQ(shown.Height, 201);
-    EXPECT_EQ(shown.Bits.data(), view.Screen.Frame.Bytes.data()); // not a copy
-    EXPECT_EQ(shown.Bits.size(), 724u * 201u);
-    RenderFrame(scene, view.Camera, view.Screen, nullptr);
-    EXPECT_EQ(shown.Times, 1);
+    std::fill(view.Screen.Frame.Bytes.begin(), view.Screen.Frame.Bytes.end(), std::uint8_t{77});
+    RenderFrame(scene, view.Camera, view.Screen, view.Threads);
+    EXPECT_EQ(view.Screen.Frame.Bytes.size(), 724u * 201u);
+    EXPECT_EQ(scenes::Bytes(view.Pixel(0, 0)), 0u);
+    EXPECT_EQ(scenes::Bytes(view.Pixel(240, 200)), 0u);
+    EXPECT_EQ(view.Screen.Frame.Bytes.back(), 77); // the padding is nobody's
 }
 
 TEST(RenderFrame, WithoutAResolutionNothingHappens)
 {
     render::Screen screen;
-    Shown shown;
-    RenderFrame(Scene(), render::Camera(), screen, &shown);
-    EXPECT_EQ(shown.Times, 0);
+    render::GroundThreads threads;
+    RenderFrame(Scene(), render::Camera(), screen, threads);
+    EXPECT_TRUE(screen.Frame.Empty());
 }
 
-// The time is over before the pass begins: what was in the frame stays, everything after the ground is drawn, and the
-// frame is shown.
-TEST(RenderFrame, AGroundPassOutOfTimeIsCutOffAndTheFrameIsShown)
+// The time is over before the pass begins: what was in the frame stays, and everything after the ground is drawn.
+TEST(RenderFrame, AGroundPassOutOfTimeIsCutOff)
 {
     for (const int threads : {1, 3, 5, 16})
     {
@@ -124,19 +108,16 @@ TEST(RenderFrame, AGroundPassOutOfTimeIsCutOffAndTheFrameIsShown)
         render::MakeRect2D(view.Scene, 10, 10, 5, 5, 0, {255, 0, 0}, 1);
         std::fill(view.Screen.Frame.Bytes.begin(), view.Screen.Frame.Bytes.end(), std::uint8_t{77});
         view.Screen.GroundLimit = 0;
-        Shown shown;
-        RenderFrame(view.Scene, view.Camera, view.Screen, &shown);
-        EXPECT_EQ(shown.Times, 1);
+        RenderFrame(view.Scene, view.Camera, view.Screen, view.Threads);
         EXPECT_EQ(scenes::Bytes(view.Pixel(200, 100)), 0x4D4D4Du);
         EXPECT_EQ(scenes::Bytes(view.Pixel(12, 12)), Red);
         view.Screen.GroundLimit = 600000;
-        RenderFrame(view.Scene, view.Camera, view.Screen, &shown);
-        EXPECT_EQ(shown.Times, 2);
+        RenderFrame(view.Scene, view.Camera, view.Screen, view.Threads);
         EXPECT_EQ(scenes::Bytes(view.Pixel(200, 100)), 0u); // whole again
     }
 }
 
-// A pass that is truly too slow: two walkers cannot draw twelve million pixels in a millisecond.
+// A pass that is truly too slow: two threads cannot draw twelve million pixels in a millisecond.
 TEST(RenderFrame, ASlowGroundPassLeavesItsLastRowsAsTheyWere)
 {
     scenes::View view(4000, 3000, 2, 5);
@@ -146,12 +127,10 @@ TEST(RenderFrame, ASlowGroundPassLeavesItsLastRowsAsTheyWere)
     scene.Sky = scenes::Noise(random, render::SkyWidth, 50);
     scenes::SetGround(scene, scenes::Noise(random, 500, 500));
     view.Look(250, 40, 250, 0.5f, -1.5f);
-    std::fill(view.Screen.Depth.begin(), view.Screen.Depth.end(), 1.0f);
+    std::fill(view.Screen.Depth.Cells.begin(), view.Screen.Depth.Cells.end(), 1.0f);
     view.Screen.GroundLimit = 1;
-    Shown shown;
-    RenderFrame(scene, view.Camera, view.Screen, &shown);
-    EXPECT_EQ(shown.Times, 1);
-    EXPECT_GT(std::count(view.Screen.Depth.begin(), view.Screen.Depth.end(), 1.0f), 0);
+    RenderFrame(scene, view.Camera, view.Screen, view.Threads);
+    EXPECT_GT(std::count(view.Screen.Depth.Cells.begin(), view.Screen.Depth.Cells.end(), 1.0f), 0);
 }
 
 TEST(RenderFrame, TheLimitIs60Milliseconds)
@@ -400,7 +379,8 @@ void DrawPlain(const Scene& scene, const render::Camera& camera, render::Screen&
 {
     UpdateSkyOffset(camera, screen);
     UpdateRowTables(camera, screen);
-    GroundPlain(MakeGroundView(scene, camera, screen), {0, screen.ScreenMaxX}, screen.TxtFilter);
+    UpdateColumnSlopes(camera, screen);
+    GroundPlain(MakeGroundView(scene, camera, screen), {0, screen.ScreenMaxX});
     for (const Obj& object : scene.Objects.Items)
     {
         const render::Point3 c = WorldToCamera(camera, object.X, object.Y, object.Z);
@@ -417,16 +397,16 @@ void DrawPlain(const Scene& scene, const render::Camera& camera, render::Screen&
             const auto corner = [&](int i, int j)
             {
                 const render::MeshPt& p = mesh.Pts.At(i, j);
-                return SeeCorner(camera, screen, RotatePoint(rotation, object.X, object.Y, object.Z, p.X, p.Y, p.Z),
-                                 p.U, p.V);
+                return TransformVertex(camera, screen,
+                                       RotatePoint(rotation, object.X, object.Y, object.Z, p.X, p.Y, p.Z), p.U, p.V);
             };
-            const auto triangle = [&](const render::Corner& p, const render::Corner& q, const render::Corner& s)
+            const auto triangle = [&](const render::Vertex& p, const render::Vertex& q, const render::Vertex& s)
             {
                 if (mesh.Colour < 0)
-                    DrawTriTex(camera, screen, p, q, s,
-                               render::MakeTexelField(scene.Textures.At(mesh.TexIndex).Pic.Pixels, 30, 20));
+                    DrawTriTex(camera, screen, {p, q, s},
+                               render::MakeSurface(scene.Textures.At(mesh.TexIndex).Pic.Pixels, 30, 20));
                 else
-                    DrawTriFlat(scene, camera, screen, p.World, q.World, s.World, {mesh.ColR, mesh.ColG, mesh.ColB});
+                    DrawTriFlat(scene, camera, screen, {p, q, s}, {mesh.ColR, mesh.ColG, mesh.ColB});
             };
             for (int i = 0; i <= mesh.Rows - 2 && mesh.Free == 0; ++i)
                 for (int j = 0; j <= mesh.Cols - 2; ++j)
@@ -438,12 +418,14 @@ void DrawPlain(const Scene& scene, const render::Camera& camera, render::Screen&
     }
     for (const render::ObjMesh& mesh : scene.WorldMeshes)
     {
-        const auto world = [&](int i, int j) {
-            return render::Point3{mesh.Pts.At(i, j).X, mesh.Pts.At(i, j).Y, mesh.Pts.At(i, j).Z};
+        const auto vertex = [&](int i, int j)
+        {
+            const render::MeshPt& p = mesh.Pts.At(i, j);
+            return TransformVertex(camera, screen, {p.X, p.Y, p.Z});
         };
-        const render::Rgb colour{mesh.ColR, mesh.ColG, mesh.ColB};
-        DrawTriFlat(scene, camera, screen, world(0, 0), world(1, 0), world(0, 1), colour);
-        DrawTriFlat(scene, camera, screen, world(1, 1), world(1, 0), world(0, 1), colour);
+        const base::Rgb colour{mesh.ColR, mesh.ColG, mesh.ColB};
+        DrawTriFlat(scene, camera, screen, {vertex(0, 0), vertex(1, 0), vertex(0, 1)}, colour);
+        DrawTriFlat(scene, camera, screen, {vertex(1, 1), vertex(1, 0), vertex(0, 1)}, colour);
     }
     for (const render::Poly& poly : scene.Polys.Items)
         for (std::size_t i = 0; i + 1 < poly.Pts.size(); ++i)
@@ -475,10 +457,10 @@ TEST(RenderFrame, IsThePlainFrameForRandomWorlds)
             { return static_cast<float>(scenes::Draw(place, least, most)); };
             view->Look(draw(0, 120), draw(0.5, 12), draw(0, 90), draw(-4, 4), draw(-0.9, 0.3));
         }
-        RenderFrame(scene, fast.Camera, fast.Screen, nullptr);
+        RenderFrame(scene, fast.Camera, fast.Screen, fast.Threads);
         DrawPlain(scene, plain.Camera, plain.Screen);
         ASSERT_EQ(fast.Screen.Frame.Bytes, plain.Screen.Frame.Bytes) << round;
-        ASSERT_EQ(fast.Screen.Depth, plain.Screen.Depth) << round;
+        ASSERT_EQ(fast.Screen.Depth.Cells, plain.Screen.Depth.Cells) << round;
     }
 }
 
@@ -536,6 +518,6 @@ TEST(RenderFrame, NumbersThatAreNoneDoNoHarm)
             if (round % 4 == 0)
                 UpdateCameraTrig(view.Camera);
         }
-        RenderFrame(scene, view.Camera, view.Screen, nullptr);
+        RenderFrame(scene, view.Camera, view.Screen, view.Threads);
     }
 }

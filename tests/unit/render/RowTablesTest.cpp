@@ -1,4 +1,4 @@
-#include "render/RenderFrame.h"
+#include "render/RowTables.h"
 
 #include "tests/support/Scenes.h"
 
@@ -62,15 +62,15 @@ TEST(RowTables, RowsAtOrAboveTheHorizonKeepTheirOldEntries)
     view.Look(0, 1, 0, 0, 0);
     view.Screen.RowSlant.assign(200, 7.0f);
     view.Screen.RowDist.assign(200, 8.0f);
-    view.Screen.RowAux.assign(200, 9.0f);
+    view.Screen.TapCount.assign(200, 9.0f);
     UpdateRowTables(view.Camera, view.Screen);
     // Row 98 looks down by atan(0.01), a little less than 0.01: sky. Row 97 is ground.
     EXPECT_EQ(view.Screen.RowSlant[98], 7.0f);
     EXPECT_EQ(view.Screen.RowDist[98], 8.0f);
-    EXPECT_EQ(view.Screen.RowAux[98], 9.0f);
+    EXPECT_EQ(view.Screen.TapCount[98], 9.0f);
     EXPECT_NE(view.Screen.RowSlant[97], 7.0f);
     EXPECT_NE(view.Screen.RowDist[97], 8.0f);
-    EXPECT_NE(view.Screen.RowAux[97], 9.0f);
+    EXPECT_NE(view.Screen.TapCount[97], 9.0f);
 }
 
 TEST(RowTables, ARowAboveTheHorizonIsSkyEvenWithTheCameraFarDown)
@@ -89,11 +89,11 @@ TEST(RowTables, LinearWeightGrowsToSevenEighths)
     view.Look(0, 1, 0, 0, 0);
     UpdateRowTables(view.Camera, view.Screen);
     // (1.570796 - 0.463648) x 2.236068 / 200
-    EXPECT_NEAR(view.Screen.RowAux[0], 0.0123783, 1e-6);
-    EXPECT_LT(view.Screen.RowAux[50], 0.875f);
+    EXPECT_NEAR(view.Screen.BlurWeight[0], 0.0123783, 1e-6);
+    EXPECT_LT(view.Screen.BlurWeight[50], 0.875f);
     view.Look(0, 100, 0, 0, 0);
     UpdateRowTables(view.Camera, view.Screen);
-    EXPECT_EQ(view.Screen.RowAux[0], 0.875f);
+    EXPECT_EQ(view.Screen.BlurWeight[0], 0.875f);
 }
 
 TEST(RowTables, AnisotropicWidthIsTwiceTheStepToTheRowBelow)
@@ -101,23 +101,25 @@ TEST(RowTables, AnisotropicWidthIsTwiceTheStepToTheRowBelow)
     scenes::View view(240, 200, 2);
     view.Look(0, 1, 0, 0, 0);
     UpdateRowTables(view.Camera, view.Screen);
-    EXPECT_EQ(view.Screen.RowAux[0], 0.0f);
-    EXPECT_NEAR(view.Screen.RowAux[1], 2.0 * (200.0 / 99.0 - 2.0), 1e-6);
+    EXPECT_EQ(view.Screen.TapCount[0], 0.0f);
+    EXPECT_NEAR(view.Screen.TapCount[1], 2.0 * (200.0 / 99.0 - 2.0), 1e-6);
     view.Look(0, 100, 0, 0, 0);
     UpdateRowTables(view.Camera, view.Screen);
-    EXPECT_EQ(view.Screen.RowAux[97], 14.0f);
+    EXPECT_EQ(view.Screen.TapCount[97], 14.0f);
 }
 
-TEST(RowTables, WithoutAFilterTheAuxiliaryStays)
+TEST(RowTables, WithoutAFilterWeightsAndCountsStay)
 {
     scenes::View view(240, 200, 0);
-    view.Screen.RowAux.assign(200, 9.0f);
+    view.Screen.BlurWeight.assign(200, 9.0f);
+    view.Screen.TapCount.assign(200, 9.0f);
     view.Look(0, 1, 0, 0, 0);
     UpdateRowTables(view.Camera, view.Screen);
-    EXPECT_EQ(view.Screen.RowAux[0], 9.0f);
+    EXPECT_EQ(view.Screen.BlurWeight[0], 9.0f);
+    EXPECT_EQ(view.Screen.TapCount[0], 9.0f);
 }
 
-TEST(RowTables, WeightsAreNeverNegativeNorNoNumber)
+TEST(RowTables, WeightsAndCountsAreNeverNegativeNorNoNumber)
 {
     base::Random random;
     random.Seed(3);
@@ -137,7 +139,9 @@ TEST(RowTables, WeightsAreNeverNegativeNorNoNumber)
                     view.Look(0, height, 0, 0, pitch);
                     view.Camera.Zoom = zoom;
                     UpdateRowTables(view.Camera, view.Screen);
-                    for (const float aux : view.Screen.RowAux)
-                        ASSERT_TRUE(aux >= 0.0f && aux <= (filter == 1 ? 0.875f : 14.0f));
+                    for (const float weight : view.Screen.BlurWeight)
+                        ASSERT_TRUE(weight >= 0.0f && weight <= 0.875f);
+                    for (const float count : view.Screen.TapCount)
+                        ASSERT_TRUE(count >= 0.0f && count <= 14.0f);
                 }
 }

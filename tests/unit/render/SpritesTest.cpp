@@ -111,8 +111,8 @@ TEST(DrawSprite3D, DepthMustLieBeyondNearAndWithin400)
 TEST(DrawSprite3D, IsHiddenByWhatIsNotFarther)
 {
     Sprites view;
-    view.Screen.Depth[100 * 240 + 119] = NearDepth; // equal: the one drawn first stays
-    view.Screen.Depth[100 * 240 + 121] = NearDepth + 0.001f;
+    view.Screen.Depth.Cells[100 * 240 + 119] = NearDepth; // equal: the one drawn first stays
+    view.Screen.Depth.Cells[100 * 240 + 121] = NearDepth + 0.001f;
     view.Draw(MakeSprite(OneColour(3, 1, 9), 1.0f / 128));
     EXPECT_EQ(view.Box(), "120-121 100-100");
 }
@@ -157,12 +157,12 @@ TEST(DrawSprite3D, FastIsPlainForRandomSprites)
     for (int round = 0; round < 400; ++round)
     {
         Sprites plain, fast;
-        for (std::size_t i = 0; i < plain.Screen.Depth.size(); ++i)
+        for (std::size_t i = 0; i < plain.Screen.Depth.Cells.size(); ++i)
         {
-            plain.Screen.Depth[i] = static_cast<float>(scenes::Draw(random, 0, 40));
+            plain.Screen.Depth.Cells[i] = static_cast<float>(scenes::Draw(random, 0, 40));
             plain.Screen.Frame.Bytes[i] = static_cast<std::uint8_t>(i * 7);
         }
-        fast.Screen.Depth = plain.Screen.Depth;
+        fast.Screen.Depth.Cells = plain.Screen.Depth.Cells;
         fast.Screen.Frame.Bytes = plain.Screen.Frame.Bytes;
         const std::vector<std::uint8_t> before = plain.Screen.Frame.Bytes;
         Sprite3D sprite =
@@ -175,7 +175,7 @@ TEST(DrawSprite3D, FastIsPlainForRandomSprites)
         DrawSprite3DPlain(plain.Camera, plain.Screen, sprite);
         fast.Draw(sprite);
         ASSERT_EQ(plain.Screen.Frame.Bytes, fast.Screen.Frame.Bytes) << round;
-        ASSERT_EQ(plain.Screen.Depth, fast.Screen.Depth) << round;
+        ASSERT_EQ(plain.Screen.Depth.Cells, fast.Screen.Depth.Cells) << round;
         drawn += plain.Screen.Frame.Bytes != before ? 1 : 0;
     }
     EXPECT_GT(drawn, 200u);

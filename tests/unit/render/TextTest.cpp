@@ -1,4 +1,4 @@
-#include "render/Font.h"
+#include "render/Text.h"
 
 #include <gtest/gtest.h>
 
@@ -7,7 +7,6 @@
 #include <string>
 #include <vector>
 
-using render::Colour;
 using render::Font;
 using render::Glyph;
 
@@ -22,7 +21,7 @@ struct Paper
     Paper(int width, int height) : Width(width), Height(height), Bytes(static_cast<std::size_t>(width * 3 * height), 99)
     {
     }
-    render::Surface Surface() { return {Bytes.data(), Width * 3, Width, Height}; }
+    base::Surface Surface() { return {Bytes.data(), Width * 3, Width, Height}; }
     std::string Rows() const
     {
         std::string text;
@@ -69,13 +68,13 @@ Font SmallFont()
     return font;
 }
 
-constexpr Colour White{255, 254, 253};
+constexpr base::Rgb White{255, 254, 253};
 }
 
 TEST(DrawGlyph, EveryInkedRunHasADarkEdgeAboveIt)
 {
     Paper paper(5, 5);
-    render::DrawGlyph(paper.Surface(), MakeGlyph({"...", "#.#", "...", "##."}), 1, 0, 1.0f, White, 1.0f);
+    render::DrawGlyph(paper.Surface(), MakeGlyph({"...", "#.#", "...", "##."}), 1, 0, {1.0f, 0, White, 1.0f});
     EXPECT_EQ(paper.Rows(), ".....\n"
                             ".-.-.\n"
                             ".#.#.\n"
@@ -86,7 +85,7 @@ TEST(DrawGlyph, EveryInkedRunHasADarkEdgeAboveIt)
 TEST(DrawGlyph, ColourBytesAreBlueGreenRed)
 {
     Paper paper(1, 1);
-    render::DrawGlyph(paper.Surface(), MakeGlyph({"#"}), 0, 0, 1.0f, {1, 2, 3}, 1.0f);
+    render::DrawGlyph(paper.Surface(), MakeGlyph({"#"}), 0, 0, {1.0f, 0, {1, 2, 3}, 1.0f});
     EXPECT_EQ(paper.Bytes, (std::vector<std::uint8_t>{3, 2, 1}));
 }
 
@@ -94,7 +93,7 @@ TEST(DrawGlyph, ColourBytesAreBlueGreenRed)
 TEST(DrawGlyph, ScaledGlyphsSampleTheMaskAndKeepAOnePixelEdge)
 {
     Paper paper(5, 6);
-    render::DrawGlyph(paper.Surface(), MakeGlyph({"..", "..", "#."}), 1, 1, 2.0f, White, 1.0f);
+    render::DrawGlyph(paper.Surface(), MakeGlyph({"..", "..", "#."}), 1, 1, {2.0f, 0, White, 1.0f});
     EXPECT_EQ(paper.Rows(), ".....\n"
                             ".....\n"
                             ".--..\n"
@@ -107,7 +106,7 @@ TEST(DrawGlyph, ShrunkGlyphsDropRowsAndColumns)
 {
     Paper paper(4, 4);
     // Columns 0 … floor(3 x 0.5) = 1 sample 0 and 2.
-    render::DrawGlyph(paper.Surface(), MakeGlyph({"####", "#.#.", "####", "...."}), 0, 0, 0.5f, White, 1.0f);
+    render::DrawGlyph(paper.Surface(), MakeGlyph({"####", "#.#.", "####", "...."}), 0, 0, {0.5f, 0, White, 1.0f});
     EXPECT_EQ(paper.Rows(), "....\n"
                             "....\n"
                             "##..\n"
@@ -118,13 +117,13 @@ TEST(DrawGlyph, ClippedOnAllFourSidesItIsTheSameGlyph)
 {
     const Glyph glyph = MakeGlyph({"....", "#..#", ".##.", "#..#"});
     Paper whole(12, 12);
-    render::DrawGlyph(whole.Surface(), glyph, 4, 4, 1.0f, White, 1.0f);
+    render::DrawGlyph(whole.Surface(), glyph, 4, 4, {1.0f, 0, White, 1.0f});
     for (int dx = -4; dx <= 3; ++dx)
         for (int dy = -4; dy <= 3; ++dy)
         {
             // A window of 3 x 3 on the same picture.
             Paper part(3, 3);
-            render::DrawGlyph(part.Surface(), glyph, dx, dy, 1.0f, White, 1.0f);
+            render::DrawGlyph(part.Surface(), glyph, dx, dy, {1.0f, 0, White, 1.0f});
             for (int y = 0; y < 3; ++y)
                 for (int x = 0; x < 3; ++x)
                     ASSERT_EQ(part.Bytes[static_cast<std::size_t>((y * 3 + x) * 3)],
@@ -136,16 +135,16 @@ TEST(DrawGlyph, ClippedOnAllFourSidesItIsTheSameGlyph)
 TEST(DrawGlyph, AnotherFactorRoundsEachChannelDownAndKeepsTheEdge)
 {
     Paper paper(1, 2);
-    render::DrawGlyph(paper.Surface(), MakeGlyph({".", "#"}), 0, 0, 1.0f, {255, 101, 3}, 0.5f);
+    render::DrawGlyph(paper.Surface(), MakeGlyph({".", "#"}), 0, 0, {1.0f, 0, {255, 101, 3}, 0.5f});
     EXPECT_EQ(paper.Bytes, (std::vector<std::uint8_t>{1, 50, 127, 0, 0, 0}));
 }
 
 TEST(DrawGlyph, FactorsOutsideZeroToOneStayWithinAByte)
 {
     Paper paper(1, 1);
-    render::DrawGlyph(paper.Surface(), MakeGlyph({"#"}), 0, 0, 1.0f, {255, 101, 3}, 4.0f);
+    render::DrawGlyph(paper.Surface(), MakeGlyph({"#"}), 0, 0, {1.0f, 0, {255, 101, 3}, 4.0f});
     EXPECT_EQ(paper.Bytes, (std::vector<std::uint8_t>{12, 255, 255}));
-    render::DrawGlyph(paper.Surface(), MakeGlyph({"#"}), 0, 0, 1.0f, {255, 101, 3}, -1.0f);
+    render::DrawGlyph(paper.Surface(), MakeGlyph({"#"}), 0, 0, {1.0f, 0, {255, 101, 3}, -1.0f});
     EXPECT_EQ(paper.Bytes, (std::vector<std::uint8_t>{0, 0, 0}));
 }
 
@@ -155,11 +154,11 @@ TEST(DrawGlyph, ScalesAndPlacesThatAreNoNumbersDrawNothing)
     const std::string before = paper.Rows();
     const float nan = std::numeric_limits<float>::quiet_NaN(), inf = std::numeric_limits<float>::infinity();
     for (const float scale : {nan, inf, -inf, 0.0f, -1.0f, 1e30f})
-        render::DrawGlyph(paper.Surface(), MakeGlyph({"##", "##"}), 0, 0, scale, White, 1.0f);
-    render::DrawGlyph(paper.Surface(), MakeGlyph({"#"}), 0, 0, 1.0f, White, nan);
+        render::DrawGlyph(paper.Surface(), MakeGlyph({"##", "##"}), 0, 0, {scale, 0, White, 1.0f});
+    render::DrawGlyph(paper.Surface(), MakeGlyph({"#"}), 0, 0, {1.0f, 0, White, nan});
     constexpr std::int32_t most = std::numeric_limits<std::int32_t>::max();
     for (const std::int32_t far : {most, -most - 1})
-        render::DrawGlyph(paper.Surface(), MakeGlyph({"#"}), far, far, 1.0f, White, 1.0f);
+        render::DrawGlyph(paper.Surface(), MakeGlyph({"#"}), far, far, {1.0f, 0, White, 1.0f});
     EXPECT_EQ(paper.Rows(), before);
 }
 
@@ -212,7 +211,7 @@ TEST(TabPixels, CellsOfTheWidestGlyph)
 TEST(DrawTextLeft, LinesGoDownFromTheAnchor)
 {
     Paper paper(8, 7);
-    render::DrawTextLeft(paper.Surface(), SmallFont(), 1, 4, 1.0f, 0, White, 1.0f, "iw\r\nwi");
+    render::DrawTextLeft(paper.Surface(), SmallFont(), {1.0f, 0, White, 1.0f}, 1, 4, "iw\r\nwi");
     EXPECT_EQ(paper.Rows(), "........\n"
                             ".#......\n"
                             ".#.###..\n"
@@ -225,7 +224,7 @@ TEST(DrawTextLeft, LinesGoDownFromTheAnchor)
 TEST(DrawTextLeft, TabsCountFromTheAnchor)
 {
     Paper paper(10, 2);
-    render::DrawTextLeft(paper.Surface(), SmallFont(), 2, 0, 1.0f, 5, White, 1.0f, "i\ti");
+    render::DrawTextLeft(paper.Surface(), SmallFont(), {1.0f, 5, White, 1.0f}, 2, 0, "i\ti");
     EXPECT_EQ(paper.Rows(), "..#....#..\n"
                             "..#....#..\n");
 }
@@ -233,7 +232,7 @@ TEST(DrawTextLeft, TabsCountFromTheAnchor)
 TEST(DrawTextRight, EndsAtTheAnchorAndStacksEarlierLinesAbove)
 {
     Paper paper(8, 6);
-    render::DrawTextRight(paper.Surface(), SmallFont(), 7, 1, 1.0f, White, 1.0f, "wi\r\nw\tw");
+    render::DrawTextRight(paper.Surface(), SmallFont(), {1.0f, 0, White, 1.0f}, 7, 1, "wi\r\nw\tw");
     // The tab is ignored; the first "w" of the last line is cut by the border.
     EXPECT_EQ(paper.Rows(), ".....#..\n"
                             ".###.#..\n"
@@ -246,7 +245,7 @@ TEST(DrawTextRight, EndsAtTheAnchorAndStacksEarlierLinesAbove)
 TEST(DrawTextCentred, EachLineIsCentredTheFirstOnTheAnchor)
 {
     Paper paper(9, 5);
-    render::DrawTextCentred(paper.Surface(), SmallFont(), 4, 3, 1.0f, 0, White, 1.0f, "ww\r\ni");
+    render::DrawTextCentred(paper.Surface(), SmallFont(), {1.0f, 0, White, 1.0f}, 4, 3, "ww\r\ni");
     // "ww" is 8 wide: from 4 - 4; "i" is 2 wide: from 4 - 1.
     EXPECT_EQ(paper.Rows(), ".........\n"
                             "###.###..\n"

@@ -1,4 +1,4 @@
-#include "render/TriangleFill.h"
+#include "render/TriangleFillPlain.h"
 
 #include "tests/support/Scenes.h"
 
@@ -10,14 +10,13 @@
 #include <limits>
 #include <string>
 
-using render::ScreenCorner;
-using render::TexelField;
+using render::ScreenVertex;
 
 namespace
 {
-constexpr render::Rgb Ink{1, 2, 3};
+constexpr base::Rgb Ink{1, 2, 3};
 
-ScreenCorner At(std::int32_t x, std::int32_t y, float z = 1, double u = 0, double v = 0)
+ScreenVertex At(std::int32_t x, std::int32_t y, float z = 1, double u = 0, double v = 0)
 {
     return {x, y, z, u, v};
 }
@@ -35,7 +34,7 @@ std::string Rows(const scenes::View& view)
     return text;
 }
 
-std::string Flat(const ScreenCorner& a, const ScreenCorner& b, const ScreenCorner& c)
+std::string Flat(const ScreenVertex& a, const ScreenVertex& b, const ScreenVertex& c)
 {
     scenes::View view(12, 8);
     FillTriFlat(view.Screen, a, b, c, Ink);
@@ -108,7 +107,7 @@ TEST(FillTri, ATriangleOfOneColumnDrawsIt)
     FillTriFlat(view.Screen, At(5, 0, 1), At(5, 4, 5), At(5, 2, 9), Ink);
     for (int y = 0; y <= 4; ++y)
         EXPECT_EQ(view.Depth(5, y), 1.0f + static_cast<float>(y)); // the long edge's values
-    EXPECT_EQ(std::count_if(view.Screen.Depth.begin(), view.Screen.Depth.end(),
+    EXPECT_EQ(std::count_if(view.Screen.Depth.Cells.begin(), view.Screen.Depth.Cells.end(),
                             [](float z) { return z != render::FarDepth; }),
               5);
 }
@@ -169,7 +168,7 @@ TEST(FillTri, TexelsAreAffineAndNearest)
     const render::Picture picture = Numbered();
     scenes::View view(12, 8, 2);
     FillTriTex(view.Screen, At(0, 0, 1, 0, 0), At(4, 0, 100, 8, 0), At(0, 4, 1, 0, 8),
-               render::MakeTexelField(picture.Pixels, 16, 16));
+               render::MakeSurface(picture.Pixels, 16, 16));
     EXPECT_EQ(view.Pixel(0, 0)[0], 0);
     EXPECT_EQ(view.Pixel(1, 0)[0], 16 * 2);
     EXPECT_EQ(view.Pixel(4, 0)[0], 16 * 8);
@@ -183,7 +182,7 @@ TEST(FillTri, TexelsOfTheSpanEndsAreRoundedFirst)
     const render::Picture picture = Numbered();
     scenes::View view(12, 8);
     FillTriTex(view.Screen, At(0, 0, 1, 2.5, 0), At(8, 0, 1, 3.4, 0), At(0, 4, 1, 2.5, 0),
-               render::MakeTexelField(picture.Pixels, 16, 16));
+               render::MakeSurface(picture.Pixels, 16, 16));
     EXPECT_EQ(view.Pixel(4, 0)[0], 16 * 2); // 2.5 between 2 and 3, ties to even; 2.95 otherwise
     EXPECT_EQ(view.Pixel(5, 0)[0], 16 * 3);
 }
@@ -195,7 +194,7 @@ TEST(FillTri, ABlackTexelHidesNothing)
     scenes::View view(12, 8);
     FillTriFlat(view.Screen, At(0, 0, 5), At(4, 0, 5), At(0, 4, 5), Ink);
     FillTriTex(view.Screen, At(0, 0, 1, 0, 0), At(4, 0, 1, 4, 0), At(0, 4, 1, 0, 4),
-               render::MakeTexelField(picture.Pixels, 16, 16));
+               render::MakeSurface(picture.Pixels, 16, 16));
     EXPECT_EQ(scenes::Bytes(view.Pixel(0, 0)), 0x030201u);
     EXPECT_EQ(view.Depth(0, 0), 5.0f);
     EXPECT_EQ(view.Pixel(1, 0)[0], 16);
@@ -209,7 +208,7 @@ TEST(FillTri, ATexelOutsideItsTextureDrawsNothing)
     const render::Picture picture = Numbered();
     scenes::View view(12, 8);
     FillTriTex(view.Screen, At(0, 0, 1, -2, 1), At(8, 0, 1, 22, 1), At(0, 4, 1, -2, 1),
-               render::MakeTexelField(picture.Pixels, 16, 16));
+               render::MakeSurface(picture.Pixels, 16, 16));
     EXPECT_EQ(view.Depth(0, 0), render::FarDepth); // u -2
     EXPECT_EQ(view.Depth(1, 0), 1.0f);             // u 1
     EXPECT_EQ(view.Depth(5, 0), 1.0f);             // u 13
@@ -221,7 +220,7 @@ TEST(FillTri, FastIsPlainForRandomTriangles)
     base::Random random;
     random.Seed(21);
     const render::Picture picture = scenes::Noise(random, 40, 30, 0.1);
-    const TexelField texture = render::MakeTexelField(picture.Pixels, 40, 30);
+    const base::ConstSurface texture = render::MakeSurface(picture.Pixels, 40, 30);
     scenes::View plain(241, 203), fast(241, 203);
     const double reach[] = {3, 30, 300, 5e3, 1e6, 2.1e9};
     std::size_t drawn = 0;
@@ -229,12 +228,12 @@ TEST(FillTri, FastIsPlainForRandomTriangles)
     {
         if (round % 500 == 0)
             for (scenes::View* view : {&plain, &fast})
-                std::fill(view->Screen.Depth.begin(), view->Screen.Depth.end(), render::FarDepth);
-        ScreenCorner corner[3];
+                std::fill(view->Screen.Depth.Cells.begin(), view->Screen.Depth.Cells.end(), render::FarDepth);
+        ScreenVertex corner[3];
         const double size = reach[round % 6];
         const double x = scenes::Draw(random, 0, 241), y = scenes::Draw(random, 0, 203);
         const double ending = round % 2 == 0 ? 40.0 : 4.0;
-        for (ScreenCorner& c : corner)
+        for (ScreenVertex& c : corner)
             c = At(base::RoundEven(std::clamp(x + scenes::Draw(random, -size, size), -2.1e9, 2.1e9)),
                    base::RoundEven(std::clamp(y + scenes::Draw(random, -size, size), -2.1e9, 2.1e9)),
                    static_cast<float>(scenes::Draw(random, 0.01, ending)), scenes::Draw(random, -5, 45),
@@ -243,7 +242,7 @@ TEST(FillTri, FastIsPlainForRandomTriangles)
             corner[1].Y = corner[0].Y; // flat bottoms and tops
         if (round % 11 == 0)
             corner[2].X = corner[0].X;
-        const render::Rgb colour{static_cast<std::uint8_t>(round), 2, 3};
+        const base::Rgb colour{static_cast<std::uint8_t>(round), 2, 3};
         if (round % 3 == 0)
         {
             FillTriFlatPlain(plain.Screen, corner[0], corner[1], corner[2], colour);
@@ -255,10 +254,11 @@ TEST(FillTri, FastIsPlainForRandomTriangles)
             FillTriTex(fast.Screen, corner[0], corner[1], corner[2], texture);
         }
         ASSERT_EQ(plain.Screen.Frame.Bytes, fast.Screen.Frame.Bytes) << round;
-        ASSERT_EQ(plain.Screen.Depth, fast.Screen.Depth) << round;
+        ASSERT_EQ(plain.Screen.Depth.Cells, fast.Screen.Depth.Cells) << round;
         if (round % 500 == 499)
-            drawn += static_cast<std::size_t>(std::count_if(fast.Screen.Depth.begin(), fast.Screen.Depth.end(),
-                                                            [](float z) { return z != render::FarDepth; }));
+            drawn +=
+                static_cast<std::size_t>(std::count_if(fast.Screen.Depth.Cells.begin(), fast.Screen.Depth.Cells.end(),
+                                                       [](float z) { return z != render::FarDepth; }));
     }
     EXPECT_GT(drawn, 100000u);
 }

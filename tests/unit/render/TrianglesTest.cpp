@@ -9,25 +9,29 @@
 #include <limits>
 
 using render::Point3;
-using render::ScreenCorner;
+using render::ScreenVertex;
 
 namespace
 {
-constexpr render::Rgb Grey{200, 100, 50};
+constexpr base::Rgb Grey{200, 100, 50};
 
 // 240 x 200, zoom 200, centre (120, 100); the eye in the origin, looking along +z.
 struct Origin : scenes::View
 {
     render::Scene Scene;
     Origin() : View(240, 200) { Look(0, 0, 0, 0, 0); }
+    render::Vertex At(const Point3& point, std::int32_t u = 0, std::int32_t v = 0) const
+    {
+        return TransformVertex(Camera, Screen, point, u, v);
+    }
     void Flat(const Point3& a, const Point3& b, const Point3& c)
     {
-        render::DrawTriFlat(Scene, Camera, Screen, a, b, c, Grey);
+        DrawTriFlat(Scene, Camera, Screen, {At(a), At(b), At(c)}, Grey);
     }
     std::size_t Drawn() const
     {
-        return static_cast<std::size_t>(
-            std::count_if(Screen.Depth.begin(), Screen.Depth.end(), [](float z) { return z != render::FarDepth; }));
+        return static_cast<std::size_t>(std::count_if(Screen.Depth.Cells.begin(), Screen.Depth.Cells.end(),
+                                                      [](float z) { return z != render::FarDepth; }));
     }
 };
 }
@@ -127,12 +131,12 @@ TEST(NearPlane, OneCornerBehindLeavesTwoTriangles)
     Origin view;
     view.Flat({-0.3f, -0.2f, 1}, {0.3f, -0.2f, 1}, {0, -0.2f, -1});
     Origin expected;
-    const ScreenCorner a{60, 60, 1}, b{180, 60, 1}, p{-2910, -3900, 0.01f}, q{3150, -3900, 0.01f};
-    const render::Rgb colour{200, 100, 50}; // a level face keeps its light
+    const ScreenVertex a{60, 60, 1}, b{180, 60, 1}, p{-2910, -3900, 0.01f}, q{3150, -3900, 0.01f};
+    const base::Rgb colour{200, 100, 50}; // a level face keeps its light
     FillTriFlat(expected.Screen, a, b, p, colour);
     FillTriFlat(expected.Screen, b, q, p, colour);
     EXPECT_EQ(view.Screen.Frame.Bytes, expected.Screen.Frame.Bytes);
-    EXPECT_EQ(view.Screen.Depth, expected.Screen.Depth);
+    EXPECT_EQ(view.Screen.Depth.Cells, expected.Screen.Depth.Cells);
     // In row 0 the common edge B - P is at column 133: what lies right of it is the second triangle's.
     EXPECT_LT(view.Depth(110, 0), 1.0f);
     EXPECT_LT(view.Depth(200, 0), 1.0f);
@@ -147,7 +151,7 @@ TEST(NearPlane, TwoCornersBehindLeaveOneTriangle)
     // -0.3 x 0.495 = -0.1485: column -2850.
     FillTriFlat(expected.Screen, {-2850, -3900, 0.01f}, {3090, -3900, 0.01f}, {120, 60, 1}, {200, 100, 50});
     EXPECT_EQ(view.Screen.Frame.Bytes, expected.Screen.Frame.Bytes);
-    EXPECT_EQ(view.Screen.Depth, expected.Screen.Depth);
+    EXPECT_EQ(view.Screen.Depth.Cells, expected.Screen.Depth.Cells);
     EXPECT_GT(view.Drawn(), 0u);
 }
 
@@ -157,15 +161,15 @@ TEST(NearPlane, CutTexelsAreInterpolatedWithTheCorner)
     base::Random random;
     random.Seed(9);
     const render::Picture picture = scenes::Noise(random, 16, 16);
-    const render::TexelField texture = render::MakeTexelField(picture.Pixels, 16, 16);
+    const base::ConstSurface texture = render::MakeSurface(picture.Pixels, 16, 16);
     Origin view;
-    render::DrawTriTex(view.Camera, view.Screen, SeeCorner(view.Camera, view.Screen, {-0.3f, -0.2f, 1}, 0, 15),
-                       SeeCorner(view.Camera, view.Screen, {0.3f, -0.2f, 1}, 15, 15),
-                       SeeCorner(view.Camera, view.Screen, {0, -0.2f, -1}, 8, 0), texture);
+    DrawTriTex(view.Camera, view.Screen,
+               {view.At({-0.3f, -0.2f, 1}, 0, 15), view.At({0.3f, -0.2f, 1}, 15, 15), view.At({0, -0.2f, -1}, 8, 0)},
+               texture);
     Origin expected;
     const double t = (1.0 - 0.01f) / 2.0;
-    const ScreenCorner a{60, 60, 1, 0, 15}, b{180, 60, 1, 15, 15};
-    const ScreenCorner p{-2910, -3900, 0.01f, 8 * t, 15 - 15 * t}, q{3150, -3900, 0.01f, 15 - 7 * t, 15 - 15 * t};
+    const ScreenVertex a{60, 60, 1, 0, 15}, b{180, 60, 1, 15, 15};
+    const ScreenVertex p{-2910, -3900, 0.01f, 8 * t, 15 - 15 * t}, q{3150, -3900, 0.01f, 15 - 7 * t, 15 - 15 * t};
     FillTriTex(expected.Screen, a, b, p, texture);
     FillTriTex(expected.Screen, b, q, p, texture);
     EXPECT_EQ(view.Screen.Frame.Bytes, expected.Screen.Frame.Bytes);
@@ -175,9 +179,7 @@ TEST(NearPlane, CutTexelsAreInterpolatedWithTheCorner)
 TEST(DrawTriTex, WithoutATextureNothingIsDrawn)
 {
     Origin view;
-    render::DrawTriTex(view.Camera, view.Screen, SeeCorner(view.Camera, view.Screen, {-1, -1, 5}),
-                       SeeCorner(view.Camera, view.Screen, {1, -1, 5}), SeeCorner(view.Camera, view.Screen, {-1, 1, 5}),
-                       {});
+    DrawTriTex(view.Camera, view.Screen, {view.At({-1, -1, 5}), view.At({1, -1, 5}), view.At({-1, 1, 5})}, {});
     EXPECT_EQ(view.Drawn(), 0u);
 }
 
