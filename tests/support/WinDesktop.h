@@ -1,4 +1,4 @@
-// tests/windows/WinDesktop.h: a real window with a message loop, and the sound devices that answer to it.
+// tests/support/WinDesktop.h: a real window with a message loop, and the sound devices that answer to it.
 #pragma once
 #include "platform/win32/WinMusic.h"
 #include "platform/win32/WinWaveOut.h"
