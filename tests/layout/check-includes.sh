@@ -16,8 +16,7 @@ declare -A may=(
     [audio]="base platform audio"
     [webcam]="base platform render webcam"
     [shell/forms]="base platform render/PicArray.h typeface shell/forms"
-    [shell/panels]="base platform render world audio webcam typeface shell/forms shell/panels
-        shell/Settings.h shell/RunState.h"
+    [shell/panels]="base platform render world audio webcam typeface shell/forms shell/panels shell/Game.h"
     [shell]="base platform render world console audio webcam typeface shell"
     [program]="base platform shell program"
     [tools]="base typeface platform render world console audio webcam shell tools"
@@ -26,7 +25,8 @@ declare -A may=(
 )
 # folder: its namespace; a folder below it has the same unless it stands here too
 declare -A called=(
-    [base]=base [typeface]=typeface [platform]=platform [platform/headless]=headless [render]=render [world]=world
+    [base]=base [typeface]=typeface [platform]=platform [platform/headless]=headless
+    [platform/sdl]=sdl [platform/win32]=win32 [render]=render [world]=world
     [console]=console [audio]=audio [webcam]=webcam [shell]=shell [shell/forms]=forms [shell/panels]=panels
     [program]=program [tools/drive]=drive [assets]=assets [assets/cars]=assets::cars [assets/hud]=assets::hud
     [assets/sound]=assets::sound [assets/track]=assets::track [bench]=bench [tests/support]=support
