@@ -71,6 +71,10 @@ inline base::Surface FrameSurface(Screen& screen)
 {
     return {screen.Frame.Bytes.data(), screen.Frame.RowBytes, screen.ScreenW, screen.ScreenH};
 }
+inline base::ConstSurface FrameSurface(const Screen& screen)
+{
+    return {screen.Frame.Bytes.data(), screen.Frame.RowBytes, screen.ScreenW, screen.ScreenH};
+}
 }
 
 template <> struct base::FieldsOf<render::Screen>

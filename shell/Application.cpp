@@ -57,7 +57,7 @@ void Application::Splash::Paint()
         forms::FillDownward(Canvas, all, {14, 16, 26}, 255, {58, 30, 26}, 255);
         forms::DrawText(Canvas, all, "VELKAR", Canvas.Height * 0.3, 1.6, {255, 158, 54}, forms::Align::Centre);
     }
-    TheWindow->Present({Canvas.Bytes.data(), Canvas.RowBytes, Canvas.Width, Canvas.Height});
+    TheWindow->Present(Canvas.View());
 }
 
 Application::Application(platform::Platform& platform) : ThePlatform(platform) {}

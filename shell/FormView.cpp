@@ -62,8 +62,7 @@ void FormView::PaintBackground()
 {
     const render::Screen& screen = TheGame.Screen;
     if (TheGame.Race.GameTime > 0 && !screen.Frame.Empty())
-        forms::Stretch(Canvas, {0, 0, Canvas.Width, Canvas.Height},
-                       {screen.Frame.Bytes.data(), screen.Frame.RowBytes, screen.ScreenW, screen.ScreenH});
+        forms::Stretch(Canvas, {0, 0, Canvas.Width, Canvas.Height}, render::FrameSurface(screen));
     else
         PaintMenuBackground(Canvas);
 }
@@ -83,7 +82,7 @@ void FormView::Repaint()
     if (!IsAnyControlShown())
     {
         if (!screen.Frame.Empty())
-            Window.Present({screen.Frame.Bytes.data(), screen.Frame.RowBytes, screen.ScreenW, screen.Frame.Rows});
+            Window.Present(render::FrameSurface(screen));
         return;
     }
     const platform::Size client = Window.ClientSize();
@@ -92,7 +91,7 @@ void FormView::Repaint()
     Input.Settle();
     PaintDue = false; // what has just settled is painted now
     forms::PaintForm(Canvas, Form, Input.Shown(), *this);
-    Window.Present({Canvas.Bytes.data(), Canvas.RowBytes, Canvas.Width, Canvas.Height});
+    Window.Present(Canvas.View());
 }
 
 void FormView::PaintPicture(forms::Canvas& canvas, const forms::Control& control, forms::Rect place)

@@ -1,6 +1,6 @@
 // Music files as the desktop back end decodes them, and files that only say they were music.
 #include "platform/sdl/MusicDecoder.h"
-#include "tests/desktop/MusicFile.h"
+#include "tests/support/MusicFile.h"
 #include "tests/support/TempFolder.h"
 
 #include <gtest/gtest.h>

@@ -1,8 +1,8 @@
 // The sound of the desktop back end on SDL's own dummy device, which keeps time and plays nothing.
 #include "platform/sdl/SdlPlatform.h"
-#include "tests/desktop/MusicFile.h"
 #include "tests/support/FourBuffers.h"
 #include "tests/support/HeardEvents.h"
+#include "tests/support/MusicFile.h"
 #include "tests/support/TempFolder.h"
 
 #include <gmock/gmock.h>

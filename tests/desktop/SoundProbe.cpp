@@ -6,7 +6,7 @@
 //   sound_probe write-tone FILE HZ SECONDS   music to record
 // Says what it hears; status 1 where it is not as it should be.
 #include "base/Numbers.h"
-#include "tests/desktop/MusicFile.h"
+#include "tests/support/MusicFile.h"
 
 #include <algorithm>
 #include <array>

@@ -11,7 +11,7 @@
 #include <cstdint>
 #include <memory>
 
-namespace scenes
+namespace support
 {
 inline double Draw(base::Random& random, double least, double most)
 {
@@ -88,3 +88,5 @@ inline unsigned Bytes(const std::uint8_t* pixel)
     return static_cast<unsigned>(pixel[0] << 16 | pixel[1] << 8 | pixel[2]);
 }
 }
+
+namespace scenes = support;

@@ -1,6 +1,6 @@
 // Music through the system's media control. Needs a sound device and a decoder of MP3.
 #include "tests/support/TempFolder.h"
-#include "tests/windows/WinDesktop.h"
+#include "tests/support/WinDesktop.h"
 
 #include <gmock/gmock.h>
 

@@ -1,6 +1,6 @@
 // The wave device on real wave-out calls and a real window. Needs a sound device that keeps time.
 #include "tests/support/FourBuffers.h"
-#include "tests/windows/WinDesktop.h"
+#include "tests/support/WinDesktop.h"
 
 #include <gmock/gmock.h>
 

@@ -1,4 +1,4 @@
-// tests/windows/WinDesktop.h: a real window with a message loop, and the sound devices whose events that delivers.
+// tests/support/WinDesktop.h: a real window with a message loop, and the sound devices whose events that delivers.
 #pragma once
 #include "platform/win32/WinMusic.h"
 #include "platform/win32/WinWaveOut.h"

@@ -1,4 +1,4 @@
-#include "tests/desktop/MusicFile.h"
+#include "tests/support/MusicFile.h"
 
 extern "C"
 {

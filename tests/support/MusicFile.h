@@ -1,4 +1,4 @@
-// tests/desktop/MusicFile.h: music to test with, made on the spot by FFmpeg's encoders.
+// tests/support/MusicFile.h: music to test with, made on the spot by FFmpeg's encoders.
 #pragma once
 #include <filesystem>
 

@@ -1,4 +1,4 @@
-#include "tests/windows/WinDesktop.h"
+#include "tests/support/WinDesktop.h"
 
 #include <chrono>
 
