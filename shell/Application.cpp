@@ -1,7 +1,7 @@
 #include "shell/Application.h"
 
 #include "base/Numbers.h"
-#include "shell/forms/Paint.h"
+#include "shell/forms/Style.h"
 #include "shell/panels/MenuPictures.h"
 #include "shell/TickTimer.h"
 
@@ -50,12 +50,11 @@ void Application::Splash::Paint()
     Canvas.Resize(client.Width, client.Height);
     const forms::Rect all = {0, 0, Canvas.Width, Canvas.Height};
     if (Picture.Info.Width > 0)
-        forms::Stretch(Canvas, all,
-                       {Picture.Pixels.Bytes.data(), Picture.Info.RowBytes, Picture.Info.Width, Picture.Info.Height});
+        forms::Stretch(Canvas, all, render::MakeSurface(Picture));
     else
     {
         forms::FillDownward(Canvas, all, {14, 16, 26}, 255, {58, 30, 26}, 255);
-        forms::DrawText(Canvas, all, "VELKAR", Canvas.Height * 0.3, 1.6, {255, 158, 54}, forms::Align::Centre);
+        forms::DrawText(Canvas, all, "VELKAR", Canvas.Height * 0.3, 1.6, forms::Accent, forms::Align::Centre);
     }
     TheWindow->Present(Canvas.View());
 }

@@ -4,7 +4,7 @@
 #include "platform/Platform.h"
 #include "shell/forms/Control.h"
 #include "shell/forms/Interaction.h"
-#include "shell/forms/Paint.h"
+#include "shell/forms/PaintForm.h"
 #include "shell/Game.h"
 #include "shell/panels/Actions.h"
 

@@ -1,6 +1,7 @@
 #include "shell/panels/AudioOptions.h"
 
 #include "base/Numbers.h"
+#include "shell/forms/PaintForm.h"
 
 #include <algorithm>
 

@@ -26,8 +26,6 @@ constexpr std::array<EntryDesign, 4> Designs = {{
 }};
 constexpr std::size_t Start = 0, Options = 1, Credits = 2, Exit = 3;
 
-constexpr base::Rgb Shade = {10, 12, 20};
-
 std::int32_t Part(std::int32_t whole, double share)
 {
     return base::RoundEven(whole * share);
@@ -147,7 +145,7 @@ void Menu::PaintBackground(forms::Canvas& canvas) const
 void Menu::PaintShade(forms::Canvas& canvas, const Rect& place) const
 {
     const bool suspended = Race.GameTime > 0;
-    forms::FillDownward(canvas, place, Shade, suspended ? 110 : 20, Shade, suspended ? 190 : 150);
+    forms::FillDownward(canvas, place, forms::Shade, suspended ? 110 : 20, forms::Shade, suspended ? 190 : 150);
 }
 
 void Menu::PaintLogo(forms::Canvas& canvas, const Rect& place) const
