@@ -49,7 +49,7 @@ public:
         return access();
     }
 
-    // The body waits until `ready` holds, which is asked under the lock, and then runs `then` under the same lock.
+    // The body waits until `ready` holds, which is evaluated under the lock, and then runs `then` under the same lock.
     // False: stopped, and `then` has not run.
     template <class Ready, class Then> bool Wait(Ready&& ready, Then&& then)
     {
@@ -67,8 +67,8 @@ public:
 private:
     void WakeAll();
 
-    std::function<void()> Wake;
-    std::mutex Lock;
+    std::function<void()> Wake; // may be empty
+    std::mutex Lock;            // of all that owner and body share
     std::condition_variable Changed;
     std::atomic<bool> Stopped = false; // written under the lock
     std::thread Thread;
