@@ -27,7 +27,8 @@ public:
 
     // Runs the body on the thread, once. It must not throw, and should return soon after the worker is stopped.
     void Start(std::function<void()> body);
-    // Ends every wait, and returns when the body has. May be called again, and without a start.
+    // Ends every wait, and returns when the body has. May be called again, which does nothing, and without a
+    // start.
     void Stop();
     // Whether the body should return.
     bool IsStopped() const { return Stopped; }
