@@ -5,7 +5,7 @@
 
 namespace platform
 {
-// The running program's own file: as the system tells, else from the first argument. In win32/ and posix/.
+// The running program's own file: as the system knows it, else from the first argument. In win32/ and posix/.
 std::filesystem::path ExecutablePath(const char* firstArgument);
 
 // The first that holds the start-up map of: the program's folder, its parent folders from the nearest outward, the

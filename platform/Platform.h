@@ -24,9 +24,9 @@ struct Size
     std::int32_t Width = 0, Height = 0;
 };
 
-// Hears of a window. Nothing is heard unless events are handled (PumpEvents, WaitEvents), never from inside another
-// call of the window. Key codes are those of platform/Keys.h. Mouse positions are pixels of the client area, y
-// downward. Buttons: 1 left, 2 right, 4 middle.
+// Listens to a window, and overrides what it wants to know. Events are delivered while the platform handles them
+// (PumpEvents, WaitEvents, the back end's main loop), never from inside another call of the window. Key codes are those
+// of platform/Keys.h. Mouse positions are pixels of the client area, y downward. Buttons: 1 left, 2 right, 4 middle.
 struct WindowEvents
 {
     virtual ~WindowEvents() = default;
@@ -49,9 +49,11 @@ inline bool IsPresentable(const base::ConstSurface& picture)
            picture.RowBytes == base::PaddedRow(picture.Width);
 }
 
+// A window without a border. Full screen it has the size and place of its display. A message box (base::MessageSink)
+// blocks until it is dismissed; events wait meanwhile.
 struct Window : base::MessageSink
 {
-    virtual void Show(bool visible) = 0;
+    virtual void Show(bool visible) = 0; // shown, it comes to the front
     virtual void SetTitle(const std::string& title) = 0;
     virtual Size ClientSize() = 0;
     virtual void SetClientSize(Size size) = 0; // not while full screen
@@ -63,7 +65,7 @@ struct Window : base::MessageSink
     // Stretches the picture over the client area, nearest pixel. Row 0 is the bottom one. Borrowed for this call.
     // Nothing happens where it is not presentable.
     virtual void Present(const base::ConstSurface& picture) = 0;
-    virtual std::string ClipboardText() = 0;
+    virtual std::string ClipboardText() = 0; // empty where there is no text; a long one is cut
     virtual void SetClipboardText(const std::string& text) = 0;
 };
 
@@ -83,16 +85,16 @@ struct Platform
     virtual std::uint32_t TickCount() = 0;      // milliseconds, wraps at 2^32; headless: moves only when a script says
     virtual std::uint64_t ClockSeed() = 0;      // differs from start to start
     virtual int ProcessorCount() = 0;
-    virtual bool IsFirstInstance() = 0;
+    virtual bool IsFirstInstance() = 0; // of this program and user; stays so until the platform ends
     // A borderless window, hidden until shown. `events` outlives it.
     virtual std::unique_ptr<Window> MakeWindow(WindowEvents& events, Size size) = 0;
     // `events` outlives the device. Nothing is opened yet.
     virtual std::unique_ptr<WaveOut> MakeWaveOut(WaveEvents& events) = 0;
     virtual std::unique_ptr<MusicPlayer> MakeMusicPlayer(MusicEvents& events) = 0;
-    // Handles the window events that are waiting, without waiting for any.
+    // Handles the events that are waiting, without waiting for any.
     virtual void PumpEvents() = 0;
-    // Handles window events for so long. Headless: the clock goes on by it.
+    // Handles events for so long. Headless: the clock goes on by it.
     virtual void WaitEvents(std::uint32_t milliseconds) = 0;
-    virtual Webcam& WebcamDevice() = 0;
+    virtual Webcam& WebcamDevice() = 0; // lives as long as the platform
 };
 }

@@ -35,10 +35,10 @@ inline constexpr std::int32_t MostWaveBuffers = 16;
 struct WaveHeader
 {
     std::span<const std::uint8_t> Data; // whole frames
-    std::int32_t User = 0;              // tells the buffers apart: 0 to MostWaveBuffers - 1
+    std::int32_t User = 0;              // its number, by which it comes back: 0 to MostWaveBuffers - 1
 };
 
-// Hears of the wave device. Outlives it; after the device's end nothing arrives.
+// Listens to a wave device. Outlives it; after the device's end nothing arrives.
 struct WaveEvents
 {
     virtual ~WaveEvents() = default;
@@ -63,7 +63,7 @@ struct WaveOut
 inline constexpr std::int32_t MediaSuccessful = 1;  // played to its end
 inline constexpr std::int32_t MediaUnplayable = -1; // no sound could be made of the file
 
-// Hears of the music player. Outlives it; after the player's end nothing arrives.
+// Listens to a music player. Outlives it; after the player's end nothing arrives.
 struct MusicEvents
 {
     virtual ~MusicEvents() = default;

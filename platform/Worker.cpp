@@ -9,7 +9,8 @@ void Worker::Start(std::function<void()> body)
 
 void Worker::Stop()
 {
-    Notify([this] { Stopped = true; });
+    if (!Stopped)
+        Notify([this] { Stopped = true; });
     if (Thread.joinable())
         Thread.join();
 }

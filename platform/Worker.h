@@ -27,7 +27,8 @@ public:
 
     // Runs the body on the thread, once. It must not throw, and should return soon after the worker is stopped.
     void Start(std::function<void()> body);
-    // Ends every wait, and returns when the body has. May be called again, and without a start.
+    // Ends every wait, and returns when the body has. May be called again, which does nothing, and without a
+    // start.
     void Stop();
     // Whether the body should return.
     bool IsStopped() const { return Stopped; }
@@ -49,7 +50,7 @@ public:
         return access();
     }
 
-    // The body waits until `ready` holds, which is asked under the lock, and then runs `then` under the same lock.
+    // The body waits until `ready` holds, which is evaluated under the lock, and then runs `then` under the same lock.
     // False: stopped, and `then` has not run.
     template <class Ready, class Then> bool Wait(Ready&& ready, Then&& then)
     {
@@ -67,8 +68,8 @@ public:
 private:
     void WakeAll();
 
-    std::function<void()> Wake;
-    std::mutex Lock;
+    std::function<void()> Wake; // may be empty
+    std::mutex Lock;            // of all that owner and body share
     std::condition_variable Changed;
     std::atomic<bool> Stopped = false; // written under the lock
     std::thread Thread;

@@ -8,8 +8,8 @@
 
 namespace program
 {
-// make(): the back end. tell(text): what keeps the program from starting or going on. Gives the exit status.
-template <class Make, class Tell> int RunDesktop(Make&& make, Tell&& tell)
+// make(): the back end. report(text): shows what keeps the program from starting or going on. Gives the exit status.
+template <class Make, class Report> int RunDesktop(Make&& make, Report&& report)
 {
     try
     {
@@ -21,11 +21,11 @@ template <class Make, class Tell> int RunDesktop(Make&& make, Tell&& tell)
     }
     catch (const base::RuntimeError& error)
     {
-        tell(error.Description);
+        report(error.Description);
     }
     catch (const std::exception& error)
     {
-        tell(std::string(error.what()));
+        report(std::string(error.what()));
     }
     return 1;
 }

@@ -4,6 +4,6 @@
 
 namespace program
 {
-// path: what the program was started as. The exit status; what keeps it from starting is told on standard error.
+// path: what the program was started as. The exit status; what keeps it from starting goes to standard error.
 int RunSdl(const char* path, const sdl::WebcamSource& webcam);
 }

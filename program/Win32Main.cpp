@@ -1,4 +1,4 @@
-// The desktop program of Windows: no console, so what goes wrong at the start is told in a message box.
+// The desktop program of Windows: no console, so what goes wrong at the start is shown in a message box.
 #include "platform/FindData.h"
 #include "platform/win32/WinPlatform.h"
 #include "program/RunDesktop.h"

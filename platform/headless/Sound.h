@@ -1,5 +1,5 @@
-// platform/headless/Sound.h: sound devices that a script plays the part of. The wave device finishes a buffer when it
-// is told to; the music player plays nothing and ends when it is told to.
+// platform/headless/Sound.h: sound devices that a script plays the part of. The wave device finishes a buffer when
+// the script says so; the music player plays nothing and ends likewise.
 #pragma once
 #include "platform/Sound.h"
 
@@ -12,7 +12,7 @@
 
 namespace headless
 {
-// What the calls of the system return once instead of carrying out what they were asked for, by their own names
+// What the calls of the system return once instead of doing their work, by their own names
 // ("waveOutOpen", …, "SetWindowLongA").
 class ScriptedCalls
 {
@@ -87,7 +87,7 @@ public:
     void Play(std::uint32_t number) override;
     void Close() override;
 
-    // The notification of the play that was asked for last.
+    // Ends the last play, its event delivered at once.
     void Finish(std::int32_t code);
 
     std::filesystem::path File; // that is open; empty none

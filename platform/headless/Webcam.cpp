@@ -16,19 +16,19 @@ bool Webcam::InitCapture(const platform::CaptureParams& params)
 
 void Webcam::DoCapture()
 {
-    Asked = Open;
+    Requested = Open;
     Done = false;
 }
 
 void Webcam::DeinitCapture()
 {
-    Open = Asked = Done = false;
+    Open = Requested = Done = false;
 }
 
 bool Webcam::Complete(std::span<const std::uint8_t> pixels)
 {
     const auto size = static_cast<std::size_t>(Params.Width) * static_cast<std::size_t>(Params.Height) * 4;
-    if (!Open || !Asked || Done || pixels.size() != size)
+    if (!Open || !Requested || Done || pixels.size() != size)
         return false;
     std::copy(pixels.begin(), pixels.end(), Params.Target);
     Done = true;

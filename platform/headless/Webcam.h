@@ -16,7 +16,7 @@ public:
     bool IsCaptureDone() override { return Open && Done; }
     void DeinitCapture() override;
 
-    // The frame that was asked for comes: its pixels as the target has them. False: none was asked for.
+    // The requested frame comes: its pixels as the target has them. False: none was requested.
     bool Complete(std::span<const std::uint8_t> pixels);
 
     std::int32_t Devices = 0;
@@ -24,6 +24,6 @@ public:
 
 private:
     platform::CaptureParams Params;
-    bool Open = false, Asked = false, Done = false;
+    bool Open = false, Requested = false, Done = false;
 };
 }

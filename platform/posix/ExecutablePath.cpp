@@ -9,9 +9,9 @@ namespace fs = std::filesystem;
 fs::path ExecutablePath(const char* firstArgument)
 {
     std::error_code error;
-    fs::path told = fs::read_symlink("/proc/self/exe", error);
+    fs::path path = fs::read_symlink("/proc/self/exe", error);
     if (!error)
-        return told;
+        return path;
     const fs::path absolute = fs::absolute(firstArgument != nullptr ? firstArgument : "", error);
     return error ? fs::path() : absolute;
 }

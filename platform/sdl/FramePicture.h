@@ -1,4 +1,4 @@
-// platform/sdl/FramePicture.h: a decoded video frame becomes the picture of the size that was asked for.
+// platform/sdl/FramePicture.h: a decoded video frame becomes a picture of the requested size.
 #pragma once
 #include "platform/Webcam.h"
 

@@ -21,7 +21,7 @@ constexpr const char* Protocols = "file";
 constexpr const char* Formats = "mp3,asf";
 constexpr const char* Codecs = "mp3float,mp3,wmav1,wmav2,wmapro,wmavoice,wmalossless";
 
-// What the resampler is asked to take: beyond it a small file could claim endless output.
+// What the resampler is given: beyond it a small file could claim endless output.
 constexpr int LeastRate = 4000, MostRate = 192000, MostChannels = 8;
 
 int IsGivenUp(void* flag)

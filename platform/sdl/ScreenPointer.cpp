@@ -25,16 +25,16 @@ std::optional<PointerEvent> ReadPointer(SDL_Window* window, const SDL_Event& eve
 {
     if (event.type != SDL_SYSWMEVENT || event.syswm.msg == nullptr || event.syswm.msg->subsystem != SDL_SYSWM_X11)
         return {};
-    const XEvent& told = event.syswm.msg->msg.x11.event;
-    const bool moved = told.type == MotionNotify;
-    if ((!moved && told.type != ButtonPress && told.type != ButtonRelease) || !IsOf(window, told))
+    const XEvent& native = event.syswm.msg->msg.x11.event;
+    const bool moved = native.type == MotionNotify;
+    if ((!moved && native.type != ButtonPress && native.type != ButtonRelease) || !IsOf(window, native))
         return {};
     if (!moved)
-        return PointerEvent{{told.xbutton.x_root, told.xbutton.y_root}, {told.xbutton.x, told.xbutton.y}};
-    return PointerEvent{{told.xmotion.x_root, told.xmotion.y_root},
-                        {told.xmotion.x, told.xmotion.y},
+        return PointerEvent{{native.xbutton.x_root, native.xbutton.y_root}, {native.xbutton.x, native.xbutton.y}};
+    return PointerEvent{{native.xmotion.x_root, native.xmotion.y_root},
+                        {native.xmotion.x, native.xmotion.y},
                         true,
-                        ButtonsHeld(told.xmotion.state)};
+                        ButtonsHeld(native.xmotion.state)};
 }
 #else
 std::optional<PointerEvent> ReadPointer(SDL_Window*, const SDL_Event&)

@@ -10,7 +10,7 @@ namespace sdl
 {
 namespace
 {
-constexpr std::uint16_t BlockFrames = 1024;                                          // asked of the device
+constexpr std::uint16_t BlockFrames = 1024;                                          // requested from the device
 constexpr std::size_t RingBytes = MusicDecoder::Rate * MusicDecoder::FrameBytes / 2; // half a second ahead
 }
 

@@ -7,7 +7,7 @@ namespace sdl
 {
 namespace
 {
-constexpr std::uint16_t BlockFrames = 512; // asked of the device: 46 ms at 11025 Hz
+constexpr std::uint16_t BlockFrames = 512; // requested from the device: 46 ms at 11025 Hz
 
 bool IsSame(const platform::WaveFormat& a, const platform::WaveFormat& b)
 {

@@ -6,8 +6,8 @@
 
 namespace win32
 {
-// At most the first million characters; empty where there is no text, or another program does not let go of it.
+// At most the first million characters; empty where there is no text, or another program keeps it open.
 std::string ReadClipboard(HWND window);
-// Nothing happens where another program does not let go of it.
+// Nothing happens where another program keeps it open.
 void WriteClipboard(HWND window, const std::string& text);
 }

@@ -12,7 +12,7 @@ class MessageWindow
 public:
     using Receiver = std::function<void(UINT message, WPARAM first, LPARAM second)>;
 
-    // `receiver` hears of every message, on the thread of the window, from inside that thread's message loop.
+    // `receiver` is called for every message, on the thread of the window, from inside that thread's message loop.
     explicit MessageWindow(Receiver receiver = {});
     ~MessageWindow(); // on its thread; messages that still wait for it arrive nowhere
     MessageWindow(const MessageWindow&) = delete;

@@ -9,6 +9,16 @@ namespace win32
 namespace
 {
 constexpr const wchar_t* DeviceType = L"mpegvideo"; // plays every sound file the system has a decoder for
+
+// A receiver of the media control's notifications alone.
+template <class Notify> MessageWindow::Receiver OnNotification(Notify notify)
+{
+    return [notify](UINT message, WPARAM flags, LPARAM number)
+    {
+        if (message == MM_MCINOTIFY)
+            notify(flags, number);
+    };
+}
 }
 
 // A file in the media control, from open to close, on the thread that made it.
@@ -46,12 +56,8 @@ private:
 };
 
 WinMusic::WinMusic(EventQueue& queue, platform::MusicEvents& events)
-    : Queue(queue), Events(events), Window(
-                                        [this](UINT message, WPARAM flags, LPARAM number)
-                                        {
-                                            if (message == MM_MCINOTIFY)
-                                                Notified(flags, number);
-                                        }),
+    : Queue(queue), Events(events),
+      Window(OnNotification([this](WPARAM flags, LPARAM number) { Notified(flags, number); })),
       Changed(CreateEventW(nullptr, FALSE, FALSE, nullptr)), Playback([this] { SetEvent(Changed); })
 {
     Playback.Start([this] { Work(); });
@@ -125,12 +131,8 @@ std::unique_ptr<WinMusic::Track> WinMusic::Start(const Order& order) const
 {
     if (order.File.empty() || waveOutGetNumDevs() == 0)
         return nullptr;
-    const auto receive = [this, number = order.Number](UINT message, WPARAM flags, LPARAM)
-    {
-        if (message == MM_MCINOTIFY)
-            Post(flags, number);
-    };
-    auto track = std::make_unique<Track>(receive);
+    const auto post = [this, number = order.Number](WPARAM flags, LPARAM) { Post(flags, number); };
+    auto track = std::make_unique<Track>(OnNotification(post));
     if (track->Start(order.File))
         return track;
     Post(MCI_NOTIFY_FAILURE, order.Number);

@@ -1,4 +1,4 @@
-// tests/support/HeardEvents.h: what a window and its devices have told.
+// tests/support/HeardEvents.h: a listener of a window and its devices that keeps count.
 #pragma once
 #include "platform/Platform.h"
 

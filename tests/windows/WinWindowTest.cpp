@@ -1,4 +1,4 @@
-// A real window of the back end, told by messages as the system sends them.
+// A real window of the back end that gets messages as the system sends them.
 #include "platform/win32/WinWindow.h"
 #include "platform/win32/MessageWindow.h"
 #include "platform/win32/WinPlatform.h"
@@ -19,16 +19,16 @@ using testing::ElementsAre;
 using testing::IsEmpty;
 using testing::Not;
 
-// What it is told, a word an event.
+// The events that arrive, a word each.
 struct Words final : platform::WindowEvents
 {
-    std::vector<std::string> Told;
+    std::vector<std::string> Arrived;
 
     template <class... Parts> void Add(const Parts&... parts)
     {
         std::ostringstream word;
         (word << ... << parts);
-        Told.push_back(word.str());
+        Arrived.push_back(word.str());
     }
     void AddAt(const char* what, int button, platform::Point at) { Add(what, button, ' ', at.X, ',', at.Y); }
     void KeyDown(std::int16_t code) override { Add("down ", code); }
@@ -37,11 +37,11 @@ struct Words final : platform::WindowEvents
     void MouseDown(int button, platform::Point at) override { AddAt("press ", button, at); }
     void MouseMove(int buttons, platform::Point at) override { AddAt("move ", buttons, at); }
     void MouseUp(int button, platform::Point at) override { AddAt("release ", button, at); }
-    void Resized() override { Told.push_back("size"); }
-    void Paint() override { Told.push_back("paint"); }
+    void Resized() override { Arrived.push_back("size"); }
+    void Paint() override { Arrived.push_back("paint"); }
     bool CloseAsked() override
     {
-        Told.push_back("close");
+        Arrived.push_back("close");
         return true;
     }
 };
@@ -56,27 +56,27 @@ struct WinWindow : testing::Test
     void SetUp() override
     {
         Platform.PumpEvents();
-        Heard.Told.clear();
+        Heard.Arrived.clear();
     }
-    // Shown and at rest, so that nothing but the test tells it anything.
+    // Shown and at rest, so that nothing but the test sends it anything.
     void ShowIt()
     {
         Window.Show(true);
         Platform.WaitEvents(300);
-        Heard.Told.clear();
+        Heard.Arrived.clear();
     }
     void Send(UINT message, WPARAM first, LPARAM second = 0) { SendMessageW(Window.Handle(), message, first, second); }
     std::vector<std::string> Hear()
     {
         Platform.PumpEvents();
-        return std::exchange(Heard.Told, {});
+        return std::exchange(Heard.Arrived, {});
     }
 };
 
 TEST_F(WinWindow, TellsNothingInTheMiddleOfACall)
 {
     Window.SetClientSize({320, 200});
-    EXPECT_THAT(Heard.Told, IsEmpty());
+    EXPECT_THAT(Heard.Arrived, IsEmpty());
     EXPECT_EQ(Window.ClientSize().Width, 320);
     EXPECT_EQ(Window.ClientSize().Height, 200);
     EXPECT_THAT(Hear(), ElementsAre("size"));
@@ -130,10 +130,10 @@ TEST_F(WinWindow, TheMouseBelongsToItWhileAButtonIsHeld)
     EXPECT_EQ(GetCapture(), Window.Handle());
     Send(WM_RBUTTONUP, 0, MAKELPARAM(700, 400));
     EXPECT_EQ(GetCapture(), nullptr);
-    const auto told = Hear();
+    const auto arrived = Hear();
     for (const char* word :
          {"press 1 10,20", "press 2 10,20", "move 3 -1,-2", "release 1 700,400", "release 2 700,400"})
-        EXPECT_THAT(told, Contains(word));
+        EXPECT_THAT(arrived, Contains(word));
 }
 
 TEST_F(WinWindow, LetsGoOfAButtonOutsideWhereTheMouseIsTaken)
@@ -141,22 +141,22 @@ TEST_F(WinWindow, LetsGoOfAButtonOutsideWhereTheMouseIsTaken)
     ShowIt();
     Send(WM_LBUTTONDOWN, MK_LBUTTON, MAKELPARAM(10, 20));
     ReleaseCapture();
-    const auto told = Hear();
-    EXPECT_THAT(told, Contains("release 1 -1,-1"));
+    const auto arrived = Hear();
+    EXPECT_THAT(arrived, Contains("release 1 -1,-1"));
     Send(WM_LBUTTONDOWN, MK_LBUTTON, MAKELPARAM(10, 20));
     Send(WM_LBUTTONUP, 0, MAKELPARAM(11, 20));
     EXPECT_THAT(Hear(), Not(Contains("release 1 -1,-1")));
 }
 
-TEST_F(WinWindow, OfManyMotionsTheLastIsTold)
+TEST_F(WinWindow, OfManyMotionsTheLastArrives)
 {
     Send(WM_MOUSEMOVE, 0, MAKELPARAM(1, 1));
     Send(WM_MOUSEMOVE, 0, MAKELPARAM(2, 1));
     Send(WM_KEYDOWN, 'C');
     Send(WM_MOUSEMOVE, 0, MAKELPARAM(3, 1));
-    const auto told = Hear();
-    ASSERT_GE(told.size(), 3u);
-    EXPECT_THAT(std::vector(told.begin(), told.begin() + 3), ElementsAre("move 0 2,1", "down 67", "move 0 3,1"));
+    const auto arrived = Hear();
+    ASSERT_GE(arrived.size(), 3u);
+    EXPECT_THAT(std::vector(arrived.begin(), arrived.begin() + 3), ElementsAre("move 0 2,1", "down 67", "move 0 3,1"));
 }
 
 TEST_F(WinWindow, ClosesWhenItsReceiverSays)
@@ -168,11 +168,11 @@ TEST_F(WinWindow, ClosesWhenItsReceiverSays)
 
 TEST_F(WinWindow, AMessageWindowHandsOnWhatIsPosted)
 {
-    std::vector<std::pair<WPARAM, LPARAM>> told;
+    std::vector<std::pair<WPARAM, LPARAM>> arrived;
     const auto receive = [&](UINT message, WPARAM flags, LPARAM number)
     {
         if (message == MM_MCINOTIFY)
-            told.emplace_back(flags, number);
+            arrived.emplace_back(flags, number);
     };
     {
         const win32::MessageWindow messages(receive), others;
@@ -180,11 +180,11 @@ TEST_F(WinWindow, AMessageWindowHandsOnWhatIsPosted)
         PostMessageW(messages.Handle(), MM_MCINOTIFY, MCI_NOTIFY_SUCCESSFUL, 7);
         PostMessageW(others.Handle(), MM_MCINOTIFY, MCI_NOTIFY_SUCCESSFUL, 8);
         Platform.PumpEvents();
-        EXPECT_THAT(told, ElementsAre(std::pair<WPARAM, LPARAM>(MCI_NOTIFY_SUCCESSFUL, 7)));
+        EXPECT_THAT(arrived, ElementsAre(std::pair<WPARAM, LPARAM>(MCI_NOTIFY_SUCCESSFUL, 7)));
         PostMessageW(messages.Handle(), MM_MCINOTIFY, MCI_NOTIFY_SUCCESSFUL, 9);
     }
     Platform.PumpEvents();
-    EXPECT_EQ(told.size(), 1u); // what waits for a window that is gone arrives nowhere
+    EXPECT_EQ(arrived.size(), 1u); // what waits for a window that is gone arrives nowhere
 }
 
 TEST_F(WinWindow, CoversItsDisplayAndComesBack)
@@ -210,15 +210,15 @@ TEST_F(WinWindow, KeepsSizeAndPlaceWhileMinimised)
     ShowIt();
     Window.Move({50, 60});
     Platform.WaitEvents(100);
-    Heard.Told.clear();
+    Heard.Arrived.clear();
     ShowWindow(Window.Handle(), SW_MINIMIZE);
     Platform.WaitEvents(300);
     EXPECT_EQ(Window.Position().X, 50);
     EXPECT_EQ(Window.ClientSize().Width, 600);
-    EXPECT_THAT(Heard.Told, Not(Contains("size")));
+    EXPECT_THAT(Heard.Arrived, Not(Contains("size")));
     ShowWindow(Window.Handle(), SW_RESTORE);
     Platform.WaitEvents(300);
-    EXPECT_THAT(Heard.Told, Contains("paint"));
+    EXPECT_THAT(Heard.Arrived, Contains("paint"));
     EXPECT_EQ(Window.ClientSize().Width, 600);
 }
 

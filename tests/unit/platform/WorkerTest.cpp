@@ -176,6 +176,8 @@ TEST(Worker, WakesABodyThatWaitsElsewhere)
         std::this_thread::yield();
     worker.Stop(); // hangs where it does not wake
     EXPECT_EQ(wakes, 2);
+    worker.Stop(); // has nobody to wake
+    EXPECT_EQ(wakes, 2);
 }
 
 TEST(Worker, MayBeDestroyedWithoutAStart)
