@@ -28,7 +28,7 @@ void StartStream(Stream& stream);
 // The race ends or is suspended: reset, unprepare, close. Nothing where it is closed.
 void StopStream(Stream& stream);
 
-// Buffer 0 to 3 has come back: while the device is open it is filled and queued again. No window procedure: the name is
-// that of what a window once did when the device's message reached it.
+// Buffer 0 to 3 has come back: while the device is open it is filled and queued again. No window procedure, for all its
+// name: whoever is notified of the buffer calls it.
 void EngineWndProc(Stream& stream, std::int32_t bufferIndex);
 }

@@ -5,10 +5,11 @@
 
 namespace console
 {
+// One word that "\lst" or "\help" explains.
 struct Topic
 {
-    std::string_view Word;
-    std::string_view Text;
+    std::string_view Word;     // in lower case
+    std::string_view Text;     // the whole answer
     std::int16_t TabWidth = 0; // cells between the columns; 0: the text has none
 };
 
@@ -22,7 +23,8 @@ inline constexpr std::string_view AllCommands = "SET Imposta il valore di una pr
                                                 "Digitare help seguito dal nome del comando per\r\n"
                                                 "visualizzarne la descrizione dettagliata";
 
-// Null where there is no such topic. word: in lower case.
+// What "\lst" says of an object, "\help" of a command (without its backslash). Null where there is no such topic. word:
+// in lower case.
 const Topic* FindObject(std::string_view word);
 const Topic* FindCommand(std::string_view word);
 }

@@ -19,7 +19,7 @@ inline constexpr const char* NoValue = "Valore non specificato";
 inline constexpr const char* NoSuchCommand = "Comando non trovato"; // there is no help on it
 inline constexpr const char* BadCommand = "Comando non valido";
 
-// Ends the command: a RuntimeError whose description is the answer.
+// Ends the command, from however deep: a RuntimeError whose description is the answer.
 [[noreturn]] void Fail(const char* why);
 
 // The words of a line, their ASCII letters in lower case; word 0 is the command. Every single space parts two words:
@@ -31,6 +31,7 @@ public:
     Words(const Words&) = delete;
     Words& operator=(const Words&) = delete;
 
+    // 0 the command itself.
     bool Has(std::size_t index) const { return index < List.size(); }
     // The word; fails with `missing` where the line ends before it.
     std::string_view At(std::size_t index, const char* missing) const;

@@ -131,7 +131,7 @@ void Interaction::Settle()
     for (std::int16_t* mark : {&TheMarks.Hot, &TheMarks.Pressed})
         if (const Control* control = Of(*mark); control != nullptr && !IsAvailable(*control))
             *mark = -1;
-    if (IsListOpen())
+    if (TheList.IsOpen())
         FitList();
     FollowText();
 }
@@ -142,5 +142,38 @@ void Interaction::Click(const Control& control)
         Owner.Clicked(control);
     Settle();
     Owner.Changed();
+}
+
+void Interaction::OpenList(const Control& box)
+{
+    if (!TheList.Open(box))
+        return;
+    TheMarks.Hot = -1;
+    FitList();
+    Owner.Changed();
+}
+
+void Interaction::CloseList()
+{
+    if (TheList.Close())
+        Owner.Changed();
+}
+
+// Others may have changed the items, or hidden the box.
+void Interaction::FitList()
+{
+    const Control& box = TheList.Box();
+    if (box.Items.empty() || !IsAvailable(box))
+        return CloseList();
+    TheList.Fit();
+}
+
+void Interaction::Choose(Control& box, std::int32_t item)
+{
+    if (item >= 0 && static_cast<std::size_t>(item) < box.Items.size())
+        box.Text = box.Items[static_cast<std::size_t>(item)];
+    SelectAll(TheMarks.Edit, box.Text);
+    CloseList();
+    TextEdited();
 }
 }

@@ -1,5 +1,5 @@
-// The keys and typed characters. Characters are typed text and what goes by them (Backspace, Ctrl+A, C, V, X);
-// everything else goes by key codes.
+// The keys and typed characters: Interaction's keyboard events. Characters are typed text and what goes by them
+// (Backspace, Ctrl+A, C, V, X); everything else goes by key codes.
 #include "platform/Keys.h"
 #include "shell/forms/Interaction.h"
 
@@ -12,34 +12,33 @@ namespace
 constexpr std::int32_t LevelStep = 5; // per cent
 }
 
+void Interaction::SetModifier(std::int16_t code, bool down)
+{
+    if (code == platform::KeyShift)
+        Shift = down;
+    else if (code == platform::KeyCtrl)
+        Ctrl = down;
+    else if (code == platform::KeyAlt)
+        Alt = down;
+}
+
 void Interaction::KeyUp(std::int16_t code)
 {
     if (Holds(code))
         Release();
-    if (code == platform::KeyShift)
-        Shift = false;
-    else if (code == platform::KeyCtrl)
-        Ctrl = false;
-    else if (code == platform::KeyAlt)
-        Alt = false;
+    SetModifier(code, false);
 }
 
 void Interaction::KeyDown(std::int16_t code)
 {
     Settle();
-    if (code == platform::KeyShift)
-        Shift = true;
-    else if (code == platform::KeyCtrl)
-        Ctrl = true;
-    else if (code == platform::KeyAlt)
-        Alt = true;
-    if (Holds(code) || (IsListOpen() && ListKey(code)))
+    SetModifier(code, true);
+    if (Holds(code) || (TheList.IsOpen() && ListKey(code)))
         return;
-    if (Control* focus = Focused(); focus != nullptr && IsEdited(*focus) && BoxKey(*focus, code))
-    {
+    Control* focus = Focused();
+    if (focus != nullptr && IsEdited(*focus) && BoxKey(*focus, code))
         return TextEdited();
-    }
-    else if (focus != nullptr && LevelKey(*focus, code))
+    if (focus != nullptr && LevelKey(*focus, code))
         return;
     switch (code)
     {
@@ -126,6 +125,36 @@ bool Interaction::LevelKey(Control& picture, std::int16_t code)
     Owner.PointedAt(picture, (picture.Place.W * level + 50) / 100);
     Owner.Changed();
     return true;
+}
+
+// False: the key means what it means without a list.
+bool Interaction::ListKey(std::int16_t code)
+{
+    const bool isArrow = code == platform::KeyUp || code == platform::KeyDown;
+    if (isArrow && !Alt)
+    {
+        TheList.Step(code == platform::KeyDown ? 1 : -1);
+        Owner.Changed();
+        return true;
+    }
+    if (code == platform::KeyEnter && TheList.Item() >= 0)
+        Choose(TheList.Box(), TheList.Item());
+    else if (code == platform::KeyEnter || code == platform::KeyEsc || code == platform::KeyF4 || isArrow)
+        CloseList();
+    else
+    {
+        if (code == platform::KeyTab)
+            CloseList();
+        return false;
+    }
+    Hold(code);
+    return true;
+}
+
+void Interaction::StepItem(Control& box, int step)
+{
+    if (!box.Items.empty())
+        Choose(box, NextItem(box, step));
 }
 
 bool Interaction::BoxKey(Control& box, std::int16_t code)

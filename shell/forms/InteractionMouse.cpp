@@ -1,4 +1,4 @@
-// The left button and the pointer.
+// The left button and the pointer: Interaction's mouse events.
 #include "shell/forms/Boxes.h"
 #include "shell/forms/Interaction.h"
 
@@ -17,7 +17,7 @@ bool Interaction::MouseDown(platform::Point at, std::uint32_t now)
 {
     Settle();
     TheGrip = Grip::Spent;
-    if (IsListOpen())
+    if (TheList.IsOpen())
         return PressList(at);
     Control* control = TheForm.At(at.X, at.Y);
     if (control != nullptr && Reacts(*control))
@@ -29,51 +29,64 @@ bool Interaction::MouseDown(platform::Point at, std::uint32_t now)
 
 bool Interaction::PressControl(Control& control, platform::Point at, std::uint32_t now)
 {
-    const std::int16_t index = TheForm.IndexOf(control);
     if (!IsAvailable(control))
+    {
         SetFocus(-1);
-    else if (IsEdited(control))
-    {
-        const std::int32_t seen = TheForm.Focus == index ? TheMarks.Scroll : 0;
-        SetFocus(index);
-        TheMarks.Scroll = seen; // the pointer is where it is in the text as it was seen
-        if (Contains(DropButton(control, TheForm.PlaceOf(control)), at.X, at.Y))
-        {
-            OpenList(control);
-            TheGrip = Grip::List;
-        }
-        else
-            PressText(control, at, now);
+        return true;
     }
-    else
+    if (IsEdited(control))
     {
-        const bool isLevel = control.Type == Kind::Picture && Owner.HasPointer(control);
-        SetFocus(isLevel || control.Type == Kind::CheckBox ? index : std::int16_t{-1});
-        TheMarks.Pressed = index;
-        TheGrip = isLevel ? Grip::Picture : Grip::Control;
-        if (isLevel)
-            PointAt(at);
-        Owner.Changed();
+        PressBox(control, at, now);
+        return true;
     }
+    const std::int16_t index = TheForm.IndexOf(control);
+    const bool isLevel = control.Type == Kind::Picture && Owner.HasPointer(control);
+    SetFocus(isLevel || control.Type == Kind::CheckBox ? index : std::int16_t{-1});
+    TheMarks.Pressed = index;
+    TheGrip = isLevel ? Grip::Picture : Grip::Control;
+    if (isLevel)
+        PointAt(at);
+    Owner.Changed();
     return true;
+}
+
+// A text or combo box: its button, or its text.
+void Interaction::PressBox(Control& box, platform::Point at, std::uint32_t now)
+{
+    const std::int16_t index = TheForm.IndexOf(box);
+    const std::int32_t seen = TheForm.Focus == index ? TheMarks.Scroll : 0;
+    SetFocus(index);
+    TheMarks.Scroll = seen; // the pointer is where it is in the text as it was seen
+    if (!Contains(DropButton(box, TheForm.PlaceOf(box)), at.X, at.Y))
+        return PressText(box, at, now);
+    OpenList(box);
+    TheGrip = Grip::List;
 }
 
 void Interaction::PressText(Control& box, platform::Point at, std::uint32_t now)
 {
-    const std::int16_t index = TheForm.IndexOf(box);
-    const bool isDouble = LastPress.Box == index && now - LastPress.Time <= DoubleClickTime &&
-                          std::abs(at.X - LastPress.Place.X) <= DoubleClickReach &&
-                          std::abs(at.Y - LastPress.Place.Y) <= DoubleClickReach;
-    LastPress = {isDouble ? std::int16_t{-1} : index, now, at};
-    TheGrip = isDouble ? Grip::Spent : Grip::Text;
-    if (isDouble)
+    if (IsDoubleClick(TheForm.IndexOf(box), at, now))
+    {
+        TheGrip = Grip::Spent;
         SelectAll(TheMarks.Edit, box.Text);
+    }
     else
     {
+        TheGrip = Grip::Text;
         const Rect room = TextRoom(box, TheForm.PlaceOf(box));
         MoveCaret(TheMarks.Edit, CaretAt(box, at.X - room.X + TheMarks.Scroll), Shift);
     }
     TextEdited();
+}
+
+// Whether this press on a text is the second of two. A third one begins anew.
+bool Interaction::IsDoubleClick(std::int16_t index, platform::Point at, std::uint32_t now)
+{
+    const bool isDouble = LastPress.Box == index && now - LastPress.Time <= DoubleClickTime &&
+                          std::abs(at.X - LastPress.Place.X) <= DoubleClickReach &&
+                          std::abs(at.Y - LastPress.Place.Y) <= DoubleClickReach;
+    LastPress = {isDouble ? std::int16_t{-1} : index, now, at};
+    return isDouble;
 }
 
 void Interaction::DragText(platform::Point at)
@@ -97,8 +110,7 @@ void Interaction::PointAt(platform::Point at)
 
 bool Interaction::PressList(platform::Point at)
 {
-    const Control& box = *Of(TheMarks.List.Owner);
-    const ListPlace list = PlaceList(box, TheForm.PlaceOf(box), TheForm.Client, TheMarks.List.First);
+    const ListPlace list = TheList.Place();
     if (!Contains(list.Box, at.X, at.Y))
     {
         CloseList();
@@ -111,15 +123,10 @@ bool Interaction::PressList(platform::Point at)
 
 void Interaction::HoverList(platform::Point at)
 {
-    if (!IsListOpen())
-        return;
-    const Control& box = *Of(TheMarks.List.Owner);
-    const ListPlace list = PlaceList(box, TheForm.PlaceOf(box), TheForm.Client, TheMarks.List.First);
-    const std::int32_t row = list.RowAt(at.X, at.Y);
     if (TheGrip == Grip::Track)
-        TheMarks.List.First = FirstRowAt(list, static_cast<std::int32_t>(box.Items.size()), at.Y);
-    else if (row >= 0)
-        TheMarks.List.Item = TheMarks.List.First + row;
+        TheList.ScrollTo(at.Y);
+    else
+        TheList.PointAt(at);
     Owner.Changed();
 }
 
@@ -136,7 +143,7 @@ void Interaction::MouseMove(bool leftHeld, platform::Point at)
         return DragText(at);
     if (TheGrip == Grip::Picture)
         return PointAt(at);
-    if (IsListOpen())
+    if (TheList.IsOpen())
         return HoverList(at);
     const Control* control = TheForm.At(at.X, at.Y);
     const bool isHot = control != nullptr && Reacts(*control) && IsAvailable(*control);
@@ -162,12 +169,10 @@ void Interaction::MouseUp(platform::Point at)
     Settle();
     const Grip grip = std::exchange(TheGrip, Grip::Nothing);
     const std::int16_t pressed = std::exchange(TheMarks.Pressed, std::int16_t{-1});
-    if (grip == Grip::List && IsListOpen())
+    if (grip == Grip::List && TheList.IsOpen())
     {
-        Control& box = *Of(TheMarks.List.Owner);
-        const ListPlace list = PlaceList(box, TheForm.PlaceOf(box), TheForm.Client, TheMarks.List.First);
-        if (const std::int32_t row = list.RowAt(at.X, at.Y); row >= 0)
-            Choose(box, TheMarks.List.First + row);
+        if (const std::int32_t item = TheList.ItemAt(at); item >= 0)
+            Choose(TheList.Box(), item);
         return;
     }
     Control* control = Of(pressed);

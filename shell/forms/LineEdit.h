@@ -1,5 +1,6 @@
-// shell/forms/LineEdit.h: editing one line of text: the caret, what is selected, and what keys and characters do.
-// Texts are UTF-8; places in them are bytes at which a character begins, or the end.
+// shell/forms/LineEdit.h: editing one line of text: the caret, what is selected, and what keys and characters do. Knows
+// no control and no pixel. Texts are UTF-8; places in them are bytes at which a character begins, or the end. A byte
+// that is not UTF-8 counts as a character. Every call leaves a selection that fits its line, if it fitted before.
 #pragma once
 #include <cstddef>
 #include <cstdint>
@@ -12,6 +13,7 @@ namespace forms
 inline constexpr std::size_t LongestLine = 1000;
 std::string_view ShownPart(std::string_view text);
 
+// Keys move the caret; with Shift the anchor stays behind.
 struct Selection
 {
     std::size_t Caret = 0, Anchor = 0; // selected is what lies between them
@@ -34,8 +36,10 @@ bool Insert(std::string& line, Selection& selection, std::string_view text);
 // False: nothing was selected.
 bool EraseSelected(std::string& line, Selection& selection);
 
-// Left, right, Home and End (Shift selects, Ctrl goes by words), Delete. False: no key of a line.
+// Left, right, Home and End (Shift selects, Ctrl goes by words), Delete; codes of platform/Keys.h. False: no key of a
+// line, and nothing is changed.
 bool EditKey(std::string& line, Selection& selection, std::int16_t code, bool shift, bool ctrl);
-// A typed character of the system code page: Backspace (8), or one that is inserted. False: the line does not take it.
+// A typed character of the system code page: Backspace (8), which erases the selection or the character before the
+// caret, or one that is inserted. False: the line does not take it.
 bool EditCharacter(std::string& line, Selection& selection, std::uint8_t code);
 }
