@@ -52,7 +52,7 @@ const std::uint8_t* SkyPixel(const GroundView& view, std::int32_t x, std::int32_
 // lie in the picture.
 inline constexpr std::int32_t TapMargin = MostTaps + 1;
 
-// Below one whole tap the two neighbours of the texel weigh SideWeight of 100 each: one more for every SideWeightStep
-// of the row's tap count. With fewer than FewestTaps they do not count at all.
+// Below one whole tap, each of the texel's two neighbours has a hundredth of the pixel for every SideWeightStep of the
+// row's tap count, and the texel the rest; with fewer than FewestTaps it has all.
 inline constexpr double FewestTaps = 0.3, SideWeightStep = 0.03;
 }
