@@ -3,6 +3,7 @@
 #pragma once
 #include "base/Fields.h"
 #include "base/Numbers.h"
+#include "base/Pixels.h"
 
 #include <cstdint>
 
@@ -80,10 +81,7 @@ double AngleOf(double y, double x);
 // NaN where the angle is no number or its thousandths need more than 32 bits.
 double WrapAngle(double angle);
 
-struct Rgb
-{
-    std::uint8_t R = 0, G = 0, B = 0;
-};
+using base::Rgb;
 // Red in the low byte. Meaningful for colours of 0 and above.
 Rgb SplitRGB(std::int32_t colour);
 }

@@ -69,7 +69,7 @@ TexelField TextureOf(const Scene& scene, std::int16_t slot)
     if (!scene.Textures.Has(slot) || scene.Textures.At(slot).Free != 0)
         return {};
     const Texture& texture = scene.Textures.At(slot);
-    return MakeTexelField(texture.Pic.Pixels, texture.Width, texture.Height);
+    return MakeTexelField(texture.Pic.Pixels, texture.Pic.Info.Width, texture.Pic.Info.Height);
 }
 
 void DrawMesh(const Scene& scene, const Camera& camera, Screen& screen, const Obj& object, const Rotation& rotation,
@@ -86,10 +86,9 @@ void DrawMesh(const Scene& scene, const Camera& camera, Screen& screen, const Ob
             [&, texture = TextureOf(scene, mesh.TexIndex)](const Corner& a, const Corner& b, const Corner& c)
             { DrawTriTex(camera, screen, a, b, c, texture); });
     else
-        ForEachTriangle(
-            mesh.Pts, see,
-            [&, colour = Rgb{mesh.ColR, mesh.ColG, mesh.ColB}](const Corner& a, const Corner& b, const Corner& c)
-            { DrawSeenFlat(scene, camera, screen, a, b, c, colour); });
+        ForEachTriangle(mesh.Pts, see,
+                        [&, colour = mesh.Col](const Corner& a, const Corner& b, const Corner& c)
+                        { DrawSeenFlat(scene, camera, screen, a, b, c, colour); });
 }
 
 void DrawWorldMeshes(const Scene& scene, const Camera& camera, Screen& screen)
@@ -97,10 +96,9 @@ void DrawWorldMeshes(const Scene& scene, const Camera& camera, Screen& screen)
     const auto see = [&](const MeshPt& point) { return SeeCorner(camera, screen, {point.X, point.Y, point.Z}); };
     for (const ObjMesh& mesh : scene.WorldMeshes)
         if (IsDrawn(mesh))
-            ForEachTriangle(
-                mesh.Pts, see,
-                [&, colour = Rgb{mesh.ColR, mesh.ColG, mesh.ColB}](const Corner& a, const Corner& b, const Corner& c)
-                { DrawSeenFlat(scene, camera, screen, a, b, c, colour); });
+            ForEachTriangle(mesh.Pts, see,
+                            [&, colour = mesh.Col](const Corner& a, const Corner& b, const Corner& c)
+                            { DrawSeenFlat(scene, camera, screen, a, b, c, colour); });
 }
 
 void DrawPolys(const Scene& scene, const Camera& camera, Screen& screen)
@@ -109,7 +107,7 @@ void DrawPolys(const Scene& scene, const Camera& camera, Screen& screen)
     {
         if (!IsDrawn(poly))
             continue;
-        const Rgb colour{poly.ColR, poly.ColG, poly.ColB};
+        const Rgb colour = poly.Col;
         for (std::size_t i = 1; i < poly.Pts.size(); ++i)
         {
             const PolyPt &from = poly.Pts[i - 1], &to = poly.Pts[i];
@@ -121,13 +119,13 @@ void DrawPolys(const Scene& scene, const Camera& camera, Screen& screen)
 void DrawLabel(const Scene& scene, const Surface& surface, const Label2D& label)
 {
     const Font& font = scene.Font;
-    const Colour colour{label.ColR, label.ColG, label.ColB};
+    const Colour colour{label.Col.R, label.Col.G, label.Col.B};
     const std::int32_t tab = TabPixels(font, label.Scale, label.TabWidth);
-    if (label.Style == 0)
+    if (label.Style == StartsAtX)
         DrawTextLeft(surface, font, label.X, label.Y, label.Scale, tab, colour, label.Fade, label.Text);
-    else if (label.Style == 1)
+    else if (label.Style == EndsAtX)
         DrawTextRight(surface, font, label.X, label.Y, label.Scale, colour, label.Fade, label.Text);
-    else if (label.Style == 2)
+    else if (label.Style == CentredOnX)
         DrawTextCentred(surface, font, label.X, label.Y, label.Scale, tab, colour, label.Fade, label.Text);
 }
 }
@@ -167,7 +165,7 @@ void DrawHud(const Scene& scene, Screen& screen)
             DrawPic2D(surface, pic.Pic, base::RoundEven(pic.X), base::RoundEven(pic.Y));
     for (const Rect2D& rect : scene.Rects.Items)
         if (IsDrawn(rect) && rect.Hidden == 0)
-            FillRect2D(surface, rect.X, rect.Y, rect.W, rect.H, {rect.ColR, rect.ColG, rect.ColB});
+            FillRect2D(surface, rect.X, rect.Y, rect.W, rect.H, rect.Col);
     for (const Label2D& label : scene.Labels.Items)
         if (IsDrawn(label))
             DrawLabel(scene, surface, label);

@@ -80,7 +80,7 @@ bool Form1::BoundKeyUp(std::int16_t code)
 
 void Form1::StepViewPlayer(int step)
 {
-    const std::int32_t count = TheGame.Race.NumPlayers;
+    const std::int32_t count = TheGame.Race.NumPlayers();
     std::int16_t& viewed = TheGame.Camera.ViewPlayer;
     if (count <= 0)
         return;

@@ -1,10 +1,12 @@
 // Start-up and shut-down of the main window, in their fixed orders.
 #include "render/Font.h"
 #include "render/Primitives.h"
+#include "render/Textures.h"
 #include "shell/Design.h"
 #include "shell/Form1.h"
 #include "shell/HudElements.h"
-#include "world/Loaders.h"
+#include "world/LoadMap.h"
+#include "world/LoadObject.h"
 
 #include <algorithm>
 
@@ -155,8 +157,8 @@ void Form1::Inizializza()
                       assets.GlassTexture = render::LoadTexture(scene, messages, files, "data\\textures\\glass.bmp");
                       assets.BrokenGlassTexture =
                           render::LoadTexture(scene, messages, files, "data\\textures\\glass_b.bmp");
-                      assets.ArrowObj = world::LoadObject(scene, messages, files, "data\\models\\gps.3dm");
-                      assets.CupObj = world::LoadObject(scene, messages, files, "data\\models\\cup.3dm");
+                      assets.ArrowObj = world::LoadObject(scene, messages, files, "data\\models\\gps.3dm").Current;
+                      assets.CupObj = world::LoadObject(scene, messages, files, "data\\models\\cup.3dm").Current;
                       world::LoadMap(scene, TheGame.Race, messages, files, "data\\maps\\map_01\\map.loader",
                                      TheGame.Screen.SingleThread == 0);
                       MakeHud(scene, messages, TheGame.Hud, TheGame.Screen.ScreenW, TheGame.Screen.ScreenH);

@@ -32,12 +32,12 @@ struct Desk final : console::Host
         for (const float x : {0.0f, 6.0f, 12.0f})
         {
             World.AddCar(x, 4);
-            const std::int16_t body = render::MakeObj(World.Scene, x, 0, 4, 0, 0, 1, 0, 1, 1);
+            const std::int16_t body = render::MakeObj(World.Scene, {x, 0, 4, 0, 0}, 1, 0, 1, 1);
             render::EditObjMesh(World.Scene, body, 0, 2, 2, 255, 0);
             for (int i = 0; i < 2; ++i)
                 for (int j = 0; j < 2; ++j)
-                    render::EditObjMeshPt(World.Scene, body, 0, i, j, static_cast<float>(i), 1, static_cast<float>(j),
-                                          0, 0);
+                    render::EditObjMeshPt(World.Scene, body, 0, i, j,
+                                          {static_cast<float>(i), 1, static_cast<float>(j), 0, 0});
         }
         World.Race.GameTime = world::ReleaseTime;
         World.Keys.KeyAccel = World.Keys.KeyLeft = base::True;
@@ -76,7 +76,13 @@ struct Desk final : console::Host
 private:
     std::int16_t Label(std::int16_t y)
     {
-        return render::MakeLabel2D(World.Scene, 1, y, 0, 0.5f, 4, {255, 255, 255}, 0, "\\");
+        return render::MakeLabel2D(World.Scene, {.X = 1,
+                                                 .Y = y,
+                                                 .Style = render::StartsAtX,
+                                                 .Text = "\\",
+                                                 .Scale = 0.5f,
+                                                 .TabWidth = 4,
+                                                 .Col = {255, 255, 255}});
     }
     std::string ClipboardText() override { return Clipboard; }
     void SetClipboardText(const std::string& text) override { Clipboard = text; }
