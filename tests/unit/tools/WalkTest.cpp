@@ -148,7 +148,7 @@ TEST_F(Walk, CountsAndWholeRecordsCannotBeSet)
     EXPECT_EQ(Poke("Count", "4"), Outcome::ReadOnly);
     EXPECT_EQ(Poke("objects[0].NumMesh", "4"), Outcome::ReadOnly);
     EXPECT_EQ(Poke("objects[0].Mesh[0].Rows", "1"), Outcome::ReadOnly);
-    EXPECT_EQ(Poke("objects[0].Sfere[0].Links.size()", "1"), Outcome::ReadOnly);
+    EXPECT_EQ(Poke("objects[0].Sfere[0].NumLinks", "1"), Outcome::ReadOnly);
     EXPECT_EQ(Poke("objects[0]", "1"), Outcome::NotOneValue);
     EXPECT_EQ(Poke("players", "1"), Outcome::NotOneValue);
     EXPECT_EQ(Poke("objects[0].Sfere[0].Links[0]", "1"), Outcome::NotOneValue);
