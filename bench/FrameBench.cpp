@@ -14,16 +14,16 @@ namespace
 void AddCar(render::Scene& scene, base::Random& random, float x, float z)
 {
     const auto car =
-        render::MakeObj(scene, x, 0.0f, z, static_cast<float>(scenes::Draw(random, 0.0, 6.0)), 0.0f, 12, 0, 1, 1.0f);
+        render::MakeObj(scene, {x, 0.0f, z, static_cast<float>(scenes::Draw(random, 0.0, 6.0)), 0.0f}, 12, 0, 1, 1.0f);
     render::SetObjR(scene, car, 3.0f);
     for (std::int16_t m = 0; m < 12; ++m)
     {
         render::EditObjMesh(scene, car, m, 9, 5, m % 2 == 0 ? 0x4080C0 : -1, 0);
         for (int i = 0; i < 9; ++i)
             for (int j = 0; j < 5; ++j)
-                render::EditObjMeshPt(scene, car, m, i, j, static_cast<float>(i * 0.45 - 1.8 + m * 0.01),
-                                      static_cast<float>(0.2 + j * 0.3), static_cast<float>((m - 6) * 0.2 + 0.1 * j),
-                                      i * 30, j * 60);
+                render::EditObjMeshPt(scene, car, m, i, j,
+                                      {static_cast<float>(i * 0.45 - 1.8 + m * 0.01), static_cast<float>(0.2 + j * 0.3),
+                                       static_cast<float>((m - 6) * 0.2 + 0.1 * j), i * 30, j * 60});
     }
 }
 
@@ -38,9 +38,8 @@ struct World
         random.Seed(7);
         Scene.Sky = scenes::Noise(random, render::SkyWidth, 300);
         scenes::SetGround(Scene, scenes::Noise(random, 1000, 1000));
-        render::Texture& texture = Scene.Textures.At(Scene.Textures.Take());
+        render::Texture& texture = Scene.Textures.At(Scene.Textures.Add());
         texture.Pic = scenes::Noise(random, 256, 256, 0.01);
-        texture.Width = texture.Height = 256;
         AddCar(Scene, random, 500.0f, 414.0f);
         AddCar(Scene, random, 496.0f, 425.0f);
         for (int i = 0; i < 12; ++i)
@@ -48,10 +47,20 @@ struct World
                    static_cast<float>(scenes::Draw(random, 300.0, 700.0)));
         const auto smoke = std::make_shared<render::Picture>(scenes::Noise(random, 64, 64, 0.3));
         for (int i = 0; i < 10; ++i)
-            render::AddParticle(Scene, 20, render::Smoke, smoke, 498.0f, 1.0f + static_cast<float>(i) * 0.1f, 420.0f,
-                                0.03f, 0.6f);
+            render::AddParticle(Scene, 20, render::Smoke,
+                                {.X = 498.0f,
+                                 .Y = 1.0f + static_cast<float>(i) * 0.1f,
+                                 .Z = 420.0f,
+                                 .Scale = 0.03f,
+                                 .Alpha = 0.6f,
+                                 .Pixels = smoke});
         for (std::int16_t i = 0; i < 8; ++i)
-            render::MakeRect2D(Scene, static_cast<std::int16_t>(i * 20), 10, 100, 8, 0, {255, 255, 0}, 1);
+            render::MakeRect2D(Scene, {.Visible = 1,
+                                       .X = static_cast<std::int16_t>(i * 20),
+                                       .Y = 10,
+                                       .W = 100,
+                                       .H = 8,
+                                       .Col = {255, 255, 0}});
         View = std::make_unique<scenes::View>(width, height, filter, 5);
         View->Look(500.0f, 7.0f, 400.0f, 0.1f, -0.1f);
     }

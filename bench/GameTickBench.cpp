@@ -26,13 +26,14 @@ void AddObject(World& world)
     base::Random& random = world.Random;
     const float radius = Between(random, 1, 6);
     const auto spheres = static_cast<std::int16_t>(1 + base::Floor(random.Next() * 4));
-    const std::int16_t object =
-        render::MakeObj(world.Scene, Between(random, 0, WorldSize), 0, Between(random, 0, WorldSize),
-                        Between(random, -3, 3), 0, 0, spheres, 1, 20);
+    const std::int16_t object = render::MakeObj(
+        world.Scene, {Between(random, 0, WorldSize), 0, Between(random, 0, WorldSize), Between(random, -3, 3), 0}, 0,
+        spheres, 1, 20);
     render::SetObjR(world.Scene, object, radius);
     for (std::int16_t sphere = 0; sphere < spheres; ++sphere)
-        render::EditObjSfere(world.Scene, object, sphere, Between(random, -radius, radius) / 2, 1,
-                             Between(random, -radius, radius) / 2, radius / 3);
+        render::EditObjSfere(world.Scene, object, sphere,
+                             {Between(random, -radius, radius) / 2, 1, Between(random, -radius, radius) / 2},
+                             radius / 3);
 }
 
 // On the course, in rows of four.
@@ -41,18 +42,21 @@ void AddCar(World& world, int number)
     const int row = number / 4;
     const float angle = static_cast<float>(row) * 0.03f;
     const float distance = 250.0f + static_cast<float>(number % 4) * 4.0f;
-    const std::int16_t object =
-        render::MakeObj(world.Scene, WorldSize / 2 - std::cos(angle) * distance, 0,
-                        WorldSize / 2 + std::sin(angle) * distance, -angle, 0, 21, CarSpheres, 1, 1);
+    const std::int16_t object = render::MakeObj(
+        world.Scene,
+        {WorldSize / 2 - std::cos(angle) * distance, 0, WorldSize / 2 + std::sin(angle) * distance, -angle, 0}, 21,
+        CarSpheres, 1, 1);
     render::SetObjR(world.Scene, object, 2.6f);
     for (std::int16_t mesh = 0; mesh < 21; ++mesh)
         render::EditObjMesh(world.Scene, object, mesh, 4, 4, 255, 0);
     for (std::int16_t sphere = 0; sphere < CarSpheres; ++sphere)
     {
-        render::EditObjSfere(world.Scene, object, sphere, static_cast<float>(sphere % 2) - 0.5f, 0.6f,
-                             std::floor(static_cast<float>(sphere) / 2) * 0.8f - 1.6f, 0.6f);
+        render::EditObjSfere(
+            world.Scene, object, sphere,
+            {static_cast<float>(sphere % 2) - 0.5f, 0.6f, std::floor(static_cast<float>(sphere) / 2) * 0.8f - 1.6f},
+            0.6f);
         for (std::int16_t link = 0; link < 8; ++link)
-            render::AddSfereLink(world.Scene, object, sphere, link, 1, 1);
+            render::AddSfereLink(world.Scene, object, sphere, {link, 1, 1});
     }
     render::KeepUndamaged(world.Scene, object);
 
@@ -66,7 +70,6 @@ void AddCar(World& world, int number)
     player.Deceleration = player.CurDeceleration = 0.01f;
     player.Control = number == 0 ? 0 : 1;
     world.Race.Players.push_back(player);
-    ++world.Race.NumPlayers;
 }
 
 std::unique_ptr<World> MakeWorld(int cars, int objects)
@@ -84,12 +87,11 @@ std::unique_ptr<World> MakeWorld(int cars, int objects)
     for (int gate = 1; gate <= GateCount; ++gate)
     {
         const float angle = static_cast<float>(gate) * 6.2831853f / GateCount;
-        world.Race.Map.Checkpoints.push_back(
+        world.Race.Map.Checkpoints.Items.push_back(
             {WorldSize / 2 - std::cos(angle) * 256, 0, WorldSize / 2 + std::sin(angle) * 256, 16});
-        world.Race.Map.Grass.push_back({WorldSize / 2, 0, WorldSize / 2, 10.0f * static_cast<float>(gate)});
+        world.Race.Map.Grass.Items.push_back({WorldSize / 2, 0, WorldSize / 2, 10.0f * static_cast<float>(gate)});
     }
     world.Race.Map.ACheckpoints = world.Race.Map.Checkpoints;
-    world.Race.Map.NumCheckpoints = world.Race.Map.NumGrass = GateCount;
     world.MakePictures();
     world.Keys.KeyAccel = base::True;
     return made;

@@ -6,6 +6,7 @@
 
 #include <algorithm>
 #include <limits>
+#include <utility>
 
 namespace render
 {
@@ -29,7 +30,7 @@ float Risen(float value, double distance)
     return static_cast<float>(value + distance);
 }
 
-void Advance(Sprite3D& sprite, std::int32_t kind, base::Random& random)
+void Advance(Sprite3D& sprite, ParticleKind kind, base::Random& random)
 {
     if (kind == Smoke)
     {
@@ -55,18 +56,18 @@ void Advance(Sprite3D& sprite, std::int32_t kind, base::Random& random)
 }
 }
 
-std::int16_t AddParticle(Scene& scene, std::int16_t life, std::int32_t kind, const PicReference& picture, float x,
-                         float y, float z, float scale, float alpha)
+std::int16_t AddParticle(Scene& scene, std::int16_t life, ParticleKind kind, Sprite3D sprite)
 {
     std::vector<Particle>& list = scene.Particles;
     const auto free = std::find_if(list.begin(), list.end(), [](const Particle& p) { return p.Life < 0; });
     const auto index = static_cast<std::size_t>(free - list.begin());
     if (index > static_cast<std::size_t>(MostParticles))
         throw base::RuntimeError(base::ErrorOverflow);
-    const std::int16_t sprite = MakeSprite3D(scene, picture, x, y, z, scale, alpha, 1);
+    sprite.Visible = 1;
+    const std::int16_t slot = scene.Sprites.Add(std::move(sprite));
     if (free == list.end())
         list.emplace_back();
-    list[index] = {life, sprite, kind};
+    list[index] = {life, slot, kind};
     scene.ParticleCount = static_cast<std::int16_t>(std::min(scene.ParticleCount + 1, int{MostParticles}));
     return static_cast<std::int16_t>(index);
 }

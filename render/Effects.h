@@ -5,18 +5,11 @@
 
 namespace render
 {
-enum Kind : std::int32_t
-{
-    Inert = 0,
-    Smoke = 1,
-    Puff = 2,
-    Fire = 3
-};
-
-// Index of the particle: the first with a negative life, else a new one. life: ticks.
-std::int16_t AddParticle(Scene& scene, std::int16_t life, std::int32_t kind, const PicReference& picture, float x,
-                         float y, float z, float scale, float alpha);
+// Makes the sprite, visible, and the particle that moves it for `life` ticks. Index of the particle: the first with a
+// negative life, else a new one. RuntimeError 6 beyond the 16-bit index of either list.
+std::int16_t AddParticle(Scene& scene, std::int16_t life, ParticleKind kind, Sprite3D sprite);
+// Frees the particle and its sprite; a free one stays as it is. RuntimeError 9 where there is no such particle.
 void RemoveParticle(Scene& scene, std::int32_t particle);
-// One tick for every particle: ages, drifts, grows or shrinks, and vanishes.
+// One tick for every particle: ages, drifts, grows or shrinks, and vanishes. Smoke and fire draw twice each.
 void AdvanceParticles(Scene& scene, base::Random& random);
 }

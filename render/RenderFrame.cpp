@@ -62,7 +62,7 @@ base::ConstSurface TextureOf(const Scene& scene, std::int16_t slot)
     if (!scene.Textures.Has(slot) || scene.Textures.At(slot).Free != 0)
         return {};
     const Texture& texture = scene.Textures.At(slot);
-    return MakeSurface(texture.Pic.Pixels, texture.Width, texture.Height);
+    return MakeSurface(texture.Pic);
 }
 
 void DrawMesh(const Scene& scene, const Camera& camera, Screen& screen, const Obj& object, const Rotation& rotation,
@@ -80,7 +80,7 @@ void DrawMesh(const Scene& scene, const Camera& camera, Screen& screen, const Ob
                         { DrawTriTex(camera, screen, triangle, texture); });
     else
         ForEachTriangle(mesh.Pts, transform,
-                        [&, colour = base::Rgb{mesh.ColR, mesh.ColG, mesh.ColB}](const Triangle& triangle)
+                        [&, colour = mesh.Col](const Triangle& triangle)
                         { DrawTriFlat(scene, camera, screen, triangle, colour); });
 }
 
@@ -92,7 +92,7 @@ void DrawWorldMeshes(const Scene& scene, const Camera& camera, Screen& screen)
     for (const ObjMesh& mesh : scene.WorldMeshes)
         if (IsDrawn(mesh))
             ForEachTriangle(mesh.Pts, transform,
-                            [&, colour = base::Rgb{mesh.ColR, mesh.ColG, mesh.ColB}](const Triangle& triangle)
+                            [&, colour = mesh.Col](const Triangle& triangle)
                             { DrawTriFlat(scene, camera, screen, triangle, colour); });
 }
 
@@ -102,7 +102,7 @@ void DrawPolys(const Scene& scene, const Camera& camera, Screen& screen)
     {
         if (!IsDrawn(poly))
             continue;
-        const base::Rgb colour{poly.ColR, poly.ColG, poly.ColB};
+        const base::Rgb colour = poly.Col;
         for (std::size_t i = 1; i < poly.Pts.size(); ++i)
         {
             const PolyPt &from = poly.Pts[i - 1], &to = poly.Pts[i];
@@ -147,7 +147,7 @@ void DrawHud(const Scene& scene, Screen& screen)
             DrawPic2D(surface, pic.Pic, base::RoundEven(pic.X), base::RoundEven(pic.Y));
     for (const Rect2D& rect : scene.Rects.Items)
         if (IsDrawn(rect) && rect.Hidden == 0)
-            FillRect2D(surface, rect.X, rect.Y, rect.W, rect.H, {rect.ColR, rect.ColG, rect.ColB});
+            FillRect2D(surface, rect.X, rect.Y, rect.W, rect.H, rect.Col);
     for (const Label2D& label : scene.Labels.Items)
         if (IsDrawn(label))
             DrawLabel(surface, scene.Font, label);

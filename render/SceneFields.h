@@ -19,10 +19,12 @@ template <> struct base::FieldsOf<render::PolyPt>
 template <> struct base::FieldsOf<render::ObjMesh>
 {
     using R = render::ObjMesh;
-    static constexpr auto Table = std::make_tuple(
-        Field{"Visible", &R::Visible}, Field{"Free", &R::Free}, Field{"Colour", &R::Colour}, Fixed{"Rows", &R::Rows},
-        Fixed{"Cols", &R::Cols}, Field{"ColR", &R::ColR}, Field{"ColG", &R::ColG}, Field{"ColB", &R::ColB},
-        Field{"TexIndex", &R::TexIndex}, Field{"Pts", &R::Pts});
+    static constexpr auto Table =
+        std::make_tuple(Field{"Visible", &R::Visible}, Field{"Free", &R::Free}, Field{"Colour", &R::Colour},
+                        Derived{"Rows", [](const R& mesh) { return mesh.Pts.Rows; }},
+                        Derived{"Cols", [](const R& mesh) { return mesh.Pts.Cols; }}, Part{"ColR", &R::Col, &Rgb::R},
+                        Part{"ColG", &R::Col, &Rgb::G}, Part{"ColB", &R::Col, &Rgb::B}, Field{"TexIndex", &R::TexIndex},
+                        Field{"Pts", &R::Pts});
 };
 
 template <> struct base::FieldsOf<render::SfereLink>
@@ -34,35 +36,38 @@ template <> struct base::FieldsOf<render::SfereLink>
 template <> struct base::FieldsOf<render::Sfera>
 {
     using R = render::Sfera;
-    static constexpr auto Table =
-        std::make_tuple(Field{"X", &R::X}, Field{"Y", &R::Y}, Field{"Z", &R::Z}, Field{"R", &R::R},
-                        Fixed{"NumLinks", &R::NumLinks}, Field{"Links", &R::Links});
+    static constexpr auto Table = std::make_tuple(
+        Field{"X", &R::X}, Field{"Y", &R::Y}, Field{"Z", &R::Z}, Field{"R", &R::R},
+        Derived{"NumLinks", [](const R& sphere) { return CountOf(sphere.Links); }}, Field{"Links", &R::Links});
 };
 
 template <> struct base::FieldsOf<render::Obj>
 {
     using R = render::Obj;
-    static constexpr auto Table =
-        std::make_tuple(Field{"Visible", &R::Visible}, Field{"Free", &R::Free}, Field{"Mass", &R::Mass},
-                        Field{"X", &R::X}, Field{"Y", &R::Y}, Field{"Z", &R::Z}, Field{"AngleA", &R::AngleA},
-                        Field{"AngleB", &R::AngleB}, Field{"Radius", &R::Radius}, Fixed{"NumSfere", &R::NumSfere},
-                        Fixed{"NumMesh", &R::NumMesh}, Field{"Sfere", &R::Sfere}, Field{"Mesh", &R::Mesh});
+    static constexpr auto Table = std::make_tuple(
+        Field{"Visible", &R::Visible}, Field{"Free", &R::Free}, Field{"Mass", &R::Mass}, Field{"X", &R::X},
+        Field{"Y", &R::Y}, Field{"Z", &R::Z}, Field{"AngleA", &R::AngleA}, Field{"AngleB", &R::AngleB},
+        Field{"Radius", &R::Radius}, Derived{"NumSfere", [](const R& object) { return CountOf(object.Sfere); }},
+        Derived{"NumMesh", [](const R& object) { return CountOf(object.Mesh); }}, Field{"Sfere", &R::Sfere},
+        Field{"Mesh", &R::Mesh});
 };
 
 template <> struct base::FieldsOf<render::Poly>
 {
     using R = render::Poly;
     static constexpr auto Table =
-        std::make_tuple(Field{"Visible", &R::Visible}, Field{"Free", &R::Free}, Field{"ColR", &R::ColR},
-                        Field{"ColG", &R::ColG}, Field{"ColB", &R::ColB}, Field{"Pts", &R::Pts});
+        std::make_tuple(Field{"Visible", &R::Visible}, Field{"Free", &R::Free}, Part{"ColR", &R::Col, &Rgb::R},
+                        Part{"ColG", &R::Col, &Rgb::G}, Part{"ColB", &R::Col, &Rgb::B}, Field{"Pts", &R::Pts});
 };
 
 template <> struct base::FieldsOf<render::Sprite3D>
 {
     using R = render::Sprite3D;
-    static constexpr auto Table = std::make_tuple(
-        Field{"Visible", &R::Visible}, Field{"Free", &R::Free}, Field{"X", &R::X}, Field{"Y", &R::Y}, Field{"Z", &R::Z},
-        Field{"Scale", &R::Scale}, Field{"Alpha", &R::Alpha}, Fixed{"Width", &R::Width}, Fixed{"Height", &R::Height});
+    static constexpr auto Table =
+        std::make_tuple(Field{"Visible", &R::Visible}, Field{"Free", &R::Free}, Field{"X", &R::X}, Field{"Y", &R::Y},
+                        Field{"Z", &R::Z}, Field{"Scale", &R::Scale}, Field{"Alpha", &R::Alpha},
+                        Derived{"Width", [](const R& sprite) { return sprite.Width(); }},
+                        Derived{"Height", [](const R& sprite) { return sprite.Height(); }});
 };
 
 template <> struct base::FieldsOf<render::Particle>
@@ -77,7 +82,8 @@ template <> struct base::FieldsOf<render::Pic2D>
     using R = render::Pic2D;
     static constexpr auto Table =
         std::make_tuple(Field{"Visible", &R::Visible}, Field{"Free", &R::Free}, Field{"X", &R::X}, Field{"Y", &R::Y},
-                        Fixed{"Width", &R::Width}, Fixed{"Height", &R::Height});
+                        Derived{"Width", [](const R& pic) { return pic.Pic.Info.Width; }},
+                        Derived{"Height", [](const R& pic) { return pic.Pic.Info.Height; }});
 };
 
 template <> struct base::FieldsOf<render::Rect2D>
@@ -85,24 +91,27 @@ template <> struct base::FieldsOf<render::Rect2D>
     using R = render::Rect2D;
     static constexpr auto Table =
         std::make_tuple(Field{"Visible", &R::Visible}, Field{"Free", &R::Free}, Field{"X", &R::X}, Field{"Y", &R::Y},
-                        Field{"W", &R::W}, Field{"H", &R::H}, Field{"Hidden", &R::Hidden}, Field{"ColR", &R::ColR},
-                        Field{"ColG", &R::ColG}, Field{"ColB", &R::ColB});
+                        Field{"W", &R::W}, Field{"H", &R::H}, Field{"Hidden", &R::Hidden},
+                        Part{"ColR", &R::Col, &Rgb::R}, Part{"ColG", &R::Col, &Rgb::G}, Part{"ColB", &R::Col, &Rgb::B});
 };
 
 template <> struct base::FieldsOf<render::Label2D>
 {
     using R = render::Label2D;
-    static constexpr auto Table = std::make_tuple(
-        Field{"Visible", &R::Visible}, Field{"Free", &R::Free}, Field{"X", &R::X}, Field{"Y", &R::Y},
-        Field{"Style", &R::Style}, Field{"Text", &R::Text}, Field{"Scale", &R::Scale}, Field{"TabWidth", &R::TabWidth},
-        Field{"ColR", &R::ColR}, Field{"ColG", &R::ColG}, Field{"ColB", &R::ColB}, Field{"Fade", &R::Fade});
+    static constexpr auto Table =
+        std::make_tuple(Field{"Visible", &R::Visible}, Field{"Free", &R::Free}, Field{"X", &R::X}, Field{"Y", &R::Y},
+                        Field{"Style", &R::Style}, Field{"Text", &R::Text}, Field{"Scale", &R::Scale},
+                        Field{"TabWidth", &R::TabWidth}, Part{"ColR", &R::Col, &Rgb::R}, Part{"ColG", &R::Col, &Rgb::G},
+                        Part{"ColB", &R::Col, &Rgb::B}, Field{"Fade", &R::Fade});
 };
 
 template <> struct base::FieldsOf<render::Texture>
 {
     using R = render::Texture;
-    static constexpr auto Table = std::make_tuple(Field{"Free", &R::Free}, Field{"Path", &R::Path},
-                                                  Fixed{"Width", &R::Width}, Fixed{"Height", &R::Height});
+    static constexpr auto Table =
+        std::make_tuple(Field{"Free", &R::Free}, Field{"Path", &R::Path},
+                        Derived{"Width", [](const R& texture) { return texture.Pic.Info.Width; }},
+                        Derived{"Height", [](const R& texture) { return texture.Pic.Info.Height; }});
 };
 
 template <> struct base::FieldsOf<render::Ground>

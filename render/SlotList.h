@@ -6,6 +6,7 @@
 
 #include <cstdint>
 #include <limits>
+#include <utility>
 #include <vector>
 
 namespace render
@@ -27,24 +28,24 @@ template <class Record> struct SlotList
     }
     const Record& At(std::int32_t index) const { return const_cast<SlotList*>(this)->At(index); }
 
-    // A fresh record in the first free slot, else at the end. RuntimeError 6 beyond the 16-bit index.
-    std::int16_t Take()
+    // Puts the record into the first free slot, else at the end; its index. RuntimeError 6 beyond the 16-bit index.
+    std::int16_t Add(Record record = {})
     {
         std::size_t slot = 0;
         while (slot < Items.size() && Items[slot].Free == 0)
             ++slot;
-        return TakeAt(slot);
+        return AddAt(slot, std::move(record));
     }
 
-    // The same for a slot that the caller chose (Items.size(): a new one).
-    std::int16_t TakeAt(std::size_t slot)
+    // The same into a slot that the caller chose (Items.size(): a new one).
+    std::int16_t AddAt(std::size_t slot, Record record)
     {
         if (slot > static_cast<std::size_t>(std::numeric_limits<std::int16_t>::max()))
             throw base::RuntimeError(base::ErrorOverflow);
         if (slot == Items.size())
-            Items.emplace_back();
+            Items.push_back(std::move(record));
         else
-            Items[slot] = Record{};
+            Items[slot] = std::move(record);
         ++Count;
         return static_cast<std::int16_t>(slot);
     }

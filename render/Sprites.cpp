@@ -26,17 +26,17 @@ bool Place(const Camera& camera, const Screen& screen, const Sprite3D& sprite, P
 {
     if (sprite.Pixels == nullptr || !(sprite.Alpha == sprite.Alpha))
         return false;
-    placed.Picture = MakeSurface(sprite.Pixels->Pixels, sprite.Width, sprite.Height);
+    placed.Picture = MakeSurface(*sprite.Pixels);
     const Point3 at = WorldToCamera(camera, sprite.X, sprite.Y, sprite.Z);
     if (!(at.Z > screen.NearZ && at.Z <= screen.FarZ) || placed.Picture.Width < 1 || placed.Picture.Height < 1)
         return false;
     const double k = static_cast<double>(camera.Zoom) / at.Z;
     double scale = sprite.Scale;
-    if (k * scale * sprite.Width >= WidestSprite)
-        scale = WidestSprite / (sprite.Width * k);
+    if (k * scale * sprite.Width() >= WidestSprite)
+        scale = WidestSprite / (sprite.Width() * k);
     placed.Factor = k * scale;
-    const std::int32_t lastColumn = base::Floor((sprite.Width - 1) * placed.Factor);
-    const std::int32_t lastRow = base::Floor((sprite.Height - 1) * placed.Factor);
+    const std::int32_t lastColumn = base::Floor((sprite.Width() - 1) * placed.Factor);
+    const std::int32_t lastRow = base::Floor((sprite.Height() - 1) * placed.Factor);
     const ScreenPoint centre = Project(at.X, at.Y, at.Z, camera.Zoom, screen.CenterX, screen.CenterY);
     if (!(placed.Factor > 0.0) || lastColumn == base::OutOfRange || lastRow == base::OutOfRange ||
         centre.X == base::OutOfRange || centre.Y == base::OutOfRange)

@@ -152,13 +152,12 @@ void DrawTextCentred(const base::Surface& surface, const Font& font, const TextL
 
 void DrawLabel(const base::Surface& surface, const Font& font, const Label2D& label)
 {
-    const TextLook look{
-        label.Scale, TabPixels(font, label.Scale, label.TabWidth), {label.ColR, label.ColG, label.ColB}, label.Fade};
-    if (label.Style == 0)
+    const TextLook look{label.Scale, TabPixels(font, label.Scale, label.TabWidth), label.Col, label.Fade};
+    if (label.Style == StartsAtX)
         DrawTextLeft(surface, font, look, label.X, label.Y, label.Text);
-    else if (label.Style == 1)
+    else if (label.Style == EndsAtX)
         DrawTextRight(surface, font, look, label.X, label.Y, label.Text);
-    else if (label.Style == 2)
+    else if (label.Style == CentredOnX)
         DrawTextCentred(surface, font, look, label.X, label.Y, label.Text);
 }
 

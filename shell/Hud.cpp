@@ -37,12 +37,6 @@ struct Line
     operator std::string_view() const { return {Bytes.data(), Length}; }
 };
 
-void SetColour(render::Label2D& label, base::Rgb colour)
-{
-    label.ColR = colour.R;
-    label.ColG = colour.G;
-    label.ColB = colour.B;
-}
 }
 
 const world::Player& ViewedPlayer(const Game& game)
@@ -56,7 +50,7 @@ const world::Player& ViewedPlayer(const Game& game)
 void ShowFrameRate(Game& game)
 {
     const bool fast = game.Run.Fps >= game.Settings.TargetFps - 2;
-    SetColour(game.Scene.Labels.At(game.Hud.FrameRate), fast ? base::Rgb{0, 200, 0} : base::Rgb{200, 0, 0});
+    game.Scene.Labels.At(game.Hud.FrameRate).Col = fast ? base::Rgb{0, 200, 0} : base::Rgb{200, 0, 0};
     render::SetLabelText(game.Scene, game.Hud.FrameRate, Line() << game.Run.Fps << " fps");
 }
 
@@ -74,7 +68,8 @@ void ShowGear(Game& game)
 
 void ShowPlace(Game& game)
 {
-    render::SetLabelText(game.Scene, game.Hud.Place, Line() << ViewedPlayer(game).Place << "/" << game.Race.NumPlayers);
+    render::SetLabelText(game.Scene, game.Hud.Place,
+                         Line() << ViewedPlayer(game).Place << "/" << game.Race.NumPlayers());
 }
 
 void ShowLap(Game& game)
@@ -108,12 +103,7 @@ void ShowDamage(Game& game)
     if (bar.Visible == 0)
         return;
     const float damage = ViewedPlayer(game).Damage;
-    const base::Rgb colour = damage > 3   ? base::Rgb{180, 0, 0}
-                             : damage > 1 ? base::Rgb{230, 230, 0}
-                                          : base::Rgb{0, 180, 0};
-    bar.ColR = colour.R;
-    bar.ColG = colour.G;
-    bar.ColB = colour.B;
+    bar.Col = damage > 3 ? base::Rgb{180, 0, 0} : damage > 1 ? base::Rgb{230, 230, 0} : base::Rgb{0, 180, 0};
     const double right = damage <= 5 ? (game.Screen.ScreenW - 16) * (5.0 - damage) / 5 + 15 : 15;
     render::SetRectW(game.Scene, game.Hud.DamageBar, base::ToInt16(right));
 }

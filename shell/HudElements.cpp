@@ -49,41 +49,45 @@ struct Anchor
     }
 };
 
+using render::CentredOnX;
+using render::EndsAtX;
+using render::StartsAtX;
+
 struct Element
 {
     std::int16_t Hud::*Index;
     Shape Kind;
     Anchor X, Y;
     const char* Text;
-    std::int32_t Style;
+    render::LabelStyle Style;
     float Scale;
     std::int16_t TabWidth;
     base::Rgb Colour;
     std::uint8_t Visible;
 };
 
-constexpr base::Rgb White = {255, 255, 255};
+constexpr base::Rgb White = {255, 255, 255}, Red = {255, 0, 0};
 constexpr std::int32_t PreviewSize = 70, SpannerSize = 32;
 constexpr std::int16_t BarWidth = 15, BarHeight = 5; // from (0, 3) to (15, 8)
 constexpr std::size_t TextRoom = 256;                // bytes: no tick allocates
 
 constexpr Element Elements[] = {
-    {&Hud::Webcam, Shape::Picture, {From::Zero, 5}, {From::Far, -90}, "", 0, PreviewSize, 0, White, 1},
-    {&Hud::DamageBar, Shape::Bar, {From::Zero, 0}, {From::Zero, 3}, "", 0, 0, 0, {0, 180, 0}, 1},
-    {&Hud::Unit, Shape::Text, {From::Far, -1}, {From::Zero, 18}, "Km/h", 1, 0.4f, 4, White, 1},
-    {&Hud::Speed, Shape::Text, {From::Far, -35}, {From::Zero, 13}, "0", 1, 0.9f, 4, White, 1},
-    {&Hud::Gear, Shape::Text, {From::Far, -1}, {From::Zero, 1}, "N", 1, 0.4f, 4, White, 1},
-    {&Hud::Place, Shape::Text, {From::Far, -1}, {From::Far, -31}, "0/0", 1, 0.9f, 4, White, 1},
-    {&Hud::Message, Shape::Text, {From::Centre, 0}, {From::Centre, -20}, "", 2, 1.0f, 4, White, 0},
-    {&Hud::LapsCaption, Shape::Text, {From::Far, -40}, {From::Far, -48}, "Giri", 1, 0.4f, 4, White, 1},
-    {&Hud::LapCounter, Shape::Text, {From::Far, -1}, {From::Far, -50}, "0/0", 1, 0.7f, 4, White, 1},
-    {&Hud::FrameRate, Shape::Text, {From::Zero, 1}, {From::Far, -20}, "0 fps", 0, 0.6f, 4, {200, 0, 0}, 1},
-    {&Hud::Countdown, Shape::Text, {From::Centre, 0}, {From::Centre, -20}, "", 2, 2.0f, 4, White, 1},
-    {&Hud::Notice, Shape::Text, {From::Zero, 1}, {From::Zero, 15}, "", 0, 0.5f, 4, White, 0},
-    {&Hud::Console, Shape::Text, {From::Zero, 1}, {From::Far, -40}, "\\", 0, 0.5f, 4, White, 0},
-    {&Hud::Pause, Shape::Text, {From::Centre, 0}, {From::ThreeQuarters, 0}, "PAUSA", 2, 0.5f, 4, {255, 0, 0}, 0},
-    {&Hud::Debug, Shape::Text, {From::Far, -1}, {From::Far, -80}, "", 1, 0.5f, 3, White, 0},
-    {&Hud::Repair, Shape::Picture, {From::Zero, 5}, {From::Zero, 14}, "", 0, SpannerSize, 0, White, 0},
+    {&Hud::Webcam, Shape::Picture, {From::Zero, 5}, {From::Far, -90}, "", StartsAtX, PreviewSize, 0, White, 1},
+    {&Hud::DamageBar, Shape::Bar, {From::Zero, 0}, {From::Zero, 3}, "", StartsAtX, 0, 0, {0, 180, 0}, 1},
+    {&Hud::Unit, Shape::Text, {From::Far, -1}, {From::Zero, 18}, "Km/h", EndsAtX, 0.4f, 4, White, 1},
+    {&Hud::Speed, Shape::Text, {From::Far, -35}, {From::Zero, 13}, "0", EndsAtX, 0.9f, 4, White, 1},
+    {&Hud::Gear, Shape::Text, {From::Far, -1}, {From::Zero, 1}, "N", EndsAtX, 0.4f, 4, White, 1},
+    {&Hud::Place, Shape::Text, {From::Far, -1}, {From::Far, -31}, "0/0", EndsAtX, 0.9f, 4, White, 1},
+    {&Hud::Message, Shape::Text, {From::Centre, 0}, {From::Centre, -20}, "", CentredOnX, 1.0f, 4, White, 0},
+    {&Hud::LapsCaption, Shape::Text, {From::Far, -40}, {From::Far, -48}, "Giri", EndsAtX, 0.4f, 4, White, 1},
+    {&Hud::LapCounter, Shape::Text, {From::Far, -1}, {From::Far, -50}, "0/0", EndsAtX, 0.7f, 4, White, 1},
+    {&Hud::FrameRate, Shape::Text, {From::Zero, 1}, {From::Far, -20}, "0 fps", StartsAtX, 0.6f, 4, {200, 0, 0}, 1},
+    {&Hud::Countdown, Shape::Text, {From::Centre, 0}, {From::Centre, -20}, "", CentredOnX, 2.0f, 4, White, 1},
+    {&Hud::Notice, Shape::Text, {From::Zero, 1}, {From::Zero, 15}, "", StartsAtX, 0.5f, 4, White, 0},
+    {&Hud::Console, Shape::Text, {From::Zero, 1}, {From::Far, -40}, "\\", StartsAtX, 0.5f, 4, White, 0},
+    {&Hud::Pause, Shape::Text, {From::Centre, 0}, {From::ThreeQuarters, 0}, "PAUSA", CentredOnX, 0.5f, 4, Red, 0},
+    {&Hud::Debug, Shape::Text, {From::Far, -1}, {From::Far, -80}, "", EndsAtX, 0.5f, 3, White, 0},
+    {&Hud::Repair, Shape::Picture, {From::Zero, 5}, {From::Zero, 14}, "", StartsAtX, SpannerSize, 0, White, 0},
 };
 
 std::int16_t Whole(double value)
@@ -98,16 +102,28 @@ std::int16_t Make(const Element& element, render::Scene& scene, base::MessageSin
     case Shape::Picture:
     {
         const std::int32_t side = base::RoundEven(element.Scale);
-        return render::MakePic2D(scene, messages, static_cast<float>(x), static_cast<float>(y), side, side,
-                                 element.Visible);
+        return render::MakePic2D(scene, messages,
+                                 {.Visible = element.Visible, .X = static_cast<float>(x), .Y = static_cast<float>(y)},
+                                 side, side);
     }
     case Shape::Bar:
-        return render::MakeRect2D(scene, Whole(x), Whole(y), BarWidth, BarHeight, 0, element.Colour, element.Visible);
+        return render::MakeRect2D(scene, {.Visible = element.Visible,
+                                          .X = Whole(x),
+                                          .Y = Whole(y),
+                                          .W = BarWidth,
+                                          .H = BarHeight,
+                                          .Col = element.Colour});
     case Shape::Text:
         break;
     }
-    const std::int16_t label = render::MakeLabel2D(scene, Whole(x), Whole(y), element.Style, element.Scale,
-                                                   element.TabWidth, element.Colour, element.Visible, element.Text);
+    const std::int16_t label = render::MakeLabel2D(scene, {.Visible = element.Visible,
+                                                           .X = Whole(x),
+                                                           .Y = Whole(y),
+                                                           .Style = element.Style,
+                                                           .Text = element.Text,
+                                                           .Scale = element.Scale,
+                                                           .TabWidth = element.TabWidth,
+                                                           .Col = element.Colour});
     scene.Labels.At(label).Text.reserve(TextRoom);
     return label;
 }

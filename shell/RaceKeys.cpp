@@ -89,7 +89,7 @@ void RaceKeys::ToggleAutopilot()
 
 void RaceKeys::StepViewPlayer(int step)
 {
-    const std::int32_t count = TheGame.Race.NumPlayers;
+    const std::int32_t count = TheGame.Race.NumPlayers();
     std::int16_t& viewed = TheGame.Camera.ViewPlayer;
     if (count <= 0)
         return;

@@ -2,9 +2,11 @@
 
 #include "render/Font.h"
 #include "render/Primitives.h"
+#include "render/Textures.h"
 #include "shell/HudElements.h"
 #include "webcam/Calibration.h"
-#include "world/Loaders.h"
+#include "world/LoadMap.h"
+#include "world/LoadObject.h"
 
 #include <algorithm>
 
@@ -50,8 +52,8 @@ void LoadWorld(Game& game, const base::Files& files, base::MessageSink& messages
     world::RaceAssets& assets = game.Assets;
     assets.GlassTexture = render::LoadTexture(scene, messages, files, "data\\textures\\glass.bmp");
     assets.BrokenGlassTexture = render::LoadTexture(scene, messages, files, "data\\textures\\glass_b.bmp");
-    assets.ArrowObj = world::LoadObject(scene, messages, files, "data\\models\\gps.3dm");
-    assets.CupObj = world::LoadObject(scene, messages, files, "data\\models\\cup.3dm");
+    assets.ArrowObj = world::LoadObject(scene, messages, files, "data\\models\\gps.3dm").Current;
+    assets.CupObj = world::LoadObject(scene, messages, files, "data\\models\\cup.3dm").Current;
     world::LoadMap(scene, game.Race, messages, files, "data\\maps\\map_01\\map.loader", game.Screen.SingleThread == 0);
 }
 }

@@ -140,9 +140,9 @@ void Place(Camera& camera, const Followed& car, const world::HeldKeys& keys)
 // The arrow stands over the car, or before the windscreen, and points at the car's next checkpoint.
 void PlaceArrow(render::Obj& arrow, const Followed& car, const world::Map& map, std::int16_t next, bool fromInside)
 {
-    if (next >= 0 && static_cast<std::size_t>(next) < map.Checkpoints.size())
+    if (next >= 0 && static_cast<std::size_t>(next) < map.Checkpoints.Items.size())
     {
-        const world::Target& target = map.Checkpoints[static_cast<std::size_t>(next)];
+        const world::Target& target = map.Checkpoints.Items[static_cast<std::size_t>(next)];
         const double distance = render::Dist2D(target.X, target.Z, car.X, car.Z);
         if (distance > 0)
             arrow.AngleA =

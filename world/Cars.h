@@ -27,8 +27,8 @@ inline const render::Obj* ObjectAt(const render::Scene& scene, std::int32_t inde
 
 inline const Target* CheckpointAt(const Map& map, std::int32_t index)
 {
-    const bool exists = index >= 0 && index < map.NumCheckpoints && index < std::ssize(map.Checkpoints);
-    return exists ? &map.Checkpoints[static_cast<std::size_t>(index)] : nullptr;
+    const std::span<const Target> checkpoints = map.Checkpoints.Targets();
+    return index >= 0 && index < std::ssize(checkpoints) ? &checkpoints[static_cast<std::size_t>(index)] : nullptr;
 }
 
 inline double GroundDistance(const render::Obj& object, const Target& target)

@@ -37,14 +37,9 @@ struct Impact
     double V = 0.0, K = 0.0, Strength = 0.0; // Strength = V x K
 };
 
-std::size_t SphereCount(const render::Obj& object)
-{
-    return std::min(object.Sfere.size(), static_cast<std::size_t>(std::max<int>(object.NumSfere, 0)));
-}
-
 bool Collides(const render::Obj& object)
 {
-    return object.Free == 0 && SphereCount(object) > 0;
+    return object.Free == 0 && !object.Sfere.empty();
 }
 
 bool AreNear(const render::Obj& a, const render::Obj& b)
@@ -72,14 +67,13 @@ render::Rotation RotationOf(const render::Obj& object, KnownRotation& known)
 bool FindContact(const render::Obj& i, const render::Rotation& turnI, const render::Obj& j,
                  const render::Rotation& turnJ, std::vector<render::Point3>& centres, Contact& contact)
 {
-    const std::size_t countJ = SphereCount(j);
     centres.clear();
-    for (std::size_t b = 0; b < countJ; ++b)
-        centres.push_back(Centre(j, turnJ, j.Sfere[b]));
-    for (std::size_t a = 0; a < SphereCount(i); ++a)
+    for (const render::Sfera& sphere : j.Sfere)
+        centres.push_back(Centre(j, turnJ, sphere));
+    for (std::size_t a = 0; a < i.Sfere.size(); ++a)
     {
         const render::Point3 p = Centre(i, turnI, i.Sfere[a]);
-        for (std::size_t b = 0; b < countJ; ++b)
+        for (std::size_t b = 0; b < centres.size(); ++b)
         {
             const render::Point3& q = centres[b];
             const double distance = render::Dist3D(p.X, p.Y, p.Z, q.X, q.Y, q.Z);
@@ -242,7 +236,7 @@ void ListBodies(Simulation& sim)
 {
     TickScratch& scratch = sim.Scratch;
     scratch.CarOf.assign(sim.Scene.Objects.Items.size(), -1);
-    for (std::int16_t index = sim.Race.NumPlayers; index-- > 0;)
+    for (std::int16_t index = sim.Race.NumPlayers(); index-- > 0;)
     {
         const std::int16_t object = FindPlayer(sim.Race, index)->Obj;
         if (sim.Scene.Objects.Has(object))

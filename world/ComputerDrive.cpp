@@ -28,7 +28,7 @@ bool PlotCourse(const Map& map, const Player& player, const render::Obj& car, Co
 {
     const Target* target = CheckpointAt(map, player.NextCheckpoint);
     const Target* next =
-        target != nullptr ? CheckpointAt(map, (player.NextCheckpoint + 1) % map.NumCheckpoints) : nullptr;
+        target != nullptr ? CheckpointAt(map, (player.NextCheckpoint + 1) % map.Checkpoints.Count()) : nullptr;
     if (next == nullptr)
         return false;
     course.Distance = GroundDistance(car, *target);
@@ -85,9 +85,8 @@ void Steer(Player& player, render::Obj& car, double wanted)
 
 void ComputerDrive(Simulation& sim)
 {
-    for (std::int16_t index = 0; index < sim.Race.NumPlayers; ++index)
+    for (Player& player : sim.Race.Players)
     {
-        Player& player = *FindPlayer(sim.Race, index);
         render::Obj* car = ObjectAt(sim.Scene, player.Obj);
         if (player.Control == 0 || car == nullptr)
             continue;

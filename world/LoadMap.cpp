@@ -1,9 +1,11 @@
-// The commands of a map script.
+#include "world/LoadMap.h"
+
 #include "render/GroundTexture.h"
 #include "render/Primitives.h"
+#include "world/Commands.h"
 #include "world/FieldReader.h"
-#include "world/Loaders.h"
-#include "world/ModelFile.h"
+#include "world/LoadObject.h"
+#include "world/PointsAndPlayers.h"
 
 #include <array>
 
@@ -24,33 +26,29 @@ struct MapReader
     std::int16_t LastObject = -1; // what the latest model command returned
 };
 
-struct Placement
+// Where a command puts its object, and whether it shows.
+struct Site
 {
-    float X, Y, Z;
-    float AngleA, AngleB;
+    render::Placement At;
     std::uint8_t Visible;
 };
 
-Placement ReadPlacement(FieldReader& in)
+Site ReadSite(FieldReader& in)
 {
-    return Placement{in.Single(), in.Single(), in.Single(), in.Single(), in.Single(), in.Byte()};
+    return {{in.Single(), in.Single(), in.Single(), in.Single(), in.Single()}, in.Byte()};
 }
 
-void Place(render::Obj& object, const Placement& at)
+void Place(render::Obj& object, const Site& site)
 {
-    object.X = at.X;
-    object.Y = at.Y;
-    object.Z = at.Z;
-    object.AngleA = at.AngleA;
-    object.AngleB = at.AngleB;
-    object.Visible = at.Visible;
+    render::PlaceObj(object, site.At);
+    object.Visible = site.Visible;
 }
 
 // Runs a model file. Its object, or null where the file failed before it had one; RuntimeError 9 where it simply has
 // none.
 render::Obj* LoadLast(MapReader& reader, const std::string& model)
 {
-    const ModelFile loaded = RunModelFile(reader.Scene, reader.Messages, reader.Files, model);
+    const LoadedModel loaded = LoadObject(reader.Scene, reader.Messages, reader.Files, model);
     reader.LastObject = loaded.Current;
     if (loaded.Failed && loaded.Current < 0)
         return nullptr;
@@ -67,64 +65,39 @@ void LoadMapTexture(MapReader& reader)
 void Load3DM(MapReader& reader)
 {
     const std::string model = reader.In.Path(reader.Folder);
-    reader.LastObject = LoadObject(reader.Scene, reader.Messages, reader.Files, model);
+    reader.LastObject = LoadObject(reader.Scene, reader.Messages, reader.Files, model).Current;
 }
 
 void LoadPlacedObject(MapReader& reader)
 {
     const std::string model = reader.In.Path(reader.Folder);
-    const Placement at = ReadPlacement(reader.In);
+    const Site site = ReadSite(reader.In);
     if (render::Obj* object = LoadLast(reader, model))
-        Place(*object, at);
+        Place(*object, site);
 }
 
 void LoadPlayer(MapReader& reader)
 {
     const std::string player = reader.In.Path(reader.Folder);
     const std::string model = reader.In.Path(reader.Folder);
-    const Placement at = ReadPlacement(reader.In);
+    const Site site = ReadSite(reader.In);
     render::Obj* object = LoadLast(reader, model);
     if (object == nullptr)
         return;
     MakePlayer(reader.Messages, reader.Files, player, reader.LastObject, reader.Race);
-    Place(*object, at);
+    Place(*object, site);
 }
 
 void DuplicateLastObj(MapReader& reader)
 {
-    const Placement at = ReadPlacement(reader.In);
-    render::DuplicateObj(reader.Scene, reader.LastObject, at.X, at.Y, at.Z, at.AngleA, at.AngleB, at.Visible);
+    const Site site = ReadSite(reader.In);
+    render::DuplicateObj(reader.Scene, reader.LastObject, site.At, site.Visible);
 }
 
-std::int16_t LoadList(MapReader& reader, std::vector<Target>& list)
+// The command for one of the map's lists.
+template <TargetList Map::*List> void LoadList(MapReader& reader)
 {
-    return LoadTargets(reader.Messages, reader.Files, reader.In.Path(reader.Folder), list);
-}
-
-void LoadCheckpoints(MapReader& reader)
-{
-    reader.Race.Map.NumCheckpoints = LoadList(reader, reader.Race.Map.Checkpoints);
-}
-
-// Deliberate: no count is kept; the race reads this list by checkpoint number.
-void LoadACheckpoints(MapReader& reader)
-{
-    LoadList(reader, reader.Race.Map.ACheckpoints);
-}
-
-void LoadBox(MapReader& reader)
-{
-    reader.Race.Map.NumBoxes = LoadList(reader, reader.Race.Map.Boxes);
-}
-
-void LoadGrass(MapReader& reader)
-{
-    reader.Race.Map.NumGrass = LoadList(reader, reader.Race.Map.Grass);
-}
-
-void LoadWater(MapReader& reader)
-{
-    reader.Race.Map.NumWater = LoadList(reader, reader.Race.Map.Water);
+    LoadTargets(reader.Messages, reader.Files, reader.In.Path(reader.Folder), reader.Race.Map.*List);
 }
 
 struct Command
@@ -138,27 +111,30 @@ constexpr std::array Commands = {
     Command{"Load3DM", Load3DM},
     Command{"LoadObject", LoadPlacedObject},
     Command{"LoadPlayer", LoadPlayer},
-    Command{"LoadCheckpoints", LoadCheckpoints},
-    Command{"LoadACheckpoints", LoadACheckpoints},
-    Command{"LoadBox", LoadBox},
-    Command{"LoadGrass", LoadGrass},
-    Command{"LoadWater", LoadWater},
+    Command{"LoadCheckpoints", LoadList<&Map::Checkpoints>},
+    Command{"LoadACheckpoints", LoadList<&Map::ACheckpoints>},
+    Command{"LoadBox", LoadList<&Map::Boxes>},
+    Command{"LoadGrass", LoadList<&Map::Grass>},
+    Command{"LoadWater", LoadList<&Map::Water>},
     Command{"DuplicateLastObj", DuplicateLastObj},
 };
+
+void RunCommands(MapReader& reader)
+{
+    while (!reader.In.AtEnd())
+        FindCommand(Commands, reader.In.Text()).Run(reader);
+}
 }
 
 void LoadMap(render::Scene& scene, Race& race, base::MessageSink& messages, const base::Files& files,
              const std::string& path, bool blurredGround)
 {
-    base::Trapped(
-        messages, "LoadMap",
-        [&]
-        {
-            MapReader reader{
-                scene,        race, messages, files, FieldReader(files, path), std::string(base::FolderOf(path)),
-                blurredGround};
-            while (!reader.In.AtEnd())
-                FindCommand(Commands, reader.In.Text()).Run(reader);
-        });
+    const auto run = [&]
+    {
+        MapReader reader{
+            scene, race, messages, files, FieldReader(files, path), std::string(base::FolderOf(path)), blurredGround};
+        RunCommands(reader);
+    };
+    base::Trapped(messages, "LoadMap", run);
 }
 }

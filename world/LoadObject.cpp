@@ -1,9 +1,10 @@
-// The commands of a 3DM model file.
+#include "world/LoadObject.h"
+
 #include "base/RuntimeError.h"
 #include "render/Primitives.h"
+#include "render/Textures.h"
+#include "world/Commands.h"
 #include "world/FieldReader.h"
-#include "world/Loaders.h"
-#include "world/ModelFile.h"
 
 #include <array>
 
@@ -23,19 +24,14 @@ struct ModelReader
     const base::Files& Files;
     FieldReader In;
     std::string Folder;
-    ModelFile& Result;
+    LoadedModel& Result;
     std::vector<std::int16_t>& Created; // the objects
 };
 
 // Lists in braces are read from left to right; the arguments of a call are not.
-struct Vector
+render::Point3 ReadPoint(FieldReader& in)
 {
-    float X, Y, Z;
-};
-
-Vector ReadVector(FieldReader& in)
-{
-    return Vector{in.Single(), in.Single(), in.Single()};
+    return {in.Single(), in.Single(), in.Single()};
 }
 
 void MakeTexture(ModelReader& reader)
@@ -46,15 +42,12 @@ void MakeTexture(ModelReader& reader)
 void MakeObj(ModelReader& reader)
 {
     FieldReader& in = reader.In;
-    const Vector at = ReadVector(in);
-    const float angleA = in.Single();
-    const float angleB = in.Single();
+    const render::Placement at{in.Single(), in.Single(), in.Single(), in.Single(), in.Single()};
     const std::int16_t numMesh = in.Integer();
     const std::int16_t numSfere = in.Integer();
     const std::uint8_t visible = in.Byte();
     const float mass = in.Single();
-    reader.Result.Current =
-        render::MakeObj(reader.Scene, at.X, at.Y, at.Z, angleA, angleB, numMesh, numSfere, visible, mass);
+    reader.Result.Current = render::MakeObj(reader.Scene, at, numMesh, numSfere, visible, mass);
     reader.Created.push_back(reader.Result.Current);
 }
 
@@ -66,18 +59,17 @@ void SetObjR(ModelReader& reader)
 void EditObjSfere(ModelReader& reader)
 {
     const std::int16_t sphere = reader.In.Integer();
-    const Vector centre = ReadVector(reader.In);
+    const render::Point3 centre = ReadPoint(reader.In);
     const float radius = reader.In.Single();
-    render::EditObjSfere(reader.Scene, reader.Result.Current, sphere, centre.X, centre.Y, centre.Z, radius);
+    render::EditObjSfere(reader.Scene, reader.Result.Current, sphere, centre, radius);
 }
 
 void AddSfereLink(ModelReader& reader)
 {
-    const std::int16_t sphere = reader.In.Integer();
-    const std::int16_t mesh = reader.In.Integer();
-    const std::int16_t i = reader.In.Integer();
-    const std::int16_t j = reader.In.Integer();
-    render::AddSfereLink(reader.Scene, reader.Result.Current, sphere, mesh, i, j);
+    FieldReader& in = reader.In;
+    const std::int16_t sphere = in.Integer();
+    const render::SfereLink link{in.Integer(), in.Integer(), in.Integer()};
+    render::AddSfereLink(reader.Scene, reader.Result.Current, sphere, link);
 }
 
 void EditObjMesh(ModelReader& reader)
@@ -94,13 +86,12 @@ void EditObjMesh(ModelReader& reader)
 
 void EditObjMeshPt(ModelReader& reader)
 {
-    const std::int16_t mesh = reader.In.Integer();
-    const std::int16_t i = reader.In.Integer();
-    const std::int16_t j = reader.In.Integer();
-    const Vector at = ReadVector(reader.In);
-    const std::int32_t u = reader.In.Long();
-    const std::int32_t v = reader.In.Long();
-    render::EditObjMeshPt(reader.Scene, reader.Result.Current, mesh, i, j, at.X, at.Y, at.Z, u, v);
+    FieldReader& in = reader.In;
+    const std::int16_t mesh = in.Integer();
+    const std::int16_t i = in.Integer();
+    const std::int16_t j = in.Integer();
+    const render::MeshPt point{in.Single(), in.Single(), in.Single(), in.Long(), in.Long()};
+    render::EditObjMeshPt(reader.Scene, reader.Result.Current, mesh, i, j, point);
 }
 
 void MakePoly(ModelReader& reader)
@@ -114,8 +105,8 @@ void MakePoly(ModelReader& reader)
 void EditPolyPt(ModelReader& reader)
 {
     const std::int16_t point = reader.In.Integer();
-    const Vector at = ReadVector(reader.In);
-    render::EditPolyPt(reader.Scene, reader.Result.Current, point, at.X, at.Y, at.Z);
+    const render::PolyPt at{reader.In.Single(), reader.In.Single(), reader.In.Single()};
+    render::EditPolyPt(reader.Scene, reader.Result.Current, point, at);
 }
 
 struct Command
@@ -150,22 +141,20 @@ struct NoMessages final : base::MessageSink
 };
 }
 
-ModelFile RunModelFile(render::Scene& scene, base::MessageSink& messages, const base::Files& files,
+LoadedModel LoadObject(render::Scene& scene, base::MessageSink& messages, const base::Files& files,
                        const std::string& path)
 {
-    ModelFile result;
+    LoadedModel result{.Failed = true};
     std::vector<std::int16_t> created;
-    result.Failed = true;
-    base::Trapped(messages, "LoadObject",
-                  [&]
-                  {
-                      ModelReader reader{
-                          scene,  messages, files, FieldReader(files, path), std::string(base::FolderOf(path)),
-                          result, created};
-                      RunCommands(reader);
-                      KeepUndamaged(scene, created);
-                      result.Failed = false;
-                  });
+    const auto run = [&]
+    {
+        ModelReader reader{scene,  messages, files, FieldReader(files, path), std::string(base::FolderOf(path)),
+                           result, created};
+        RunCommands(reader);
+        KeepUndamaged(scene, created);
+        result.Failed = false;
+    };
+    base::Trapped(messages, "LoadObject", run);
     if (result.Failed)
     {
         // What stayed can be dented as well; the error has been shown.
@@ -173,11 +162,5 @@ ModelFile RunModelFile(render::Scene& scene, base::MessageSink& messages, const 
         base::Trapped(none, "LoadObject", [&] { KeepUndamaged(scene, created); });
     }
     return result;
-}
-
-std::int16_t LoadObject(render::Scene& scene, base::MessageSink& messages, const base::Files& files,
-                        const std::string& path)
-{
-    return RunModelFile(scene, messages, files, path).Current;
 }
 }

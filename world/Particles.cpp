@@ -49,16 +49,20 @@ void Spawn(Simulation& sim, const Emission& emission)
         return;
     constexpr double longest = std::numeric_limits<std::int16_t>::max();
     const auto life = static_cast<std::int16_t>(base::RoundEven(std::min(emission.Life, longest)));
-    render::AddParticle(sim.Scene, life, emission.Kind, emission.Picture, Single(emission.X), Single(emission.Y),
-                        Single(emission.Z), Single(emission.Scale), Single(emission.Alpha));
+    render::AddParticle(sim.Scene, life, emission.Kind,
+                        {.X = Single(emission.X),
+                         .Y = Single(emission.Y),
+                         .Z = Single(emission.Z),
+                         .Scale = Single(emission.Scale),
+                         .Alpha = Single(emission.Alpha),
+                         .Pixels = emission.Picture});
 }
 
 void DamageSmoke(Simulation& sim)
 {
     if (sim.EffQuality > 0.0f)
-        for (std::int16_t index = 0; index < sim.Race.NumPlayers; ++index)
+        for (Player& player : sim.Race.Players)
         {
-            Player& player = *FindPlayer(sim.Race, index);
             const render::Obj* car = ObjectAt(sim.Scene, player.Obj);
             if (car != nullptr && player.Damage > 1.0f && sim.Race.GameTime > player.NextSmoke)
                 SmokeOrBurn(sim, player, *car);

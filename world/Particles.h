@@ -8,7 +8,7 @@ namespace world
 struct Emission
 {
     const render::PicReference& Picture;
-    render::Kind Kind;
+    render::ParticleKind Kind;
     double Life;         // ticks, rounded, at most 32767
     double X, Y, Z;      // world units
     double Scale, Alpha; // as in Sprite3D

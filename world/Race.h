@@ -1,5 +1,6 @@
-// world/Race.h: the records of the race: cars, zones, the race itself. Units: world units, radians, game ticks of 25
-// ms.
+// world/Race.h: the records of the race: cars, zones, the race itself. Positions are world units, angles radians, times
+// milliseconds of the race clock. A tick is 25 ms; a speed of 1 moves a car by half a unit in a tick, 20 in a second,
+// and is shown as 36. What a list's length tells is stored nowhere else.
 #pragma once
 #include "base/Fields.h"
 #include "base/Numbers.h"
@@ -7,44 +8,72 @@
 
 #include <cstdint>
 #include <iterator>
+#include <span>
 #include <vector>
 
 namespace world
 {
-// A point with a zone around it on the ground.
+// A point with a zone around it on the ground: a checkpoint, a repair box, a stretch of grass or water.
 struct Target
 {
-    float X = 0, Y = 0, Z = 0, R = 0;
+    float X = 0, Y = 0, Z = 0; // Y counts for nothing
+    float R = 0;               // of the zone; a car is inside while its distance is below it
 };
 
-struct Player
+// A list of targets as its file gave it. Deliberate: an empty file, or one that cannot be read, leaves one zeroed
+// record. Tools see and set it and the arrow points at it, but it is no target of the race.
+struct TargetList
 {
-    std::int16_t Obj = 0; // its scene object: position and heading
-    std::int16_t NextCheckpoint = 0, Lap = 0, Passed = 0, Place = 0;
-    float MaxSpeed = 0, Brake = 0, MaxSpeedR = 0, WRS = 0, Acceleration = 0, Deceleration = 0; // base values
-    float Speed = 0; // along the heading; a tick moves the car by half of it
-    float CurMaxSpeed = 0, CurMaxSpeedR = 0, CurWRS = 0, CurAcceleration = 0, CurBrake = 0, CurDeceleration = 0;
-    float Pace = 1; // daring on the present leg: larger brakes later
-    float Damage = 0;
-    std::uint8_t Control = 0;   // 0 the user's controls, otherwise the computer
-    std::int32_t NextSmoke = 0; // game time, milliseconds, before which no damage smoke rises
+    std::vector<Target> Items;
+    bool IsStandIn = false; // the only record is the zeroed one
+
+    // What the race goes by.
+    std::span<const Target> Targets() const { return {Items.data(), IsStandIn ? 0 : Items.size()}; }
+    std::int16_t Count() const { return base::CountOf(Targets()); } // at most 32767
 };
 
 struct Map
 {
-    std::vector<Target> Checkpoints, ACheckpoints, Boxes, Grass, Water;
-    std::int16_t NumCheckpoints = 0, NumBoxes = 0, NumGrass = 0, NumWater = 0;
+    TargetList Checkpoints;  // to be passed in this order, lap after lap
+    TargetList ACheckpoints; // by the same number: another place where the checkpoint counts as passed
+    TargetList Boxes, Grass, Water;
+};
+
+// A car and its driver. The values of the base are the player file's; the effective ones, Cur…, follow the damage.
+struct Player
+{
+    std::int16_t Obj = 0;            // its scene object: position and heading; scripts may name one that is not there
+    std::int16_t NextCheckpoint = 0; // by its number in the map
+    std::int16_t Lap = 0;            // laps completed
+    std::int16_t Passed = 0;         // checkpoints passed since the start
+    std::int16_t Place = 0;          // 1 for the first; 0 before the first tick
+    float MaxSpeed = 0;              // base: forward
+    float Brake = 0;                 // base: speed lost a tick of braking
+    float MaxSpeedR = 0;             // base: in reverse, positive
+    float WRS = 0;                   // base: radians turned a tick of full steering
+    float Acceleration = 0;          // base: speed gained a tick
+    float Deceleration = 0;          // base: speed lost a tick of rolling
+    float Speed = 0;                 // along the heading, negative in reverse
+    float CurMaxSpeed = 0, CurMaxSpeedR = 0;
+    float CurWRS = 0;
+    float CurAcceleration = 0, CurBrake = 0;
+    float CurDeceleration = 0;
+    float Pace = 1;             // daring on the present leg, 0.75 to 1.25: larger brakes later
+    float Damage = 0;           // 0 whole; smokes above 1, burns from 7
+    std::uint8_t Control = 0;   // 0 the user's controls, otherwise the computer
+    std::int32_t NextSmoke = 0; // race time before which no damage smoke rises
 };
 
 struct Race
 {
-    std::int16_t Laps = 5;
-    base::Flag RaceOver = base::False;
-    std::int32_t GameTime = 0; // milliseconds
-    std::int16_t NumPlayers = 0;
-    std::int16_t UserPlayer = 0;
-    std::vector<Player> Players;
+    std::int16_t Laps = 5;             // to the finish
+    base::Flag RaceOver = base::False; // -1 once the user's car has finished
+    std::int32_t GameTime = 0;         // the race clock
+    std::int16_t UserPlayer = 0;       // index; scripts may set one that is not there
+    std::vector<Player> Players;       // at most 32767
     world::Map Map;
+
+    std::int16_t NumPlayers() const { return base::CountOf(Players); }
 };
 
 // Null where there is none: indices come from scripts, the console and the players' keys.
@@ -66,9 +95,9 @@ struct HeldKeys
 // What start-up loaded for the simulation: slots and pictures, -1 or null where loading failed.
 struct RaceAssets
 {
-    std::int16_t GlassTexture = -1, BrokenGlassTexture = -1;
-    std::int16_t ArrowObj = -1, CupObj = -1;
-    render::PicReference Smoke, Water, FireRed, FireYellow;
+    std::int16_t GlassTexture = -1, BrokenGlassTexture = -1; // slots of Scene::Textures
+    std::int16_t ArrowObj = -1, CupObj = -1;                 // slots of Scene::Objects
+    render::PicReference Smoke, Water, FireRed, FireYellow;  // shared by every particle of the kind
 };
 }
 
@@ -96,9 +125,9 @@ template <> struct base::FieldsOf<world::Player>
 template <> struct base::FieldsOf<world::Race>
 {
     using R = world::Race;
-    static constexpr auto Table =
-        std::make_tuple(Field{"Laps", &R::Laps}, Field{"RaceOver", &R::RaceOver}, Field{"GameTime", &R::GameTime},
-                        Fixed{"NumPlayers", &R::NumPlayers}, Field{"UserPlayer", &R::UserPlayer});
+    static constexpr auto Table = std::make_tuple(
+        Field{"Laps", &R::Laps}, Field{"RaceOver", &R::RaceOver}, Field{"GameTime", &R::GameTime},
+        Derived{"NumPlayers", [](const R& race) { return race.NumPlayers(); }}, Field{"UserPlayer", &R::UserPlayer});
 };
 
 template <> struct base::FieldsOf<world::HeldKeys>

@@ -34,8 +34,10 @@ bool PassesCheckpoint(const Map& map, const Player& player, const render::Obj& c
     const Target* checkpoint = CheckpointAt(map, player.NextCheckpoint);
     if (checkpoint == nullptr)
         return false;
+    // Deliberate: by its records, the zeroed one too.
+    const std::vector<Target>& elsewhere = map.ACheckpoints.Items;
     const auto index = static_cast<std::size_t>(player.NextCheckpoint);
-    return IsInside(car, *checkpoint) || (index < map.ACheckpoints.size() && IsInside(car, map.ACheckpoints[index]));
+    return IsInside(car, *checkpoint) || (index < elsewhere.size() && IsInside(car, elsewhere[index]));
 }
 
 void CountCheckpoint(Player& player, const Map& map, base::Random& random)
@@ -43,7 +45,7 @@ void CountCheckpoint(Player& player, const Map& map, base::Random& random)
     CountUp(player.Passed);
     CountUp(player.NextCheckpoint);
     player.Pace = random.Next() < 0.2 ? Single(0.75 + 0.5 * random.Next()) : 1.0f;
-    if (player.NextCheckpoint >= map.NumCheckpoints)
+    if (player.NextCheckpoint >= map.Checkpoints.Count())
     {
         CountUp(player.Lap);
         player.NextCheckpoint = 0;
@@ -74,15 +76,12 @@ void AwardTrophy(Simulation& sim, std::int16_t place)
         return;
     trophy->Visible = 1;
     const std::int32_t metal = metals[place - 1];
-    const base::Rgb colour = render::SplitRGB(metal);
     for (const std::size_t index : {6u, 7u})
         if (index < trophy->Mesh.size())
         {
             render::ObjMesh& mesh = trophy->Mesh[index];
             mesh.Colour = metal;
-            mesh.ColR = colour.R;
-            mesh.ColG = colour.G;
-            mesh.ColB = colour.B;
+            mesh.Col = render::SplitRGB(metal);
         }
 }
 
@@ -102,7 +101,7 @@ void ComputePlaces(Simulation& sim)
     Race& race = sim.Race;
     std::vector<Standing>& standings = sim.Scratch.Standings;
     standings.clear();
-    for (std::int16_t index = 0; index < race.NumPlayers; ++index)
+    for (std::int16_t index = 0; index < race.NumPlayers(); ++index)
     {
         const Player& player = *FindPlayer(race, index);
         standings.push_back({player.Passed, index, DistanceToGo(sim.Scene, race.Map, player)});
@@ -128,7 +127,7 @@ void RaceStep(Simulation& sim, FinishSink& finish)
 {
     Race& race = sim.Race;
     sim.InBox = false;
-    for (std::int16_t index = 0; index < race.NumPlayers; ++index)
+    for (std::int16_t index = 0; index < race.NumPlayers(); ++index)
     {
         Player& player = *FindPlayer(race, index);
         const render::Obj* car = ObjectAt(sim.Scene, player.Obj);

@@ -12,11 +12,10 @@ namespace world
 {
 namespace
 {
-// Whether one of the first `count` zones contains the car.
-bool IsInsideAny(const render::Obj& car, const std::vector<Target>& zones, std::int16_t count)
+bool IsInsideAny(const render::Obj& car, const TargetList& zones)
 {
-    const auto end = zones.begin() + std::min<std::ptrdiff_t>(count, std::ssize(zones));
-    return std::any_of(zones.begin(), end, [&](const Target& zone) { return IsInside(car, zone); });
+    const std::span<const Target> targets = zones.Targets();
+    return std::any_of(targets.begin(), targets.end(), [&](const Target& zone) { return IsInside(car, zone); });
 }
 
 // One puff beside the car.
@@ -42,7 +41,7 @@ void ApplyZones(Simulation& sim, std::int16_t index)
         return;
     const Map& map = sim.Race.Map;
 
-    const bool repairs = player->Speed == 0.0f && IsInsideAny(*car, map.Boxes, map.NumBoxes);
+    const bool repairs = player->Speed == 0.0f && IsInsideAny(*car, map.Boxes);
     if (index == sim.Camera.ViewPlayer)
         sim.InBox = repairs;
     if (repairs)
@@ -52,10 +51,10 @@ void ApplyZones(Simulation& sim, std::int16_t index)
     }
 
     // Deliberate: a car in reverse is slowed by neither grass nor water.
-    if (player->Speed > 1.0f && IsInsideAny(*car, map.Grass, map.NumGrass))
+    if (player->Speed > 1.0f && IsInsideAny(*car, map.Grass))
         player->Speed = Single(player->Speed * 0.98);
 
-    if (IsInsideAny(*car, map.Water, map.NumWater))
+    if (IsInsideAny(*car, map.Water))
     {
         if (player->Speed > 0.2)
             player->Speed = Single(player->Speed * 0.94);

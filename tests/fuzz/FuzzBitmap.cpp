@@ -1,7 +1,7 @@
 // Any bytes as a bitmap: as a picture, as the ground with its blurred copy, as a texture.
 #include "fuzz/Folder.h"
 #include "render/GroundTexture.h"
-#include "render/Primitives.h"
+#include "render/Textures.h"
 
 int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size)
 {

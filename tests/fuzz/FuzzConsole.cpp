@@ -27,12 +27,12 @@ struct FuzzDesk final : support::Desk
         for (const float x : {0.0f, 6.0f, 12.0f})
         {
             TheWorld.AddCar(x, 4);
-            const std::int16_t body = render::MakeObj(TheWorld.Scene, x, 0, 4, 0, 0, 1, 0, 1, 1);
+            const std::int16_t body = render::MakeObj(TheWorld.Scene, {x, 0, 4, 0, 0}, 1, 0, 1, 1);
             render::EditObjMesh(TheWorld.Scene, body, 0, 2, 2, 255, 0);
             for (int i = 0; i < 2; ++i)
                 for (int j = 0; j < 2; ++j)
-                    render::EditObjMeshPt(TheWorld.Scene, body, 0, i, j, static_cast<float>(i), 1,
-                                          static_cast<float>(j), 0, 0);
+                    render::EditObjMeshPt(TheWorld.Scene, body, 0, i, j,
+                                          {static_cast<float>(i), 1, static_cast<float>(j), 0, 0});
         }
         TheWorld.Race.GameTime = world::ReleaseTime;
         TheWorld.Keys.KeyAccel = TheWorld.Keys.KeyLeft = base::True;

@@ -2,7 +2,7 @@
 // must end as those with the plain walk over the collisions do.
 #include "fuzz/Folder.h"
 #include "tests/support/World.h"
-#include "world/Loaders.h"
+#include "world/LoadMap.h"
 
 #include <bit>
 #include <cstdlib>

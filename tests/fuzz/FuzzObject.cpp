@@ -1,7 +1,7 @@
 // Any bytes as a 3DM model file. The objects that stay in the scene are drawn once, without ground and sky.
 #include "fuzz/Folder.h"
 #include "render/RenderFrame.h"
-#include "world/Loaders.h"
+#include "world/LoadObject.h"
 
 int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size)
 {

@@ -95,11 +95,11 @@ TEST(ShippedRace, LoadsWithoutAWord)
 {
     support::ShippedRace shipped;
     EXPECT_TRUE(shipped.Boxes().empty()) << shipped.Boxes().front().Text;
-    EXPECT_EQ(shipped.Game().Race.NumPlayers, 8);
-    EXPECT_GE(shipped.Game().Race.Map.ACheckpoints.size(), shipped.Game().Race.Map.Checkpoints.size());
-    EXPECT_GT(shipped.Game().Race.Map.NumBoxes, 0);
-    EXPECT_GT(shipped.Game().Race.Map.NumGrass, 0);
-    EXPECT_GT(shipped.Game().Race.Map.NumWater, 0);
+    EXPECT_EQ(shipped.Game().Race.NumPlayers(), 8);
+    EXPECT_GE(shipped.Game().Race.Map.ACheckpoints.Items.size(), shipped.Game().Race.Map.Checkpoints.Items.size());
+    EXPECT_GT(shipped.Game().Race.Map.Boxes.Count(), 0);
+    EXPECT_GT(shipped.Game().Race.Map.Grass.Count(), 0);
+    EXPECT_GT(shipped.Game().Race.Map.Water.Count(), 0);
 }
 
 // Ten races, none like another; the lead changes in most of them.

@@ -48,7 +48,13 @@ struct Desk : console::Host
 private:
     std::int16_t Label(std::string_view text)
     {
-        return render::MakeLabel2D(TheWorld.Scene, 1, 1, 0, 0.5f, 4, {255, 255, 255}, 0, text);
+        return render::MakeLabel2D(TheWorld.Scene, {.X = 1,
+                                                    .Y = 1,
+                                                    .Style = render::StartsAtX,
+                                                    .Text = std::string(text),
+                                                    .Scale = 0.5f,
+                                                    .TabWidth = 4,
+                                                    .Col = {255, 255, 255}});
     }
 };
 }

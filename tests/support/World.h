@@ -51,9 +51,9 @@ struct World
     // An object with one sphere of that radius at its centre; its bounding radius is the same.
     std::int16_t AddBall(float x, float z, float radius, float mass)
     {
-        const std::int16_t object = render::MakeObj(Scene, x, 0, z, 0, 0, 0, 1, 1, mass);
+        const std::int16_t object = render::MakeObj(Scene, {x, 0, z, 0, 0}, 0, 1, 1, mass);
         render::SetObjR(Scene, object, radius);
-        render::EditObjSfere(Scene, object, 0, 0, 0, 0, radius);
+        render::EditObjSfere(Scene, object, 0, {0, 0, 0}, radius);
         return object;
     }
 
@@ -69,16 +69,12 @@ struct World
         player.Acceleration = player.CurAcceleration = 0.25f;
         player.Brake = player.CurBrake = 0.5f;
         player.Deceleration = player.CurDeceleration = 0.03125f;
-        player.Control = Race.NumPlayers == 0 ? 0 : 1;
+        player.Control = Race.Players.empty() ? 0 : 1;
         Race.Players.push_back(player);
-        return Race.NumPlayers++;
+        return static_cast<std::int16_t>(Race.NumPlayers() - 1);
     }
 
-    void SetCheckpoints(std::initializer_list<world::Target> list)
-    {
-        Race.Map.Checkpoints = list;
-        Race.Map.NumCheckpoints = static_cast<std::int16_t>(list.size());
-    }
+    void SetCheckpoints(std::initializer_list<world::Target> list) { Race.Map.Checkpoints.Items = list; }
 
     void SetGround(std::int32_t width, std::int32_t height, float scale, std::uint8_t value)
     {

@@ -36,8 +36,7 @@ std::uint64_t Load(const std::uint8_t* bytes)
 // a sum a tick affordable.
 template <class Record> constexpr bool IsDense()
 {
-    constexpr auto bytes = [](const auto&... field)
-    { return (sizeof(std::declval<Record&>().*(field.Pointer)) + ... + 0u); };
+    constexpr auto bytes = [](const auto&... field) { return (sizeof(field.Of(std::declval<Record&>())) + ... + 0u); };
     return std::is_trivially_copyable_v<Record> && std::apply(bytes, base::FieldsOf<Record>::Table) == sizeof(Record);
 }
 
@@ -55,6 +54,13 @@ void Add(Digest& digest, const render::PointGrid& grid)
 template <std::integral T> void Add(Digest& digest, T value)
 {
     digest.Word(static_cast<std::uint64_t>(value));
+}
+
+template <class T>
+requires std::is_enum_v<T>
+void Add(Digest& digest, T value)
+{
+    Add(digest, static_cast<std::underlying_type_t<T>>(value));
 }
 
 void Add(Digest& digest, float value)
@@ -133,7 +139,7 @@ void AddState(Digest& digest, const shell::Game& game)
     Add(digest, game.Race.Players);
     for (const auto* zones : {&game.Race.Map.Checkpoints, &game.Race.Map.ACheckpoints, &game.Race.Map.Boxes,
                               &game.Race.Map.Grass, &game.Race.Map.Water})
-        Add(digest, *zones);
+        Add(digest, zones->Items);
     Add(digest, game.Scene.Objects);
     Add(digest, game.Scene.Particles);
     Add(digest, game.Scene.Sprites);

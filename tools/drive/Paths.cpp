@@ -24,7 +24,7 @@ auto WebcamOf(shell::Game& game)
 
 auto RaceOf(shell::Game& game)
 {
-    return Merged(All{game.Race}, Named{"NumCheckpoints", game.Race.Map.NumCheckpoints, ReadOnly});
+    return Merged(All{game.Race}, Named{"NumCheckpoints", game.Race.Map.Checkpoints.Count(), ReadOnly});
 }
 
 auto AudioOf(shell::Game& game)
@@ -50,12 +50,13 @@ auto RootsOf(shell::Form1& form, headless::Machine& machine)
     return Merged(Named{"players", game.Race.Players}, Named{"objects", scene.Objects}, Named{"polys", scene.Polys},
                   Named{"sprites", scene.Sprites}, Named{"particles", scene.Particles}, Named{"pics", scene.Pics},
                   Named{"rects", scene.Rects}, Named{"labels", scene.Labels}, Named{"textures", scene.Textures},
-                  Named{"ground", scene.Ground}, Named{"checkpoints", map.Checkpoints},
-                  Named{"acheckpoints", map.ACheckpoints}, Named{"boxes", map.Boxes}, Named{"grass", map.Grass},
-                  Named{"water", map.Water}, Named{"camera", game.Camera}, Named{"screen", game.Screen},
-                  Named{"race", RaceOf(game)}, Named{"settings", SettingsOf(game)}, Named{"keys", KeysOf(game)},
-                  Named{"webcam", WebcamOf(game)}, Named{"timers", game.Timers}, Named{"audio", AudioOf(game)},
-                  Named{"controls", ControlsView{form.Controls()}}, Named{"clipboard", machine.Clipboard});
+                  Named{"ground", scene.Ground}, Named{"checkpoints", map.Checkpoints.Items},
+                  Named{"acheckpoints", map.ACheckpoints.Items}, Named{"boxes", map.Boxes.Items},
+                  Named{"grass", map.Grass.Items}, Named{"water", map.Water.Items}, Named{"camera", game.Camera},
+                  Named{"screen", game.Screen}, Named{"race", RaceOf(game)}, Named{"settings", SettingsOf(game)},
+                  Named{"keys", KeysOf(game)}, Named{"webcam", WebcamOf(game)}, Named{"timers", game.Timers},
+                  Named{"audio", AudioOf(game)}, Named{"controls", ControlsView{form.Controls()}},
+                  Named{"clipboard", machine.Clipboard});
 }
 
 template <class Use>

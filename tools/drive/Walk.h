@@ -81,8 +81,9 @@ template <class... Parts> inline constexpr bool IsMerged<Merged<Parts...>> = tru
 template <class T> inline constexpr bool IsNamed = false;
 template <class T> inline constexpr bool IsNamed<Named<T>> = true;
 
+// One value; an enumeration is shown and set as its number, whichever it is.
 template <class T>
-concept Scalar = std::is_arithmetic_v<T> || std::same_as<T, std::string>;
+concept Scalar = std::is_arithmetic_v<T> || std::is_enum_v<T> || std::same_as<T, std::string>;
 
 // Records that are shown as an array of their fields.
 template <class T> inline constexpr bool IsTuple = std::same_as<T, render::SfereLink>;
@@ -181,6 +182,8 @@ template <class T> void AppendValue(std::string& json, T& value)
 {
     if constexpr (std::same_as<T, std::string>)
         AppendText(json, value);
+    else if constexpr (std::is_enum_v<T>)
+        AppendNumber(json, static_cast<std::underlying_type_t<T>>(value));
     else if constexpr (Scalar<T>)
         AppendNumber(json, value);
     else if constexpr (std::same_as<T, ControlsView>)
@@ -241,6 +244,13 @@ struct Writer
         {
             value.assign(Text);
             return Outcome::Done;
+        }
+        else if constexpr (std::is_enum_v<T>)
+        {
+            auto number = static_cast<std::underlying_type_t<T>>(value);
+            const Outcome outcome = SetNumber(number);
+            value = static_cast<T>(number);
+            return outcome;
         }
         else
             return SetNumber(value);

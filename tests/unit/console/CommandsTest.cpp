@@ -242,7 +242,6 @@ TEST_F(Commands, WithoutPlayersNoIndexIsValid)
 {
     TheWorld.Race.Players.clear();
     ExpectFailure("\\set player 0 damage 1", "Indice non valido"); // whatever the count says
-    TheWorld.Race.NumPlayers = 0;
     ExpectFailure("\\set userplayer 0", "Indice non valido");
     ExpectFailure("\\get player 0 speed", "Indice non valido");
 }

@@ -1,6 +1,6 @@
 // What the game counts on in the models that ship with it.
 #include "tests/support/Messages.h"
-#include "world/Loaders.h"
+#include "world/LoadObject.h"
 
 #include <cmath>
 #include <gtest/gtest.h>
@@ -16,7 +16,7 @@ struct Shipped
     support::Messages Messages;
     std::int16_t Index = -1;
 
-    explicit Shipped(const std::string& path) { Index = world::LoadObject(Scene, Messages, Tree, path); }
+    explicit Shipped(const std::string& path) { Index = world::LoadObject(Scene, Messages, Tree, path).Current; }
     const render::Obj& Object() const { return Scene.Objects.At(Index); }
     const render::Texture& TextureOf(const render::ObjMesh& mesh) const { return Scene.Textures.At(mesh.TexIndex); }
 
@@ -31,15 +31,15 @@ struct Shipped
                 EXPECT_LE(std::hypot(p.X, p.Y, p.Z), Object().Radius + 0.001);
                 if (mesh.Colour >= 0)
                     continue;
-                EXPECT_TRUE(p.U >= 0 && p.U < TextureOf(mesh).Width) << p.U;
-                EXPECT_TRUE(p.V >= 0 && p.V < TextureOf(mesh).Height) << p.V;
+                EXPECT_TRUE(p.U >= 0 && p.U < TextureOf(mesh).Pic.Info.Width) << p.U;
+                EXPECT_TRUE(p.V >= 0 && p.V < TextureOf(mesh).Pic.Info.Height) << p.V;
             }
     }
     int Triangles() const
     {
         int count = 0;
         for (const render::ObjMesh& mesh : Object().Mesh)
-            count += (mesh.Rows - 1) * (mesh.Cols - 1) * 2;
+            count += (mesh.Pts.Rows - 1) * (mesh.Pts.Cols - 1) * 2;
         return count;
     }
 };
@@ -89,7 +89,7 @@ TEST_P(ShippedCar, HasTheMeasuresOfACar)
 TEST_P(ShippedCar, Mesh20IsTheGlassThatBreaks)
 {
     Shipped car(CarPath(GetParam()));
-    ASSERT_GE(car.Object().NumMesh, 21);
+    ASSERT_GE(car.Object().Mesh.size(), 21u);
     const render::ObjMesh& glass = car.Object().Mesh[20];
     ASSERT_LT(glass.Colour, 0);
     EXPECT_TRUE(car.TextureOf(glass).Path.ends_with("textures\\glass.bmp")) << car.TextureOf(glass).Path;
@@ -98,11 +98,11 @@ TEST_P(ShippedCar, Mesh20IsTheGlassThatBreaks)
 TEST_P(ShippedCar, EverySphereDentsTheBody)
 {
     const Shipped car(CarPath(GetParam()));
-    ASSERT_GE(car.Object().NumSfere, 7);
+    ASSERT_GE(car.Object().Sfere.size(), 7u);
     for (std::size_t s = 0; s < car.Object().Sfere.size(); ++s)
     {
         const render::Sfera& sphere = car.Object().Sfere[s];
-        EXPECT_GE(sphere.NumLinks, 8) << s;
+        EXPECT_GE(sphere.Links.size(), 8u) << s;
         EXPECT_EQ(sphere.Y > 0.7, s >= 6) << s; // low on the body, then the cabin
         for (const render::SfereLink& link : sphere.Links)
             EXPECT_TRUE(car.Object().Mesh.at(static_cast<std::size_t>(link.M)).Pts.Has(link.I, link.J));
@@ -139,7 +139,7 @@ TEST(ShippedModels, TheTrophyWaitsHiddenWithItsTwoFlatMeshes)
     const Shipped cup("data\\models\\cup.3dm");
     cup.ExpectSound();
     EXPECT_EQ(cup.Object().Visible, 0);
-    ASSERT_GE(cup.Object().NumMesh, 8);
+    ASSERT_GE(cup.Object().Mesh.size(), 8u);
     EXPECT_GE(cup.Object().Mesh[6].Colour, 0);
     EXPECT_GE(cup.Object().Mesh[7].Colour, 0);
 }
@@ -149,7 +149,7 @@ TEST(ShippedModels, TheArrowPointsAhead)
     const Shipped arrow("data\\models\\gps.3dm");
     arrow.ExpectSound();
     EXPECT_EQ(arrow.Object().Visible, 1);
-    EXPECT_EQ(arrow.Object().NumSfere, 0); // nothing collides with it
+    EXPECT_EQ(arrow.Object().Sfere.size(), 0u); // nothing collides with it
     double tip = 0, tail = 0;
     for (const render::ObjMesh& mesh : arrow.Object().Mesh)
         for (const render::MeshPt& p : mesh.Pts.Points)

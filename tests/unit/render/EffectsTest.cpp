@@ -17,9 +17,10 @@ struct Effects : testing::Test
     base::Random Random;
     render::PicReference Picture = std::make_shared<const render::Picture>(scenes::Blank(2, 2));
 
-    std::int16_t Add(int life, std::int32_t kind, float alpha = 1.0f)
+    std::int16_t Add(int life, render::ParticleKind kind, float alpha = 1.0f)
     {
-        return AddParticle(Scene, static_cast<std::int16_t>(life), kind, Picture, 1, 2, 3, 0.5f, alpha);
+        return AddParticle(Scene, static_cast<std::int16_t>(life), kind,
+                           {.X = 1, .Y = 2, .Z = 3, .Scale = 0.5f, .Alpha = alpha, .Pixels = Picture});
     }
     void Advance(int ticks)
     {
@@ -134,7 +135,7 @@ TEST_F(Effects, FireShrinksAndKeepsItsOpacity)
 
 TEST_F(Effects, OtherKindsOnlyAgeAndInertOnesNotEvenThat)
 {
-    Add(9, 7);
+    Add(9, static_cast<ParticleKind>(7));
     Add(9, Inert);
     Advance(3);
     EXPECT_EQ(Scene.Particles[0].Life, 6);

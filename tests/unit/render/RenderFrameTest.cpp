@@ -46,11 +46,8 @@ render::ObjMesh Square(float x, float y, float z, float side, std::int32_t colou
 {
     render::ObjMesh mesh;
     mesh.Colour = colour;
-    const base::Rgb split = render::SplitRGB(colour);
-    mesh.ColR = split.R;
-    mesh.ColG = split.G;
-    mesh.ColB = split.B;
-    mesh.Rows = mesh.Cols = mesh.Pts.Rows = mesh.Pts.Cols = 2;
+    mesh.Col = render::SplitRGB(colour);
+    mesh.Pts.Rows = mesh.Pts.Cols = 2;
     for (int i = 0; i < 2; ++i)
         for (int j = 0; j < 2; ++j)
             mesh.Pts.Points.push_back(
@@ -67,14 +64,13 @@ Obj Visible(float x, float y, float z, float radius)
     object.Y = y;
     object.Z = z;
     object.Radius = radius;
-    object.NumMesh = 1;
     object.Mesh.push_back(Square(-20 - x, -20 - y, 180 - z, 40, 0x0000FF));
     return object;
 }
 
 void Add(Scene& scene, Obj object)
 {
-    const std::int16_t slot = scene.Objects.Take();
+    const std::int16_t slot = scene.Objects.Add();
     scene.Objects.At(slot) = std::move(object);
 }
 }
@@ -105,7 +101,7 @@ TEST(RenderFrame, AGroundPassOutOfTimeIsCutOff)
     for (const int threads : {1, 3, 5, 16})
     {
         Eye view(threads);
-        render::MakeRect2D(view.Scene, 10, 10, 5, 5, 0, {255, 0, 0}, 1);
+        render::MakeRect2D(view.Scene, {.Visible = 1, .X = 10, .Y = 10, .W = 5, .H = 5, .Col = {255, 0, 0}});
         std::fill(view.Screen.Frame.Bytes.begin(), view.Screen.Frame.Bytes.end(), std::uint8_t{77});
         view.Screen.GroundLimit = 0;
         RenderFrame(view.Scene, view.Camera, view.Screen, view.Threads);
@@ -224,8 +220,7 @@ TEST(DrawObjects, TexturesThatAreNotThereDrawNothing)
     for (const std::int16_t slot : {std::int16_t{-1}, std::int16_t{1}, std::int16_t{32767}})
     {
         Eye view;
-        render::Texture& texture = view.Scene.Textures.At(view.Scene.Textures.Take());
-        texture.Width = texture.Height = 16;
+        render::Texture& texture = view.Scene.Textures.At(view.Scene.Textures.Add());
         texture.Pic = scenes::Blank(16, 16);
         std::fill(texture.Pic.Pixels.Bytes.begin(), texture.Pic.Pixels.Bytes.end(), std::uint8_t{200});
         Add(view.Scene, Visible(0, 0, 200, 30));
@@ -239,9 +234,9 @@ TEST(DrawObjects, TexturesThatAreNotThereDrawNothing)
         texture.Free = 1;
         EXPECT_FALSE(view.Draws());
         texture.Free = 0;
-        texture.Width = 0;
+        texture.Pic.Info.Width = 0;
         EXPECT_FALSE(view.Draws());
-        texture.Width = 30000; // more than its bytes: only what is there is read
+        texture.Pic.Info.Width = 30000; // more than its bytes: only what is there is read
         EXPECT_TRUE(view.Draws());
     }
 }
@@ -263,9 +258,9 @@ TEST(RenderFrame, PolylinesJoinConsecutivePoints)
 {
     Eye view;
     render::MakePoly(view.Scene, 3, 0x0000FF, 1);
-    render::EditPolyPt(view.Scene, 0, 0, -10, 0, 200);
-    render::EditPolyPt(view.Scene, 0, 1, 10, 0, 200);
-    render::EditPolyPt(view.Scene, 0, 2, 10, 20, 200);
+    render::EditPolyPt(view.Scene, 0, 0, {-10, 0, 200});
+    render::EditPolyPt(view.Scene, 0, 1, {10, 0, 200});
+    render::EditPolyPt(view.Scene, 0, 2, {10, 20, 200});
     EXPECT_EQ(view.At(120, 100), Red);
     EXPECT_EQ(view.At(130, 115), Red);
     EXPECT_EQ(view.At(120, 110), 0u); // not closed
@@ -280,14 +275,14 @@ TEST(RenderFrame, TheDisplayIsDrawnOverTheWorldInItsOrder)
     view.Scene.WorldMeshes.push_back(Square(-2, -0.5f, 1, 4, 0x0000FF));
     EXPECT_EQ(view.At(120, 20), Red);
     support::Messages messages;
-    const std::int16_t pic = render::MakePic2D(view.Scene, messages, 99.5f, 0.0f, 40, 40, 1);
+    const std::int16_t pic = render::MakePic2D(view.Scene, messages, {.Visible = 1, .X = 99.5f, .Y = 0.0f}, 40, 40);
     auto& pixels = view.Scene.Pics.At(pic).Pic.Pixels;
     std::fill(pixels.Bytes.begin(), pixels.Bytes.end(), std::uint8_t{40});
     EXPECT_EQ(view.At(120, 20), 0x282828u);
     EXPECT_EQ(view.At(99, 20), Red); // 99.5 is column 100, ties to even
-    render::MakeRect2D(view.Scene, 110, 10, 20, 20, 0, {0, 255, 0}, 1);
+    render::MakeRect2D(view.Scene, {.Visible = 1, .X = 110, .Y = 10, .W = 20, .H = 20, .Col = {0, 255, 0}});
     EXPECT_EQ(view.At(120, 20), Green);
-    render::MakeRect2D(view.Scene, 115, 15, 10, 10, 0, {0, 0, 255}, 1);
+    render::MakeRect2D(view.Scene, {.Visible = 1, .X = 115, .Y = 15, .W = 10, .H = 10, .Col = {0, 0, 255}});
     EXPECT_EQ(view.At(120, 20), Blue);
     view.Scene.Rects.At(1).Hidden = 1;
     EXPECT_EQ(view.At(120, 20), Green);
@@ -298,7 +293,14 @@ TEST(RenderFrame, TheDisplayIsDrawnOverTheWorldInItsOrder)
     render::Glyph& glyph = scene.Font.Glyphs['A' - render::FirstCode];
     glyph = {1, 1, 1, {255}};
     scene.Font.LineHeight = scene.Font.WidestGlyph = 1;
-    render::MakeLabel2D(scene, 120, 20, 0, 1, 4, {9, 8, 7}, 1, "A");
+    render::MakeLabel2D(scene, {.Visible = 1,
+                                .X = 120,
+                                .Y = 20,
+                                .Style = render::StartsAtX,
+                                .Text = "A",
+                                .Scale = 1,
+                                .TabWidth = 4,
+                                .Col = {9, 8, 7}});
     EXPECT_EQ(view.At(120, 20), 0x070809u);
     scene.Labels.At(0).Fade = 0.5f;
     EXPECT_EQ(view.At(120, 20), 0x030404u);
@@ -310,22 +312,29 @@ TEST(RenderFrame, LabelsGoByTheirStyle)
     view.Scene.Font.Glyphs['A' - render::FirstCode] = {1, 3, 1, {255, 255, 255}};
     view.Scene.Font.LineHeight = 1;
     view.Scene.Font.WidestGlyph = 3;
-    render::MakeLabel2D(view.Scene, 120, 20, 0, 1, 2, {0, 255, 0}, 1, "A\tA");
+    render::MakeLabel2D(view.Scene, {.Visible = 1,
+                                     .X = 120,
+                                     .Y = 20,
+                                     .Style = render::StartsAtX,
+                                     .Text = "A\tA",
+                                     .Scale = 1,
+                                     .TabWidth = 2,
+                                     .Col = {0, 255, 0}});
     render::Label2D& label = view.Scene.Labels.At(0);
     EXPECT_EQ(view.At(122, 20), Green); // from x on: 120 … 122
     EXPECT_EQ(view.At(128, 20), Green); // and from the tab stop at 2 x 4
     EXPECT_EQ(view.At(124, 20), 0u);
     EXPECT_EQ(view.At(119, 20), 0u);
-    label.Style = 1;
+    label.Style = render::EndsAtX;
     EXPECT_EQ(view.At(118, 20), Green); // ends at x, a space before it: 112 … 114 and 116 … 118
     EXPECT_EQ(view.At(114, 20), Green);
     EXPECT_EQ(view.At(120, 20), 0u);
-    label.Style = 2;
+    label.Style = render::CentredOnX;
     EXPECT_EQ(view.At(114, 20), Green); // 12 wide: from 114
     EXPECT_EQ(view.At(113, 20), 0u);
     for (const int style : {3, -1})
     {
-        label.Style = style;
+        label.Style = static_cast<render::LabelStyle>(style);
         EXPECT_FALSE(view.Draws());
     }
 }
@@ -339,14 +348,12 @@ Scene CrowdedScene(base::Random& random)
     const auto draw = [&](double least, double most) { return static_cast<float>(scenes::Draw(random, least, most)); };
     scene.Sky = scenes::Noise(random, render::SkyWidth, 60);
     scenes::SetGround(scene, scenes::Noise(random, 120, 90));
-    render::Texture& texture = scene.Textures.At(scene.Textures.Take());
+    render::Texture& texture = scene.Textures.At(scene.Textures.Add());
     texture.Pic = scenes::Noise(random, 30, 20, 0.1);
-    texture.Width = 30;
-    texture.Height = 20;
     for (int n = 0; n < 25; ++n)
     {
         const std::int16_t object =
-            render::MakeObj(scene, draw(0, 120), draw(0, 3), draw(0, 90), draw(-4, 4), draw(-1, 1), 2, 0, 1, 1);
+            render::MakeObj(scene, {draw(0, 120), draw(0, 3), draw(0, 90), draw(-4, 4), draw(-1, 1)}, 2, 0, 1, 1);
         render::SetObjR(scene, object, 5);
         for (int m = 0; m < 2; ++m)
         {
@@ -356,8 +363,9 @@ Scene CrowdedScene(base::Random& random)
                                 0);
             for (int i = 0; i < rows; ++i)
                 for (int j = 0; j < cols; ++j)
-                    render::EditObjMeshPt(scene, object, m, i, j, draw(-4, 4), draw(-1, 4), draw(-4, 4),
-                                          scenes::DrawWhole(random, -2, 31), scenes::DrawWhole(random, -2, 21));
+                    render::EditObjMeshPt(scene, object, m, i, j,
+                                          {draw(-4, 4), draw(-1, 4), draw(-4, 4), scenes::DrawWhole(random, -2, 31),
+                                           scenes::DrawWhole(random, -2, 21)});
         }
         scene.Objects.At(object).Mesh[0].Free = n % 8 == 0;
     }
@@ -366,11 +374,17 @@ Scene CrowdedScene(base::Random& random)
     {
         render::MakePoly(scene, 3, scenes::DrawWhole(random, 1, 1 << 23), 1);
         for (int i = 0; i < 3; ++i)
-            render::EditPolyPt(scene, n, i, draw(0, 120), draw(0, 5), draw(0, 90));
+            render::EditPolyPt(scene, n, i, {draw(0, 120), draw(0, 5), draw(0, 90)});
     }
     const auto smoke = std::make_shared<const render::Picture>(scenes::Noise(random, 20, 20, 0.3));
     for (int n = 0; n < 10; ++n)
-        render::MakeSprite3D(scene, smoke, draw(0, 120), draw(0, 4), draw(0, 90), 0.05f, n % 2 == 0 ? 1 : 0.4f, 1);
+        render::MakeSprite3D(scene, {.Visible = 1,
+                                     .X = draw(0, 120),
+                                     .Y = draw(0, 4),
+                                     .Z = draw(0, 90),
+                                     .Scale = 0.05f,
+                                     .Alpha = n % 2 == 0 ? 1 : 0.4f,
+                                     .Pixels = smoke});
     return scene;
 }
 
@@ -406,10 +420,10 @@ void DrawPlain(const Scene& scene, const render::Camera& camera, render::Screen&
                     DrawTriTex(camera, screen, {p, q, s},
                                render::MakeSurface(scene.Textures.At(mesh.TexIndex).Pic.Pixels, 30, 20));
                 else
-                    DrawTriFlat(scene, camera, screen, {p, q, s}, {mesh.ColR, mesh.ColG, mesh.ColB});
+                    DrawTriFlat(scene, camera, screen, {p, q, s}, mesh.Col);
             };
-            for (int i = 0; i <= mesh.Rows - 2 && mesh.Free == 0; ++i)
-                for (int j = 0; j <= mesh.Cols - 2; ++j)
+            for (int i = 0; i <= mesh.Pts.Rows - 2 && mesh.Free == 0; ++i)
+                for (int j = 0; j <= mesh.Pts.Cols - 2; ++j)
                 {
                     triangle(corner(i, j), corner(i + 1, j), corner(i, j + 1));
                     triangle(corner(i + 1, j + 1), corner(i + 1, j), corner(i, j + 1));
@@ -423,7 +437,7 @@ void DrawPlain(const Scene& scene, const render::Camera& camera, render::Screen&
             const render::MeshPt& p = mesh.Pts.At(i, j);
             return TransformVertex(camera, screen, {p.X, p.Y, p.Z});
         };
-        const base::Rgb colour{mesh.ColR, mesh.ColG, mesh.ColB};
+        const base::Rgb colour = mesh.Col;
         DrawTriFlat(scene, camera, screen, {vertex(0, 0), vertex(1, 0), vertex(0, 1)}, colour);
         DrawTriFlat(scene, camera, screen, {vertex(1, 1), vertex(1, 0), vertex(0, 1)}, colour);
     }
@@ -431,7 +445,7 @@ void DrawPlain(const Scene& scene, const render::Camera& camera, render::Screen&
         for (std::size_t i = 0; i + 1 < poly.Pts.size(); ++i)
         {
             const render::PolyPt &a = poly.Pts[i], &b = poly.Pts[i + 1];
-            DrawLine3D(scene, camera, screen, {a.X, a.Y, a.Z}, {b.X, b.Y, b.Z}, {poly.ColR, poly.ColG, poly.ColB});
+            DrawLine3D(scene, camera, screen, {a.X, a.Y, a.Z}, {b.X, b.Y, b.Z}, poly.Col);
         }
     for (const render::Sprite3D& sprite : scene.Sprites.Items)
         DrawSprite3DPlain(camera, screen, sprite);

@@ -23,8 +23,6 @@ Sprite3D MakeSprite(render::Picture picture, float scale, float alpha = 1.0f)
     sprite.Z = NearDepth;
     sprite.Scale = scale;
     sprite.Alpha = alpha;
-    sprite.Width = picture.Info.Width;
-    sprite.Height = picture.Info.Height;
     sprite.Pixels = std::make_shared<const render::Picture>(std::move(picture));
     return sprite;
 }

@@ -20,7 +20,7 @@ struct HudTest : testing::Test, support::LoadedForm
     {
         Player(0).Damage = damage;
         Form.Race().RenderT_Tick();
-        return std::to_string(Bar().ColR) + "," + std::to_string(Bar().ColG) + "," + std::to_string(Bar().ColB);
+        return std::to_string(Bar().Col.R) + "," + std::to_string(Bar().Col.G) + "," + std::to_string(Bar().Col.B);
     }
     std::int16_t RightEdgeAt(float damage)
     {
@@ -164,8 +164,8 @@ TEST_F(HudTest, TheFrameRateIsMeasuredEveryHalfSecond)
     Pass(2000);
     EXPECT_EQ(Game().Run.Fps, 20);
     EXPECT_EQ(Label(&Hud::FrameRate).Text, "20 fps");
-    EXPECT_EQ(Label(&Hud::FrameRate).ColG, 200);
-    EXPECT_EQ(Label(&Hud::FrameRate).ColR, 0);
+    EXPECT_EQ(Label(&Hud::FrameRate).Col.G, 200);
+    EXPECT_EQ(Label(&Hud::FrameRate).Col.R, 0);
 }
 
 TEST_F(HudTest, TheNextMeasurementComesFiveHundredMillisecondsLater)
@@ -190,7 +190,7 @@ TEST_F(HudTest, TwoBelowTheTargetIsStillGreen)
         Game().Run.FpsNextTime = Machine.Clock;
         Game().Timers.RenderT.Ticks = ticks - 1; // the tick itself counts
         Form.Race().RenderT_Tick();
-        return Label(&Hud::FrameRate).Text + (Label(&Hud::FrameRate).ColG == 200 ? " green" : " red");
+        return Label(&Hud::FrameRate).Text + (Label(&Hud::FrameRate).Col.G == 200 ? " green" : " red");
     };
     EXPECT_EQ(measure(9), "18 fps green");
     EXPECT_EQ(measure(8), "16 fps red");
@@ -276,8 +276,8 @@ TEST_F(HudTest, TheSpannerIsAPictureOfSeveralColours)
 {
     Load();
     const render::Pic2D& pic = Game().Scene.Pics.At(Game().Hud.Repair);
-    EXPECT_EQ(pic.Width, 32);
-    EXPECT_EQ(pic.Height, 32);
+    EXPECT_EQ(pic.Pic.Info.Width, 32);
+    EXPECT_EQ(pic.Pic.Info.Height, 32);
     EXPECT_EQ(pic.Visible, 0);
     const auto brightness = [&](std::int32_t x, std::int32_t row) { return pic.Pic.Pixels.Row(row)[3 * x + 1]; };
     EXPECT_GT(brightness(16, 16), 150); // the shaft

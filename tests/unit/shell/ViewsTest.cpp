@@ -18,9 +18,7 @@ struct ViewTest : testing::Test
     {
         Scene.Objects.Items.resize(2);
         Race.Players.resize(1);
-        Race.NumPlayers = 1;
-        Race.Map.Checkpoints.push_back({110, 0, 40, 5});
-        Race.Map.NumCheckpoints = 1;
+        Race.Map.Checkpoints.Items.push_back({110, 0, 40, 5});
         Car().X = 10;
         Car().Y = 1;
         Car().Z = 40;
@@ -215,7 +213,7 @@ TEST_F(ViewTest, ArrowPointsAtTheNextCheckpoint)
     Camera.View = 7;
     Place(); // the checkpoint lies 100 units to the right
     EXPECT_FLOAT_EQ(Arrow().AngleA, -1.570796f);
-    Race.Map.Checkpoints[0] = {10, 0, 0, 5};
+    Race.Map.Checkpoints.Items[0] = {10, 0, 0, 5};
     Place(); // behind
     EXPECT_NEAR(std::abs(Arrow().AngleA), 3.141592, 1e-5);
 }
@@ -224,7 +222,7 @@ TEST_F(ViewTest, ArrowKeepsItsAngleOnTheCheckpointAndWithoutOne)
 {
     Camera.View = 7;
     Arrow().AngleA = 0.7f;
-    Race.Map.Checkpoints[0] = {10, 0, 40, 5};
+    Race.Map.Checkpoints.Items[0] = {10, 0, 40, 5};
     Place();
     EXPECT_EQ(Arrow().AngleA, 0.7f);
     Race.Players[0].NextCheckpoint = 5;

@@ -13,15 +13,15 @@ namespace
 void Fill(shell::Game& game)
 {
     render::Scene& scene = game.Scene;
-    render::MakeObj(scene, 1, 2, 3, 0, 0, 1, 1, 1, 10);
+    render::MakeObj(scene, {1, 2, 3, 0, 0}, 1, 1, 1, 10);
     render::EditObjMesh(scene, 0, 0, 2, 2, 255, 0);
-    render::AddSfereLink(scene, 0, 0, 0, 1, 1);
-    render::MakeSprite3D(scene, nullptr, 0, 0, 0, 1, 1, 1);
+    render::AddSfereLink(scene, 0, 0, {0, 1, 1});
+    render::MakeSprite3D(scene, {.Visible = 1, .X = 0, .Y = 0, .Z = 0, .Scale = 1, .Alpha = 1, .Pixels = nullptr});
     scene.Particles.resize(1);
     scene.Ground.Width = scene.Ground.Height = 3;
     scene.Ground.Sharp.Pixels.Allocate(3, 12);
     game.Race.Players.resize(2);
-    game.Race.Map.Water.resize(1);
+    game.Race.Map.Water.Items.resize(1);
 }
 
 std::uint64_t SumAfter(const std::function<void(shell::Game&)>& change)
@@ -46,7 +46,7 @@ TEST(Checksum, WhateverTheSimulationTouchesCounts)
         [](Game& game) { game.Race.Players[1].NextSmoke = 1; },
         [](Game& game) { game.Race.GameTime = 25; },
         [](Game& game) { game.Race.RaceOver = -1; },
-        [](Game& game) { game.Race.Map.Water[0].R = 1; },
+        [](Game& game) { game.Race.Map.Water.Items[0].R = 1; },
         [](Game& game) { game.Scene.Objects.At(0).AngleB = 0.5f; },
         [](Game& game) { game.Scene.Objects.At(0).Free = 1; },
         [](Game& game) { game.Scene.Objects.At(0).Mesh[0].Pts.At(1, 1).Y = 1e-9f; },

@@ -15,14 +15,14 @@ struct Walk : testing::Test
     std::vector<world::Player> Players{2};
     std::array<std::int16_t, 3> Bindings = {17, 9, 66};
     std::string Clipboard = "testo";
+    render::Particle Particle;
     std::int16_t Count = 5;
 
     Walk()
     {
-        Objects.Take();
+        Objects.Add();
         render::Obj& object = Objects.At(0);
         object.X = 0.1f;
-        object.NumMesh = 1;
         object.Sfere.resize(1);
         object.Sfere[0].Links = {{20, 1, 2}, {3, 4, 5}};
         object.Mesh.resize(1);
@@ -37,7 +37,8 @@ struct Walk : testing::Test
             return Outcome::NoSuchPath;
         drive::Merged roots(drive::Named{"objects", Objects}, drive::Named{"players", Players},
                             drive::Named{"keys", drive::Merged(drive::Named{"Bindings", Bindings})},
-                            drive::Named{"clipboard", Clipboard}, drive::Named{"Count", Count, false});
+                            drive::Named{"particle", Particle}, drive::Named{"clipboard", Clipboard},
+                            drive::Named{"Count", Count, false});
         return drive::Follow(roots, true, *steps, use);
     }
 
@@ -63,7 +64,7 @@ TEST_F(Walk, ReadsWholeRecordsAndArrays)
     EXPECT_EQ(Peek("keys"), R"({"Bindings": [17, 9, 66]})");
     EXPECT_EQ(Peek("objects[0].Mesh[0].Pts[1][2]"), R"({"X": 0, "Y": 0, "Z": 0, "U": 77, "V": 0})");
     EXPECT_EQ(Peek("objects[0].Sfere[0]"),
-              R"({"X": 0, "Y": 0, "Z": 0, "R": 0, "NumLinks": 0, "Links": [[20, 1, 2], [3, 4, 5]]})");
+              R"({"X": 0, "Y": 0, "Z": 0, "R": 0, "NumLinks": 2, "Links": [[20, 1, 2], [3, 4, 5]]})");
 }
 
 TEST_F(Walk, LinksAreTriples)
@@ -97,6 +98,36 @@ TEST_F(Walk, SetsNumbersAndTexts)
     EXPECT_EQ(Clipboard, " due  parole ");
     EXPECT_EQ(Poke("clipboard", ""), Outcome::Done);
     EXPECT_EQ(Clipboard, "");
+}
+
+TEST_F(Walk, CountsAreWhatTheListsHold)
+{
+    EXPECT_EQ(Peek("objects[0].NumMesh"), "1");
+    EXPECT_EQ(Peek("objects[0].NumSfere"), "1");
+    EXPECT_EQ(Peek("objects[0].Mesh[0].Rows"), "2");
+    EXPECT_EQ(Peek("objects[0].Mesh[0].Cols"), "3");
+    Objects.At(0).Sfere.resize(7);
+    Objects.At(0).Sfere[0].Links.clear();
+    EXPECT_EQ(Peek("objects[0].NumSfere"), "7");
+    EXPECT_EQ(Peek("objects[0].Sfere[0].NumLinks"), "0");
+}
+
+TEST_F(Walk, PartsOfAColourAreFieldsOfTheRecord)
+{
+    EXPECT_EQ(Poke("objects[0].Mesh[0].ColG", "200"), Outcome::Done);
+    EXPECT_EQ(Objects.At(0).Mesh[0].Col, (base::Rgb{0, 200, 0}));
+    EXPECT_EQ(Peek("objects[0].Mesh[0].ColG"), "200");
+    EXPECT_EQ(Poke("objects[0].Mesh[0].ColG", "256"), Outcome::BadValue);
+    EXPECT_EQ(Peek("objects[0].Mesh[0].Col"), "no such path");
+}
+
+TEST_F(Walk, EnumerationsAreShownAndSetAsAnyNumber)
+{
+    EXPECT_EQ(Poke("particle.Kind", "-7"), Outcome::Done);
+    EXPECT_EQ(Peek("particle.Kind"), "-7");
+    EXPECT_EQ(Poke("particle.Kind", "2147483648"), Outcome::BadValue);
+    EXPECT_EQ(Poke("particle.Kind", "3"), Outcome::Done);
+    EXPECT_EQ(Particle.Kind, render::Fire);
 }
 
 TEST_F(Walk, AValueOutsideTheFieldsTypeChangesNothing)

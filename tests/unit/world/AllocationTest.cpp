@@ -18,8 +18,7 @@ support::World BusyWorld()
     world.MakePictures();
     world.SetGround(256, 256, 1, 200);
     world.SetCheckpoints({{20, 0, 20, 15}, {100, 0, 20, 15}, {100, 0, 100, 15}, {20, 0, 100, 15}});
-    world.Race.Map.Water = {{100, 0, 60, 30}};
-    world.Race.Map.NumWater = 1;
+    world.Race.Map.Water.Items = {{100, 0, 60, 30}};
     for (int n = 0; n < 24; ++n)
     {
         const std::int16_t car = world.AddCar(static_cast<float>(20 + n), static_cast<float>(30 + n % 5));

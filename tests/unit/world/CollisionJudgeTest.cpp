@@ -34,29 +34,29 @@ void AddObject(support::World& world, base::Random& random, const Recipe& recipe
 {
     const auto spheres = static_cast<std::int16_t>(1 + base::Floor(random.Next() * 8));
     const float radius = Between(random, 0.2, recipe.Radius);
-    const std::int16_t object =
-        render::MakeObj(world.Scene, Between(random, 0, recipe.Size), 0, Between(random, 0, recipe.Size),
-                        Between(random, -4, 4), 0, car ? 1 : 0, spheres, 1, Between(random, 0, 3));
+    const std::int16_t object = render::MakeObj(
+        world.Scene, {Between(random, 0, recipe.Size), 0, Between(random, 0, recipe.Size), Between(random, -4, 4), 0},
+        car ? 1 : 0, spheres, 1, Between(random, 0, 3));
     render::SetObjR(world.Scene, object, radius);
     for (std::int16_t sphere = 0; sphere < spheres; ++sphere)
     {
-        render::EditObjSfere(world.Scene, object, sphere, Between(random, -radius, radius) / 2, 0,
-                             Between(random, -radius, radius) / 2, Between(random, 0.1, radius));
+        render::EditObjSfere(world.Scene, object, sphere,
+                             {Between(random, -radius, radius) / 2, 0, Between(random, -radius, radius) / 2},
+                             Between(random, 0.1, radius));
         if (car)
-            render::AddSfereLink(world.Scene, object, sphere, 0, sphere, 0);
+            render::AddSfereLink(world.Scene, object, sphere, {0, sphere, 0});
     }
     if (!car)
         return;
     render::EditObjMesh(world.Scene, object, 0, 8, 1, 0, 0);
     for (int point = 0; point < 8; ++point)
-        render::EditObjMeshPt(world.Scene, object, 0, point, 0, 1, 2, 3, 0, 0);
+        render::EditObjMeshPt(world.Scene, object, 0, point, 0, {1, 2, 3, 0, 0});
     render::KeepUndamaged(world.Scene, object);
     world::Player player;
     player.Obj = object;
     player.MaxSpeed = 5;
     player.Speed = Between(random, -recipe.Speed, recipe.Speed);
     world.Race.Players.push_back(player);
-    ++world.Race.NumPlayers;
 }
 
 support::World Build(const Recipe& recipe, std::uint64_t seed)

@@ -22,12 +22,11 @@ struct Collision : testing::TestWithParam<void (*)(world::Simulation&)>
     {
         render::Obj& body = World.Object(object);
         body.Mesh.resize(static_cast<std::size_t>(meshes));
-        body.NumMesh = meshes;
         for (std::int16_t mesh = 0; mesh < meshes; ++mesh)
         {
             render::EditObjMesh(World.Scene, object, mesh, 2, 2, 255, 0);
             for (int i = 0; i < 4; ++i)
-                render::EditObjMeshPt(World.Scene, object, mesh, i / 2, i % 2, 10, 20, 40, 0, 0);
+                render::EditObjMeshPt(World.Scene, object, mesh, i / 2, i % 2, {10, 20, 40, 0, 0});
         }
         render::KeepUndamaged(World.Scene, object);
     }
@@ -207,7 +206,7 @@ TEST_P(Collision, FreedObjectsAndThoseWithoutSpheresAreLeftOut)
     World.AddBall(2, 0, 1, 1);
     World.Object(1).Free = 1;
     World.Object(2).Visible = 0; // what is hidden collides all the same
-    const std::int16_t bare = render::MakeObj(World.Scene, 0, 0, 0, 0, 0, 0, 0, 1, 1);
+    const std::int16_t bare = render::MakeObj(World.Scene, {0, 0, 0, 0, 0}, 0, 0, 1, 1);
     render::SetObjR(World.Scene, bare, 5);
     Collide();
     EXPECT_EQ(World.Object(0).X, 0.0f);
@@ -221,13 +220,13 @@ TEST_P(Collision, TheFirstPairOfSpheresIsTheContact)
     // Two spheres each; 0 of i is far off, 1 of i meets both of j, 0 first.
     for (const float x : {0.0f, 1.5f})
     {
-        const std::int16_t object = render::MakeObj(World.Scene, x, 0, 0, 0, 0, 0, 2, 1, 1);
+        const std::int16_t object = render::MakeObj(World.Scene, {x, 0, 0, 0, 0}, 0, 2, 1, 1);
         render::SetObjR(World.Scene, object, 50);
     }
-    render::EditObjSfere(World.Scene, 0, 0, 0, 40, 0, 1);
-    render::EditObjSfere(World.Scene, 0, 1, 0, 0, 0, 1);
-    render::EditObjSfere(World.Scene, 1, 0, 0, 0, 0, 1);
-    render::EditObjSfere(World.Scene, 1, 1, -1, 0, 0, 1);
+    render::EditObjSfere(World.Scene, 0, 0, {0, 40, 0}, 1);
+    render::EditObjSfere(World.Scene, 0, 1, {0, 0, 0}, 1);
+    render::EditObjSfere(World.Scene, 1, 0, {0, 0, 0}, 1);
+    render::EditObjSfere(World.Scene, 1, 1, {-1, 0, 0}, 1);
     Collide();
     EXPECT_EQ(World.Object(0).X, -0.5f); // the depth of sphere 0, not the 1.5 of sphere 1
 }
@@ -235,9 +234,9 @@ TEST_P(Collision, TheFirstPairOfSpheresIsTheContact)
 TEST_P(Collision, SpheresTurnWithTheirObjects)
 {
     // A sphere 10 units along local +z; turned by a right angle it lies along -x.
-    const std::int16_t arm = render::MakeObj(World.Scene, 0, 0, 0, 1.570796f, 0, 0, 1, 1, 1);
+    const std::int16_t arm = render::MakeObj(World.Scene, {0, 0, 0, 1.570796f, 0}, 0, 1, 1, 1);
     render::SetObjR(World.Scene, arm, 20);
-    render::EditObjSfere(World.Scene, arm, 0, 0, 0, 10, 1);
+    render::EditObjSfere(World.Scene, arm, 0, {0, 0, 10}, 1);
     World.AddBall(-11.5f, 0, 1, 1);
     World.AddBall(0, 11.5f, 1, 1);
     Collide();
@@ -274,7 +273,7 @@ TEST_P(Collision, DentsAreMadeFromTheUndamagedPoints)
     World.AddCar(0, 0, 0.5f);
     World.AddCar(1.5f, 0);
     AddMesh(0, 1);
-    render::AddSfereLink(World.Scene, 0, 0, 0, 1, 0);
+    render::AddSfereLink(World.Scene, 0, 0, {0, 1, 0});
     World.Player(0).Speed = 2.0f;
     World.Random.Script = {0.0, 0.5, 1.0};
     Collide();
@@ -294,7 +293,7 @@ TEST_P(Collision, OnlyCarsAreDented)
     World.AddCar(0, 0);
     World.AddBall(1.5f, 0, 1, 1);
     AddMesh(1, 1);
-    render::AddSfereLink(World.Scene, 1, 0, 0, 0, 0);
+    render::AddSfereLink(World.Scene, 1, 0, {0, 0, 0});
     World.Player(0).Speed = 2.0f;
     Collide();
     EXPECT_EQ(World.Object(1).Mesh[0].Pts.At(0, 0).X, 10.0f);
@@ -307,9 +306,9 @@ TEST_P(Collision, LinksThatLeadNowhereAreSkipped)
     AddMesh(0, 1);
     for (const std::int16_t odd : std::initializer_list<std::int16_t>{-1, 2, 32767, -32768})
     {
-        render::AddSfereLink(World.Scene, 0, 0, odd, 0, 0);
-        render::AddSfereLink(World.Scene, 0, 0, 0, odd, 0);
-        render::AddSfereLink(World.Scene, 0, 0, 0, 0, odd);
+        render::AddSfereLink(World.Scene, 0, 0, {odd, 0, 0});
+        render::AddSfereLink(World.Scene, 0, 0, {0, odd, 0});
+        render::AddSfereLink(World.Scene, 0, 0, {0, 0, odd});
     }
     World.Random.ScriptNext = 0;
     Collide();
@@ -324,7 +323,7 @@ TEST_P(Collision, AGridMadeAnewAfterTheModelHasNoUndamagedPoints)
     World.AddCar(0, 0);
     World.AddCar(1.5f, 0);
     AddMesh(0, 1);
-    render::AddSfereLink(World.Scene, 0, 0, 0, 3, 3);
+    render::AddSfereLink(World.Scene, 0, 0, {0, 3, 3});
     render::EditObjMesh(World.Scene, 0, 0, 4, 4, 255, 0);
     Collide();
     EXPECT_EQ(World.Object(0).X, -0.5f);
@@ -338,11 +337,9 @@ void AddGlassCar(support::World& world, std::size_t hit)
 {
     world.AddCar(0, 0);
     render::Obj& car = world.Object(0);
-    car.NumSfere = 7;
     car.Sfere.assign(7, render::Sfera{});
     car.Sfere[hit].R = 1.0f;
     car.Mesh.resize(21);
-    car.NumMesh = 21;
     car.Mesh[20].Colour = 1234;
     world.AddBall(1.5f, 0, 1, 1);
     world.Assets.BrokenGlassTexture = 3;

@@ -1,6 +1,6 @@
+#include "world/LoadMap.h"
 #include "tests/support/Messages.h"
 #include "tests/support/TempFolder.h"
-#include "world/Loaders.h"
 
 #include <gtest/gtest.h>
 
@@ -68,16 +68,16 @@ TEST_F(LoadMap, AScriptWithoutHeaderBuildsTheWorld)
     EXPECT_EQ(Scene.Objects.At(1).X, 30.0f);
     EXPECT_EQ(Scene.Objects.At(1).Visible, 0);
     EXPECT_EQ(Scene.Objects.At(1).Radius, 3.0f);
-    ASSERT_EQ(Race.NumPlayers, 1);
+    ASSERT_EQ(Race.NumPlayers(), 1);
     EXPECT_EQ(Race.Players[0].Obj, 2);
     EXPECT_EQ(Scene.Objects.At(2).Z, 60.0f);
     const world::Map& map = Race.Map;
-    EXPECT_EQ(map.NumCheckpoints, 2);
-    EXPECT_EQ(map.NumBoxes, 2);
-    EXPECT_EQ(map.NumGrass, 2);
-    EXPECT_EQ(map.NumWater, 2);
-    EXPECT_EQ(map.ACheckpoints.size(), 2u);
-    EXPECT_EQ(map.Checkpoints[1].Z, 7.0f);
+    EXPECT_EQ(map.Checkpoints.Count(), 2);
+    EXPECT_EQ(map.Boxes.Count(), 2);
+    EXPECT_EQ(map.Grass.Count(), 2);
+    EXPECT_EQ(map.Water.Count(), 2);
+    EXPECT_EQ(map.ACheckpoints.Items.size(), 2u);
+    EXPECT_EQ(map.Checkpoints.Items[1].Z, 7.0f);
 }
 
 TEST_F(LoadMap, AnEmptyScriptIsNoError)
@@ -118,7 +118,7 @@ TEST_F(LoadMap, ErrorsOfModelsDoNotStopTheScript)
     ExpectBoxes({"Impossibile trovare il file in LoadObject", "'Foo' non è un'istruzione non valida in LoadObject",
                  "'Foo' non è un'istruzione non valida in LoadObject"});
     EXPECT_EQ(Scene.Objects.Size(), 1);
-    EXPECT_EQ(Race.NumPlayers, 0); // no car, no player
+    EXPECT_EQ(Race.NumPlayers(), 0); // no car, no player
 }
 
 TEST_F(LoadMap, AModelThatFailsBehindItsObjectIsPlaced)
@@ -156,7 +156,7 @@ TEST_F(LoadMap, DuplicatesAreCopiesOfTheModelNotOfTheCopy)
     for (int index = 0; index < 3; ++index)
     {
         EXPECT_EQ(Scene.Objects.At(index).X, static_cast<float>(index + 1));
-        EXPECT_EQ(Scene.Objects.At(index).NumSfere, 1);
+        EXPECT_EQ(Scene.Objects.At(index).Sfere.size(), 1u);
     }
     EXPECT_EQ(Scene.Objects.At(0).AngleA, 0.5f); // the last object is not changed
 }
@@ -166,7 +166,7 @@ TEST_F(LoadMap, EveryCarGetsACopyOfItsModel)
     Load("LoadPlayer,<path>p.player,<path>tree.3dm,1,0,0,0,0,1\nLoadPlayer,<path>cpu.player,<path>tree.3dm,2,0,0,0,0,"
          "1\n");
     ExpectBoxes({});
-    ASSERT_EQ(Race.NumPlayers, 2);
+    ASSERT_EQ(Race.NumPlayers(), 2);
     EXPECT_EQ(Race.Players[0].Obj, 0);
     EXPECT_EQ(Race.Players[1].Obj, 1);
     EXPECT_EQ(Scene.Objects.Size(), 2);
@@ -180,7 +180,7 @@ TEST_F(LoadMap, APlayerFileThatFailsLeavesTheModelWhereItWasPlaced)
          "LoadPlayer,<path>p.player,<path>tree.3dm,7,0,0,0,0,1\n");
     ExpectBoxes({"Input oltre la fine del file in MakePlayer", "Impossibile trovare il file in MakePlayer"});
     EXPECT_EQ(Scene.Objects.At(0).X, 9.0f);
-    ASSERT_EQ(Race.NumPlayers, 1);
+    ASSERT_EQ(Race.NumPlayers(), 1);
     EXPECT_EQ(Race.Players[0].Obj, 2);
 }
 
@@ -188,8 +188,8 @@ TEST_F(LoadMap, AMissingPointListDoesNotStopTheScript)
 {
     Load("LoadCheckpoints,<path>none\nLoadBox,<path>points\n");
     ExpectBoxes({"Impossibile trovare il file in LoadTargets"});
-    EXPECT_EQ(Race.Map.NumCheckpoints, 0);
-    EXPECT_EQ(Race.Map.NumBoxes, 2);
+    EXPECT_EQ(Race.Map.Checkpoints.Count(), 0);
+    EXPECT_EQ(Race.Map.Boxes.Count(), 2);
 }
 
 TEST_F(LoadMap, TheBlurredCopyIsMadeOnlyWhenWanted)

@@ -1,6 +1,6 @@
+#include "world/LoadObject.h"
 #include "tests/support/Messages.h"
 #include "tests/support/TempFolder.h"
-#include "world/Loaders.h"
 
 #include <gtest/gtest.h>
 
@@ -17,7 +17,7 @@ struct LoadObject : testing::Test
     std::int16_t Load(const std::string& text)
     {
         Folder.Write("data/obj/car.3dm", text);
-        return world::LoadObject(Scene, Messages, Folder.Files(), "data\\obj\\car.3dm");
+        return world::LoadObject(Scene, Messages, Folder.Files(), "data\\obj\\car.3dm").Current;
     }
 
     // One message box, of an error in LoadObject.
@@ -58,17 +58,17 @@ TEST_F(LoadObject, EveryCommandActsOnTheCurrentRecord)
     EXPECT_EQ(object.Visible, 1);
     EXPECT_EQ(object.Mass, 7.5f);
     EXPECT_EQ(object.Radius, 4.5f);
-    ASSERT_EQ(object.NumSfere, 1);
+    ASSERT_EQ(object.Sfere.size(), 1u);
     EXPECT_EQ(object.Sfere[0].Z, 3.0f);
     EXPECT_EQ(object.Sfere[0].R, 0.75f);
-    ASSERT_EQ(object.Sfere[0].NumLinks, 2);
+    ASSERT_EQ(object.Sfere[0].Links.size(), 2u);
     EXPECT_EQ(object.Sfere[0].Links[1].M, 4);
     EXPECT_EQ(object.Sfere[0].Links[1].J, 6);
-    ASSERT_EQ(object.NumMesh, 2);
+    ASSERT_EQ(object.Mesh.size(), 2u);
     EXPECT_EQ(object.Mesh[0].Colour, 197121);
-    EXPECT_EQ(object.Mesh[0].ColR, 1);
-    EXPECT_EQ(object.Mesh[0].ColG, 2);
-    EXPECT_EQ(object.Mesh[0].ColB, 3);
+    EXPECT_EQ(object.Mesh[0].Col.R, 1);
+    EXPECT_EQ(object.Mesh[0].Col.G, 2);
+    EXPECT_EQ(object.Mesh[0].Col.B, 3);
     EXPECT_EQ(object.Mesh[0].Pts.At(1, 2).Y, 1.5f);
     EXPECT_EQ(object.Mesh[0].Pts.At(1, 2).U, -7);
     EXPECT_EQ(object.Mesh[0].Pts.At(1, 2).V, 8);
@@ -84,9 +84,9 @@ TEST_F(LoadObject, PolylinesTakeTheirPoints)
     ExpectNoError();
     const render::Poly& poly = Scene.Polys.At(0);
     EXPECT_EQ(poly.Visible, 1);
-    EXPECT_EQ(poly.ColR, 255);
-    EXPECT_EQ(poly.ColG, 255);
-    EXPECT_EQ(poly.ColB, 0);
+    EXPECT_EQ(poly.Col.R, 255);
+    EXPECT_EQ(poly.Col.G, 255);
+    EXPECT_EQ(poly.Col.B, 0);
     ASSERT_EQ(poly.Pts.size(), 2u);
     EXPECT_EQ(poly.Pts[1].Y, 5.0f);
 }
@@ -146,8 +146,8 @@ TEST_F(LoadObject, AnEmptyLineIsAnEmptyKeyword)
 TEST_F(LoadObject, MissingFilesAndFolders)
 {
     Folder.Write("data/obj/other.3dm", "");
-    EXPECT_EQ(world::LoadObject(Scene, Messages, Folder.Files(), "data\\obj\\none.3dm"), -1);
-    EXPECT_EQ(world::LoadObject(Scene, Messages, Folder.Files(), "data\\none\\none.3dm"), -1);
+    EXPECT_EQ(world::LoadObject(Scene, Messages, Folder.Files(), "data\\obj\\none.3dm").Current, -1);
+    EXPECT_EQ(world::LoadObject(Scene, Messages, Folder.Files(), "data\\none\\none.3dm").Current, -1);
     ASSERT_EQ(Messages.Boxes.size(), 2u);
     EXPECT_EQ(Messages.Boxes[0].Title, "Errore 53");
     EXPECT_EQ(Messages.Boxes[0].Text, "Impossibile trovare il file in LoadObject");
@@ -293,7 +293,7 @@ TEST_F(LoadObject, LaterEditsBelongToTheLastObject)
 TEST_F(LoadObject, EditObjSfereEmptiesTheLinks)
 {
     Load(Header + "MakeObj,0,0,0,0,0,0,1,1,1\nEditObjSfere,0,0,0,0,1\nAddSfereLink,0,0,0,0\nEditObjSfere,0,0,0,0,2\n");
-    EXPECT_EQ(Scene.Objects.At(0).Sfere[0].NumLinks, 0);
+    EXPECT_EQ(Scene.Objects.At(0).Sfere[0].Links.size(), 0u);
 }
 
 TEST_F(LoadObject, TheUndamagedCopyIsKeptOnceTheModelIsComplete)

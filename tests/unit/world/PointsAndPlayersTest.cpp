@@ -1,6 +1,6 @@
+#include "world/PointsAndPlayers.h"
 #include "tests/support/Messages.h"
 #include "tests/support/TempFolder.h"
-#include "world/Loaders.h"
 
 #include <gtest/gtest.h>
 
@@ -10,7 +10,7 @@ struct PointsAndPlayers : testing::Test
 {
     support::TempFolder Folder;
     support::Messages Messages;
-    std::vector<world::Target> List = {{9, 9, 9, 9}, {8, 8, 8, 8}};
+    world::TargetList List = {{{9, 9, 9, 9}, {8, 8, 8, 8}}};
     world::Race Race;
 
     std::int16_t Targets(const std::string& text)
@@ -35,27 +35,35 @@ struct PointsAndPlayers : testing::Test
 TEST_F(PointsAndPlayers, TheListIsReplacedByTheRecords)
 {
     EXPECT_EQ(Targets("1,2,3,4\n5\n6\n7\n8\n"), 2);
-    ASSERT_EQ(List.size(), 2u);
-    EXPECT_EQ(List[0].X, 1.0f);
-    EXPECT_EQ(List[0].R, 4.0f);
-    EXPECT_EQ(List[1].Y, 6.0f);
+    ASSERT_EQ(List.Items.size(), 2u);
+    EXPECT_EQ(List.Items[0].X, 1.0f);
+    EXPECT_EQ(List.Items[0].R, 4.0f);
+    EXPECT_EQ(List.Items[1].Y, 6.0f);
     EXPECT_TRUE(Messages.Boxes.empty());
 }
 
 TEST_F(PointsAndPlayers, AnEmptyFileLeavesOneZeroedRecord)
 {
     EXPECT_EQ(Targets(""), 0);
-    ASSERT_EQ(List.size(), 1u);
-    EXPECT_EQ(List[0].X, 0.0f);
-    EXPECT_EQ(List[0].R, 0.0f);
+    ASSERT_EQ(List.Items.size(), 1u);
+    EXPECT_EQ(List.Items[0].X, 0.0f);
+    EXPECT_EQ(List.Items[0].R, 0.0f);
     EXPECT_TRUE(Messages.Boxes.empty());
+}
+
+TEST_F(PointsAndPlayers, TheZeroedRecordIsNoTarget)
+{
+    Targets("");
+    EXPECT_TRUE(List.Targets().empty());
+    EXPECT_EQ(Targets("1,2,3,4\n"), 1);
+    EXPECT_EQ(List.Targets().size(), 1u);
 }
 
 TEST_F(PointsAndPlayers, AFailingListKeepsItsCompleteRecords)
 {
     EXPECT_EQ(Targets("1,2,3,4,5,6,7\n"), 1);
     ExpectBox("Errore 62", "Input oltre la fine del file in LoadTargets");
-    EXPECT_EQ(List.size(), 1u);
+    EXPECT_EQ(List.Items.size(), 1u);
     Messages.Boxes.clear();
     EXPECT_EQ(Targets("1,2,3,4,5,x,7,8\n"), 1);
     ExpectBox("Errore 13", "Tipo non corrispondente in LoadTargets");
@@ -65,8 +73,8 @@ TEST_F(PointsAndPlayers, AMissingListIsEmpty)
 {
     EXPECT_EQ(world::LoadTargets(Messages, Folder.Files(), "none", List), 0);
     ExpectBox("Errore 53", "Impossibile trovare il file in LoadTargets");
-    ASSERT_EQ(List.size(), 1u);
-    EXPECT_EQ(List[0].R, 0.0f);
+    ASSERT_EQ(List.Items.size(), 1u);
+    EXPECT_EQ(List.Items[0].R, 0.0f);
 }
 
 TEST_F(PointsAndPlayers, RecordsBeyondThe16BitCountOverflow)
@@ -76,14 +84,14 @@ TEST_F(PointsAndPlayers, RecordsBeyondThe16BitCountOverflow)
         text += "1,2,3,4\n";
     EXPECT_EQ(Targets(text), 32767);
     ExpectBox("Errore 6", "Overflow in LoadTargets");
-    EXPECT_EQ(List.size(), 32767u);
+    EXPECT_EQ(List.Items.size(), 32767u);
 }
 
 TEST_F(PointsAndPlayers, APlayerTakesSevenFieldsInTheirOrder)
 {
     EXPECT_EQ(Player("0.5,5,2,0.25,0.125,0.0625,3"), 0);
     EXPECT_TRUE(Messages.Boxes.empty());
-    ASSERT_EQ(Race.NumPlayers, 1);
+    ASSERT_EQ(Race.NumPlayers(), 1);
     const world::Player& player = Race.Players[0];
     EXPECT_EQ(player.WRS, 0.5f);
     EXPECT_EQ(player.MaxSpeed, 5.0f);
@@ -114,7 +122,7 @@ TEST_F(PointsAndPlayers, APlayerFileThatFailsIsNotCounted)
     EXPECT_EQ(Player("1,1,1,1,1,1,0"), 0);
     EXPECT_EQ(Player("1,2,3"), -1);
     ExpectBox("Errore 62", "Input oltre la fine del file in MakePlayer");
-    EXPECT_EQ(Race.NumPlayers, 1);
+    EXPECT_EQ(Race.NumPlayers(), 1);
     EXPECT_EQ(Player("2,2,2,2,2,2,0"), 1);
     EXPECT_EQ(Race.Players[1].WRS, 2.0f);
 }

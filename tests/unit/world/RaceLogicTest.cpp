@@ -41,7 +41,7 @@ struct RaceLogic : testing::Test
         World.Race.Laps = 1;
         Car().NextCheckpoint = 1;
         Car().Place = place;
-        World.Assets.CupObj = render::MakeObj(World.Scene, 0, 0, 0, 0, 0, 8, 0, 0, 1);
+        World.Assets.CupObj = render::MakeObj(World.Scene, {0, 0, 0, 0, 0}, 8, 0, 0, 1);
     }
     render::Obj& Cup() { return World.Object(World.Assets.CupObj); }
 };
@@ -116,7 +116,6 @@ TEST_F(RaceLogic, ManyPlayersStopAtTheGreatestPlace)
 {
     World.AddCar(0, 0);
     World.Race.Players.resize(32767, World.Race.Players[0]);
-    World.Race.NumPlayers = 32767;
     World.AddBall(0, 200, 1, 1);
     for (world::Player& player : World.Race.Players)
         player.Passed = 1;
@@ -144,7 +143,7 @@ TEST_F(RaceLogic, TheEdgeOfTheZoneIsOutside)
 
 TEST_F(RaceLogic, TheAlternativeZonePassesAsWell)
 {
-    World.Race.Map.ACheckpoints = {{50, 0, 50, 3}};
+    World.Race.Map.ACheckpoints.Items = {{50, 0, 50, 3}};
     World.AddCar(50, 48);
     Step();
     EXPECT_EQ(Car().Passed, 1);
@@ -174,7 +173,6 @@ TEST_F(RaceLogic, ThePaceOfTheNextLegIsDrawn)
     {
         World.Scene.Objects = {};
         World.Race.Players.clear();
-        World.Race.NumPlayers = 0;
         World.AddCar(0, 100);
         World.Random.Script = draws;
         World.Random.ScriptNext = 0;
@@ -243,7 +241,6 @@ TEST_F(RaceLogic, TheTrophyShowsItsMetal)
     {
         World.Scene.Objects = {};
         World.Race.Players.clear();
-        World.Race.NumPlayers = 0;
         World.Race.RaceOver = 0;
         Finish.Messages.clear();
         BringToFinish(medal.Place);
@@ -252,9 +249,9 @@ TEST_F(RaceLogic, TheTrophyShowsItsMetal)
         for (const std::size_t mesh : {6u, 7u})
         {
             EXPECT_EQ(Cup().Mesh[mesh].Colour, medal.Colour);
-            EXPECT_EQ(Cup().Mesh[mesh].ColR, medal.R);
-            EXPECT_EQ(Cup().Mesh[mesh].ColG, medal.G);
-            EXPECT_EQ(Cup().Mesh[mesh].ColB, medal.B);
+            EXPECT_EQ(Cup().Mesh[mesh].Col.R, medal.R);
+            EXPECT_EQ(Cup().Mesh[mesh].Col.G, medal.G);
+            EXPECT_EQ(Cup().Mesh[mesh].Col.B, medal.B);
         }
         EXPECT_EQ(Cup().Mesh[5].Colour, 0);
         EXPECT_EQ(Finish.Messages, std::vector<std::string>{medal.Message});
@@ -283,8 +280,7 @@ TEST_F(RaceLogic, ATrophyThatIsNotThereOrHasFewMeshes)
 
 TEST_F(RaceLogic, TheStepAppliesTheZonesOfEveryCar)
 {
-    World.Race.Map.Grass = {{0, 0, 0, 10}};
-    World.Race.Map.NumGrass = 1;
+    World.Race.Map.Grass.Items = {{0, 0, 0, 10}};
     for (int n = 0; n < 3; ++n)
     {
         World.AddCar(0, static_cast<float>(n));
@@ -320,7 +316,7 @@ TEST_F(RaceLogic, CountersStopAtTheirGreatestValue)
 TEST_F(RaceLogic, IndicesOutOfRangePassNothing)
 {
     World.AddCar(0, 100);
-    World.Race.Map.ACheckpoints.assign(5, world::Target{0, 0, 100, 50});
+    World.Race.Map.ACheckpoints.Items.assign(5, world::Target{0, 0, 100, 50});
     for (const std::int16_t next : std::initializer_list<std::int16_t>{-1, 2, 3, 32767, -32768})
     {
         Car().NextCheckpoint = next;

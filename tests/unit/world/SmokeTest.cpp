@@ -130,7 +130,8 @@ TEST_F(Smoke, WithoutEffectsNothingIsBornButTheOldOnesAge)
 
 TEST_F(Smoke, SmokePalesByATwentiethEveryTick)
 {
-    render::AddParticle(World.Scene, 100, render::Smoke, World.Assets.Smoke, 0, 0, 0, 1, 1);
+    render::AddParticle(World.Scene, 100, render::Smoke,
+                        {.X = 0, .Y = 0, .Z = 0, .Scale = 1, .Alpha = 1, .Pixels = World.Assets.Smoke});
     for (int tick = 0; tick < 20; ++tick)
         Tick();
     EXPECT_NEAR(Sprite(0).Alpha, 0.3584859f, 1e-6f);

@@ -94,8 +94,7 @@ TEST_F(Tick, TheDamageOfACollisionSmokesInTheSameStep)
 
 TEST_F(Tick, TheWaterSlowsACarBeforeItDrives)
 {
-    World.Race.Map.Water = {{0, 0, 0, 3}};
-    World.Race.Map.NumWater = 1;
+    World.Race.Map.Water.Items = {{0, 0, 0, 3}};
     World.AddCar(0, 0);
     Car(0).Speed = 1;
     StepAt(world::ReleaseTime);

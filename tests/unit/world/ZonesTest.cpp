@@ -14,14 +14,13 @@ struct Zones : testing::Test
     support::World World;
     void SetUp() override { World.AddCar(10, 10); }
     world::Player& Car() { return World.Player(0); }
-    void Add(std::vector<world::Target>& list, std::int16_t& count, float radius = 5.0f)
+    void Add(world::TargetList& list, float radius = 5.0f)
     {
-        list.push_back({10, 99, 6, radius}); // the height does not count; 4 units away
-        count = static_cast<std::int16_t>(list.size());
+        list.Items.push_back({10, 99, 6, radius}); // the height does not count; 4 units away
     }
-    void AddBox(float radius = 5.0f) { Add(World.Race.Map.Boxes, World.Race.Map.NumBoxes, radius); }
-    void AddGrass() { Add(World.Race.Map.Grass, World.Race.Map.NumGrass); }
-    void AddWater() { Add(World.Race.Map.Water, World.Race.Map.NumWater); }
+    void AddBox(float radius = 5.0f) { Add(World.Race.Map.Boxes, radius); }
+    void AddGrass() { Add(World.Race.Map.Grass); }
+    void AddWater() { Add(World.Race.Map.Water); }
     void Apply(std::int16_t player = 0)
     {
         world::Simulation sim = World.Sim();
