@@ -67,7 +67,8 @@ void ShowGear(Game& game)
 
 void ShowPlace(Game& game)
 {
-    render::SetLabelText(game.Scene, game.Hud.Place, Line() << ViewedPlayer(game).Place << "/" << game.Race.NumPlayers());
+    render::SetLabelText(game.Scene, game.Hud.Place,
+                         Line() << ViewedPlayer(game).Place << "/" << game.Race.NumPlayers());
 }
 
 void ShowLap(Game& game)
