@@ -14,7 +14,7 @@ namespace
 void AddCar(render::Scene& scene, base::Random& random, float x, float z)
 {
     const auto car =
-        render::MakeObj(scene, {x, 0.0f, z, static_cast<float>(scenes::Draw(random, 0.0, 6.0)), 0.0f}, 12, 0, 1, 1.0f);
+        render::MakeObj(scene, {x, 0.0f, z, static_cast<float>(support::Draw(random, 0.0, 6.0)), 0.0f}, 12, 0, 1, 1.0f);
     render::SetObjR(scene, car, 3.0f);
     for (std::int16_t m = 0; m < 12; ++m)
     {
@@ -30,22 +30,22 @@ void AddCar(render::Scene& scene, base::Random& random, float x, float z)
 struct World
 {
     render::Scene Scene;
-    std::unique_ptr<scenes::View> View;
+    std::unique_ptr<support::View> View;
 
     World(int width, int height, int filter)
     {
         base::Random random;
         random.Seed(7);
-        Scene.Sky = scenes::Noise(random, render::SkyWidth, 300);
-        scenes::SetGround(Scene, scenes::Noise(random, 1000, 1000));
+        Scene.Sky = support::Noise(random, render::SkyWidth, 300);
+        support::SetGround(Scene, support::Noise(random, 1000, 1000));
         render::Texture& texture = Scene.Textures.At(Scene.Textures.Add());
-        texture.Pic = scenes::Noise(random, 256, 256, 0.01);
+        texture.Pic = support::Noise(random, 256, 256, 0.01);
         AddCar(Scene, random, 500.0f, 414.0f);
         AddCar(Scene, random, 496.0f, 425.0f);
         for (int i = 0; i < 12; ++i)
-            AddCar(Scene, random, static_cast<float>(scenes::Draw(random, 300.0, 700.0)),
-                   static_cast<float>(scenes::Draw(random, 300.0, 700.0)));
-        const auto smoke = std::make_shared<render::Picture>(scenes::Noise(random, 64, 64, 0.3));
+            AddCar(Scene, random, static_cast<float>(support::Draw(random, 300.0, 700.0)),
+                   static_cast<float>(support::Draw(random, 300.0, 700.0)));
+        const auto smoke = std::make_shared<render::Picture>(support::Noise(random, 64, 64, 0.3));
         for (int i = 0; i < 10; ++i)
             render::AddParticle(Scene, 20, render::Smoke,
                                 {.X = 498.0f,
@@ -61,7 +61,7 @@ struct World
                                        .W = 100,
                                        .H = 8,
                                        .Col = {255, 255, 0}});
-        View = std::make_unique<scenes::View>(width, height, filter, 5);
+        View = std::make_unique<support::View>(width, height, filter, 5);
         View->Look(500.0f, 7.0f, 400.0f, 0.1f, -0.1f);
     }
 };

@@ -14,15 +14,15 @@ namespace
 struct World
 {
     render::Scene Scene;
-    std::unique_ptr<scenes::View> View;
+    std::unique_ptr<support::View> View;
 
     World(int width, int height, int filter, int threads)
     {
         base::Random random;
         random.Seed(7);
-        Scene.Sky = scenes::Noise(random, render::SkyWidth, 300);
-        scenes::SetGround(Scene, scenes::Noise(random, 1000, 1000));
-        View = std::make_unique<scenes::View>(width, height, filter, threads);
+        Scene.Sky = support::Noise(random, render::SkyWidth, 300);
+        support::SetGround(Scene, support::Noise(random, 1000, 1000));
+        View = std::make_unique<support::View>(width, height, filter, threads);
         View->Look(500.0f, 7.0f, 400.0f, 0.4f, -0.1f);
         render::UpdateSkyOffset(View->Camera, View->Screen);
         render::UpdateRowTables(View->Camera, View->Screen);

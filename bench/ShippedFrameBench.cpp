@@ -1,4 +1,5 @@
 // Whole frames of the shipped map along a recorded camera path; one iteration is one frame, the path over and over.
+#include "bench/Phases.h"
 #include "bench/ShippedFrames.h"
 
 #include <benchmark/benchmark.h>
@@ -28,4 +29,21 @@ BENCHMARK(WholeFrame)
     ->MinTime(1.0)
     ->Repetitions(5)
     ->ReportAggregatesOnly();
+
+// Where a frame's time goes: milliseconds of each phase a frame.
+void FramePhases(benchmark::State& state)
+{
+    bench::ShippedFrames& frames = Frames();
+    frames.Prepare(static_cast<std::int32_t>(state.range(0)), static_cast<std::int32_t>(state.range(1)),
+                   static_cast<std::int16_t>(state.range(2)));
+    base::PhaseClock clock;
+    for (auto _ : state)
+        benchmark::DoNotOptimize(frames.Draw(&clock));
+    bench::ReportPhases(state, clock);
+}
+BENCHMARK(FramePhases)
+    ->ArgsProduct({{600}, {312}, {0, 1, 2}})
+    ->ArgsProduct({{1200}, {900}, {0, 1, 2}})
+    ->Unit(benchmark::kMillisecond)
+    ->UseRealTime();
 }

@@ -22,13 +22,13 @@ void ShippedFrames::Prepare(std::int32_t width, std::int32_t height, std::int16_
     game.Screen.TxtFilter = filter;
 }
 
-const std::uint8_t* ShippedFrames::Draw()
+const std::uint8_t* ShippedFrames::Draw(base::PhaseClock* clock)
 {
     shell::Game& game = Race.Game();
     render::Camera camera = Cameras[Next++ % Cameras.size()];
     // The path was recorded at another resolution: the same angle of view.
     camera.Zoom = camera.Zoom / camera.MinZoom * game.Camera.MinZoom;
-    render::RenderFrame(game.Scene, camera, game.Screen, game.GroundThreads);
+    render::RenderFrame(game.Scene, camera, game.Screen, game.GroundThreads, clock);
     return game.Screen.Frame.Bytes.data();
 }
 }

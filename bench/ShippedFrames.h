@@ -22,7 +22,8 @@ public:
     // machine.
     void Prepare(std::int32_t width, std::int32_t height, std::int16_t filter);
     // Draws the frame of the path's next camera, the path over and over, and gives its pixels.
-    const std::uint8_t* Draw();
+    // clock: is given the time of its phases.
+    const std::uint8_t* Draw(base::PhaseClock* clock = nullptr);
     std::size_t PathLength() const { return Cameras.size(); } // frames
 
 private:

@@ -15,22 +15,22 @@ struct Triangles
 {
     std::vector<ScreenVertex> Corners;
     render::Picture Picture;
-    scenes::View View{1200, 900};
+    support::View View{1200, 900};
 
     // Sizes up to `size` pixels, `number` of them; depths such that about half of what overlaps is hidden.
     Triangles(int number, int size)
     {
         base::Random random;
         random.Seed(11);
-        Picture = scenes::Noise(random, 256, 256, 0.02);
+        Picture = support::Noise(random, 256, 256, 0.02);
         for (int i = 0; i < number; ++i)
         {
-            const int x = scenes::DrawWhole(random, 0, 1200), y = scenes::DrawWhole(random, 0, 900);
+            const int x = support::DrawWhole(random, 0, 1200), y = support::DrawWhole(random, 0, 900);
             for (int k = 0; k < 3; ++k)
-                Corners.push_back({x + scenes::DrawWhole(random, -size, size),
-                                   y + scenes::DrawWhole(random, -size, size),
-                                   static_cast<float>(scenes::Draw(random, 1.0, 50.0)),
-                                   scenes::Draw(random, 0.0, 255.0), scenes::Draw(random, 0.0, 255.0)});
+                Corners.push_back({x + support::DrawWhole(random, -size, size),
+                                   y + support::DrawWhole(random, -size, size),
+                                   static_cast<float>(support::Draw(random, 1.0, 50.0)),
+                                   support::Draw(random, 0.0, 255.0), support::Draw(random, 0.0, 255.0)});
         }
     }
 };

@@ -153,20 +153,27 @@ void DrawHud(const Scene& scene, Screen& screen)
             DrawLabel(surface, scene.Font, label);
 }
 
-void RenderFrame(const Scene& scene, const Camera& camera, Screen& screen, GroundThreads& threads)
+void RenderFrame(const Scene& scene, const Camera& camera, Screen& screen, GroundThreads& threads,
+                 base::PhaseClock* clock)
 {
     if (screen.Frame.Empty())
         return; // no resolution was applied yet
+    base::EnterPhase(clock, "tables");
     UpdateSkyOffset(camera, screen);
     UpdateRowTables(camera, screen);
     UpdateColumnSlopes(camera, screen);
+    base::EnterPhase(clock, "ground");
     DrawGround(scene, camera, screen, threads);
+    base::EnterPhase(clock, "objects");
     DrawObjects(scene, camera, screen);
     DrawWorldMeshes(scene, camera, screen);
     DrawPolys(scene, camera, screen);
+    base::EnterPhase(clock, "sprites");
     for (const Sprite3D& sprite : scene.Sprites.Items)
         if (IsDrawn(sprite))
             DrawSprite3D(camera, screen, sprite);
+    base::EnterPhase(clock, "display");
     DrawHud(scene, screen);
+    base::LeavePhase(clock);
 }
 }

@@ -1,6 +1,7 @@
 // render/RenderFrame.h: composes one frame in its fixed order: ground and sky, objects, world meshes, polylines, world
 // sprites, screen pictures, rectangles, texts. No allocation.
 #pragma once
+#include "base/PhaseClock.h"
 #include "render/Scene.h"
 #include "render/Screen.h"
 
@@ -9,8 +10,10 @@ namespace render
 class GroundThreads;
 
 // Draws into screen.Frame and screen.Depth; nothing before a resolution was applied. The threads are made as many as
-// the screen's bands are meant for, and rest when it returns.
-void RenderFrame(const Scene& scene, const Camera& camera, Screen& screen, GroundThreads& threads);
+// the screen's bands are meant for, and rest when it returns. clock, where there is one, is given the time of the
+// phases "tables", "ground", "objects" (world meshes and polylines too), "sprites" and "display".
+void RenderFrame(const Scene& scene, const Camera& camera, Screen& screen, GroundThreads& threads,
+                 base::PhaseClock* clock = nullptr);
 
 // Its larger steps, each alone.
 // Fills frame and depth buffer. The screen's tables must be those of the camera: see render/RowTables.h.

@@ -105,16 +105,18 @@ world::Simulation RaceRun::MakeSimulation()
             game.Run.InBox};
 }
 
-void RaceRun::GameT_Tick()
+void RaceRun::GameT_Tick(base::PhaseClock* clock)
 {
     TheGame.Timers.Advance(Platform.TickCount());
     TheGame.Timers.GameT.Tick();
     TheGame.Race.GameTime = TheGame.Timers.GameT.Elapsed;
     TheSound.SetEngineSound(); // of the speed that the car has between two steps
     world::Simulation simulation = MakeSimulation();
-    world::GameTick(simulation, *this);
+    world::GameTick(simulation, *this, clock);
     SetPicVisible(TheGame.Scene, TheGame.Hud.Repair, TheGame.Run.InBox);
+    base::EnterPhase(clock, "camera");
     PlaceCamera();
+    base::LeavePhase(clock);
 }
 
 // Every 500 ms: the frames that were really drawn since the last measurement.
@@ -153,18 +155,20 @@ void RaceRun::RenderT_Tick()
     base::Attempted([this] { ShowFrame(); });
 }
 
-void RaceRun::Draw()
+void RaceRun::Draw(base::PhaseClock* clock)
 {
-    render::RenderFrame(TheGame.Scene, TheGame.Camera, TheGame.Screen, TheGame.GroundThreads);
+    render::RenderFrame(TheGame.Scene, TheGame.Camera, TheGame.Screen, TheGame.GroundThreads, clock);
 }
 
-void RaceRun::ShowFrame()
+void RaceRun::ShowFrame(base::PhaseClock* clock)
 {
-    Draw();
+    Draw(clock);
+    base::EnterPhase(clock, "present");
     if (View.IsAnyControlShown())
         View.Repaint();
     else if (!TheGame.Screen.Frame.Empty())
         Window.Present(render::FrameSurface(TheGame.Screen));
+    base::LeavePhase(clock);
 }
 
 void RaceRun::PlaceCamera()

@@ -32,14 +32,16 @@ public:
     void StopProcess();  // suspends; nothing where it does not show
     void TogglePause();  // the simulation alone stands still
 
-    // The ticks themselves, whether due or not; the timers count them.
-    void GameT_Tick();
+    // The ticks themselves, whether due or not; the timers count them. clock: is given the time of the step's phases
+    // and of "camera".
+    void GameT_Tick(base::PhaseClock* clock = nullptr);
     void RenderT_Tick();
 
     // One frame into the frame array, without showing it.
-    void Draw();
+    void Draw(base::PhaseClock* clock = nullptr);
     // Draws a frame and shows it: as it is while nothing covers it, else with the controls over it.
-    void ShowFrame();
+    // clock: is given the time of the frame's phases and of "present".
+    void ShowFrame(base::PhaseClock* clock = nullptr);
     // The camera placement of the present view with its arrow step.
     void PlaceCamera();
     // Takes a resolution, moves the display and shows a race that has begun anew. Nothing where it is in force already.

@@ -64,13 +64,13 @@ void SetProcessorDefaults(Game& game, int processors)
     if (screen.SingleThread != 0)
     {
         screen.ThreadCount = 1;
-        screen.TxtFilter = 1;
+        screen.TxtFilter = render::Filter::Linear;
         game.Settings.EffQuality = 0;
         return;
     }
     processors = std::clamp(processors, 1, 1024);
     screen.ThreadCount = static_cast<std::int16_t>(2 * processors + 1);
-    screen.TxtFilter = processors > 1 ? 2 : 1;
+    screen.TxtFilter = processors > 1 ? render::Filter::Anisotropic : render::Filter::Linear;
     game.Settings.EffQuality = processors > 1 ? 1.0f : 0.75f;
 }
 

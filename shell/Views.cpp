@@ -118,19 +118,19 @@ void Place(Camera& camera, const Followed& car, const world::HeldKeys& keys)
     const bool back = keys.KeyLookBack != base::False;
     switch (camera.View)
     {
-    case 0:
+    case render::View::Chase:
         return back ? ReverseChase(camera, car) : Chase(camera, car);
-    case 1:
+    case render::View::Driver:
         return LooksAhead(car, keys) ? Driver(camera, car) : Mirror(camera, car);
-    case 2:
+    case render::View::Overhead:
         return Overhead(camera, car);
-    case 3:
+    case render::View::ReverseChase:
         return back ? Chase(camera, car) : ReverseChase(camera, car);
-    case 4:
+    case render::View::Orbit:
         return Orbit(camera, car);
-    case 5:
+    case render::View::Side:
         return Side(camera, car);
-    case 6:
+    case render::View::Overview:
         return Overview(camera);
     default:
         return;
@@ -166,7 +166,7 @@ void TurnYaw(Camera& camera, double target, double factor)
 void PlaceView(Camera& camera, render::Scene& scene, const world::Race& race, const world::HeldKeys& keys,
                std::int16_t arrowObj)
 {
-    if (camera.View < 0 || camera.View > 7)
+    if (camera.View < render::View::Chase || camera.View > render::View::Still)
         return;
     const world::Player* player = world::FindPlayer(race, camera.ViewPlayer);
     if (player == nullptr || !scene.Objects.Has(player->Obj))
@@ -174,6 +174,7 @@ void PlaceView(Camera& camera, render::Scene& scene, const world::Race& race, co
     const Followed car(scene.Objects.At(player->Obj), player->Speed);
     Place(camera, car, keys);
     if (scene.Objects.Has(arrowObj))
-        PlaceArrow(scene.Objects.At(arrowObj), car, race.Map, player->NextCheckpoint, camera.View == 1);
+        PlaceArrow(scene.Objects.At(arrowObj), car, race.Map, player->NextCheckpoint,
+                   camera.View == render::View::Driver);
 }
 }

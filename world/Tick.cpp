@@ -35,14 +35,19 @@ void DecayShake(float& shake, const Player* user)
         shake = 0.6f;
 }
 
-void Step(Simulation& sim, FinishSink& finish, void (*collide)(Simulation&))
+void Step(Simulation& sim, FinishSink& finish, void (*collide)(Simulation&), base::PhaseClock* clock)
 {
+    base::EnterPhase(clock, "places");
     ComputePlaces(sim);
     if (sim.Race.RaceOver != base::False)
         FloatTrophy(sim);
+    base::EnterPhase(clock, "race");
     RaceStep(sim, finish);
+    base::EnterPhase(clock, "collisions");
     collide(sim);
+    base::EnterPhase(clock, "particles");
     DamageSmoke(sim);
+    base::EnterPhase(clock, "drivers");
     if (sim.Race.GameTime >= ReleaseTime)
     {
         ComputerDrive(sim);
@@ -50,16 +55,17 @@ void Step(Simulation& sim, FinishSink& finish, void (*collide)(Simulation&))
     }
     if (sim.WebcamOn)
         DecayShake(sim.Shake, FindPlayer(sim.Race, sim.Race.UserPlayer));
+    base::LeavePhase(clock);
 }
 }
 
-void GameTick(Simulation& sim, FinishSink& finish)
+void GameTick(Simulation& sim, FinishSink& finish, base::PhaseClock* clock)
 {
-    Step(sim, finish, Collide);
+    Step(sim, finish, Collide, clock);
 }
 
 void GameTickPlain(Simulation& sim, FinishSink& finish)
 {
-    Step(sim, finish, CollidePlain);
+    Step(sim, finish, CollidePlain, nullptr);
 }
 }

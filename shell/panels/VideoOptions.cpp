@@ -153,11 +153,11 @@ std::string FilterName(std::int16_t txtFilter)
 {
     switch (txtFilter)
     {
-    case 0:
+    case render::Filter::Nearest:
         return "nessuno";
-    case 1:
+    case render::Filter::Linear:
         return "lineare";
-    case 2:
+    case render::Filter::Anisotropic:
         return "anisotropico";
     default:
         return {};

@@ -88,5 +88,3 @@ inline unsigned Bytes(const std::uint8_t* pixel)
     return static_cast<unsigned>(pixel[0] << 16 | pixel[1] << 8 | pixel[2]);
 }
 }
-
-namespace scenes = support;

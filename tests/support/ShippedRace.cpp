@@ -13,10 +13,10 @@ ShippedRace::ShippedRace(std::uint64_t seed) : Application(Machine)
         player.Control = 1;
 }
 
-void ShippedRace::Step()
+void ShippedRace::Step(base::PhaseClock* clock)
 {
     Machine.Clock += 25;
-    Form().Race().GameT_Tick();
+    Form().Race().GameT_Tick(clock);
 }
 
 std::vector<render::Camera> ShippedRace::RecordPath(int ticks)

@@ -1,6 +1,7 @@
 // tests/support/ShippedRace.h: the shipped race on a machine without a window, and the camera's path through it.
 // VELKAR_ROOT is the folder that holds data/.
 #pragma once
+#include "base/PhaseClock.h"
 #include "platform/headless/Machine.h"
 #include "shell/Application.h"
 
@@ -19,7 +20,7 @@ public:
     shell::Form1& Form() { return *Application.Main(); }
     shell::Game& Game() { return Form().State(); }
     // One step of 25 ms.
-    void Step();
+    void Step(base::PhaseClock* clock = nullptr);
     // The camera of every 40th tick of the next `ticks`, in the views 0, 1 and 2 by turns: what a player sees.
     std::vector<render::Camera> RecordPath(int ticks);
 

@@ -1,4 +1,5 @@
-// Ticks and the clock.
+// Ticks, the clock, and what both cost.
+#include "base/PhaseClock.h"
 #include "tools/drive/Session.h"
 
 #include <algorithm>
@@ -56,6 +57,45 @@ void Draw(Session& session, Words& words, Object&)
     session.Form()->Race().Draw();
 }
 
+void AnswerPhases(const base::PhaseClock& clock, std::uint32_t times, Object& answer)
+{
+    std::string& json = answer.Field("microseconds");
+    const char* separator = "{";
+    for (const base::PhaseClock::Phase& phase : clock.Phases())
+    {
+        const std::chrono::duration<float, std::micro> mean = phase.Time / static_cast<float>(times);
+        json += separator;
+        AppendText(json, phase.Name);
+        json += ": ";
+        AppendNumber(json, mean.count());
+        separator = ", ";
+    }
+    json += clock.Phases().empty() ? "{}" : "}";
+}
+
+// The answer differs from run to run; what the game does is what "game" does, and a frame is drawn and shown.
+void Measure(Session& session, Words& words, Object& answer)
+{
+    const std::string_view what = Word(words, "frame or tick");
+    Require(what == "frame" || what == "tick", "a frame or a tick is measured");
+    const bool isTick = what == "tick";
+    const std::uint32_t times = Times(words, isTick ? session.Most.Ticks : session.Most.Frames);
+    shell::Form1& form = *session.Form();
+    base::PhaseClock clock;
+    for (std::uint32_t i = 0; i < times && !session.Ended(); ++i)
+    {
+        if (!isTick)
+            form.Race().ShowFrame(&clock);
+        else
+        {
+            session.Machine.Clock += GameStep;
+            if (form.State().Timers.GameT.Enabled != base::False)
+                form.Race().GameT_Tick(&clock);
+        }
+    }
+    AnswerPhases(clock, std::max(times, 1u), answer);
+}
+
 void Place(Session& session, Words& words, Object&)
 {
     RequireEnd(words);
@@ -67,7 +107,7 @@ std::span<const Command> TimeCommands()
 {
     static constexpr std::array commands = {
         Command{"game", true, Game}, Command{"render", true, Render}, Command{"run", true, Run},
-        Command{"draw", true, Draw}, Command{"place", true, Place},
+        Command{"draw", true, Draw}, Command{"place", true, Place},   Command{"measure", true, Measure},
     };
     return commands;
 }

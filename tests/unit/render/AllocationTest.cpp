@@ -15,14 +15,14 @@ TEST(Allocation, NoneInAFrameWithTextSpritesAndParticles)
     base::Random random;
     random.Seed(6);
     render::Scene scene;
-    scene.Sky = scenes::Noise(random, render::SkyWidth, 60);
-    scenes::SetGround(scene, scenes::Noise(random, 200, 200));
+    scene.Sky = support::Noise(random, render::SkyWidth, 60);
+    support::SetGround(scene, support::Noise(random, 200, 200));
     for (int code = 'A'; code <= 'Z'; ++code)
         scene.Font.Glyphs[static_cast<std::size_t>(code - render::FirstCode)] = {1, 6, 8,
                                                                                  std::vector<std::uint8_t>(48, 255)};
     scene.Font.LineHeight = 8;
     scene.Font.WidestGlyph = 6;
-    const auto smoke = std::make_shared<const render::Picture>(scenes::Noise(random, 20, 20, 0.3));
+    const auto smoke = std::make_shared<const render::Picture>(support::Noise(random, 20, 20, 0.3));
     const std::int16_t object = render::MakeObj(scene, {100, 0, 110, 1, 0}, 1, 0, 1, 1);
     render::SetObjR(scene, object, 9);
     render::EditObjMesh(scene, object, 0, 5, 5, 0x445566, 0);
@@ -46,7 +46,7 @@ TEST(Allocation, NoneInAFrameWithTextSpritesAndParticles)
                                     .Scale = 1.5f,
                                     .TabWidth = 4,
                                     .Col = {9, 9, 9}});
-    scenes::View view(600, 312, 0, 5);
+    support::View view(600, 312, 0, 5);
     view.Look(100, 3, 100, 0.1f, -0.1f);
     std::string text;
     const auto frame = [&](int number)

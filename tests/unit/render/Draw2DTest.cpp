@@ -10,7 +10,7 @@
 namespace
 {
 // 6 x 4, read as rows from the top: the blue byte of each pixel in hexadecimal digits.
-struct Paper : scenes::View
+struct Paper : support::View
 {
     Paper() : View(6, 4) {}
     base::Surface Surface() { return render::FrameSurface(Screen); }
@@ -30,7 +30,7 @@ struct Paper : scenes::View
 // 3 x 2: 1 2 3 below, 4 5 6 above.
 render::Picture Six()
 {
-    render::Picture picture = scenes::Blank(3, 2);
+    render::Picture picture = support::Blank(3, 2);
     for (int i = 0; i < 6; ++i)
         picture.Pixels.Row(i / 3)[i % 3 * 3] = static_cast<std::uint8_t>(i + 1);
     return picture;
@@ -62,7 +62,7 @@ TEST(DrawPic2D, BlackIsNotTransparent)
 {
     Paper paper;
     render::FillRect2D(paper.Surface(), 0, 0, 5, 3, {1, 1, 1});
-    render::DrawPic2D(paper.Surface(), scenes::Blank(2, 1), 1, 1);
+    render::DrawPic2D(paper.Surface(), support::Blank(2, 1), 1, 1);
     EXPECT_EQ(paper.Rows(), "111111\n111111\n100111\n111111\n");
 }
 
@@ -97,7 +97,7 @@ TEST(FillRect2D, ColourBytesAreBlueGreenRed)
 {
     Paper paper;
     render::FillRect2D(paper.Surface(), 0, 0, 0, 0, {3, 2, 1});
-    EXPECT_EQ(scenes::Bytes(paper.Pixel(0, 0)), 0x010203u);
+    EXPECT_EQ(support::Bytes(paper.Pixel(0, 0)), 0x010203u);
 }
 
 TEST(FillRect2D, IsClippedOnAllFourSides)

@@ -15,7 +15,7 @@ struct Effects : testing::Test
 {
     render::Scene Scene;
     base::Random Random;
-    render::PicReference Picture = std::make_shared<const render::Picture>(scenes::Blank(2, 2));
+    render::PicReference Picture = std::make_shared<const render::Picture>(support::Blank(2, 2));
 
     std::int16_t Add(int life, render::ParticleKind kind, float alpha = 1.0f)
     {

@@ -25,7 +25,7 @@ struct GroundCase
 
 // Draws the ground of one view twice, by the plain and by the fast routines, over frames of rubbish, and compares every
 // byte and depth cell.
-void Compare(const render::Scene& scene, scenes::View& view)
+void Compare(const render::Scene& scene, support::View& view)
 {
     render::Screen& screen = view.Screen;
     render::UpdateSkyOffset(view.Camera, screen);
@@ -47,14 +47,14 @@ void Compare(const render::Scene& scene, scenes::View& view)
 }
 
 // Pixels of the frame that are not the sky's.
-std::size_t CountGround(const render::Scene& scene, scenes::View& view)
+std::size_t CountGround(const render::Scene& scene, support::View& view)
 {
     const GroundView ground = render::MakeGroundView(scene, view.Camera, view.Screen);
     std::size_t count = 0;
     for (int y = 0; y < view.Screen.ScreenH; ++y)
         for (int x = 0; x < view.Screen.ScreenW; ++x)
-            count += scenes::Bytes(view.Pixel(x, y)) !=
-                     scenes::Bytes(render::SkyPixel(ground, x, render::SkyRow(ground, y)));
+            count += support::Bytes(view.Pixel(x, y)) !=
+                     support::Bytes(render::SkyPixel(ground, x, render::SkyRow(ground, y)));
     return count;
 }
 
@@ -62,7 +62,7 @@ std::size_t CountGround(const render::Scene& scene, scenes::View& view)
 render::Scene CountedScene(int width, int height, int skyRows = 100)
 {
     render::Scene scene;
-    render::Picture ground = scenes::Blank(width, height);
+    render::Picture ground = support::Blank(width, height);
     for (int v = 0; v < height; ++v)
         for (int u = 0; u < width; ++u)
         {
@@ -71,8 +71,8 @@ render::Scene CountedScene(int width, int height, int skyRows = 100)
             texel[1] = static_cast<std::uint8_t>(v);
             texel[2] = 7;
         }
-    scenes::SetGround(scene, std::move(ground));
-    scene.Sky = scenes::Blank(render::SkyWidth, skyRows);
+    support::SetGround(scene, std::move(ground));
+    scene.Sky = support::Blank(render::SkyWidth, skyRows);
     for (int row = 0; row < skyRows; ++row)
         for (int column = 0; column < render::SkyWidth; ++column)
         {
@@ -94,7 +94,7 @@ constexpr unsigned SkyAt(unsigned column, unsigned row)
 }
 
 // One pass at the view's place; the row tables are made first.
-void Draw(const render::Scene& scene, scenes::View& view)
+void Draw(const render::Scene& scene, support::View& view)
 {
     render::UpdateSkyOffset(view.Camera, view.Screen);
     render::UpdateRowTables(view.Camera, view.Screen);
@@ -103,9 +103,9 @@ void Draw(const render::Scene& scene, scenes::View& view)
 }
 
 // A ground of one grey, sharp and blurred, with the row weight given.
-std::unique_ptr<scenes::View> DrawWeighted(render::Scene& scene, int filter, float weight)
+std::unique_ptr<support::View> DrawWeighted(render::Scene& scene, int filter, float weight)
 {
-    auto view = std::make_unique<scenes::View>(240, 200, filter);
+    auto view = std::make_unique<support::View>(240, 200, filter);
     view->Look(100, 1, 100, 0, 0);
     render::UpdateRowTables(view->Camera, view->Screen);
     render::UpdateColumnSlopes(view->Camera, view->Screen);
@@ -120,56 +120,56 @@ std::unique_ptr<scenes::View> DrawWeighted(render::Scene& scene, int filter, flo
 TEST(Ground, NearestTakesTheRoundedTexel)
 {
     const render::Scene scene = CountedScene(200, 200);
-    scenes::View view(240, 200);
+    support::View view(240, 200);
     view.Look(50, 1, 60, 0, 0);
     Draw(scene, view);
-    EXPECT_EQ(scenes::Bytes(view.Pixel(120, 0)), GroundAt(50, 62));
-    EXPECT_EQ(scenes::Bytes(view.Pixel(220, 0)), GroundAt(51, 62));  // 50 + 0.5 x 2.236
-    EXPECT_EQ(scenes::Bytes(view.Pixel(0, 0)), GroundAt(49, 62));    // 50 - 0.6 x 2.236
-    EXPECT_EQ(scenes::Bytes(view.Pixel(120, 90)), GroundAt(50, 80)); // 200 / 10 ahead
+    EXPECT_EQ(support::Bytes(view.Pixel(120, 0)), GroundAt(50, 62));
+    EXPECT_EQ(support::Bytes(view.Pixel(220, 0)), GroundAt(51, 62));  // 50 + 0.5 x 2.236
+    EXPECT_EQ(support::Bytes(view.Pixel(0, 0)), GroundAt(49, 62));    // 50 - 0.6 x 2.236
+    EXPECT_EQ(support::Bytes(view.Pixel(120, 90)), GroundAt(50, 80)); // 200 / 10 ahead
 }
 
 TEST(Ground, TexelsRoundTiesToEven)
 {
     const render::Scene scene = CountedScene(200, 200);
-    scenes::View view(240, 200);
+    support::View view(240, 200);
     for (const auto& [place, texel] : {std::pair{50.5f, 50u}, std::pair{51.5f, 52u}})
     {
         view.Look(place, 1, 60, 0, 0);
         Draw(scene, view);
-        EXPECT_EQ(scenes::Bytes(view.Pixel(120, 0)), GroundAt(texel, 62));
+        EXPECT_EQ(support::Bytes(view.Pixel(120, 0)), GroundAt(texel, 62));
     }
 }
 
 TEST(Ground, YawTurnsTheGroundTheWayTheCameraTurns)
 {
     const render::Scene scene = CountedScene(200, 200);
-    scenes::View view(240, 200);
+    support::View view(240, 200);
     view.Look(50, 1, 60, 1.57079637f, 0); // along -x
     Draw(scene, view);
-    EXPECT_EQ(scenes::Bytes(view.Pixel(120, 90)), GroundAt(30, 60));
+    EXPECT_EQ(support::Bytes(view.Pixel(120, 90)), GroundAt(30, 60));
 }
 
 TEST(Ground, ScaleIsTexelsPerUnit)
 {
     render::Scene scene = CountedScene(200, 200);
     scene.Ground.GroundScale = 2.5f;
-    scenes::View view(240, 200);
+    support::View view(240, 200);
     view.Look(20, 1, 20, 0, 0);
     Draw(scene, view);
-    EXPECT_EQ(scenes::Bytes(view.Pixel(120, 90)), GroundAt(50, 100)); // 2.5 x (20 + 20)
+    EXPECT_EQ(support::Bytes(view.Pixel(120, 90)), GroundAt(50, 100)); // 2.5 x (20 + 20)
 }
 
 // The sky shows beyond the texture's edge, not a clamped or wrapped texel.
 TEST(Ground, EndsAtTheTexturesEdge)
 {
     const render::Scene scene = CountedScene(100, 80);
-    scenes::View view(240, 200);
+    support::View view(240, 200);
     const auto at = [&](float x, float z)
     {
         view.Look(x, 1, z, 0, 0);
         Draw(scene, view);
-        return scenes::Bytes(view.Pixel(120, 0)); // the texel 2 ahead
+        return support::Bytes(view.Pixel(120, 0)); // the texel 2 ahead
     };
     EXPECT_EQ(at(0, 10), GroundAt(0, 12));
     EXPECT_EQ(at(-0.5f, 10), GroundAt(0, 12));
@@ -185,12 +185,12 @@ TEST(Ground, EndsAtTheTexturesEdge)
 TEST(Ground, WithAnisotropicTheGroundEnds15TexelsEarlier)
 {
     const render::Scene scene = CountedScene(100, 80);
-    scenes::View view(240, 200, 2);
+    support::View view(240, 200, 2);
     const auto at = [&](float x, float z)
     {
         view.Look(x, 1, z, 0, 0);
         Draw(scene, view);
-        return scenes::Bytes(view.Pixel(120, 0));
+        return support::Bytes(view.Pixel(120, 0));
     };
     EXPECT_EQ(at(15, 20), GroundAt(15, 22));
     EXPECT_EQ(at(14, 20), SkyAt(120, 0));
@@ -205,7 +205,7 @@ TEST(Ground, WithAnisotropicTheGroundEnds15TexelsEarlier)
 TEST(Ground, ATextureNarrowerThanTheMarginShowsNoAnisotropicGround)
 {
     const render::Scene scene = CountedScene(30, 29);
-    scenes::View view(240, 200, 2);
+    support::View view(240, 200, 2);
     view.Look(15, 1, 13, 0, 0);
     Draw(scene, view);
     EXPECT_EQ(CountGround(scene, view), 0u);
@@ -217,46 +217,46 @@ TEST(Ground, ATextureNarrowerThanTheMarginShowsNoAnisotropicGround)
 TEST(Sky, RowsSpanThePanoramaFromTheBottom)
 {
     const render::Scene scene = CountedScene(10, 10);
-    scenes::View view(240, 200);
+    support::View view(240, 200);
     view.Look(0, 1, 0, 0, 1.5f); // nothing but sky
     Draw(scene, view);
-    EXPECT_EQ(scenes::Bytes(view.Pixel(0, 0)), SkyAt(0, 0));
-    EXPECT_EQ(scenes::Bytes(view.Pixel(8, 100)), SkyAt(8, 50)); // 0.5 x 99 = 49.5, ties to even
-    EXPECT_EQ(scenes::Bytes(view.Pixel(8, 199)), SkyAt(8, 99)); // 0.995 x 99 = 98.505
+    EXPECT_EQ(support::Bytes(view.Pixel(0, 0)), SkyAt(0, 0));
+    EXPECT_EQ(support::Bytes(view.Pixel(8, 100)), SkyAt(8, 50)); // 0.5 x 99 = 49.5, ties to even
+    EXPECT_EQ(support::Bytes(view.Pixel(8, 199)), SkyAt(8, 99)); // 0.995 x 99 = 98.505
 }
 
 TEST(Sky, ColumnsScrollAndWrapAt820)
 {
     const render::Scene scene = CountedScene(10, 10);
-    scenes::View view(1200, 200);
+    support::View view(1200, 200);
     view.Look(0, 1, 0, 1.0f, 1.5f); // offset 689
     Draw(scene, view);
-    EXPECT_EQ(scenes::Bytes(view.Pixel(0, 0)), SkyAt(689, 0));
-    EXPECT_EQ(scenes::Bytes(view.Pixel(130, 0)), SkyAt(819, 0));
-    EXPECT_EQ(scenes::Bytes(view.Pixel(131, 0)), SkyAt(0, 0));
-    EXPECT_EQ(scenes::Bytes(view.Pixel(1199, 0)), SkyAt((689 + 1199) % 820, 0));
+    EXPECT_EQ(support::Bytes(view.Pixel(0, 0)), SkyAt(689, 0));
+    EXPECT_EQ(support::Bytes(view.Pixel(130, 0)), SkyAt(819, 0));
+    EXPECT_EQ(support::Bytes(view.Pixel(131, 0)), SkyAt(0, 0));
+    EXPECT_EQ(support::Bytes(view.Pixel(1199, 0)), SkyAt((689 + 1199) % 820, 0));
 }
 
 TEST(Sky, IsBlackWhereThePanoramaDoesNotReach)
 {
     render::Scene scene = CountedScene(10, 10);
-    scene.Sky = scenes::Blank(100, 5);
+    scene.Sky = support::Blank(100, 5);
     std::fill(scene.Sky.Pixels.Bytes.begin(), scene.Sky.Pixels.Bytes.end(), std::uint8_t{50});
-    scenes::View view(240, 200);
+    support::View view(240, 200);
     view.Look(0, 1, 0, 0, 1.5f);
     std::fill(view.Screen.Frame.Bytes.begin(), view.Screen.Frame.Bytes.end(), std::uint8_t{99});
     Draw(scene, view);
-    EXPECT_EQ(scenes::Bytes(view.Pixel(99, 10)), 0x323232u);
-    EXPECT_EQ(scenes::Bytes(view.Pixel(100, 10)), 0u);
+    EXPECT_EQ(support::Bytes(view.Pixel(99, 10)), 0x323232u);
+    EXPECT_EQ(support::Bytes(view.Pixel(100, 10)), 0u);
     scene.Sky = {};
     Draw(scene, view);
-    EXPECT_EQ(scenes::Bytes(view.Pixel(5, 10)), 0u);
+    EXPECT_EQ(support::Bytes(view.Pixel(5, 10)), 0u);
 }
 
 TEST(Ground, EmptiesEveryDepthCell)
 {
     const render::Scene scene = CountedScene(100, 100);
-    scenes::View view(241, 201, 2);
+    support::View view(241, 201, 2);
     view.Look(50, 1, 20, 0, 0);
     std::fill(view.Screen.Depth.Cells.begin(), view.Screen.Depth.Cells.end(), 1.0f);
     Draw(scene, view);
@@ -269,18 +269,18 @@ TEST(Ground, LinearKeepsAnEighthOfTheSharpTexel)
     render::Scene scene = CountedScene(200, 200);
     std::fill(scene.Ground.Sharp.Pixels.Bytes.begin(), scene.Ground.Sharp.Pixels.Bytes.end(), std::uint8_t{80});
     std::fill(scene.Ground.GroundBlur.Bytes.begin(), scene.Ground.GroundBlur.Bytes.end(), std::uint8_t{0});
-    EXPECT_EQ(scenes::Bytes(DrawWeighted(scene, 1, 0.875f)->Pixel(120, 0)), 0x0A0A0Au);
-    EXPECT_EQ(scenes::Bytes(DrawWeighted(scene, 1, 0.0f)->Pixel(120, 0)), 0x505050u);
+    EXPECT_EQ(support::Bytes(DrawWeighted(scene, 1, 0.875f)->Pixel(120, 0)), 0x0A0A0Au);
+    EXPECT_EQ(support::Bytes(DrawWeighted(scene, 1, 0.0f)->Pixel(120, 0)), 0x505050u);
     // 0.25 x 0 + 0.75 x 81 = 60.75, rounded down
     std::fill(scene.Ground.Sharp.Pixels.Bytes.begin(), scene.Ground.Sharp.Pixels.Bytes.end(), std::uint8_t{81});
-    EXPECT_EQ(scenes::Bytes(DrawWeighted(scene, 1, 0.25f)->Pixel(120, 0)), 0x3C3C3Cu);
+    EXPECT_EQ(support::Bytes(DrawWeighted(scene, 1, 0.25f)->Pixel(120, 0)), 0x3C3C3Cu);
 }
 
 TEST(Ground, LinearWithoutABlurredCopyIsSharp)
 {
     render::Scene scene = CountedScene(200, 200);
     scene.Ground.GroundBlur.Clear();
-    EXPECT_EQ(scenes::Bytes(DrawWeighted(scene, 1, 0.875f)->Pixel(120, 0)), GroundAt(100, 102));
+    EXPECT_EQ(support::Bytes(DrawWeighted(scene, 1, 0.875f)->Pixel(120, 0)), GroundAt(100, 102));
 }
 
 // Camera at (100, 100), yaw 0: the ray of the middle column goes along v, one texel a step; row 0 shows texel
@@ -326,11 +326,11 @@ TEST(Ground, StepsThatEndBetweenTexelsFollowThePlainRule)
     base::Random random;
     random.Seed(5);
     render::Scene scene;
-    scenes::SetGround(scene, scenes::Noise(random, 200, 200));
+    support::SetGround(scene, support::Noise(random, 200, 200));
     for (const float cosYaw : {0.5f, 0.25f, 0.125f, -0.5f})
         for (const float place : {100.0f, 101.0f})
         {
-            scenes::View view(241, 201, 2);
+            support::View view(241, 201, 2);
             view.Look(place, 1, place, 0, 0);
             view.Camera.CamCosYaw = cosYaw; // a = 0 in the middle column: dv is the cosine itself
             render::UpdateRowTables(view.Camera, view.Screen);
@@ -349,12 +349,12 @@ TEST(Ground, StepsThatEndBetweenTexelsFollowThePlainRule)
 TEST(Ground, UnknownFiltersDrawAsNone)
 {
     const render::Scene scene = CountedScene(200, 200);
-    scenes::View none(240, 200, 0);
+    support::View none(240, 200, 0);
     none.Look(50, 1, 60, 0.3f, 0);
     Draw(scene, none);
     for (const int filter : {-1, 3, 32767})
     {
-        scenes::View view(240, 200, filter);
+        support::View view(240, 200, filter);
         view.Look(50, 1, 60, 0.3f, 0);
         Draw(scene, view);
         EXPECT_EQ(view.Screen.Frame.Bytes, none.Screen.Frame.Bytes);
@@ -366,12 +366,12 @@ TEST(Ground, AnyNumberOfThreadsDrawsTheSame)
     const render::Scene scene = CountedScene(200, 200);
     for (const int filter : {0, 1, 2})
     {
-        scenes::View one(601, 313, filter, 1);
+        support::View one(601, 313, filter, 1);
         one.Look(50, 3, 30, 0.3f, -0.1f);
         Draw(scene, one);
         for (const int threads : {3, 5, 16, 700})
         {
-            scenes::View many(601, 313, filter, threads);
+            support::View many(601, 313, filter, threads);
             many.Look(50, 3, 30, 0.3f, -0.1f);
             Draw(scene, many);
             ASSERT_EQ(many.Screen.Frame.Bytes, one.Screen.Frame.Bytes) << filter << " " << threads;
@@ -383,14 +383,14 @@ TEST(Ground, AnyNumberOfThreadsDrawsTheSame)
 TEST(Ground, SingleThreadWalksTheFirstBandOnly)
 {
     const render::Scene scene = CountedScene(200, 200);
-    scenes::View view(240, 200, 1, 3);
+    support::View view(240, 200, 1, 3);
     view.Screen.SingleThread = -1;
     view.Screen.GroundLimit = 0; // no limit applies
     view.Look(50, 1, 60, 0, 0);
     std::fill(view.Screen.Frame.Bytes.begin(), view.Screen.Frame.Bytes.end(), std::uint8_t{99});
     Draw(scene, view);
-    EXPECT_NE(scenes::Bytes(view.Pixel(79, 0)), 0x636363u);
-    EXPECT_EQ(scenes::Bytes(view.Pixel(80, 0)), 0x636363u);
+    EXPECT_NE(support::Bytes(view.Pixel(79, 0)), 0x636363u);
+    EXPECT_EQ(support::Bytes(view.Pixel(80, 0)), 0x636363u);
 }
 
 TEST(Ground, CamerasThatAreNoNumbersShowTheSky)
@@ -400,7 +400,7 @@ TEST(Ground, CamerasThatAreNoNumbersShowTheSky)
     for (const int filter : {0, 1, 2})
         for (const float odd : {nan, inf, -inf, 1e30f})
         {
-            scenes::View view(240, 200, filter);
+            support::View view(240, 200, filter);
             view.Look(odd, 1, 60, 0, 0);
             Draw(scene, view);
             EXPECT_EQ(CountGround(scene, view), 0u);
@@ -414,11 +414,11 @@ TEST(Ground, CamerasThatAreNoNumbersShowTheSky)
             Draw(scene, view);
         }
     // Yaw and its sine disagree where a field was written by hand: no step may leave the texture.
-    scenes::View view(240, 200, 2);
+    support::View view(240, 200, 2);
     view.Look(100, 1, 60, 0, 0);
     view.Camera.CamYaw = nan;
     Draw(scene, view);
-    EXPECT_EQ(scenes::Bytes(view.Pixel(120, 0)), GroundAt(100, 62));
+    EXPECT_EQ(support::Bytes(view.Pixel(120, 0)), GroundAt(100, 62));
 }
 
 // Random worlds and cameras, all filters: near and beyond the edges, odd sizes, steep pitches, upside-down rows. A
@@ -433,20 +433,20 @@ TEST(Ground, FastIsPlainForRandomViews)
     {
         const GroundCase size = round % 40 == 39 ? sizes[4] : sizes[round % 4];
         render::Scene scene;
-        scene.Sky = scenes::Noise(random, render::SkyWidth, scenes::DrawWhole(random, 1, 300));
-        scenes::SetGround(scene,
-                          scenes::Noise(random, scenes::DrawWhole(random, 1, 300), scenes::DrawWhole(random, 20, 300)),
-                          static_cast<float>(scenes::Draw(random, 0.3, 3.0)));
-        scenes::View view(size.Width, size.Height, round % 3, scenes::DrawWhole(random, 1, 16));
+        scene.Sky = support::Noise(random, render::SkyWidth, support::DrawWhole(random, 1, 300));
+        support::SetGround(
+            scene, support::Noise(random, support::DrawWhole(random, 1, 300), support::DrawWhole(random, 20, 300)),
+            static_cast<float>(support::Draw(random, 0.3, 3.0)));
+        support::View view(size.Width, size.Height, round % 3, support::DrawWhole(random, 1, 16));
         if (round % 5 == 0)
-            view.Camera.Zoom *= static_cast<float>(scenes::Draw(random, 0.5, 8.0));
+            view.Camera.Zoom *= static_cast<float>(support::Draw(random, 0.5, 8.0));
         const render::Ground& ground = scene.Ground;
         view.Look(
-            static_cast<float>(scenes::Draw(random, -0.2, 1.2) * ground.Width / ground.GroundScale),
-            static_cast<float>(scenes::Draw(random, 0.5, round % 2 == 0 ? 10.0 : 120.0)),
-            static_cast<float>(scenes::Draw(random, -0.2, 1.2) * ground.Height / ground.GroundScale),
-            static_cast<float>(scenes::Draw(random, -7.0, 7.0)),
-            static_cast<float>(round % 7 == 0 ? scenes::Draw(random, -3.2, 3.2) : scenes::Draw(random, -1.6, 0.2)));
+            static_cast<float>(support::Draw(random, -0.2, 1.2) * ground.Width / ground.GroundScale),
+            static_cast<float>(support::Draw(random, 0.5, round % 2 == 0 ? 10.0 : 120.0)),
+            static_cast<float>(support::Draw(random, -0.2, 1.2) * ground.Height / ground.GroundScale),
+            static_cast<float>(support::Draw(random, -7.0, 7.0)),
+            static_cast<float>(round % 7 == 0 ? support::Draw(random, -3.2, 3.2) : support::Draw(random, -1.6, 0.2)));
         SCOPED_TRACE(testing::Message() << "round " << round);
         ASSERT_NO_FATAL_FAILURE(Compare(scene, view));
         groundPixels[round % 3] += CountGround(scene, view);

@@ -16,7 +16,7 @@ Ground MakeGround(const std::vector<std::vector<int>>& rows)
     Ground ground;
     ground.Height = static_cast<std::int32_t>(rows.size());
     ground.Width = static_cast<std::int32_t>(rows[0].size());
-    ground.Sharp = scenes::Blank(ground.Width, ground.Height);
+    ground.Sharp = support::Blank(ground.Width, ground.Height);
     for (int v = 0; v < ground.Height; ++v)
         for (int u = 0; u < ground.Width; ++u)
         {

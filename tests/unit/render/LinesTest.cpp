@@ -14,7 +14,7 @@ using render::Point3;
 namespace
 {
 // 240 x 200, zoom 200, centre (120, 100): at depth 200 a unit is a pixel.
-struct Lines : scenes::View
+struct Lines : support::View
 {
     render::Scene Scene;
     Lines() : View(240, 200) { Look(0, 0, 0, 0, 0); }
@@ -37,7 +37,7 @@ TEST(DrawLine3D, StepsOnePixelAtATimeFromTheFirstEnd)
     view.Draw({0, 0, 200}, {4, 2, 200}); // length 4.47: t = 0 … 4, x 120 + 0.894 t, y 100 + 0.447 t
     EXPECT_EQ(view.Drawn(),
               (std::set<std::pair<int, int>>{{120, 100}, {121, 100}, {122, 101}, {123, 101}, {124, 102}}));
-    EXPECT_EQ(scenes::Bytes(view.Pixel(121, 100)), 0x1E140Au); // blue first
+    EXPECT_EQ(support::Bytes(view.Pixel(121, 100)), 0x1E140Au); // blue first
 }
 
 TEST(DrawLine3D, ColourTakesTheLight)
@@ -46,7 +46,7 @@ TEST(DrawLine3D, ColourTakesTheLight)
     view.Scene.LightR = 0.25f;
     view.Scene.LightG = 100.0f;
     view.Draw({0, 0, 200}, {4, 0, 200});
-    EXPECT_EQ(scenes::Bytes(view.Pixel(120, 100)), 0x1EFF02u); // 10 x 0.25 = 2.5, ties to even
+    EXPECT_EQ(support::Bytes(view.Pixel(120, 100)), 0x1EFF02u); // 10 x 0.25 = 2.5, ties to even
 }
 
 TEST(DrawLine3D, DepthIsLinearAndTestedLikeThatOfTriangles)
@@ -60,8 +60,8 @@ TEST(DrawLine3D, DepthIsLinearAndTestedLikeThatOfTriangles)
     Lines hidden;
     std::fill(hidden.Screen.Depth.Cells.begin(), hidden.Screen.Depth.Cells.end(), 150.0f);
     hidden.Draw({0, 0, 200}, {40, 0, 100});
-    EXPECT_EQ(scenes::Bytes(hidden.Pixel(160, 100)), 0u); // equal depth: the first stays
-    EXPECT_EQ(scenes::Bytes(hidden.Pixel(161, 100)), 0x1E140Au);
+    EXPECT_EQ(support::Bytes(hidden.Pixel(160, 100)), 0u); // equal depth: the first stays
+    EXPECT_EQ(support::Bytes(hidden.Pixel(161, 100)), 0x1E140Au);
 }
 
 TEST(DrawLine3D, AnEndFartherThan400DrawsNothing)
@@ -122,10 +122,10 @@ TEST(DrawLine3D, LeavingTheScreenEndsTheWalkWithTheSamePixels)
     for (int round = 0; round < 300; ++round)
     {
         Lines view;
-        const Point3 from{static_cast<float>(scenes::Draw(random, -120, 120)),
-                          static_cast<float>(scenes::Draw(random, -100, 100)), 200};
-        const Point3 to{static_cast<float>(scenes::Draw(random, -2000, 2000)),
-                        static_cast<float>(scenes::Draw(random, -2000, 2000)), 200};
+        const Point3 from{static_cast<float>(support::Draw(random, -120, 120)),
+                          static_cast<float>(support::Draw(random, -100, 100)), 200};
+        const Point3 to{static_cast<float>(support::Draw(random, -2000, 2000)),
+                        static_cast<float>(support::Draw(random, -2000, 2000)), 200};
         view.Draw(from, to);
         const render::ScreenPoint p = render::Project(from.X, from.Y, 200, 200, 120, 100);
         const render::ScreenPoint q = render::Project(to.X, to.Y, 200, 200, 120, 100);

@@ -300,7 +300,7 @@ TEST(MakePoly, TakesColourAndPoints)
 TEST(Sprites, ShareThePixelsOfTheirPicture)
 {
     Scene scene;
-    const auto picture = std::make_shared<const render::Picture>(scenes::Blank(3, 2));
+    const auto picture = std::make_shared<const render::Picture>(support::Blank(3, 2));
     EXPECT_EQ(MakeSprite3D(scene, {.Visible = 1, .X = 1, .Y = 2, .Z = 3, .Scale = 4, .Alpha = 5, .Pixels = picture}),
               0);
     EXPECT_EQ(MakeSprite3D(scene, {.Visible = 1, .X = 1, .Y = 2, .Z = 3, .Scale = 4, .Alpha = 5, .Pixels = picture}),
@@ -373,7 +373,7 @@ TEST(InitScene, EmptiesTheListsAndKeepsPicturesAndFont)
     scene.Particles.resize(2);
     scene.ParticleCount = 2;
     scene.Font.LineHeight = 9;
-    scene.Sky = scenes::Blank(1, 1);
+    scene.Sky = support::Blank(1, 1);
     InitScene(scene);
     EXPECT_TRUE(scene.Objects.Items.empty());
     EXPECT_EQ(scene.Objects.Count, 0);

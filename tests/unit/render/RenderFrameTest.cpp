@@ -24,14 +24,14 @@ namespace
 constexpr unsigned Red = 0x0000FF, Green = 0x00FF00, Blue = 0xFF0000; // as Bytes() gives them
 
 // 240 x 200, zoom 200, centre (120, 100), the eye in the origin: at depth 200 a unit is a pixel.
-struct Eye : scenes::View
+struct Eye : support::View
 {
     render::Scene Scene;
     explicit Eye(int threads = 1) : View(240, 200, 0, threads) { Look(0, 0, 0, 0, 0); }
     unsigned At(int x, int y)
     {
         RenderFrame(Scene, Camera, Screen, Threads);
-        return scenes::Bytes(Pixel(x, y));
+        return support::Bytes(Pixel(x, y));
     }
     // Whether anything but the black sky is in the frame.
     bool Draws()
@@ -77,13 +77,13 @@ void Add(Scene& scene, Obj object)
 
 TEST(RenderFrame, FillsTheFrameWithItsPaddedRows)
 {
-    scenes::View view(241, 201);
+    support::View view(241, 201);
     Scene scene;
     std::fill(view.Screen.Frame.Bytes.begin(), view.Screen.Frame.Bytes.end(), std::uint8_t{77});
     RenderFrame(scene, view.Camera, view.Screen, view.Threads);
     EXPECT_EQ(view.Screen.Frame.Bytes.size(), 724u * 201u);
-    EXPECT_EQ(scenes::Bytes(view.Pixel(0, 0)), 0u);
-    EXPECT_EQ(scenes::Bytes(view.Pixel(240, 200)), 0u);
+    EXPECT_EQ(support::Bytes(view.Pixel(0, 0)), 0u);
+    EXPECT_EQ(support::Bytes(view.Pixel(240, 200)), 0u);
     EXPECT_EQ(view.Screen.Frame.Bytes.back(), 77); // the padding is nobody's
 }
 
@@ -105,23 +105,23 @@ TEST(RenderFrame, AGroundPassOutOfTimeIsCutOff)
         std::fill(view.Screen.Frame.Bytes.begin(), view.Screen.Frame.Bytes.end(), std::uint8_t{77});
         view.Screen.GroundLimit = 0;
         RenderFrame(view.Scene, view.Camera, view.Screen, view.Threads);
-        EXPECT_EQ(scenes::Bytes(view.Pixel(200, 100)), 0x4D4D4Du);
-        EXPECT_EQ(scenes::Bytes(view.Pixel(12, 12)), Red);
+        EXPECT_EQ(support::Bytes(view.Pixel(200, 100)), 0x4D4D4Du);
+        EXPECT_EQ(support::Bytes(view.Pixel(12, 12)), Red);
         view.Screen.GroundLimit = 600000;
         RenderFrame(view.Scene, view.Camera, view.Screen, view.Threads);
-        EXPECT_EQ(scenes::Bytes(view.Pixel(200, 100)), 0u); // whole again
+        EXPECT_EQ(support::Bytes(view.Pixel(200, 100)), 0u); // whole again
     }
 }
 
 // A pass that is truly too slow: two threads cannot draw twelve million pixels in a millisecond.
 TEST(RenderFrame, ASlowGroundPassLeavesItsLastRowsAsTheyWere)
 {
-    scenes::View view(4000, 3000, 2, 5);
+    support::View view(4000, 3000, 2, 5);
     base::Random random;
     random.Seed(1);
     Scene scene;
-    scene.Sky = scenes::Noise(random, render::SkyWidth, 50);
-    scenes::SetGround(scene, scenes::Noise(random, 500, 500));
+    scene.Sky = support::Noise(random, render::SkyWidth, 50);
+    support::SetGround(scene, support::Noise(random, 500, 500));
     view.Look(250, 40, 250, 0.5f, -1.5f);
     std::fill(view.Screen.Depth.Cells.begin(), view.Screen.Depth.Cells.end(), 1.0f);
     view.Screen.GroundLimit = 1;
@@ -221,7 +221,7 @@ TEST(DrawObjects, TexturesThatAreNotThereDrawNothing)
     {
         Eye view;
         render::Texture& texture = view.Scene.Textures.At(view.Scene.Textures.Add());
-        texture.Pic = scenes::Blank(16, 16);
+        texture.Pic = support::Blank(16, 16);
         std::fill(texture.Pic.Pixels.Bytes.begin(), texture.Pic.Pixels.Bytes.end(), std::uint8_t{200});
         Add(view.Scene, Visible(0, 0, 200, 30));
         render::ObjMesh& mesh = view.Scene.Objects.At(0).Mesh[0];
@@ -345,11 +345,11 @@ namespace
 Scene CrowdedScene(base::Random& random)
 {
     Scene scene;
-    const auto draw = [&](double least, double most) { return static_cast<float>(scenes::Draw(random, least, most)); };
-    scene.Sky = scenes::Noise(random, render::SkyWidth, 60);
-    scenes::SetGround(scene, scenes::Noise(random, 120, 90));
+    const auto draw = [&](double least, double most) { return static_cast<float>(support::Draw(random, least, most)); };
+    scene.Sky = support::Noise(random, render::SkyWidth, 60);
+    support::SetGround(scene, support::Noise(random, 120, 90));
     render::Texture& texture = scene.Textures.At(scene.Textures.Add());
-    texture.Pic = scenes::Noise(random, 30, 20, 0.1);
+    texture.Pic = support::Noise(random, 30, 20, 0.1);
     for (int n = 0; n < 25; ++n)
     {
         const std::int16_t object =
@@ -357,26 +357,26 @@ Scene CrowdedScene(base::Random& random)
         render::SetObjR(scene, object, 5);
         for (int m = 0; m < 2; ++m)
         {
-            const auto rows = static_cast<std::int16_t>(scenes::DrawWhole(random, 1, 4));
-            const auto cols = static_cast<std::int16_t>(scenes::DrawWhole(random, 1, 4));
-            render::EditObjMesh(scene, object, m, rows, cols, n % 3 == m ? -1 : scenes::DrawWhole(random, 1, 1 << 23),
+            const auto rows = static_cast<std::int16_t>(support::DrawWhole(random, 1, 4));
+            const auto cols = static_cast<std::int16_t>(support::DrawWhole(random, 1, 4));
+            render::EditObjMesh(scene, object, m, rows, cols, n % 3 == m ? -1 : support::DrawWhole(random, 1, 1 << 23),
                                 0);
             for (int i = 0; i < rows; ++i)
                 for (int j = 0; j < cols; ++j)
                     render::EditObjMeshPt(scene, object, m, i, j,
-                                          {draw(-4, 4), draw(-1, 4), draw(-4, 4), scenes::DrawWhole(random, -2, 31),
-                                           scenes::DrawWhole(random, -2, 21)});
+                                          {draw(-4, 4), draw(-1, 4), draw(-4, 4), support::DrawWhole(random, -2, 31),
+                                           support::DrawWhole(random, -2, 21)});
         }
         scene.Objects.At(object).Mesh[0].Free = n % 8 == 0;
     }
     scene.WorldMeshes.push_back(Square(20, 1, 20, 30, 0x334455));
     for (int n = 0; n < 10; ++n)
     {
-        render::MakePoly(scene, 3, scenes::DrawWhole(random, 1, 1 << 23), 1);
+        render::MakePoly(scene, 3, support::DrawWhole(random, 1, 1 << 23), 1);
         for (int i = 0; i < 3; ++i)
             render::EditPolyPt(scene, n, i, {draw(0, 120), draw(0, 5), draw(0, 90)});
     }
-    const auto smoke = std::make_shared<const render::Picture>(scenes::Noise(random, 20, 20, 0.3));
+    const auto smoke = std::make_shared<const render::Picture>(support::Noise(random, 20, 20, 0.3));
     for (int n = 0; n < 10; ++n)
         render::MakeSprite3D(scene, {.Visible = 1,
                                      .X = draw(0, 120),
@@ -462,13 +462,13 @@ TEST(RenderFrame, IsThePlainFrameForRandomWorlds)
         const Scene scene = CrowdedScene(random);
         const int* size = sizes[round % 3];
         const int threads[] = {1, 3, 5, 16};
-        scenes::View fast(size[0], size[1], round / 3 % 3, threads[round % 4]), plain(size[0], size[1], round / 3 % 3);
-        for (scenes::View* view : {&fast, &plain})
+        support::View fast(size[0], size[1], round / 3 % 3, threads[round % 4]), plain(size[0], size[1], round / 3 % 3);
+        for (support::View* view : {&fast, &plain})
         {
             base::Random place;
             place.Seed(static_cast<std::uint64_t>(round));
             const auto draw = [&](double least, double most)
-            { return static_cast<float>(scenes::Draw(place, least, most)); };
+            { return static_cast<float>(support::Draw(place, least, most)); };
             view->Look(draw(0, 120), draw(0.5, 12), draw(0, 90), draw(-4, 4), draw(-0.9, 0.3));
         }
         RenderFrame(scene, fast.Camera, fast.Screen, fast.Threads);
@@ -497,8 +497,8 @@ TEST(RenderFrame, NumbersThatAreNoneDoNoHarm)
         Scene scene = CrowdedScene(random);
         const auto spoil = [&](float& field)
         {
-            if (scenes::DrawWhole(random, 0, 3) == 0)
-                field = odd[scenes::DrawWhole(random, 0, 8)];
+            if (support::DrawWhole(random, 0, 3) == 0)
+                field = odd[support::DrawWhole(random, 0, 8)];
         };
         for (Obj& object : scene.Objects.Items)
         {
@@ -509,8 +509,8 @@ TEST(RenderFrame, NumbersThatAreNoneDoNoHarm)
                 {
                     for (float* field : {&point.X, &point.Y, &point.Z})
                         spoil(*field);
-                    point.U = scenes::DrawWhole(random, 0, 1) == 0 ? std::numeric_limits<std::int32_t>::min()
-                                                                   : std::numeric_limits<std::int32_t>::max();
+                    point.U = support::DrawWhole(random, 0, 1) == 0 ? std::numeric_limits<std::int32_t>::min()
+                                                                    : std::numeric_limits<std::int32_t>::max();
                 }
         }
         for (render::Poly& poly : scene.Polys.Items)
@@ -522,7 +522,7 @@ TEST(RenderFrame, NumbersThatAreNoneDoNoHarm)
                 spoil(*field);
         for (float* field : {&scene.LightR, &scene.LightG, &scene.LightB, &scene.Ground.GroundScale})
             spoil(*field);
-        scenes::View view(240, 200, round % 3);
+        support::View view(240, 200, round % 3);
         view.Look(60, 3, 40, 0.5f, -0.2f);
         if (round % 2 == 0)
         {

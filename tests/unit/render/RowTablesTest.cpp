@@ -13,7 +13,7 @@ namespace
 {
 int SkyOffsetAt(float yaw)
 {
-    scenes::View view(240, 200);
+    support::View view(240, 200);
     view.Look(0, 1, 0, yaw, 0);
     UpdateSkyOffset(view.Camera, view.Screen);
     return view.Screen.SkyOffset;
@@ -46,7 +46,7 @@ TEST(SkyOffset, StaysInRangeWhateverTheYaw)
 // the square root of 5 long.
 TEST(RowTables, AnglesAndDistances)
 {
-    scenes::View view(240, 200);
+    support::View view(240, 200);
     view.Look(0, 1, 0, 0, 0);
     UpdateRowTables(view.Camera, view.Screen);
     EXPECT_FLOAT_EQ(view.Screen.RowAngle[0], -0.463647609f);
@@ -58,7 +58,7 @@ TEST(RowTables, AnglesAndDistances)
 
 TEST(RowTables, RowsAtOrAboveTheHorizonKeepTheirOldEntries)
 {
-    scenes::View view(240, 200, 2);
+    support::View view(240, 200, 2);
     view.Look(0, 1, 0, 0, 0);
     view.Screen.RowSlant.assign(200, 7.0f);
     view.Screen.RowDist.assign(200, 8.0f);
@@ -75,7 +75,7 @@ TEST(RowTables, RowsAtOrAboveTheHorizonKeepTheirOldEntries)
 
 TEST(RowTables, ARowAboveTheHorizonIsSkyEvenWithTheCameraFarDown)
 {
-    scenes::View view(240, 200);
+    support::View view(240, 200);
     view.Look(0, 1, 0, 0, -0.45f);
     view.Screen.RowSlant.assign(200, 7.0f);
     UpdateRowTables(view.Camera, view.Screen);
@@ -85,7 +85,7 @@ TEST(RowTables, ARowAboveTheHorizonIsSkyEvenWithTheCameraFarDown)
 
 TEST(RowTables, LinearWeightGrowsToSevenEighths)
 {
-    scenes::View view(240, 200, 1);
+    support::View view(240, 200, 1);
     view.Look(0, 1, 0, 0, 0);
     UpdateRowTables(view.Camera, view.Screen);
     // (1.570796 - 0.463648) x 2.236068 / 200
@@ -98,7 +98,7 @@ TEST(RowTables, LinearWeightGrowsToSevenEighths)
 
 TEST(RowTables, AnisotropicWidthIsTwiceTheStepToTheRowBelow)
 {
-    scenes::View view(240, 200, 2);
+    support::View view(240, 200, 2);
     view.Look(0, 1, 0, 0, 0);
     UpdateRowTables(view.Camera, view.Screen);
     EXPECT_EQ(view.Screen.TapCount[0], 0.0f);
@@ -110,7 +110,7 @@ TEST(RowTables, AnisotropicWidthIsTwiceTheStepToTheRowBelow)
 
 TEST(RowTables, WithoutAFilterWeightsAndCountsStay)
 {
-    scenes::View view(240, 200, 0);
+    support::View view(240, 200, 0);
     view.Screen.BlurWeight.assign(200, 9.0f);
     view.Screen.TapCount.assign(200, 9.0f);
     view.Look(0, 1, 0, 0, 0);
@@ -135,7 +135,7 @@ TEST(RowTables, WeightsAndCountsAreNeverNegativeNorNoNumber)
             for (const float height : odd)
                 for (const float pitch : {0.0f, -1.5707964f, -3.2f, 2.0f, 1e30f, odd[6]})
                 {
-                    scenes::View view(240, 200, filter);
+                    support::View view(240, 200, filter);
                     view.Look(0, height, 0, 0, pitch);
                     view.Camera.Zoom = zoom;
                     UpdateRowTables(view.Camera, view.Screen);

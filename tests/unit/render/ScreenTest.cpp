@@ -7,7 +7,7 @@
 
 TEST(ApplyResolution, DerivesEverythingFromTheSize)
 {
-    const scenes::View view(601, 313, 0, 5);
+    const support::View view(601, 313, 0, 5);
     const render::Screen& screen = view.Screen;
     EXPECT_EQ(screen.ScreenMaxX, 600);
     EXPECT_EQ(screen.ScreenMaxY, 312);
@@ -27,13 +27,13 @@ TEST(ApplyResolution, DerivesEverythingFromTheSize)
 
 TEST(ApplyResolution, TheNarrowSideGivesTheZoom)
 {
-    const scenes::View view(240, 900);
+    const support::View view(240, 900);
     EXPECT_EQ(view.Camera.MinZoom, 120.0f);
 }
 
 TEST(ApplyResolution, ANewSizeReplacesTheOldOne)
 {
-    scenes::View view(240, 200);
+    support::View view(240, 200);
     render::ApplyResolution(view.Messages, view.Screen, view.Camera, 600, 312);
     EXPECT_EQ(view.Screen.Frame.Rows, 312);
     EXPECT_EQ(view.Screen.RowDist.size(), 312u);
@@ -44,7 +44,7 @@ TEST(ApplyResolution, AnImpossibleSizeIsReportedAndDrawsNothing)
 {
     for (const int width : {0, -3, 100000000})
     {
-        scenes::View view(width, 200);
+        support::View view(width, 200);
         EXPECT_EQ(view.Messages.Boxes.size(), 1u);
         EXPECT_EQ(view.Screen.ScreenW, 0);
         render::RenderFrame(render::Scene(), view.Camera, view.Screen, view.Threads);

@@ -29,12 +29,12 @@ Sprite3D MakeSprite(render::Picture picture, float scale, float alpha = 1.0f)
 
 render::Picture OneColour(int width, int height, int value)
 {
-    render::Picture picture = scenes::Blank(width, height);
+    render::Picture picture = support::Blank(width, height);
     std::fill(picture.Pixels.Bytes.begin(), picture.Pixels.Bytes.end(), static_cast<std::uint8_t>(value));
     return picture;
 }
 
-struct Sprites : scenes::View
+struct Sprites : support::View
 {
     Sprites() : View(240, 200) { Look(0, 0, 0, 0, 0); }
     void Draw(const Sprite3D& sprite) { DrawSprite3D(Camera, Screen, sprite); }
@@ -44,7 +44,7 @@ struct Sprites : scenes::View
         int box[4] = {999, -1, 999, -1};
         for (int y = 0; y < 200; ++y)
             for (int x = 0; x < 240; ++x)
-                if (scenes::Bytes(Pixel(x, y)) != 0)
+                if (support::Bytes(Pixel(x, y)) != 0)
                 {
                     box[0] = std::min(box[0], x);
                     box[1] = std::max(box[1], x);
@@ -70,7 +70,7 @@ TEST(DrawSprite3D, IsCentredOnTheProjectedPoint)
 
 TEST(DrawSprite3D, SamplesTheTexelBelowEachPixel)
 {
-    render::Picture picture = scenes::Blank(2, 2);
+    render::Picture picture = support::Blank(2, 2);
     const int values[2][2] = {{1, 2}, {3, 4}};
     for (int v = 0; v < 2; ++v)
         for (int u = 0; u < 2; ++u)
@@ -123,8 +123,8 @@ TEST(DrawSprite3D, BlackTexelsAreTransparent)
     Sprites view;
     std::fill(view.Screen.Frame.Bytes.begin(), view.Screen.Frame.Bytes.end(), std::uint8_t{50});
     view.Draw(MakeSprite(std::move(picture), 1.0f / 128, 0.5f));
-    EXPECT_EQ(scenes::Bytes(view.Pixel(120, 100)), 0x323232u);
-    EXPECT_EQ(scenes::Bytes(view.Pixel(121, 100)), 0x19191Eu); // 25, 25, 29.5 to even
+    EXPECT_EQ(support::Bytes(view.Pixel(120, 100)), 0x323232u);
+    EXPECT_EQ(support::Bytes(view.Pixel(121, 100)), 0x19191Eu); // 25, 25, 29.5 to even
 }
 
 TEST(DrawSprite3D, OpacityBlendsAndRoundsTiesToEven)
@@ -157,19 +157,19 @@ TEST(DrawSprite3D, FastIsPlainForRandomSprites)
         Sprites plain, fast;
         for (std::size_t i = 0; i < plain.Screen.Depth.Cells.size(); ++i)
         {
-            plain.Screen.Depth.Cells[i] = static_cast<float>(scenes::Draw(random, 0, 40));
+            plain.Screen.Depth.Cells[i] = static_cast<float>(support::Draw(random, 0, 40));
             plain.Screen.Frame.Bytes[i] = static_cast<std::uint8_t>(i * 7);
         }
         fast.Screen.Depth.Cells = plain.Screen.Depth.Cells;
         fast.Screen.Frame.Bytes = plain.Screen.Frame.Bytes;
         const std::vector<std::uint8_t> before = plain.Screen.Frame.Bytes;
-        Sprite3D sprite =
-            MakeSprite(scenes::Noise(random, scenes::DrawWhole(random, 1, 70), scenes::DrawWhole(random, 1, 70), 0.2),
-                       static_cast<float>(scenes::Draw(random, 0.001, 0.3)),
-                       round % 4 == 0 ? 1.0f : static_cast<float>(scenes::Draw(random, round % 10 == 0 ? -1 : 0, 1)));
-        sprite.Z = static_cast<float>(scenes::Draw(random, 0.1, 20));
-        sprite.X = static_cast<float>(scenes::Draw(random, -0.8, 0.8)) * sprite.Z;
-        sprite.Y = static_cast<float>(scenes::Draw(random, -0.7, 0.7)) * sprite.Z;
+        Sprite3D sprite = MakeSprite(
+            support::Noise(random, support::DrawWhole(random, 1, 70), support::DrawWhole(random, 1, 70), 0.2),
+            static_cast<float>(support::Draw(random, 0.001, 0.3)),
+            round % 4 == 0 ? 1.0f : static_cast<float>(support::Draw(random, round % 10 == 0 ? -1 : 0, 1)));
+        sprite.Z = static_cast<float>(support::Draw(random, 0.1, 20));
+        sprite.X = static_cast<float>(support::Draw(random, -0.8, 0.8)) * sprite.Z;
+        sprite.Y = static_cast<float>(support::Draw(random, -0.7, 0.7)) * sprite.Z;
         DrawSprite3DPlain(plain.Camera, plain.Screen, sprite);
         fast.Draw(sprite);
         ASSERT_EQ(plain.Screen.Frame.Bytes, fast.Screen.Frame.Bytes) << round;

@@ -22,7 +22,7 @@ ScreenVertex At(std::int32_t x, std::int32_t y, float z = 1, double u = 0, doubl
 }
 
 // A screen of 12 x 8 that reads as rows from the top: '#' drawn, '.' not.
-std::string Rows(const scenes::View& view)
+std::string Rows(const support::View& view)
 {
     std::string text;
     for (int y = 7; y >= 0; --y)
@@ -36,7 +36,7 @@ std::string Rows(const scenes::View& view)
 
 std::string Flat(const ScreenVertex& a, const ScreenVertex& b, const ScreenVertex& c)
 {
-    scenes::View view(12, 8);
+    support::View view(12, 8);
     FillTriFlat(view.Screen, a, b, c, Ink);
     return Rows(view);
 }
@@ -44,7 +44,7 @@ std::string Flat(const ScreenVertex& a, const ScreenVertex& b, const ScreenVerte
 // 16 x 16; texel (u, v) is blue 16 u + v, green 1.
 render::Picture Numbered()
 {
-    render::Picture picture = scenes::Blank(16, 16);
+    render::Picture picture = support::Blank(16, 16);
     for (int v = 0; v < 16; ++v)
         for (int u = 0; u < 16; ++u)
         {
@@ -103,7 +103,7 @@ TEST(FillTri, OneRowDrawsNothing)
 
 TEST(FillTri, ATriangleOfOneColumnDrawsIt)
 {
-    scenes::View view(12, 8);
+    support::View view(12, 8);
     FillTriFlat(view.Screen, At(5, 0, 1), At(5, 4, 5), At(5, 2, 9), Ink);
     for (int y = 0; y <= 4; ++y)
         EXPECT_EQ(view.Depth(5, y), 1.0f + static_cast<float>(y)); // the long edge's values
@@ -126,14 +126,14 @@ TEST(FillTri, IsClampedToTheScreen)
 
 TEST(FillTri, ColourBytesAreBlueGreenRed)
 {
-    scenes::View view(12, 8);
+    support::View view(12, 8);
     FillTriFlat(view.Screen, At(0, 0), At(4, 0), At(0, 4), Ink);
-    EXPECT_EQ(scenes::Bytes(view.Pixel(1, 1)), 0x030201u);
+    EXPECT_EQ(support::Bytes(view.Pixel(1, 1)), 0x030201u);
 }
 
 TEST(FillTri, DepthIsLinearAcrossTheSpanAndAlongTheEdges)
 {
-    scenes::View view(12, 8);
+    support::View view(12, 8);
     FillTriFlat(view.Screen, At(0, 0, 1), At(8, 0, 5), At(0, 4, 3), Ink);
     EXPECT_EQ(view.Depth(0, 0), 1.0f);
     EXPECT_EQ(view.Depth(2, 0), 2.0f);
@@ -145,28 +145,28 @@ TEST(FillTri, DepthIsLinearAcrossTheSpanAndAlongTheEdges)
 // The span runs from -4 to 4: what is cut off still counts for t.
 TEST(FillTri, ClampedSpansKeepTheirDepths)
 {
-    scenes::View view(12, 8);
+    support::View view(12, 8);
     FillTriFlat(view.Screen, At(-4, 0, 1), At(4, 0, 9), At(-4, 4, 1), Ink);
     EXPECT_EQ(view.Depth(0, 0), 5.0f);
 }
 
 TEST(FillTri, TheFirstOfTwoEqualDepthsStays)
 {
-    scenes::View view(12, 8);
+    support::View view(12, 8);
     FillTriFlat(view.Screen, At(0, 0, 2), At(4, 0, 2), At(0, 4, 2), {9, 9, 9});
     FillTriFlat(view.Screen, At(0, 0, 2), At(4, 0, 2), At(0, 4, 2), Ink);
-    EXPECT_EQ(scenes::Bytes(view.Pixel(1, 1)), 0x090909u);
+    EXPECT_EQ(support::Bytes(view.Pixel(1, 1)), 0x090909u);
     FillTriFlat(view.Screen, At(0, 0, std::nextafter(2.0f, 0.0f)), At(4, 0, 1), At(0, 4, 1), Ink);
-    EXPECT_EQ(scenes::Bytes(view.Pixel(1, 1)), 0x030201u);
+    EXPECT_EQ(support::Bytes(view.Pixel(1, 1)), 0x030201u);
     FillTriFlat(view.Screen, At(0, 0, 3), At(4, 0, 3), At(0, 4, 3), {9, 9, 9});
-    EXPECT_EQ(scenes::Bytes(view.Pixel(1, 1)), 0x030201u);
+    EXPECT_EQ(support::Bytes(view.Pixel(1, 1)), 0x030201u);
 }
 
 // Texels are affine on the screen: depth has no part in them. Column 1 of 0 … 4 is a quarter of the way.
 TEST(FillTri, TexelsAreAffineAndNearest)
 {
     const render::Picture picture = Numbered();
-    scenes::View view(12, 8, 2);
+    support::View view(12, 8, 2);
     FillTriTex(view.Screen, At(0, 0, 1, 0, 0), At(4, 0, 100, 8, 0), At(0, 4, 1, 0, 8),
                render::MakeSurface(picture.Pixels, 16, 16));
     EXPECT_EQ(view.Pixel(0, 0)[0], 0);
@@ -180,7 +180,7 @@ TEST(FillTri, TexelsAreAffineAndNearest)
 TEST(FillTri, TexelsOfTheSpanEndsAreRoundedFirst)
 {
     const render::Picture picture = Numbered();
-    scenes::View view(12, 8);
+    support::View view(12, 8);
     FillTriTex(view.Screen, At(0, 0, 1, 2.5, 0), At(8, 0, 1, 3.4, 0), At(0, 4, 1, 2.5, 0),
                render::MakeSurface(picture.Pixels, 16, 16));
     EXPECT_EQ(view.Pixel(4, 0)[0], 16 * 2); // 2.5 between 2 and 3, ties to even; 2.95 otherwise
@@ -191,11 +191,11 @@ TEST(FillTri, ABlackTexelHidesNothing)
 {
     render::Picture picture = Numbered();
     std::fill_n(picture.Pixels.Row(0), 3, std::uint8_t{0}); // texel (0, 0)
-    scenes::View view(12, 8);
+    support::View view(12, 8);
     FillTriFlat(view.Screen, At(0, 0, 5), At(4, 0, 5), At(0, 4, 5), Ink);
     FillTriTex(view.Screen, At(0, 0, 1, 0, 0), At(4, 0, 1, 4, 0), At(0, 4, 1, 0, 4),
                render::MakeSurface(picture.Pixels, 16, 16));
-    EXPECT_EQ(scenes::Bytes(view.Pixel(0, 0)), 0x030201u);
+    EXPECT_EQ(support::Bytes(view.Pixel(0, 0)), 0x030201u);
     EXPECT_EQ(view.Depth(0, 0), 5.0f);
     EXPECT_EQ(view.Pixel(1, 0)[0], 16);
     EXPECT_EQ(view.Depth(1, 0), 1.0f);
@@ -206,7 +206,7 @@ TEST(FillTri, ABlackTexelHidesNothing)
 TEST(FillTri, ATexelOutsideItsTextureDrawsNothing)
 {
     const render::Picture picture = Numbered();
-    scenes::View view(12, 8);
+    support::View view(12, 8);
     FillTriTex(view.Screen, At(0, 0, 1, -2, 1), At(8, 0, 1, 22, 1), At(0, 4, 1, -2, 1),
                render::MakeSurface(picture.Pixels, 16, 16));
     EXPECT_EQ(view.Depth(0, 0), render::FarDepth); // u -2
@@ -219,25 +219,25 @@ TEST(FillTri, FastIsPlainForRandomTriangles)
 {
     base::Random random;
     random.Seed(21);
-    const render::Picture picture = scenes::Noise(random, 40, 30, 0.1);
+    const render::Picture picture = support::Noise(random, 40, 30, 0.1);
     const base::ConstSurface texture = render::MakeSurface(picture.Pixels, 40, 30);
-    scenes::View plain(241, 203), fast(241, 203);
+    support::View plain(241, 203), fast(241, 203);
     const double reach[] = {3, 30, 300, 5e3, 1e6, 2.1e9};
     std::size_t drawn = 0;
     for (int round = 0; round < 6000; ++round)
     {
         if (round % 500 == 0)
-            for (scenes::View* view : {&plain, &fast})
+            for (support::View* view : {&plain, &fast})
                 std::fill(view->Screen.Depth.Cells.begin(), view->Screen.Depth.Cells.end(), render::FarDepth);
         ScreenVertex corner[3];
         const double size = reach[round % 6];
-        const double x = scenes::Draw(random, 0, 241), y = scenes::Draw(random, 0, 203);
+        const double x = support::Draw(random, 0, 241), y = support::Draw(random, 0, 203);
         const double ending = round % 2 == 0 ? 40.0 : 4.0;
         for (ScreenVertex& c : corner)
-            c = At(base::RoundEven(std::clamp(x + scenes::Draw(random, -size, size), -2.1e9, 2.1e9)),
-                   base::RoundEven(std::clamp(y + scenes::Draw(random, -size, size), -2.1e9, 2.1e9)),
-                   static_cast<float>(scenes::Draw(random, 0.01, ending)), scenes::Draw(random, -5, 45),
-                   scenes::Draw(random, -5, 35));
+            c = At(base::RoundEven(std::clamp(x + support::Draw(random, -size, size), -2.1e9, 2.1e9)),
+                   base::RoundEven(std::clamp(y + support::Draw(random, -size, size), -2.1e9, 2.1e9)),
+                   static_cast<float>(support::Draw(random, 0.01, ending)), support::Draw(random, -5, 45),
+                   support::Draw(random, -5, 35));
         if (round % 7 == 0)
             corner[1].Y = corner[0].Y; // flat bottoms and tops
         if (round % 11 == 0)
@@ -266,7 +266,7 @@ TEST(FillTri, FastIsPlainForRandomTriangles)
 // However far the corners, only the screen's rows and columns are walked.
 TEST(FillTri, CornersBillionsOfPixelsAwayCostNoMoreThanTheScreen)
 {
-    scenes::View view(240, 200);
+    support::View view(240, 200);
     constexpr std::int32_t far = std::numeric_limits<std::int32_t>::max();
     const auto start = std::chrono::steady_clock::now();
     for (int i = 0; i < 20; ++i)

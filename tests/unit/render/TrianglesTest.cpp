@@ -16,7 +16,7 @@ namespace
 constexpr base::Rgb Grey{200, 100, 50};
 
 // 240 x 200, zoom 200, centre (120, 100); the eye in the origin, looking along +z.
-struct Origin : scenes::View
+struct Origin : support::View
 {
     render::Scene Scene;
     Origin() : View(240, 200) { Look(0, 0, 0, 0, 0); }
@@ -72,8 +72,8 @@ TEST(FaceShade, StaysBetween088And1)
     {
         Point3 corner[3];
         for (Point3& c : corner)
-            c = {static_cast<float>(scenes::Draw(random, -9, 9)), static_cast<float>(scenes::Draw(random, -9, 9)),
-                 static_cast<float>(scenes::Draw(random, -9, 9))};
+            c = {static_cast<float>(support::Draw(random, -9, 9)), static_cast<float>(support::Draw(random, -9, 9)),
+                 static_cast<float>(support::Draw(random, -9, 9))};
         const double shade = render::FaceShade(corner[0], corner[1], corner[2]);
         ASSERT_GT(shade, 0.86);
         ASSERT_LE(shade, 1.0);
@@ -160,7 +160,7 @@ TEST(NearPlane, CutTexelsAreInterpolatedWithTheCorner)
 {
     base::Random random;
     random.Seed(9);
-    const render::Picture picture = scenes::Noise(random, 16, 16);
+    const render::Picture picture = support::Noise(random, 16, 16);
     const base::ConstSurface texture = render::MakeSurface(picture.Pixels, 16, 16);
     Origin view;
     DrawTriTex(view.Camera, view.Screen,
