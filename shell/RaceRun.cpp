@@ -112,7 +112,8 @@ void RaceRun::GameT_Tick(base::PhaseClock* clock)
     TheGame.Race.GameTime = TheGame.Timers.GameT.Elapsed;
     TheSound.SetEngineSound(); // of the speed that the car has between two steps
     world::Simulation simulation = MakeSimulation();
-    world::GameTick(simulation, *this, clock);
+    simulation.Clock = clock;
+    world::GameTick(simulation, *this);
     SetPicVisible(TheGame.Scene, TheGame.Hud.Repair, TheGame.Run.InBox);
     base::EnterPhase(clock, "camera");
     PlaceCamera();

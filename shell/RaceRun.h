@@ -1,6 +1,7 @@
 // shell/RaceRun.h: the run of a race: started, suspended, paused and resumed; the simulation's tick and the frame's,
 // and the display's part in both. Runs on the window's thread.
 #pragma once
+#include "base/PhaseClock.h"
 #include "platform/Platform.h"
 #include "shell/FormView.h"
 #include "shell/Game.h"

@@ -1,6 +1,7 @@
 // world/Simulation.h: what one step of the simulation reads and writes: the records of the game, lent for the step, and
 // the scratch that keeps a step from allocating.
 #pragma once
+#include "base/PhaseClock.h"
 #include "base/Random.h"
 #include "render/Camera.h"
 #include "render/Scene.h"
@@ -50,9 +51,10 @@ struct Simulation
     const RaceAssets& Assets;
     base::Random& Random; // every draw of the step, in its order
     TickScratch& Scratch;
-    float EffQuality = 1;  // 0 (no particles) to 1: how densely cars smoke
-    bool WebcamOn = false; // whether a hit shakes the webcam picture
-    float& Shake;          // its amplitude, 0 to 4
-    bool& InBox;           // the followed car stands still inside a repair box
+    float EffQuality = 1;              // 0 (no particles) to 1: how densely cars smoke
+    bool WebcamOn = false;             // whether a hit shakes the webcam picture
+    float& Shake;                      // its amplitude, 0 to 4
+    bool& InBox;                       // the followed car stands still inside a repair box
+    base::PhaseClock* Clock = nullptr; // is given the time of the step's phases; null: nobody measures
 };
 }

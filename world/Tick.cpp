@@ -35,19 +35,19 @@ void DecayShake(float& shake, const Player* user)
         shake = 0.6f;
 }
 
-void Step(Simulation& sim, FinishSink& finish, void (*collide)(Simulation&), base::PhaseClock* clock)
+void Step(Simulation& sim, FinishSink& finish, void (*collide)(Simulation&))
 {
-    base::EnterPhase(clock, "places");
+    base::EnterPhase(sim.Clock, "places");
     ComputePlaces(sim);
     if (sim.Race.RaceOver != base::False)
         FloatTrophy(sim);
-    base::EnterPhase(clock, "race");
+    base::EnterPhase(sim.Clock, "race");
     RaceStep(sim, finish);
-    base::EnterPhase(clock, "collisions");
+    base::EnterPhase(sim.Clock, "collisions");
     collide(sim);
-    base::EnterPhase(clock, "particles");
+    base::EnterPhase(sim.Clock, "particles");
     DamageSmoke(sim);
-    base::EnterPhase(clock, "drivers");
+    base::EnterPhase(sim.Clock, "drivers");
     if (sim.Race.GameTime >= ReleaseTime)
     {
         ComputerDrive(sim);
@@ -55,17 +55,17 @@ void Step(Simulation& sim, FinishSink& finish, void (*collide)(Simulation&), bas
     }
     if (sim.WebcamOn)
         DecayShake(sim.Shake, FindPlayer(sim.Race, sim.Race.UserPlayer));
-    base::LeavePhase(clock);
+    base::LeavePhase(sim.Clock);
 }
 }
 
-void GameTick(Simulation& sim, FinishSink& finish, base::PhaseClock* clock)
+void GameTick(Simulation& sim, FinishSink& finish)
 {
-    Step(sim, finish, Collide, clock);
+    Step(sim, finish, Collide);
 }
 
 void GameTickPlain(Simulation& sim, FinishSink& finish)
 {
-    Step(sim, finish, CollidePlain, nullptr);
+    Step(sim, finish, CollidePlain);
 }
 }

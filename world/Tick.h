@@ -1,6 +1,5 @@
 // world/Tick.h: one step of the simulation, 40 a second. The one place where its order is written.
 #pragma once
-#include "base/PhaseClock.h"
 #include "world/RaceLogic.h"
 #include "world/Simulation.h"
 
@@ -19,9 +18,9 @@ inline constexpr std::int32_t ReleaseTime = 3000;
 //   7. with the webcam on, its shake fades.
 // Whoever wants to hear the speed that a car has between two steps, as the engine's sound does, asks before the step;
 // whoever shows where the cars are, as the camera does, asks behind it.
-// clock, where there is one, is given the time of the phases "places" (with the trophy), "race", "collisions",
-// "particles" and "drivers" (with the shake).
-void GameTick(Simulation& sim, FinishSink& finish, base::PhaseClock* clock = nullptr);
+// The phases that are measured: "places" (with the trophy), "race", "collisions", "particles", "drivers" (with the
+// shake).
+void GameTick(Simulation& sim, FinishSink& finish);
 // The same with the plain collisions: the judge of the fast ones over whole steps.
 void GameTickPlain(Simulation& sim, FinishSink& finish);
 }
