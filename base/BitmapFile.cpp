@@ -1,5 +1,7 @@
 #include "base/BitmapFile.h"
 
+#include "base/Pixels.h"
+
 #include <algorithm>
 
 namespace base
@@ -17,8 +19,7 @@ void Append(std::string& file, std::uint32_t value, int bytes)
 
 std::string BitmapFile(std::int32_t width, std::int32_t height, std::span<const std::uint8_t> bits)
 {
-    const std::size_t size =
-        ((static_cast<std::size_t>(width) * 3 + 3) & ~std::size_t{3}) * static_cast<std::size_t>(height);
+    const std::size_t size = static_cast<std::size_t>(PaddedRow(width)) * static_cast<std::size_t>(height);
     std::string file;
     file.reserve(HeaderBytes + size);
     file += "BM";

@@ -158,7 +158,7 @@ void FindTaps(const GroundView& view, const Band& band)
         const double dv = static_cast<float>(view.CosYaw * base::Cos(a));
         ColumnTaps& taps = view.Taps[x];
         taps.HasTies = !(du >= -1.0 && du <= 1.0 && dv >= -1.0 && dv <= 1.0);
-        for (std::int32_t k = 1; k <= MostTaps && taps.HasTies == 0; ++k)
+        for (std::int32_t k = 1; k <= MostTaps && !taps.HasTies; ++k)
         {
             const std::int32_t u = base::RoundEven(k * du), v = base::RoundEven(k * dv);
             taps.Offset[k - 1] = static_cast<std::int32_t>(v * view.Sharp.RowBytes) + u * base::PixelBytes;
@@ -188,7 +188,7 @@ void FillTent(const GroundView& view, const RowSpan& span, const Tent& tent)
              [&](std::int32_t u, std::int32_t v, std::int32_t x, std::uint8_t* pixel)
              {
                  const ColumnTaps& taps = view.Taps[x];
-                 if (taps.HasTies != 0)
+                 if (taps.HasTies)
                      return GroundPixelPlain(view, x, span.Y, pixel);
                  const std::uint8_t* centre = view.Sharp.At(u, v);
                  const std::uint32_t middle = Load3Of4(centre);

@@ -115,7 +115,7 @@ void DrawPolys(const Scene& scene, const Camera& camera, Screen& screen)
 void DrawGround(const Scene& scene, const Camera& camera, Screen& screen, GroundThreads& threads)
 {
     const GroundView view = MakeGroundView(scene, camera, screen);
-    if (screen.SingleThread != 0)
+    if (screen.SingleThread)
     {
         std::atomic<bool> never{false};
         StopCheck check(never);

@@ -29,7 +29,7 @@ inline constexpr std::int32_t MostTaps = 14; // on each side
 struct ColumnTaps
 {
     std::int32_t Offset[MostTaps] = {}; // bytes from the texel to its k-th neighbour along the ray, k from 1
-    std::int32_t HasTies = 0;           // not 0: a step ends between two texels, and the offsets do not hold
+    bool HasTies = false;               // a step ends between two texels, and the offsets do not hold
 };
 
 struct Screen
@@ -40,7 +40,7 @@ struct Screen
     float NearZ = 0.01f, FarZ = 400.0f;   // world units of depth: nearer is cut off, lines and sprites end at FarZ
     std::int16_t TxtFilter = Anisotropic; // a Filter; any other number draws as Nearest
     std::int16_t ThreadCount = 1;         // bands of the next resolution: 2 x processors + 1
-    std::int16_t SingleThread = 0;        // development switch; not 0: only the first band is drawn
+    bool SingleThread = false;            // development switch: only the first band is drawn
     std::int32_t SkyOffset = 0;           // column of the panorama at the frame's left border, 0 to 819
     PicHeader Header;                     // of the frame
     PicArray2D Frame;                     // ScreenH rows of ScreenW pixels, padded

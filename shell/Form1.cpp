@@ -70,7 +70,7 @@ void Form1::Load()
     base::MessageSink& messages = *TheWindow;
     const base::Files& files = ThePlatform.DataFiles();
     SetProcessorDefaults(TheGame, ThePlatform.ProcessorCount());
-    if (TheGame.Screen.SingleThread != 0)
+    if (TheGame.Screen.SingleThread)
         ThePanels.VideoOptions.TypeFrameRate(SingleThreadFps);
     if (TheGame.Random.Script.empty())
         TheGame.Random.Seed(ThePlatform.ClockSeed());

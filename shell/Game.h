@@ -74,8 +74,8 @@ struct Hud
 struct RunState
 {
     bool Ended = false;                             // the program is to end; nothing reacts any more
-    std::int32_t AudioReady = 0;                    // -1 once the audio initialisation has finished; guards closing
-    std::int32_t OldWndProc = 0;                    // not 0 while the wave device notifies of finished buffers
+    base::Flag AudioReady = base::False;            // set once the audio initialisation has finished; guards closing
+    bool OldWndProc = false;                        // finished wave buffers come back as events
     std::string LastCommand;                        // the console's recall
     std::int32_t Fps = 0;                           // frames a second, as last measured
     std::uint32_t FpsLastTime = 0, FpsNextTime = 0; // clock of the last measurement and of the next

@@ -35,10 +35,10 @@ void Sound::LoadAudio()
     const double last = static_cast<double>(Soundtrack.TrackList.size() - 1);
     Soundtrack.TrackIndex = base::ToInt16(TheGame.Random.Next() * last);
     Run.AudioReady = base::True;
-    if (TheGame.Screen.SingleThread != 0)
+    if (TheGame.Screen.SingleThread)
         return;
-    Run.OldWndProc = WaveOut->Notify(true) ? 1 : 0;
-    if (Run.OldWndProc == 0)
+    Run.OldWndProc = WaveOut->Notify(true);
+    if (!Run.OldWndProc)
         Messages.ShowMessage(base::Icon::Critical, "Errore", "Errore durante il subclassing della finestra!");
 }
 
@@ -49,7 +49,7 @@ void Sound::CloseAudio(bool& cancel)
         cancel = true;
         return;
     }
-    if (Run.OldWndProc != 0)
+    if (Run.OldWndProc)
         WaveOut->Notify(false);
     SetMediaCommand("close");
 }

@@ -54,14 +54,14 @@ void LoadWorld(Game& game, const base::Files& files, base::MessageSink& messages
     assets.BrokenGlassTexture = render::LoadTexture(scene, messages, files, "data\\textures\\glass_b.bmp");
     assets.ArrowObj = world::LoadObject(scene, messages, files, "data\\models\\gps.3dm").Current;
     assets.CupObj = world::LoadObject(scene, messages, files, "data\\models\\cup.3dm").Current;
-    world::LoadMap(scene, game.Race, messages, files, "data\\maps\\map_01\\map.loader", game.Screen.SingleThread == 0);
+    world::LoadMap(scene, game.Race, messages, files, "data\\maps\\map_01\\map.loader", !game.Screen.SingleThread);
 }
 }
 
 void SetProcessorDefaults(Game& game, int processors)
 {
     render::Screen& screen = game.Screen;
-    if (screen.SingleThread != 0)
+    if (screen.SingleThread)
     {
         screen.ThreadCount = 1;
         screen.TxtFilter = render::Filter::Linear;

@@ -1,6 +1,7 @@
 // tests/support/Panel.h: a panel of 300 x 200 with one control of each kind, hands that use it, and what its owner was
 // told. The controls stand apart from each other and from the edges.
 #pragma once
+#include "platform/Keys.h"
 #include "shell/forms/Boxes.h"
 #include "shell/forms/Interaction.h"
 #include "shell/forms/PaintForm.h"
@@ -14,10 +15,14 @@ namespace support
 {
 struct Panel : forms::FormOwner, forms::PicturePainter
 {
-    static constexpr std::int16_t Backspace = 8, Tab = 9, Enter = 13, Shift = 16, Ctrl = 17, Alt = 18, Esc = 27,
-                                  Space = 32, End = 35, Home = 36, Left = 37, Up = 38, Right = 39, Down = 40,
-                                  Insert = 45, Delete = 46, F4 = 115;
-    static constexpr std::uint8_t CtrlA = 1, CtrlC = 3, CtrlV = 22, CtrlX = 24;
+    static constexpr std::int16_t Backspace = platform::KeyBackspace, Tab = platform::KeyTab,
+                                  Enter = platform::KeyEnter, Shift = platform::KeyShift, Ctrl = platform::KeyCtrl,
+                                  Alt = platform::KeyAlt, Esc = platform::KeyEsc, Space = platform::KeySpace,
+                                  End = platform::KeyEnd, Home = platform::KeyHome, Left = platform::KeyLeft,
+                                  Up = platform::KeyUp, Right = platform::KeyRight, Down = platform::KeyDown,
+                                  Insert = platform::KeyInsert, Delete = platform::KeyDelete, F4 = platform::KeyF4;
+    static constexpr std::uint8_t CtrlA = platform::CtrlA, CtrlC = platform::CtrlC, CtrlV = platform::CtrlV,
+                                  CtrlX = platform::CtrlX;
 
     forms::Form Form;
     forms::Interaction Input{Form, *this};

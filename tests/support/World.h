@@ -81,7 +81,7 @@ struct World
         Scene.Ground.Width = width;
         Scene.Ground.Height = height;
         Scene.Ground.GroundScale = scale;
-        Scene.Ground.Sharp.Pixels.Allocate(height, (width * 3 + 3) & ~3);
+        Scene.Ground.Sharp.Pixels.Allocate(height, base::PaddedRow(width));
         for (std::uint8_t& byte : Scene.Ground.Sharp.Pixels.Bytes)
             byte = value;
     }

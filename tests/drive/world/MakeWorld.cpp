@@ -1,6 +1,7 @@
 // make_drive_world SOURCE DESTINATION: the small world of the driver scripts: the text files of the source folder
 // beside a handful of tiny pictures and an engine. No script depends on the art of the game.
 #include "base/BitmapFile.h"
+#include "base/Pixels.h"
 
 #include <cstdint>
 #include <filesystem>
@@ -26,7 +27,7 @@ struct Pictures
     // colour(x, row) for every pixel, row 0 at the bottom.
     void Write(const fs::path& name, int width, int height, const std::function<Texel(int, int)>& colour) const
     {
-        const std::size_t rowBytes = (static_cast<std::size_t>(width) * 3 + 3) & ~std::size_t{3};
+        const std::size_t rowBytes = static_cast<std::size_t>(base::PaddedRow(width));
         std::vector<std::uint8_t> bits(rowBytes * static_cast<std::size_t>(height));
         for (int row = 0; row < height; ++row)
             for (int x = 0; x < width; ++x)

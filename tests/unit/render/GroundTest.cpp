@@ -340,8 +340,8 @@ TEST(Ground, StepsThatEndBetweenTexelsFollowThePlainRule)
             render::GroundPlain(render::MakeGroundView(scene, view.Camera, view.Screen), all);
             const std::vector<std::uint8_t> plain = view.Screen.Frame.Bytes;
             render::DrawGround(scene, view.Camera, view.Screen, view.Threads);
-            EXPECT_NE(view.Screen.Taps[120].HasTies, 0);
-            EXPECT_EQ(view.Screen.Taps[3].HasTies, 0);
+            EXPECT_TRUE(view.Screen.Taps[120].HasTies);
+            EXPECT_FALSE(view.Screen.Taps[3].HasTies);
             EXPECT_EQ(plain, view.Screen.Frame.Bytes);
         }
 }
@@ -384,7 +384,7 @@ TEST(Ground, SingleThreadWalksTheFirstBandOnly)
 {
     const render::Scene scene = CountedScene(200, 200);
     support::View view(240, 200, 1, 3);
-    view.Screen.SingleThread = -1;
+    view.Screen.SingleThread = true;
     view.Screen.GroundLimit = 0; // no limit applies
     view.Look(50, 1, 60, 0, 0);
     std::fill(view.Screen.Frame.Bytes.begin(), view.Screen.Frame.Bytes.end(), std::uint8_t{99});

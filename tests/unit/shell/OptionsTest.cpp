@@ -302,7 +302,7 @@ TEST(OneProcessor, ItsQualityIsHighAndTheFirstClickSwitchesItOff)
 TEST(OneThread, ItsDefaultsAreModest)
 {
     support::LoadedForm one;
-    one.Game().Screen.SingleThread = base::True;
+    one.Game().Screen.SingleThread = true;
     one.Load();
     EXPECT_EQ(one.Control("txtFreq").Text, "6");
     EXPECT_EQ(one.Game().Settings.TargetFps, 6);

@@ -80,7 +80,7 @@ TEST_F(Sound, AFailedReplacementGoesOnWithoutRefills)
     StartRace();
     EXPECT_THAT(Texts(), ElementsAre("Errore: Errore durante il subclassing della finestra!"));
     EXPECT_EQ(Machine.Boxes[0].Icon, base::Icon::Critical);
-    EXPECT_EQ(Game().Run.OldWndProc, 0);
+    EXPECT_FALSE(Game().Run.OldWndProc);
     EXPECT_EQ(Game().Run.AudioReady, -1);
     ASSERT_EQ(Machine.Wave->Queued.size(), 4u);
     Machine.Wave->FinishBuffer();
@@ -89,7 +89,7 @@ TEST_F(Sound, AFailedReplacementGoesOnWithoutRefills)
 
 TEST_F(Sound, ASingleThreadReplacesNothing)
 {
-    Game().Screen.SingleThread = 1;
+    Game().Screen.SingleThread = true;
     StartRace();
     EXPECT_THAT(Texts(), IsEmpty());
     Machine.Wave->FinishBuffer();

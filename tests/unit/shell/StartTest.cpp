@@ -81,7 +81,7 @@ TEST_F(Start, OneProcessorGivesALighterOne)
 
 TEST_F(Start, TheDevelopmentSwitchAsksForLittle)
 {
-    Game().Screen.SingleThread = 1;
+    Game().Screen.SingleThread = true;
     Load();
     EXPECT_EQ(Game().Screen.ThreadCount, 1);
     EXPECT_EQ(Game().Screen.TxtFilter, 1);

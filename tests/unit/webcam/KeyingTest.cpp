@@ -19,7 +19,7 @@ struct Shot
     {
         Header.biWidth = width;
         Header.biHeight = height;
-        Pixels.Allocate(height, (width * 3 + 3) & ~3);
+        Pixels.Allocate(height, base::PaddedRow(width));
         for (std::int32_t y = 0; y < height; ++y)
             std::fill_n(Pixels.Row(y), 3 * width, value);
     }
