@@ -12,14 +12,14 @@ struct GroundTexel
     std::int32_t U = 0, V = 0; // base::OutOfRange where it is no texel of any picture
 };
 
-double Slope(const GroundView& view, std::int32_t x)
+double SlopeOf(const GroundView& view, std::int32_t x)
 {
     return (x - view.CenterX) / view.Zoom;
 }
 
 GroundTexel TexelPlain(const GroundView& view, std::int32_t x, std::int32_t y)
 {
-    const float lateral = static_cast<float>(Slope(view, x) * view.RowSlant[y]);
+    const float lateral = static_cast<float>(SlopeOf(view, x) * view.RowSlant[y]);
     const double worldX = view.CamX - view.SinYaw * view.RowDist[y] + view.CosYaw * lateral;
     const double worldZ = view.CosYaw * view.RowDist[y] + view.CamZ + view.SinYaw * lateral;
     return {base::RoundEven(worldX * view.GroundScale), base::RoundEven(worldZ * view.GroundScale)};
@@ -42,7 +42,7 @@ const std::uint8_t* Tap(const GroundView& view, const GroundTexel& at, double k,
 
 void AnisoPlain(const GroundView& view, const GroundTexel& at, std::int32_t x, float taps, std::uint8_t* pixel)
 {
-    const double a = base::Atan(Slope(view, x)) + view.Yaw;
+    const double a = base::Atan(SlopeOf(view, x)) + view.Yaw;
     const float du = static_cast<float>(view.SinYaw * base::Sin(a));
     const float dv = static_cast<float>(view.CosYaw * base::Cos(a));
     const std::uint8_t* centre = view.Sharp.At(at.U, at.V);

@@ -100,29 +100,29 @@ template <TargetList Map::*List> void LoadList(MapReader& reader)
     LoadTargets(reader.Messages, reader.Files, reader.In.Path(reader.Folder), reader.Race.Map.*List);
 }
 
-struct Command
+struct MapCommand
 {
     std::string_view Keyword;
     void (*Run)(MapReader&);
 };
 
-constexpr std::array Commands = {
-    Command{"LoadMapTexture", LoadMapTexture},
-    Command{"Load3DM", Load3DM},
-    Command{"LoadObject", LoadPlacedObject},
-    Command{"LoadPlayer", LoadPlayer},
-    Command{"LoadCheckpoints", LoadList<&Map::Checkpoints>},
-    Command{"LoadACheckpoints", LoadList<&Map::ACheckpoints>},
-    Command{"LoadBox", LoadList<&Map::Boxes>},
-    Command{"LoadGrass", LoadList<&Map::Grass>},
-    Command{"LoadWater", LoadList<&Map::Water>},
-    Command{"DuplicateLastObj", DuplicateLastObj},
+constexpr std::array MapCommands = {
+    MapCommand{"LoadMapTexture", LoadMapTexture},
+    MapCommand{"Load3DM", Load3DM},
+    MapCommand{"LoadObject", LoadPlacedObject},
+    MapCommand{"LoadPlayer", LoadPlayer},
+    MapCommand{"LoadCheckpoints", LoadList<&Map::Checkpoints>},
+    MapCommand{"LoadACheckpoints", LoadList<&Map::ACheckpoints>},
+    MapCommand{"LoadBox", LoadList<&Map::Boxes>},
+    MapCommand{"LoadGrass", LoadList<&Map::Grass>},
+    MapCommand{"LoadWater", LoadList<&Map::Water>},
+    MapCommand{"DuplicateLastObj", DuplicateLastObj},
 };
 
 void RunCommands(MapReader& reader)
 {
     while (!reader.In.AtEnd())
-        FindCommand(Commands, reader.In.Text()).Run(reader);
+        FindCommand(MapCommands, reader.In.Text()).Run(reader);
 }
 }
 

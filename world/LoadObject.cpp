@@ -109,16 +109,22 @@ void EditPolyPt(ModelReader& reader)
     render::EditPolyPt(reader.Scene, reader.Result.Current, point, at);
 }
 
-struct Command
+struct ModelCommand
 {
     std::string_view Keyword;
     void (*Run)(ModelReader&);
 };
 
-constexpr std::array Commands = {
-    Command{"MakeTexture", MakeTexture},     Command{"MakeObj", MakeObj},           Command{"SetObjR", SetObjR},
-    Command{"EditObjSfere", EditObjSfere},   Command{"AddSfereLink", AddSfereLink}, Command{"EditObjMesh", EditObjMesh},
-    Command{"EditObjMeshPt", EditObjMeshPt}, Command{"MakePoly", MakePoly},         Command{"EditPolyPt", EditPolyPt},
+constexpr std::array ModelCommands = {
+    ModelCommand{"MakeTexture", MakeTexture},
+    ModelCommand{"MakeObj", MakeObj},
+    ModelCommand{"SetObjR", SetObjR},
+    ModelCommand{"EditObjSfere", EditObjSfere},
+    ModelCommand{"AddSfereLink", AddSfereLink},
+    ModelCommand{"EditObjMesh", EditObjMesh},
+    ModelCommand{"EditObjMeshPt", EditObjMeshPt},
+    ModelCommand{"MakePoly", MakePoly},
+    ModelCommand{"EditPolyPt", EditPolyPt},
 };
 
 void RunCommands(ModelReader& reader)
@@ -126,7 +132,7 @@ void RunCommands(ModelReader& reader)
     if (reader.In.Text() != Header)
         throw RuntimeError(base::ErrorFormat, "Formato file non supportato");
     while (!reader.In.AtEnd())
-        FindCommand(Commands, reader.In.Text()).Run(reader);
+        FindCommand(ModelCommands, reader.In.Text()).Run(reader);
 }
 
 void KeepUndamaged(render::Scene& scene, const std::vector<std::int16_t>& objects)

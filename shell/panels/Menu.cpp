@@ -24,7 +24,7 @@ constexpr std::array<EntryDesign, 4> Designs = {{
     {"cCREDIT", "cCREDIT2", "Crediti"},
     {"cEXIT", "cEXIT2", "Esci"},
 }};
-constexpr std::size_t Start = 0, Options = 1, Credits = 2, Exit = 3;
+constexpr std::size_t StartEntry = 0, OptionsEntry = 1, CreditsEntry = 2, ExitEntry = 3;
 
 std::int32_t Part(std::int32_t whole, double share)
 {
@@ -40,10 +40,10 @@ Menu::Menu(Board& board, const world::Race& race, std::int32_t& blink, Verbs ver
         Entries[i].Twin = Label(Designs[i].TwinName, Designs[i].Caption, forms::Look::Shadow);
     for (std::size_t i = 0; i < Entries.size(); ++i)
         Entries[i].Label = Label(Designs[i].Name, Designs[i].Caption, forms::Look::Entry);
-    On.Does.OnClick(Entries[Start].Label, [this] { cSTART_Click(); });
-    On.Does.OnClick(Entries[Options].Label, [this] { cOPZIONI_Click(); });
-    On.Does.OnClick(Entries[Credits].Label, [this] { cCREDIT_Click(); });
-    On.Does.OnClick(Entries[Exit].Label, [this] { cEXIT_Click(); });
+    On.Does.OnClick(Entries[StartEntry].Label, [this] { cSTART_Click(); });
+    On.Does.OnClick(Entries[OptionsEntry].Label, [this] { cOPZIONI_Click(); });
+    On.Does.OnClick(Entries[CreditsEntry].Label, [this] { cCREDIT_Click(); });
+    On.Does.OnClick(Entries[ExitEntry].Label, [this] { cEXIT_Click(); });
     On.Does.OnPaint(imgLogoBG, [this](forms::Canvas& canvas, const Rect& place) { PaintShade(canvas, place); });
     On.Does.OnPaint(imgLogo, [this](forms::Canvas& canvas, const Rect& place) { PaintLogo(canvas, place); });
 }
@@ -111,7 +111,7 @@ void Menu::cSTART_Click()
     base::Trapped(On.Messages, "cSTART_Click",
                   [this]
                   {
-                      At(Entries[Start].Label).Caption = "Continua";
+                      At(Entries[StartEntry].Label).Caption = "Continua";
                       SetMenuVisible(false);
                       Ask.StartProcess();
                   });

@@ -20,7 +20,7 @@ constexpr std::uint64_t Odd1 = 0x9FB21C651E98DF25u, Odd2 = 0xD6E8FEB86659FD93u;
 // The value is scattered over all bits before it meets the sum, so that no single change of one value looks like a
 // single change of the next. Each step can be undone: a run that differs in one place never comes back to the same sum
 // by itself.
-std::uint64_t Step(std::uint64_t sum, std::uint64_t value)
+std::uint64_t Fold(std::uint64_t sum, std::uint64_t value)
 {
     return std::rotl(sum ^ (std::rotl(value * Odd1, 31) * Odd2), 27) * 5 + 0x52DCE729u;
 }
@@ -106,7 +106,7 @@ void AddTexels(Digest& digest, const render::Ground& ground)
 
 void Digest::Word(std::uint64_t value)
 {
-    Sum = Step(Sum, value);
+    Sum = Fold(Sum, value);
 }
 
 void Digest::Bytes(std::span<const std::uint8_t> bytes)
@@ -117,7 +117,7 @@ void Digest::Bytes(std::span<const std::uint8_t> bytes)
     std::size_t left = bytes.size();
     for (; left >= 32; left -= 32, at += 32)
         for (std::size_t i = 0; i < 4; ++i)
-            lanes[i] = Step(lanes[i], Load(at + 8 * i));
+            lanes[i] = Fold(lanes[i], Load(at + 8 * i));
     for (const std::uint64_t lane : lanes)
         Word(lane);
     for (; left > 0; --left, ++at)
