@@ -4,7 +4,9 @@
 #include "render/Primitives.h"
 #include "world/Tick.h"
 
+#include <algorithm>
 #include <initializer_list>
+#include <limits>
 #include <memory>
 #include <vector>
 
@@ -41,7 +43,8 @@ struct World
     {
         NoFinish finish;
         world::Simulation sim = Sim();
-        Race.GameTime += 25;
+        // Stops as the timer does that the game takes it from.
+        Race.GameTime = std::min(Race.GameTime, std::numeric_limits<std::int32_t>::max() - 25) + 25;
         step(sim, finish);
     }
 
