@@ -15,6 +15,9 @@ if(CMAKE_SIZEOF_VOID_P EQUAL 4 AND CMAKE_SYSTEM_PROCESSOR MATCHES "86|AMD64")
     # The default of 32-bit compilers keeps extra bits in x87 registers.
     target_compile_options(velkar_flags INTERFACE -msse2 -mfpmath=sse)
 endif()
+if(WIN32)
+    target_compile_definitions(velkar_flags INTERFACE NOMINMAX WIN32_LEAN_AND_MEAN _WIN32_WINNT=0x0601)
+endif()
 if(VELKAR_SANITIZE)
     target_compile_options(velkar_flags INTERFACE
         -fsanitize=${VELKAR_SANITIZE} -fno-sanitize-recover=all -fno-omit-frame-pointer)
@@ -37,6 +40,22 @@ if(VELKAR_PRECOMPILE)
         <cstdint> <cstring> <filesystem> <functional> <limits> <memory> <mutex> <optional> <span> <string> <string_view>
         <thread> <tuple> <utility> <vector>)
 endif()
+
+# Several sources of a target at a time, where that is quicker.
+function(velkar_unity batch)
+    foreach(target IN LISTS ARGN)
+        set_target_properties(${target} PROPERTIES UNITY_BUILD ON UNITY_BUILD_BATCH_SIZE ${batch})
+        # Sources that are included are taken for headers, in which names of one file alone would be a mistake.
+        target_compile_options(${target} PRIVATE $<$<COMPILE_LANG_AND_ID:CXX,GNU>:-Wno-subobject-linkage>)
+    endforeach()
+endfunction()
+# For the game's own libraries, where the build is not about them.
+function(velkar_game_unity)
+    if(VELKAR_UNITY_GAME)
+        velkar_unity(8 ${ARGN})
+    endif()
+endfunction()
+
 function(velkar_precompiled)
     if(VELKAR_PRECOMPILE)
         foreach(target IN LISTS ARGN)

@@ -15,7 +15,6 @@ namespace
 constexpr int WallWidth = 96, WallHeight = 96; // texels of one side
 constexpr int RoofWidth = 128, RoofHeight = 64;
 constexpr int SheetWidth = 4 * WallWidth, SheetHeight = WallHeight + RoofHeight;
-constexpr double TexelsAUnit = 9;
 
 struct House
 {

@@ -201,12 +201,12 @@ void PutCorners(Builder& put)
 
 void PutVillage(Builder& put, const Plan& plan)
 {
-    struct House
+    struct Place
     {
         const char* Name;
         double X, Z, Angle;
     };
-    const House houses[] = {
+    const Place houses[] = {
         {"tower", 543, 232, 0},      {"church", 553, 243, 0},      {"house_a", 512, 248, 0.08},
         {"house_b", 511, 233, 0.0},  {"house_c", 521, 263, -0.05}, {"house_d", 541, 265, 0.05},
         {"house_b", 533, 206, 0.1},  {"house_a", 551, 212, -0.06}, {"house_c", 522, 190, 0.15},
@@ -219,7 +219,7 @@ void PutVillage(Builder& put, const Plan& plan)
         {"house_a", 312, 590, 0.05}, {"villa", 470, 40, -0.1},     {"house_b", 82, 372, 0.05},
         {"house_d", 90, 384, 0.0},   {"house_a", 86, 356, 0.1},
     };
-    for (const House& house : houses)
+    for (const Place& house : houses)
     {
         put.Put(house.Name, house.X, house.Z, house.Angle);
         const Kind& kind = KindOf(house.Name);

@@ -1,4 +1,4 @@
-#include "tools/drive/Walk.h"
+#include "tools/drive/Values.h"
 
 #include <algorithm>
 
@@ -31,13 +31,21 @@ void AppendControls(std::string& json, ControlsView& controls)
         AppendText(json, names[i]);
         json += ": ";
         if (forms::Control* alone = controls.Form.Find(names[i]))
-            AppendValue(json, *alone);
+            Append(json, ValueOf(*alone));
         else
         {
             ControlArray array = ControlArrayOf(controls.Form, names[i]);
-            AppendValue(json, array);
+            Append(json, ValueOf(array));
         }
     }
     json += '}';
+}
+
+Outcome EnterControls(ControlsView& controls, const Step& step, const Visit& visit)
+{
+    if (forms::Control* alone = controls.Form.Find(step.Name))
+        return visit(ValueOf(*alone));
+    ControlArray array = ControlArrayOf(controls.Form, step.Name);
+    return array.empty() ? Outcome::NoSuchPath : visit(ValueOf(array));
 }
 }

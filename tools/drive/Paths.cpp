@@ -59,24 +59,23 @@ auto RootsOf(shell::Form1& form, headless::Machine& machine)
                   Named{"clipboard", machine.Clipboard});
 }
 
-template <class Use>
-Outcome FollowFromRoots(shell::Form1& form, headless::Machine& machine, Steps steps, const Use& use)
+Outcome FollowFromRoots(shell::Form1& form, headless::Machine& machine, Steps steps, const Visit& use)
 {
     shell::Game& game = form.State();
     if (steps[0].Name == "console" && game.Scene.Labels.Has(game.Hud.Console))
     {
         auto console = ConsoleOf(game.Scene.Labels.At(game.Hud.Console), game.Run.LastCommand);
-        return Follow(console, true, steps.subspan(1), use);
+        return Follow(ValueOf(console), steps.subspan(1), use);
     }
     auto roots = RootsOf(form, machine);
-    return Follow(roots, true, steps, use);
+    return Follow(ValueOf(roots), steps, use);
 }
 }
 
 Outcome Peek(shell::Form1& form, headless::Machine& machine, std::string_view path, std::string& json)
 {
     const std::optional<std::vector<Step>> steps = ParsePath(path);
-    return steps ? FollowFromRoots(form, machine, *steps, Reader{json}) : Outcome::NoSuchPath;
+    return steps ? FollowFromRoots(form, machine, *steps, Reader(json)) : Outcome::NoSuchPath;
 }
 
 Outcome Poke(shell::Form1& form, headless::Machine& machine, std::string_view path, std::string_view text)
@@ -89,7 +88,7 @@ Outcome Poke(shell::Form1& form, headless::Machine& machine, std::string_view pa
         for (shell::TickTimer* timer :
              {&form.State().Timers.GameT, &form.State().Timers.RenderT, &form.State().Timers.CaptureT})
             timer->Advance(machine.Clock);
-    const Outcome outcome = FollowFromRoots(form, machine, *steps, Writer{text});
+    const Outcome outcome = FollowFromRoots(form, machine, *steps, Writer(text));
     const bool turned = path == "camera.CamYaw" || path == "camera.CamPitch";
     if (outcome == Outcome::Done && turned)
         render::UpdateCameraTrig(form.State().Camera);

@@ -51,4 +51,45 @@ std::optional<std::vector<Step>> ParsePath(std::string_view path)
         return std::nullopt;
     return steps;
 }
+
+void Append(std::string& json, const Value& value)
+{
+    if (value.At == nullptr)
+        json += "null";
+    else
+        value.Of->Append(json, value.At);
+}
+
+Outcome Follow(const Value& value, Steps rest, const Visit& use)
+{
+    if (value.At == nullptr)
+        return Outcome::NoSuchPath;
+    if (rest.empty())
+        return use(value);
+    const auto onward = [&](Value next)
+    {
+        next.Writable = next.Writable && value.Writable;
+        return Follow(next, rest.subspan(1), use);
+    };
+    return value.Of->Enter(value.At, rest[0], onward);
+}
+
+Visit Reader(std::string& json)
+{
+    return [&json](const Value& value)
+    {
+        Append(json, value);
+        return Outcome::Done;
+    };
+}
+
+Visit Writer(std::string_view text)
+{
+    return [text](const Value& value)
+    {
+        return value.Of->Set == nullptr ? Outcome::NotOneValue
+               : !value.Writable        ? Outcome::ReadOnly
+                                        : value.Of->Set(value.At, text);
+    };
+}
 }

@@ -41,7 +41,7 @@ int ParseRoot(const std::string& name, std::size_t& at)
 
 using Keys = std::vector<int>;
 
-bool Has(const Chord& chord, int key)
+bool HasKey(const Chord& chord, int key)
 {
     const int tone = Wrap(key - chord.Root, 12);
     return std::find(chord.Tones.begin(), chord.Tones.end(), tone) != chord.Tones.end();
@@ -84,7 +84,7 @@ template <class Visit> void Choose(const Chord& chord, const Range& range, Keys&
     }
     const int first = keys.empty() ? range.Low : keys.back() + 1;
     for (int key = first; key <= std::min(range.High, first + 13); ++key)
-        if (Has(chord, key))
+        if (HasKey(chord, key))
         {
             keys.push_back(key);
             Choose(chord, range, keys, visit);

@@ -17,10 +17,10 @@ namespace
 // Reads "a#4" from the beginning of a word and moves on.
 int ParseKey(const std::string& word, std::size_t& at)
 {
-    static constexpr int Keys[] = {9, 11, 0, 2, 4, 5, 7}; // a to g
+    static constexpr int Naturals[] = {9, 11, 0, 2, 4, 5, 7}; // a to g
     if (word[at] < 'a' || word[at] > 'g')
         Wrong("no note", word);
-    int key = Keys[word[at++] - 'a'];
+    int key = Naturals[word[at++] - 'a'];
     if (at < word.size() && (word[at] == '#' || word[at] == 'b'))
         key += word[at++] == '#' ? 1 : -1;
     if (at >= word.size() || word[at] < '0' || word[at] > '9')

@@ -31,7 +31,7 @@ int AtOrAbove(int pitch, int lowest)
     return lowest + Wrap(pitch - lowest, 12);
 }
 
-bool Has(const Chord& chord, int tone)
+bool HasTone(const Chord& chord, int tone)
 {
     return std::find(chord.Tones.begin(), chord.Tones.end(), tone) != chord.Tones.end();
 }
@@ -39,7 +39,7 @@ bool Has(const Chord& chord, int tone)
 // The chord's own colour of a degree, or what stands for it in a chord without that degree.
 int Degree(const Chord& chord, int major, int minor, int otherwise)
 {
-    return Has(chord, major) ? major : Has(chord, minor) ? minor : otherwise;
+    return HasTone(chord, major) ? major : HasTone(chord, minor) ? minor : otherwise;
 }
 
 // The key that a sign of a bass pattern asks for over a chord before the next one; nothing for an unknown sign.
@@ -265,7 +265,7 @@ Line Score::Below(const Line& melody, int distance) const
     for (Note& note : line.Notes)
     {
         const Chord& chord = Chords[ChordAt(note.Start)].Sounding;
-        const auto has = [&](int trial) { return Has(chord, Wrap(trial - chord.Root, 12)); };
+        const auto has = [&](int trial) { return HasTone(chord, Wrap(trial - chord.Root, 12)); };
         // Not a semitone above another tone of the chord: that would rub.
         int key = base::RoundEven(note.Key) - distance;
         const int lowest = key - 9;

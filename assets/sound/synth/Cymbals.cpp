@@ -1,6 +1,7 @@
 #include "assets/sound/synth/Cymbals.h"
 
 #include "assets/common/Numbers.h"
+#include "assets/sound/synth/Envelope.h"
 #include "assets/sound/synth/Filter.h"
 #include "assets/sound/synth/Wave.h"
 
@@ -10,11 +11,6 @@ namespace assets::sound
 {
 namespace
 {
-double Fall(double t, double ring)
-{
-    return std::exp(-4 * t / ring);
-}
-
 // Six square waves that share no multiple: the ring of struck metal.
 class Metals
 {

@@ -1,6 +1,7 @@
 #include "assets/sound/synth/Drums.h"
 
 #include "assets/common/Numbers.h"
+#include "assets/sound/synth/Envelope.h"
 #include "assets/sound/synth/Filter.h"
 #include "assets/sound/synth/Wave.h"
 
@@ -8,11 +9,6 @@ namespace assets::sound
 {
 namespace
 {
-double Fall(double t, double ring)
-{
-    return std::exp(-4 * t / ring);
-}
-
 // Calls sound(t) for every frame of `seconds` and adds what it returns in the middle.
 template <class Body> void Strike(const Tone& tone, Stereo& out, double seconds, Body&& sound)
 {

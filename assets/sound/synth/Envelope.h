@@ -28,4 +28,10 @@ private:
     }
     static double Tail(double part) { return part >= 1 ? 0 : std::exp(-5 * part) * (1 - part); }
 };
+
+// What is struck and left to ring: to within 2 per cent of silence after `ring`.
+inline double Fall(double t, double ring)
+{
+    return std::exp(-4 * t / ring);
+}
 }

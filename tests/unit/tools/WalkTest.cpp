@@ -30,7 +30,7 @@ struct Walk : testing::Test
         object.Mesh[0].Pts.At(1, 2).U = 77;
     }
 
-    template <class Use> Outcome Follow(std::string_view path, const Use& use)
+    Outcome Follow(std::string_view path, const drive::Visit& use)
     {
         const auto steps = drive::ParsePath(path);
         if (!steps)
@@ -39,15 +39,15 @@ struct Walk : testing::Test
                             drive::Named{"keys", drive::Merged(drive::Named{"Bindings", Bindings})},
                             drive::Named{"particle", Particle}, drive::Named{"clipboard", Clipboard},
                             drive::Named{"Count", Count, false});
-        return drive::Follow(roots, true, *steps, use);
+        return drive::Follow(drive::ValueOf(roots), *steps, use);
     }
 
     std::string Peek(std::string_view path)
     {
         std::string json;
-        return Follow(path, drive::Reader{json}) == Outcome::Done ? json : "no such path";
+        return Follow(path, drive::Reader(json)) == Outcome::Done ? json : "no such path";
     }
-    Outcome Poke(std::string_view path, std::string_view text) { return Follow(path, drive::Writer{text}); }
+    Outcome Poke(std::string_view path, std::string_view text) { return Follow(path, drive::Writer(text)); }
 };
 }
 
