@@ -18,7 +18,7 @@ void AddCar(render::Scene& scene, base::Random& random, float x, float z)
     render::SetObjR(scene, car, 3.0f);
     for (std::int16_t m = 0; m < 12; ++m)
     {
-        render::EditObjMesh(scene, car, m, 9, 5, m % 2 == 0 ? 0x4080C0 : -1, 0);
+        render::EditObjMesh(scene, car, m, {9, 5}, m % 2 == 0 ? 0x4080C0 : -1, 0);
         for (int i = 0; i < 9; ++i)
             for (int j = 0; j < 5; ++j)
                 render::EditObjMeshPt(scene, car, m, i, j,

@@ -48,7 +48,7 @@ void AddCar(World& world, int number)
         CarSpheres, 1, 1);
     render::SetObjR(world.Scene, object, 2.6f);
     for (std::int16_t mesh = 0; mesh < 21; ++mesh)
-        render::EditObjMesh(world.Scene, object, mesh, 4, 4, 255, 0);
+        render::EditObjMesh(world.Scene, object, mesh, {4, 4}, 255, 0);
     for (std::int16_t sphere = 0; sphere < CarSpheres; ++sphere)
     {
         render::EditObjSfere(

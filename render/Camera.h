@@ -71,13 +71,14 @@ struct Rotation
 };
 // Radians.
 Rotation MakeRotation(float angleA, float angleB);
-// Object-local point to world; (ox, oy, oz) is the object's place. Stores floats.
-inline Point3 RotatePoint(const Rotation& rotation, float ox, float oy, float oz, float px, float py, float pz)
+// A point of an object at that place, local to world. Stores floats.
+inline Point3 RotatePoint(const Rotation& rotation, const Point3& place, const Point3& point)
 {
     const double cosA = rotation.CosA, sinA = rotation.SinA, cosB = rotation.CosB, sinB = rotation.SinB;
-    const double t = sinA * px + cosA * pz;
-    return {static_cast<float>(cosA * px - sinA * pz + ox), static_cast<float>(cosB * py - t * sinB + oy),
-            static_cast<float>(t * cosB + sinB * py + oz)};
+    const double t = sinA * point.X + cosA * point.Z;
+    return {static_cast<float>(cosA * point.X - sinA * point.Z + place.X),
+            static_cast<float>(cosB * point.Y - t * sinB + place.Y),
+            static_cast<float>(t * cosB + sinB * point.Y + place.Z)};
 }
 
 // A place on the frame, off it as well: whole pixels, row 0 at the bottom.

@@ -148,18 +148,18 @@ void AddSfereLink(Scene& scene, std::int32_t object, std::int32_t sphere, const 
     scene.Bytes += sizeof(SfereLink);
 }
 
-void EditObjMesh(Scene& scene, std::int32_t object, std::int32_t mesh, std::int16_t rows, std::int16_t cols,
-                 std::int32_t colour, std::int16_t texture)
+void EditObjMesh(Scene& scene, std::int32_t object, std::int32_t mesh, GridSize size, std::int32_t colour,
+                 std::int16_t texture)
 {
     ObjMesh& edited = MeshAt(scene, object, mesh);
-    if (rows < 1 || cols < 1)
+    if (size.Rows < 1 || size.Cols < 1)
         throw base::RuntimeError(base::ErrorIndex);
-    const auto points = static_cast<std::size_t>(rows) * static_cast<std::size_t>(cols);
+    const auto points = static_cast<std::size_t>(size.Rows) * static_cast<std::size_t>(size.Cols);
     const std::uint64_t bytes = points * sizeof(MeshPt);
     CheckRoom(scene, bytes);
     scene.Bytes -= BytesOf(edited);
     edited.Undamaged = PointGrid{};
-    edited.Pts = PointGrid{rows, cols, std::vector<MeshPt>(points)};
+    edited.Pts = PointGrid{size.Rows, size.Cols, std::vector<MeshPt>(points)};
     scene.Bytes += bytes;
     edited.Colour = colour;
     if (colour < 0)

@@ -26,10 +26,13 @@ void SetObjR(Scene& scene, std::int32_t object, float radius);
 void EditObjSfere(Scene& scene, std::int32_t object, std::int32_t sphere, const Point3& centre, float radius);
 // RuntimeError 6 beyond 32767 links. The linked point may not exist.
 void AddSfereLink(Scene& scene, std::int32_t object, std::int32_t sphere, const SfereLink& link);
-// Rows x cols points, all 0; below 1 is RuntimeError 9. colour >= 0 is split into the flat colour; below, texture is
-// the slot.
-void EditObjMesh(Scene& scene, std::int32_t object, std::int32_t mesh, std::int16_t rows, std::int16_t cols,
-                 std::int32_t colour, std::int16_t texture);
+struct GridSize
+{
+    std::int16_t Rows, Cols;
+};
+// All points 0; below 1 x 1 is RuntimeError 9. colour >= 0 is split into the flat colour; below, texture is the slot.
+void EditObjMesh(Scene& scene, std::int32_t object, std::int32_t mesh, GridSize size, std::int32_t colour,
+                 std::int16_t texture);
 // i over Rows, j over Cols.
 void EditObjMeshPt(Scene& scene, std::int32_t object, std::int32_t mesh, std::int32_t i, std::int32_t j,
                    const MeshPt& point);

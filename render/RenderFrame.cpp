@@ -71,8 +71,8 @@ void DrawMesh(const Scene& scene, const Camera& camera, Screen& screen, const Ob
     const auto transform = [&](const MeshPt& point)
     {
         return TransformVertex(camera, screen,
-                               RotatePoint(rotation, object.X, object.Y, object.Z, point.X, point.Y, point.Z), point.U,
-                               point.V);
+                               RotatePoint(rotation, {object.X, object.Y, object.Z}, {point.X, point.Y, point.Z}),
+                               point.U, point.V);
     };
     if (mesh.Colour < 0)
         ForEachTriangle(mesh.Pts, transform,

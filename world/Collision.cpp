@@ -50,7 +50,7 @@ bool AreNear(const render::Obj& a, const render::Obj& b)
 
 render::Point3 Centre(const render::Obj& object, const render::Rotation& rotation, const render::Sfera& sphere)
 {
-    return render::RotatePoint(rotation, object.X, object.Y, object.Z, sphere.X, sphere.Y, sphere.Z);
+    return render::RotatePoint(rotation, {object.X, object.Y, object.Z}, {sphere.X, sphere.Y, sphere.Z});
 }
 
 // The object's rotation. Most objects never turn: their sines and cosines are found once.

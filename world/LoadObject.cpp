@@ -81,7 +81,7 @@ void EditObjMesh(ModelReader& reader)
     std::int16_t texture = 0;
     if (shade < 0)
         texture = render::FindTexture(reader.Scene, reader.Messages, reader.Files, reader.In.Path(reader.Folder), true);
-    render::EditObjMesh(reader.Scene, reader.Result.Current, mesh, rows, cols, shade, texture);
+    render::EditObjMesh(reader.Scene, reader.Result.Current, mesh, {rows, cols}, shade, texture);
 }
 
 void EditObjMeshPt(ModelReader& reader)

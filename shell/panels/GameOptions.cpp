@@ -29,7 +29,7 @@ void GameOptions::cGameOptOK_Click()
     base::Trapped(On.Messages, "cGameOptOK_Click", [this] { TakeLaps(); });
 }
 
-void GameOptions::TakeLaps()
+bool GameOptions::TakeLaps()
 {
     constexpr double least = 1, most = 99;
     const std::optional<double> laps = ReadTyped(At(txtLap).Text);
@@ -39,5 +39,6 @@ void GameOptions::TakeLaps()
         return Refuse(txtLap, "Il numero di giri deve essere compreso tra 1 e 99");
     Race.Laps = base::ToInt16(*laps);
     Hide();
+    return true;
 }
 }

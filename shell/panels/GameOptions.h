@@ -15,7 +15,7 @@ public:
     void cGameOptOK_Click(); // 1 to 99 laps; the panel stays where the text is refused
 
 private:
-    void TakeLaps();
+    bool TakeLaps();
 
     world::Race& Race;
     std::int16_t lblGameOpt, lblLap, txtLap, cGameOptOK;

@@ -63,9 +63,10 @@ std::int16_t Panel::Picture(const char* name)
     return Add(Kind::Picture, name, "");
 }
 
-void Panel::Refuse(std::int16_t box, const char* why)
+bool Panel::Refuse(std::int16_t box, const char* why)
 {
     On.Messages.ShowMessage(base::Icon::Exclamation, base::DefaultTitle, why);
     On.Input.FocusOn(At(box));
+    return false;
 }
 }

@@ -57,8 +57,8 @@ protected:
 
     forms::Control& At(std::int16_t control) { return On.Form.Controls[static_cast<std::size_t>(control)]; }
     const forms::Control& At(std::int16_t control) const { return const_cast<Panel*>(this)->At(control); }
-    // Says in a message why the text of a box is refused; the text waits to be typed over.
-    void Refuse(std::int16_t box, const char* why);
+    // Says in a message why the text of a box is refused; the text waits to be typed over. Always false: not taken.
+    bool Refuse(std::int16_t box, const char* why);
 
     Board& On;
     std::int16_t Frame = -1; // what controls are added to; -1 the form

@@ -105,17 +105,11 @@ void VideoOptions::TakeAll()
 
 bool VideoOptions::TakeFrameRate()
 {
-    const char* wrong = nullptr;
     const std::optional<double> rate = ReadTyped(At(txtFreq).Text);
     if (!rate)
-        wrong = "La frequenza di aggiornamento deve essere un numero";
-    else if (!IsWithin(*rate, LeastFps, MostFps))
-        wrong = "La frequenza di aggiornamento deve essere compresa tra 5 e 30 fps";
-    if (wrong != nullptr)
-    {
-        Refuse(txtFreq, wrong);
-        return false;
-    }
+        return Refuse(txtFreq, "La frequenza di aggiornamento deve essere un numero");
+    if (!IsWithin(*rate, LeastFps, MostFps))
+        return Refuse(txtFreq, "La frequenza di aggiornamento deve essere compresa tra 5 e 30 fps");
     Settings.TargetFps = base::ToInt16(*rate);
     RenderT.interval = 1000 / Settings.TargetFps;
     return true;
@@ -125,26 +119,15 @@ bool VideoOptions::TakeResolution()
 {
     const std::string_view text = At(txtRes).Text;
     const std::size_t mark = text.find('x');
-    const char* wrong = nullptr;
-    std::optional<double> width, height;
-    if (mark != std::string_view::npos)
-    {
-        width = ReadTyped(text.substr(0, mark));
-        height = ReadTyped(text.substr(mark + 1));
-    }
     if (mark == std::string_view::npos)
-        wrong = "La risoluzione deve essere nel formato WxH";
-    else if (!width || !height)
-        wrong = "I termini della risoluzione devono essere numeri";
-    else if (!IsWithin(*width, LeastWidth, MostWidth))
-        wrong = "La risoluzione orizzontale deve essere compresa tra 240 e 1200";
-    else if (!IsWithin(*height, LeastHeight, MostHeight))
-        wrong = "La risoluzione verticale deve essere compresa tra 200 e 900";
-    if (wrong != nullptr)
-    {
-        Refuse(txtRes, wrong);
-        return false;
-    }
+        return Refuse(txtRes, "La risoluzione deve essere nel formato WxH");
+    const std::optional<double> width = ReadTyped(text.substr(0, mark)), height = ReadTyped(text.substr(mark + 1));
+    if (!width || !height)
+        return Refuse(txtRes, "I termini della risoluzione devono essere numeri");
+    if (!IsWithin(*width, LeastWidth, MostWidth))
+        return Refuse(txtRes, "La risoluzione orizzontale deve essere compresa tra 240 e 1200");
+    if (!IsWithin(*height, LeastHeight, MostHeight))
+        return Refuse(txtRes, "La risoluzione verticale deve essere compresa tra 200 e 900");
     Ask.ApplyResolution(base::ToInt32(*width), base::ToInt32(*height));
     return true;
 }

@@ -28,7 +28,7 @@ struct FuzzDesk final : support::Desk
         {
             TheWorld.AddCar(x, 4);
             const std::int16_t body = render::MakeObj(TheWorld.Scene, {x, 0, 4, 0, 0}, 1, 0, 1, 1);
-            render::EditObjMesh(TheWorld.Scene, body, 0, 2, 2, 255, 0);
+            render::EditObjMesh(TheWorld.Scene, body, 0, {2, 2}, 255, 0);
             for (int i = 0; i < 2; ++i)
                 for (int j = 0; j < 2; ++j)
                     render::EditObjMeshPt(TheWorld.Scene, body, 0, i, j,

@@ -25,7 +25,7 @@ TEST(Allocation, NoneInAFrameWithTextSpritesAndParticles)
     const auto smoke = std::make_shared<const render::Picture>(support::Noise(random, 20, 20, 0.3));
     const std::int16_t object = render::MakeObj(scene, {100, 0, 110, 1, 0}, 1, 0, 1, 1);
     render::SetObjR(scene, object, 9);
-    render::EditObjMesh(scene, object, 0, 5, 5, 0x445566, 0);
+    render::EditObjMesh(scene, object, 0, {5, 5}, 0x445566, 0);
     for (int i = 0; i < 5; ++i)
         for (int j = 0; j < 5; ++j)
             render::EditObjMeshPt(scene, object, 0, i, j, {static_cast<float>(i), static_cast<float>(j), 1, 0, 0});

@@ -94,10 +94,11 @@ TEST(WorldToCamera, ResultsAreSinglesAlsoWhereTheyAreUsedAtOnce)
 TEST(RotatePoint, HeadingTurnsLocalZAndPitchComesAfter)
 {
     const float h = 0.7f;
-    ExpectNear(RotatePoint(render::MakeRotation(h, 0), 10, 20, 30, 0, 0, 1), 10 - std::sin(h), 20, 30 + std::cos(h));
-    ExpectNear(RotatePoint(render::MakeRotation(QuarterTurn, 0), 0, 0, 0, 1, 0, 0), 0, 0, 1);
-    ExpectNear(RotatePoint(render::MakeRotation(0, QuarterTurn), 0, 0, 0, 0, 1, 0), 0, 0, 1);
-    ExpectNear(RotatePoint(render::MakeRotation(0, QuarterTurn), 0, 0, 0, 0, 0, 1), 0, -1, 0);
+    ExpectNear(RotatePoint(render::MakeRotation(h, 0), {10, 20, 30}, {0, 0, 1}), 10 - std::sin(h), 20,
+               30 + std::cos(h));
+    ExpectNear(RotatePoint(render::MakeRotation(QuarterTurn, 0), {0, 0, 0}, {1, 0, 0}), 0, 0, 1);
+    ExpectNear(RotatePoint(render::MakeRotation(0, QuarterTurn), {0, 0, 0}, {0, 1, 0}), 0, 0, 1);
+    ExpectNear(RotatePoint(render::MakeRotation(0, QuarterTurn), {0, 0, 0}, {0, 0, 1}), 0, -1, 0);
 }
 
 TEST(Project, RoundsTiesToEven)

@@ -123,7 +123,7 @@ TEST(EditObjMesh, SplitsColoursAndKeepsTextureSlots)
 {
     Scene scene;
     Object(scene, 2);
-    EditObjMesh(scene, 0, 0, 3, 2, 0x123456, 9);
+    EditObjMesh(scene, 0, 0, {3, 2}, 0x123456, 9);
     const render::ObjMesh& flat = scene.Objects.At(0).Mesh[0];
     EXPECT_EQ(flat.Pts.Rows, 3);
     EXPECT_EQ(flat.Pts.Cols, 2);
@@ -132,7 +132,7 @@ TEST(EditObjMesh, SplitsColoursAndKeepsTextureSlots)
     EXPECT_EQ(flat.Col.G, 0x34);
     EXPECT_EQ(flat.Col.B, 0x12);
     EXPECT_EQ(flat.TexIndex, 0);
-    EditObjMesh(scene, 0, 1, 2, 2, -1, 9);
+    EditObjMesh(scene, 0, 1, {2, 2}, -1, 9);
     EXPECT_EQ(scene.Objects.At(0).Mesh[1].Colour, -1);
     EXPECT_EQ(scene.Objects.At(0).Mesh[1].TexIndex, 9);
 }
@@ -141,7 +141,7 @@ TEST(EditObjMeshPt, IRunsOverRowsAndJOverColumns)
 {
     Scene scene;
     Object(scene);
-    EditObjMesh(scene, 0, 0, 3, 2, 0, 0);
+    EditObjMesh(scene, 0, 0, {3, 2}, 0, 0);
     EditObjMeshPt(scene, 0, 0, 2, 1, {1, 2, 3, 4, 5});
     const render::MeshPt& point = scene.Objects.At(0).Mesh[0].Pts.At(2, 1);
     EXPECT_EQ(point.X, 1.0f);
@@ -157,9 +157,9 @@ TEST(EditObjMesh, GridsBelowOneByOneAreIndexErrorsAndLeaveTheMesh)
 {
     Scene scene;
     Object(scene);
-    EditObjMesh(scene, 0, 0, 3, 2, 7, 0);
-    EXPECT_EQ(ErrorOf([&] { EditObjMesh(scene, 0, 0, 0, 2, 1, 0); }), 9);
-    EXPECT_EQ(ErrorOf([&] { EditObjMesh(scene, 0, 0, 2, -1, 1, 0); }), 9);
+    EditObjMesh(scene, 0, 0, {3, 2}, 7, 0);
+    EXPECT_EQ(ErrorOf([&] { EditObjMesh(scene, 0, 0, {0, 2}, 1, 0); }), 9);
+    EXPECT_EQ(ErrorOf([&] { EditObjMesh(scene, 0, 0, {2, -1}, 1, 0); }), 9);
     EXPECT_EQ(scene.Objects.At(0).Mesh[0].Pts.Rows, 3);
     EXPECT_EQ(scene.Objects.At(0).Mesh[0].Colour, 7);
 }
@@ -204,7 +204,7 @@ TEST(Primitives, IndicesThatDoNotExistAreError9)
         EXPECT_EQ(ErrorOf([&] { DuplicateObj(scene, index, {0, 0, 0, 0, 0}, 1); }), 9);
         EXPECT_EQ(ErrorOf([&] { EditObjSfere(scene, 0, index, {0, 0, 0}, 0); }), 9);
         EXPECT_EQ(ErrorOf([&] { AddSfereLink(scene, 0, index, {0, 0, 0}); }), 9);
-        EXPECT_EQ(ErrorOf([&] { EditObjMesh(scene, 0, index, 2, 2, 0, 0); }), 9);
+        EXPECT_EQ(ErrorOf([&] { EditObjMesh(scene, 0, index, {2, 2}, 0, 0); }), 9);
         EXPECT_EQ(ErrorOf([&] { EditPolyPt(scene, index, 0, {0, 0, 0}); }), 9);
         EXPECT_EQ(ErrorOf([&] { KillSprite3D(scene, index); }), 9);
         EXPECT_EQ(ErrorOf([&] { MovePic2D(scene, index, 0, 0); }), 9);
@@ -221,7 +221,7 @@ TEST(DuplicateObj, CopiesMeshesAndSpheresAtAnotherPlace)
     Scene scene;
     Object(scene);
     SetObjR(scene, 0, 7);
-    EditObjMesh(scene, 0, 0, 2, 2, 5, 0);
+    EditObjMesh(scene, 0, 0, {2, 2}, 5, 0);
     EditObjMeshPt(scene, 0, 0, 1, 1, {1, 2, 3, 4, 5});
     KeepUndamaged(scene, 0);
     AddSfereLink(scene, 0, 0, {1, 2, 3});
@@ -248,8 +248,8 @@ TEST(Limits, OneListOfMoreThan64MegabytesIsError7)
     Scene scene;
     Object(scene);
     // 20 bytes a point: 1832 x 1832 is just above 64 MB.
-    EXPECT_EQ(ErrorOf([&] { EditObjMesh(scene, 0, 0, 1832, 1832, 0, 0); }), 7);
-    EXPECT_EQ(ErrorOf([&] { EditObjMesh(scene, 0, 0, 32767, 32767, 0, 0); }), 7);
+    EXPECT_EQ(ErrorOf([&] { EditObjMesh(scene, 0, 0, {1832, 1832}, 0, 0); }), 7);
+    EXPECT_EQ(ErrorOf([&] { EditObjMesh(scene, 0, 0, {32767, 32767}, 0, 0); }), 7);
     EXPECT_EQ(scene.Objects.At(0).Mesh[0].Pts.Rows, 0);
     EXPECT_EQ(ErrorOf([&] { MakePoly(scene, 2147483647, 0, 1); }), 7);
     EXPECT_TRUE(scene.Polys.Items.empty());
@@ -265,7 +265,7 @@ TEST(Limits, TheSceneEndsAt512Megabytes)
     EXPECT_EQ(ErrorOf([&] { Object(scene, 1, 0); }), 0);
     scene.Bytes = render::MostBytes;
     EXPECT_EQ(ErrorOf([&] { DuplicateObj(scene, 0, {0, 0, 0, 0, 0}, 1); }), 7);
-    EXPECT_EQ(ErrorOf([&] { EditObjMesh(scene, 0, 0, 2, 2, 0, 0); }), 7);
+    EXPECT_EQ(ErrorOf([&] { EditObjMesh(scene, 0, 0, {2, 2}, 0, 0); }), 7);
     EXPECT_EQ(scene.Objects.Count, 1);
 }
 
@@ -274,7 +274,7 @@ TEST(Limits, WhatIsGivenBackCountsNoMore)
     Scene scene;
     Object(scene, 3, 2);
     for (int i = 0; i < 5; ++i)
-        EditObjMesh(scene, 0, 1, 100, 100, 0, 0); // replaced, not added
+        EditObjMesh(scene, 0, 1, {100, 100}, 0, 0); // replaced, not added
     KeepUndamaged(scene, 0);
     AddSfereLink(scene, 0, 1, {0, 0, 0});
     EXPECT_EQ(scene.Bytes, 3 * sizeof(render::ObjMesh) + 2 * sizeof(render::Sfera) +

@@ -359,8 +359,8 @@ Scene CrowdedScene(base::Random& random)
         {
             const auto rows = static_cast<std::int16_t>(support::DrawWhole(random, 1, 4));
             const auto cols = static_cast<std::int16_t>(support::DrawWhole(random, 1, 4));
-            render::EditObjMesh(scene, object, m, rows, cols, n % 3 == m ? -1 : support::DrawWhole(random, 1, 1 << 23),
-                                0);
+            render::EditObjMesh(scene, object, m, {rows, cols},
+                                n % 3 == m ? -1 : support::DrawWhole(random, 1, 1 << 23), 0);
             for (int i = 0; i < rows; ++i)
                 for (int j = 0; j < cols; ++j)
                     render::EditObjMeshPt(scene, object, m, i, j,
@@ -411,8 +411,8 @@ void DrawPlain(const Scene& scene, const render::Camera& camera, render::Screen&
             const auto corner = [&](int i, int j)
             {
                 const render::MeshPt& p = mesh.Pts.At(i, j);
-                return TransformVertex(camera, screen,
-                                       RotatePoint(rotation, object.X, object.Y, object.Z, p.X, p.Y, p.Z), p.U, p.V);
+                return TransformVertex(
+                    camera, screen, RotatePoint(rotation, {object.X, object.Y, object.Z}, {p.X, p.Y, p.Z}), p.U, p.V);
             };
             const auto triangle = [&](const render::Vertex& p, const render::Vertex& q, const render::Vertex& s)
             {

@@ -14,7 +14,7 @@ void Fill(shell::Game& game)
 {
     render::Scene& scene = game.Scene;
     render::MakeObj(scene, {1, 2, 3, 0, 0}, 1, 1, 1, 10);
-    render::EditObjMesh(scene, 0, 0, 2, 2, 255, 0);
+    render::EditObjMesh(scene, 0, 0, {2, 2}, 255, 0);
     render::AddSfereLink(scene, 0, 0, {0, 1, 1});
     render::MakeSprite3D(scene, {.Visible = 1, .X = 0, .Y = 0, .Z = 0, .Scale = 1, .Alpha = 1, .Pixels = nullptr});
     scene.Particles.resize(1);

@@ -48,7 +48,7 @@ void AddObject(support::World& world, base::Random& random, const Recipe& recipe
     }
     if (!car)
         return;
-    render::EditObjMesh(world.Scene, object, 0, 8, 1, 0, 0);
+    render::EditObjMesh(world.Scene, object, 0, {8, 1}, 0, 0);
     for (int point = 0; point < 8; ++point)
         render::EditObjMeshPt(world.Scene, object, 0, point, 0, {1, 2, 3, 0, 0});
     render::KeepUndamaged(world.Scene, object);

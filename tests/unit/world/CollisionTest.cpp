@@ -24,7 +24,7 @@ struct Collision : testing::TestWithParam<void (*)(world::Simulation&)>
         body.Mesh.resize(static_cast<std::size_t>(meshes));
         for (std::int16_t mesh = 0; mesh < meshes; ++mesh)
         {
-            render::EditObjMesh(World.Scene, object, mesh, 2, 2, 255, 0);
+            render::EditObjMesh(World.Scene, object, mesh, {2, 2}, 255, 0);
             for (int i = 0; i < 4; ++i)
                 render::EditObjMeshPt(World.Scene, object, mesh, i / 2, i % 2, {10, 20, 40, 0, 0});
         }
@@ -324,7 +324,7 @@ TEST_P(Collision, AGridMadeAnewAfterTheModelHasNoUndamagedPoints)
     World.AddCar(1.5f, 0);
     AddMesh(0, 1);
     render::AddSfereLink(World.Scene, 0, 0, {0, 3, 3});
-    render::EditObjMesh(World.Scene, 0, 0, 4, 4, 255, 0);
+    render::EditObjMesh(World.Scene, 0, 0, {4, 4}, 255, 0);
     Collide();
     EXPECT_EQ(World.Object(0).X, -0.5f);
     EXPECT_EQ(World.Object(0).Mesh[0].Pts.At(3, 3).X, 0.0f);
