@@ -24,8 +24,9 @@ constexpr int CellHeight = 30;
 constexpr double Radius = 1.5;                            // of a stroke three pixels wide
 constexpr double SlantRadius = 1.25;                      // slants cross the sampled rows askew and come out wider
 constexpr double CornerRadius = 3.4, CornerStroke = 1.23; // thinner there, or the corner would fill up
-constexpr double Unit = 16.0 / 70, WideUnit = 10.0 / 38;  // pixels: of capitals, of small letters and digits
-constexpr double FirstStem = 2.5, DigitOneStem = 10.5;    // centre columns
+constexpr double Unit = 16.0 / 70, WideUnit = 10.0 / 38;  // pixels across: of capitals, of small letters and digits
+constexpr double UnitUp = 14.0 / 70;
+constexpr double FirstStem = 2.5, DigitOneStem = 12.5; // centre columns
 constexpr int DigitWidth = 16;
 
 // The levels that every glyph shares, in glyph units and as centre rows.
@@ -48,7 +49,7 @@ constexpr typeface::Glyph OpenForms[] = {
     {U'6', 54, "M 43 71 L 28 71 H 8 44 L 8 22 V 27 -1 H 46 21 V 27 43 L 8 43"},
     {U'9', 54, "M 11 -1 L 26 -1 H 46 26 L 46 48 V 27 71 H 8 49 V 27 27 L 46 27"},
     {U'C', 60, "M 54 71 L 34 71 H 9 46 L 9 24 V 34 -1 L 54 -1"},
-    {U'G', 65, "M 54 71 L 34 71 H 9 46 L 9 24 V 34 -1 H 56 21 L 56 35 L 36 35"},
+    {U'G', 65, "M 54 71 L 34 71 H 9 46 L 9 24 V 34 -1 H 56 12 L 56 21 L 37 21"},
     {U'S', 59, "M 49 71 L 30 71 H 9 53 V 29 36 L 31 36 H 51 17 V 31 -1 L 9 -1"},
     {U'a', 51, "M 11 51 L 26 51 H 41 36 L 41 0 M 41 26 L 21 26 H 8 12.5 V 21 -1 L 41 -1"},
     {U'c', 47, "M 42 51 L 26 51 H 8 31 L 8 19 V 26 -1 L 42 -1"},
@@ -230,7 +231,7 @@ void AddPiece(const typeface::Piece& piece, Strokes& out)
 // The glyph's strokes in pixels.
 Strokes PlacedStrokes(const typeface::Pieces& pieces, const Frame& frame)
 {
-    typeface::AxisMap across(frame.UnitX), up(Unit);
+    typeface::AxisMap across(frame.UnitX), up(UnitUp);
     typeface::CollectAnchors(pieces, across, up);
     Place(across, [&](double unit, double least) { return PlacedColumn(unit, least, frame); });
     Place(up, [&](double unit, double least) { return PlacedRow(unit, least, frame); });
