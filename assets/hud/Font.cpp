@@ -89,7 +89,7 @@ struct Frame
 {
     char32_t Code;
     double Left = 1e9, Top = -1e9;                             // units
-    double UnitX;                                              // pixels
+    double UnitX = Unit;                                       // pixels
     bool FromBase = false, ToSmall = false, ToCapital = false; // which shared levels it reaches
 };
 

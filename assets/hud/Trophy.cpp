@@ -28,7 +28,8 @@ constexpr Profile Outside[] = {{0.200, -1.36}, {0.195, -1.33}, {0.120, -1.29}, {
                                {0.190, -0.76}, {0.212, -0.63}, {0.212, -0.50}, {0.218, -0.40}, {0.238, -0.31},
                                {0.262, -0.27}, {0.262, -0.25}};
 constexpr Profile Inside[] = {{0.255, -0.25}, {0.215, -0.34}, {0.180, -0.60}, {0.0, -0.76}};
-// How much of the size below, the rim staying where it is: the largest that shows whole up to 160 km/h.
+// The trophy is built this much smaller than the measures here, the rim staying where it is: the largest that shows
+// whole up to 160 km/h.
 constexpr double Size = 0.78, RimBelow = 0.25;
 constexpr double StoneTop = -1.36, StoneFloor = -1.74, StoneHalf = 0.19;
 constexpr int Around = 20;
