@@ -27,7 +27,7 @@ Rgb ClearSky(double row)
 }
 
 // The picture is pressed to three fifths of its height on a wide screen and stretched to nearly twice on a 4:3 one, so
-// every cloud is about twice as wide as high here.
+// every cloud is about four times as wide as high here.
 struct CloudLayer
 {
     int Cells;           // round the turn
@@ -39,9 +39,9 @@ struct CloudLayer
     std::uint32_t Seed;
 };
 
-const CloudLayer Veil{9, 27, 120, 215, 60, -0.12, 0.62, 0.42, 51};
-const CloudLayer Heaps{15, 22, 100, 172, 34, 0.07, 0.46, 0.9, 41};
-const CloudLayer Streets{26, 11, 66, 90, 24, 0.05, 0.46, 0.75, 31};
+const CloudLayer Veil{7, 18, 120, 215, 60, -0.16, 0.6, 0.34, 51};
+const CloudLayer Heaps{13, 16, 104, 170, 32, 0.06, 0.42, 0.9, 41};
+const CloudLayer Streets{22, 8, 66, 90, 24, 0.04, 0.44, 0.75, 31};
 
 double Density(const CloudLayer& layer, double column, double row)
 {
@@ -77,9 +77,9 @@ struct Ridge
 };
 
 const Ridge Ridges[] = {
-    {56, 18, 19, 11, Hex(0xB4BDCE)},
-    {38, 15, 25, 22, Hex(0x9DADBC)},
-    {21, 11, 32, 33, Hex(0x92A5A6)},
+    {53, 13, 17, 11, Hex(0xB4BDCE)},
+    {38, 12, 23, 22, Hex(0x9DADBC)},
+    {22, 9, 29, 33, Hex(0x92A5A6)},
 };
 
 double RidgeTop(const Ridge& ridge, double column)
