@@ -15,7 +15,7 @@ namespace assets::track
 namespace
 {
 constexpr double WorldMiddle = WorldSize / 2;
-constexpr int RingColumns = 96; // a multiple of 8, so that the ground's corners are points of the ring
+constexpr int RingColumns = 64; // a multiple of 8, so that the ground's corners are points of the ring
 constexpr int RingWidth = 4096, RingHeight = 192;
 constexpr int HillsWidth = 4096, HillsHeight = 64;
 constexpr double HillsTall = 34; // units that the hills' picture is high

@@ -29,7 +29,7 @@ Rgb Grass(const Terrain& terrain, int x, int z)
     const double broad = Fbm(p.X / 62, p.Y / 62, 510, 4), middle = Fbm(p.X / 13, p.Y / 13, 511, 4);
     const double tufts = Fbm(p.X / 2.6, p.Y / 2.6, 512, 3);
     const double wild = SmoothStep(9, 24, away + 5 * middle);
-    Rgb mown = Mix(Hex(0x6B8F33), Hex(0x86A445), 0.5 + 0.8 * middle);
+    Rgb mown = Mix(Hex(0x6C8B38), Hex(0x879F4B), 0.5 + 0.8 * middle);
     if (std::abs(offset) < FarAway)
     {
         const double band = std::sin(offset * Pi / 3.2 + 0.25 * middle); // the mower's bands
