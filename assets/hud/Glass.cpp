@@ -11,17 +11,18 @@ namespace
 {
 constexpr int Width = 128, Height = 64;
 
-// The seal all round and the shade strip along the top, both of which whole and broken glass have.
+// The seal below and the shade strip along the top, which both whole and broken glass have. The sides stay clear: the
+// pillars frame them, and a seal beside a pillar would be a splinter in the driver's view.
 void PaintFrame(Canvas& glass)
 {
     for (int y = 0; y < Height; ++y)
         for (int x = 0; x < Width; ++x)
         {
-            const double side = std::min(x, Width - 1 - x), top = Height - 1 - y;
-            if (side < 2 || y < 2 || top < 2)
+            const double top = Height - 1 - y;
+            if (y < 2 || top < 1)
                 glass.Set(x, y, Hex(0x121316));
-            else if (top < 5) // the shade strip
-                glass.Set(x, y, Mix(Hex(0x16262C), Hex(0x24404A), (5 - top) / 3));
+            else if (top < 4)
+                glass.Set(x, y, Mix(Hex(0x16262C), Hex(0x24404A), (4 - top) / 3));
         }
 }
 

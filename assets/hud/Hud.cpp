@@ -1,12 +1,13 @@
 #include "assets/hud/Hud.h"
 
+#include "assets/hud/Arrow.h"
 #include "assets/hud/Font.h"
 #include "assets/hud/Glass.h"
 #include "assets/hud/Icon.h"
 #include "assets/hud/Inside.h"
 #include "assets/hud/MenuPictures.h"
-#include "assets/hud/Models.h"
 #include "assets/hud/Sprites.h"
+#include "assets/hud/Trophy.h"
 
 namespace assets::hud
 {

@@ -4,6 +4,6 @@
 
 namespace assets::hud
 {
-// Writes smoke.bmp, water.bmp, fireR.bmp and fireY.bmp, round with an edge that dissolves into single pixels.
+// Writes smoke.bmp and water.bmp, round and thinning out in dots, and fireR.bmp and fireY.bmp, flames.
 void WriteSprites(const std::string& folder);
 }

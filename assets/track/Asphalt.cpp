@@ -36,36 +36,61 @@ double PitEdge(double s, double offset)
     return edge;
 }
 
-Rgb Asphalt(int x, int z, double s, double offset, double line, double bend)
+// A texel of the road.
+struct Spot
 {
-    const Point p = TexelPlace(x, z);
-    const double fine = HashUnit(x, z, 601) - 0.5, stone = HashUnit(x, z, 602);
-    const double cloudy = Fbm(p.X / 9, p.Y / 9, 603, 4), broad = Fbm(p.X / 47, p.Y / 47, 604, 3);
-    Rgb colour = Hex(0x86817B) * (1 + 0.10 * cloudy + 0.09 * broad + 0.13 * fine);
-    if (stone > 0.985)
-        colour = colour * 1.22;
-    // Resurfaced lengths, each a little different, and mended patches.
-    const int stretch = base::Floor((s + 7 * std::sin(offset / 11)) / 67);
-    colour = colour * (0.955 + 0.10 * HashUnit(stretch, 3, 605));
-    const int cellS = base::Floor(s / 9), cellO = base::Floor((offset + 20) / 3.4);
-    if (HashUnit(cellS, cellO, 606) > 0.94)
-    {
-        const double u = s / 9 - cellS, v = (offset + 20) / 3.4 - cellO;
-        const double inside = std::min({u, 1 - u, (v - 0.1) * 0.5, (0.9 - v) * 0.5});
-        if (inside > 0)
-            colour = colour * (inside < 0.014 ? 0.74 : 0.86);
-    }
-    // Joint in the middle, cracks.
-    colour = colour * (1 - 0.16 * SmoothStep(0.12, 0.03, std::abs(offset + 0.1 * cloudy)));
-    const CellDistance crack = Cells(p.X / 5.5 + 0.25 * cloudy, p.Y / 5.5, 607);
-    const double cracked = SmoothStep(0.1, 0.35, Fbm(p.X / 25, p.Y / 25, 608, 2));
-    colour = colour * (1 - 0.22 * cracked * SmoothStep(0.035, 0.01, crack.Second - crack.First));
-    // Rubber on the racing line, two wheels wide, and dust toward the edges.
-    const double away = std::abs(offset - line), wheels = std::abs(away - 0.9);
-    const double heavy = 0.55 + 0.45 * SmoothStep(0.004, 0.02, std::abs(bend));
-    const double rubber = (0.24 * SmoothStep(3.6, 0.4, away) + 0.12 * SmoothStep(0.7, 0.1, wheels)) * heavy;
-    colour = colour * (1 - rubber * (1 + 0.4 * cloudy));
-    return colour;
+    int X, Z; // of the texel
+    Point P;
+    double S, Offset; // along the lap and to the left of its middle
+    double Edge;      // beyond the road's edge, negative on it
+    double Line, Bend;
+    double Cloudy; // broad unevenness, about -1 to 1
+};
+
+// Resurfaced lengths, each a little different, one lane of some laid anew, and mended holes.
+double Mended(const Spot& spot)
+{
+    const int stretch = base::Floor((spot.S + 7 * std::sin(spot.Offset / 11)) / 67);
+    double tone = 0.955 + 0.09 * HashUnit(stretch, 3, 605);
+    const double place = spot.S / 29 + 0.02 * spot.Offset;
+    const int lane = base::Floor(place), side = spot.Offset > 0.2 * spot.Cloudy ? 1 : 0;
+    if (HashUnit(lane, side, 609) > 0.82)
+        tone *= 0.92 * (1 - 0.08 * SmoothStep(0.012, 0.004, std::min(place - lane, lane + 1 - place)));
+    const int cellS = base::Floor(spot.S / 9), cellO = base::Floor((spot.Offset + 20) / 3.4);
+    if (HashUnit(cellS, cellO, 606) <= 0.94)
+        return tone;
+    const double u = spot.S / 9 - cellS, v = (spot.Offset + 20) / 3.4 - cellO;
+    const double inside = std::min({u - 0.15, 0.85 - u, (v - 0.1) * 0.5, (0.9 - v) * 0.5});
+    return inside <= 0 ? tone : tone * Lerp(0.80, 0.90, SmoothStep(0.008, 0.03, inside));
+}
+
+// The joint in the middle, and cracks, some of them sealed with tar.
+double Cracked(const Spot& spot)
+{
+    const double joint = 0.12 * SmoothStep(0.2, 0.05, std::abs(spot.Offset + 0.1 * spot.Cloudy));
+    const CellDistance crack = Cells(spot.P.X / 5.5 + 0.25 * spot.Cloudy, spot.P.Y / 5.5, 607);
+    const double old = SmoothStep(0.08, 0.3, Fbm(spot.P.X / 25, spot.P.Y / 25, 608, 2));
+    return 1 - joint - 0.17 * old * SmoothStep(0.05, 0.015, crack.Second - crack.First);
+}
+
+// Rubber on the racing line, two wheels wide, and dust toward the edges.
+Rgb WornAsphalt(Rgb colour, const Spot& spot)
+{
+    const double away = std::abs(spot.Offset - spot.Line), wheels = std::abs(away - 0.9);
+    const double heavy = 0.6 + 0.4 * SmoothStep(0.004, 0.02, std::abs(spot.Bend));
+    const double rubber = (0.25 * SmoothStep(3.8, 0.4, away) + 0.12 * SmoothStep(0.8, 0.1, wheels)) * heavy;
+    colour = colour * (1 - rubber * (1 + 0.4 * spot.Cloudy));
+    const double dust = SmoothStep(-2.4, -0.1, spot.Edge + 0.8 * spot.Cloudy);
+    return Mix(colour, Hex(0xA99C84), 0.32 * dust);
+}
+
+Rgb Asphalt(const Spot& spot)
+{
+    const Point p = spot.P;
+    const double fine = HashUnit(spot.X, spot.Z, 601) - 0.5, grain = Noise(p.X / 0.8, p.Y / 0.8, 602);
+    const double blotches = Fbm(p.X / 2.6, p.Y / 2.6, 610, 2), broad = Fbm(p.X / 47, p.Y / 47, 604, 3);
+    const double tone = 1 + 0.09 * spot.Cloudy + 0.09 * broad + 0.05 * blotches + 0.04 * grain + 0.05 * fine;
+    return WornAsphalt(Hex(0x86817B) * (tone * Mended(spot) * Cracked(spot)), spot);
 }
 
 Rgb Kerb(int x, int z, double s, double across)
@@ -74,7 +99,7 @@ Rgb Kerb(int x, int z, double s, double across)
     const double tooth = s / 2.2, red = tooth - 2 * std::floor(tooth / 2) < 1 ? 1 : 0;
     const Point p = TexelPlace(x, z);
     Rgb colour = Mix(Hex(0xEFE9DC), Hex(0xC63A2B), red);
-    colour = colour * (0.82 + 0.24 * across + 0.07 * (HashUnit(x, z, 611) - 0.5));
+    colour = colour * (0.82 + 0.24 * across + 0.03 * (HashUnit(x, z, 611) - 0.5));
     const double scuffs = SmoothStep(0.05, 0.45, Fbm(p.X / 2.4, p.Y / 2.4, 612, 3)) * (1 - across);
     return Mix(colour, Hex(0x5A5550), 0.45 * scuffs);
 }
@@ -102,7 +127,6 @@ Surface RoadSurface(const Plan& plan, const Terrain& terrain, int x, int z)
         return {};
     const double s = terrain.Along.At(x, z), half = terrain.HalfWidth.At(x, z);
     const double edge = std::abs(offset) - half;
-    const double line = terrain.Line.At(x, z), bend = terrain.Bend.At(x, z);
     const double side = offset > 0 ? 1 : -1;
     const double straight = Signed(s, plan.Road.Length);
     Surface surface;
@@ -110,7 +134,9 @@ Surface RoadSurface(const Plan& plan, const Terrain& terrain, int x, int z)
     const double paved = std::min(edge, pit);
     if (paved > 0.3 && !(edge < KerbWidth + 0.3))
         return surface;
-    surface.Colour = Asphalt(x, z, s, offset, line, bend);
+    const Point p = TexelPlace(x, z);
+    surface.Colour = Asphalt(
+        {x, z, p, s, offset, edge, terrain.Line.At(x, z), terrain.Bend.At(x, z), Fbm(p.X / 9, p.Y / 9, 603, 4)});
     if (pit < edge && pit < 0.3 && edge > -0.5) // newer, darker surface of the pit lane
         surface.Colour = surface.Colour * Rgb{0.86, 0.87, 0.90};
     surface.Cover = CoverOf(paved);
@@ -147,12 +173,12 @@ Surface GravelSurface(const Plan& plan, const Terrain& terrain, int x, int z)
         const double cover = SmoothStep(0.25, -0.35, edge);
         if (cover <= surface.Cover)
             continue;
-        const CellDistance pebble = Cells(p.X / 0.6, p.Y / 0.6, 622);
+        const CellDistance pebble = Cells(p.X / 0.8, p.Y / 0.8, 622);
         const double tone = (pebble.Id & 255u) / 255.0;
         const double raked = 0.05 * std::sin(std::abs(offset) * 2 * Pi / 1.1 + 1.5 * Noise(s / 9, 0, 623));
         const double drifts = Fbm(p.X / 6, p.Y / 6, 624, 3);
-        Rgb colour = Mix(Hex(0xD3C4A0), Hex(0xB3A382), tone) * (1 + raked + 0.1 * drifts);
-        colour = colour * (1 + 0.16 * (HashUnit(x, z, 625) - 0.5));
+        Rgb colour = Mix(Hex(0xCBBC99), Hex(0xBBAB89), tone) * (1 + raked + 0.1 * drifts);
+        colour = colour * (1 + 0.06 * (HashUnit(x, z, 625) - 0.5));
         surface = {colour, cover};
     }
     return surface;

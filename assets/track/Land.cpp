@@ -2,6 +2,7 @@
 #include "assets/track/Ground.h"
 
 #include "assets/common/Noise.h"
+#include "assets/track/FarCountry.h"
 
 #include <algorithm>
 
@@ -9,12 +10,15 @@ namespace assets::track
 {
 namespace
 {
-// Fine grain around 1: single texels and blades.
+constexpr double RimWidth = 32; // units at the border in which the detail ends
+
+// Grain around 1: a little of it from texel to texel, which sparkles in the distance, more from one to three units.
 double Grain(int x, int z, double strength)
 {
+    const Point p = TexelPlace(x, z);
     const double fine = HashUnit(x, z, 501) - 0.5;
-    const double blades = Noise(x / 2.2, z / 2.6, 502) * 0.6;
-    return 1 + strength * (fine + blades);
+    const double blades = Noise(p.X / 0.65, p.Y / 0.65, 502), tufts = Noise(p.X / 1.7, p.Y / 1.7, 503);
+    return 1 + strength * (0.4 * fine + 0.3 * blades + 0.4 * tufts);
 }
 
 // Late summer grass: mown and green by the road, dry and tufted away from it.
@@ -25,7 +29,7 @@ Rgb Grass(const Terrain& terrain, int x, int z)
     const double broad = Fbm(p.X / 62, p.Y / 62, 510, 4), middle = Fbm(p.X / 13, p.Y / 13, 511, 4);
     const double tufts = Fbm(p.X / 2.6, p.Y / 2.6, 512, 3);
     const double wild = SmoothStep(9, 24, away + 5 * middle);
-    Rgb mown = Mix(Hex(0x6B8F33), Hex(0x86A445), 0.5 + 0.8 * middle);
+    Rgb mown = Mix(Hex(0x6C8B38), Hex(0x879F4B), 0.5 + 0.8 * middle);
     if (std::abs(offset) < FarAway)
     {
         const double band = std::sin(offset * Pi / 3.2 + 0.25 * middle); // the mower's bands
@@ -34,8 +38,7 @@ Rgb Grass(const Terrain& terrain, int x, int z)
     Rgb dry = Mix(Hex(0xA79F55), Hex(0x7F8C3F), SmoothStep(-0.35, 0.3, broad + 0.5 * middle));
     dry = Mix(dry, Hex(0x5E7A31), 0.8 * SmoothStep(0.08, 0.45, broad - 0.25 * middle));
     dry = dry * (1 + 0.16 * tufts);
-    if (tufts > 0.42 && middle > -0.1)
-        dry = Mix(dry, Hex(0x4E6428), 0.6);
+    dry = Mix(dry, Hex(0x56702C), 0.55 * SmoothStep(0.22, 0.42, tufts) * SmoothStep(-0.25, 0.05, middle));
     Rgb grass = Mix(mown, dry, wild) * Grain(x, z, Lerp(0.16, 0.26, wild));
     // Dust and tyre-torn earth along the road.
     const double worn = SmoothStep(2.6, 0.2, away + 1.6 * middle) * 0.55;
@@ -43,7 +46,7 @@ Rgb Grass(const Terrain& terrain, int x, int z)
     // Single flowers and stones.
     const double luck = HashUnit(x, z, 520);
     if (wild > 0.4 && luck > 0.9988)
-        return Mix(grass, luck > 0.9994 ? Hex(0xF4EBD0) : Hex(0xD9603C), 0.8);
+        return Mix(grass, luck > 0.9994 ? Hex(0xF4EBD0) : Hex(0xD9603C), 0.45);
     return grass;
 }
 
@@ -114,8 +117,8 @@ Rgb Paving(Rgb ground, const Terrain& terrain, int x, int z)
     const Point p = TexelPlace(x, z);
     const CellDistance stone = Cells(p.X / 0.85, p.Y / 0.85, 560);
     const double tone = (stone.Id & 255u) / 255.0, broad = Fbm(p.X / 7, p.Y / 7, 561, 3);
-    Rgb paving = Mix(Hex(0xCDBB9A), Hex(0xA99A80), tone) * (1 + 0.12 * broad);
-    paving = Mix(paving, Hex(0x8A7A5E), 0.55 * SmoothStep(0.16, 0.04, stone.Second - stone.First));
+    Rgb paving = Mix(Hex(0xC6B595), Hex(0xB1A287), tone) * (1 + 0.12 * broad);
+    paving = Mix(paving, Hex(0x8A7A5E), 0.38 * SmoothStep(0.16, 0.04, stone.Second - stone.First));
     // Pale bands of slabs mark out the plaza.
     const double band = std::min(std::abs(std::remainder(p.X + 0.3 * p.Y, 12)), std::abs(std::remainder(p.Y, 12)));
     if (edge < -3)
@@ -133,7 +136,7 @@ Rgb Beach(Rgb ground, double shore, int x, int z)
     const CellDistance pebble = Cells(p.X / 0.55, p.Y / 0.55, 571);
     const double tone = (pebble.Id & 255u) / 255.0;
     Rgb sand = Mix(Hex(0xDCCB9F), Hex(0xC4B48C), Clamp01(0.5 + Fbm(p.X / 3, p.Y / 3, 572, 3)));
-    sand = Mix(sand, Mix(Hex(0xE4DECD), Hex(0x9C9484), tone), 0.55 * SmoothStep(0.3, 0.12, pebble.First));
+    sand = Mix(sand, Mix(Hex(0xE4DECD), Hex(0x9C9484), tone), 0.3 * SmoothStep(0.3, 0.12, pebble.First));
     sand = Mix(sand, sand * Rgb{0.66, 0.64, 0.60}, SmoothStep(1.5, 0.5, shore + 0.5 * wave)); // wet
     return Mix(ground, sand * Grain(x, z, 0.1), SmoothStep(7.0, 4.5, place));
 }
@@ -141,33 +144,26 @@ Rgb Beach(Rgb ground, double shore, int x, int z)
 Rgb Water(double depth, int x, int z)
 {
     const Point p = TexelPlace(x, z);
-    const double far = SmoothStep(0, 34, depth + 5 * Fbm(p.X / 16, p.Y / 16, 580, 3));
-    Rgb water = Mix(Hex(0x86B7A6), Hex(0x3F8596), SmoothStep(0.0, 0.35, far));
-    water = Mix(water, Hex(0x2F6A86), SmoothStep(0.3, 1.0, far));
-    // Long waves that run toward the shore with the evening wind, and short ones across them.
-    const double bend = Fbm(p.X / 22, p.Y / 22, 581, 2) * 6;
-    const double along = p.X * 0.42 + p.Y * 0.9 + bend;
-    const double swell = Fbm(along / 3.1, (p.X * 0.9 - p.Y * 0.42) / 12, 582, 4, 0, 0, 0.55);
-    const double chop = Fbm(p.X / 1.1, p.Y / 0.8, 583, 3);
-    water = water * (1 + 0.17 * swell + 0.07 * chop);
-    const double crest = SmoothStep(0.30, 0.62, swell + 0.35 * chop);
-    water = Mix(water, Hex(0xF8E8C4), 0.42 * crest * (0.4 + 0.6 * far)); // the low sun on the crests
+    const double chop = Fbm(p.X / 1.5, p.Y / 1.1, 583, 2);
+    Rgb water = OpenWater(p, depth) * (1 + 0.04 * chop);
     // Foam in two broken lines at the edge.
     const double edge = depth + 0.7 * Fbm(p.X / 4, p.Y / 4, 584, 3);
-    const double foam = std::max(SmoothStep(0.55, 0.1, std::abs(edge - 0.35)),
-                                 0.6 * SmoothStep(0.5, 0.05, std::abs(edge - 2.6)) * SmoothStep(0, 0.3, chop));
-    water = Mix(water, Hex(0xF6F3E6), 0.8 * foam * SmoothStep(-0.5, 0.1, chop));
-    return Mix(Hex(0xB9AE86), water, SmoothStep(-0.4, 1.8, depth));
+    const double foam = std::max(SmoothStep(0.6, 0.1, std::abs(edge - 0.4)),
+                                 0.5 * SmoothStep(0.7, 0.1, std::abs(edge - 2.7)) * SmoothStep(0, 0.3, chop));
+    water = Mix(water, Hex(0xF1EEDF), 0.7 * foam * SmoothStep(-0.5, 0.1, chop));
+    return Mix(Hex(0xB5AB85), water, SmoothStep(-0.6, 2.4, depth));
 }
 
-// The rim of the world fades into the haze of the panorama's foot.
-Rgb TowardHaze(Rgb colour, Point p, bool lake)
+// The rim of the ground loses its detail and becomes the country beyond, before the backdrop covers it.
+Rgb TowardRim(Rgb colour, Point p, double shore)
 {
     const double rim = std::min({p.X, p.Y, WorldSize - p.X, WorldSize - p.Y});
-    const double ragged = rim + 5 * Fbm(p.X / 30, p.Y / 30, 595, 3);
-    if (lake)
-        return Mix(colour, Hex(0xB9CCD5), 0.9 * SmoothStep(60, 3, ragged));
-    return Mix(colour, Hex(0xBCC49A), 0.75 * SmoothStep(32, 2, ragged));
+    if (rim > RimWidth + 8)
+        return colour;
+    const double ragged = rim + 8 * Fbm(p.X / 24, p.Y / 24, 595, 3);
+    const double fading = SmoothStep(RimWidth, BackdropOverlap + 2, ragged);
+    const double covered = SmoothStep(BackdropOverlap + 4, BackdropOverlap + 1, rim);
+    return Mix(colour, FarCountry(p, shore), std::max(fading, covered));
 }
 }
 
@@ -176,7 +172,7 @@ Rgb LandColour(const Plan& plan, const Terrain& terrain, int x, int z)
     const Point p = TexelPlace(x, z);
     const double shore = terrain.Shore.At(x, z);
     if (shore < 0)
-        return TowardHaze(Water(-shore, x, z), p, true);
+        return TowardRim(Water(-shore, x, z), p, shore);
     Rgb colour = Grass(terrain, x, z);
     for (const Field& field : plan.Fields)
         if (InsideOutline(field.Outline, p.X + 0.5 * Noise(p.X / 3, p.Y / 3, 590), p.Y))
@@ -184,6 +180,6 @@ Rgb LandColour(const Plan& plan, const Terrain& terrain, int x, int z)
     colour = FarmTrack(colour, terrain, x, z);
     colour = Paving(colour, terrain, x, z);
     colour = Beach(colour, shore, x, z);
-    return TowardHaze(colour, p, false);
+    return TowardRim(colour, p, shore);
 }
 }

@@ -1,6 +1,7 @@
 #include "assets/track/Plan.h"
 
 #include "assets/track/Scatter.h"
+#include "assets/track/WallEnds.h"
 #include "base/Numbers.h"
 
 #include <algorithm>
@@ -11,26 +12,27 @@ namespace assets::track
 const std::vector<Kind>& Kinds()
 {
     static const std::vector<Kind> kinds{
-        {"house_a", 5.0, 4.0, 6.5, Shadow::Block, false},  {"house_b", 4.0, 4.5, 8.5, Shadow::Block, false},
-        {"house_c", 6.5, 4.0, 6.0, Shadow::Block, false},  {"house_d", 3.6, 3.6, 9.5, Shadow::Block, false},
-        {"villa", 8.0, 5.0, 8.0, Shadow::Block, false},    {"church", 5.0, 9.0, 9.0, Shadow::Block, false},
-        {"tower", 2.3, 2.3, 27.0, Shadow::Block, false},   {"stand", 13.0, 5.5, 9.5, Shadow::Block, false},
-        {"pits", 38.0, 4.5, 6.5, Shadow::Block, false},    {"gantry", 1.0, 11.6, 12.0, Shadow::None, false},
-        {"cypress", 1.2, 1.2, 11.0, Shadow::Cone, false},  {"cypress_r", 1.2, 1.2, 11.0, Shadow::Cone, true},
-        {"pine", 4.2, 4.2, 11.5, Shadow::Crown, false},    {"pine_r", 4.2, 4.2, 11.5, Shadow::Crown, true},
-        {"oak", 3.4, 3.4, 7.5, Shadow::Crown, false},      {"olive", 2.2, 2.2, 4.4, Shadow::Crown, false},
-        {"bush", 1.5, 1.5, 1.8, Shadow::Crown, false},     {"stonewall", 6.0, 0.35, 1.3, Shadow::Block, false},
-        {"pitwall", 6.0, 0.25, 1.0, Shadow::Block, false}, {"fence", 6.0, 0.1, 2.6, Shadow::None, false},
-        {"tyres", 0.75, 0.75, 1.1, Shadow::Block, true},   {"cone", 0.3, 0.3, 0.75, Shadow::Block, true},
-        {"bollard", 0.2, 0.2, 1.0, Shadow::Block, true},   {"bale", 1.0, 0.8, 1.9, Shadow::Block, false},
-        {"board_1", 4.0, 0.1, 1.6, Shadow::Block, false},  {"board_2", 4.0, 0.1, 1.6, Shadow::Block, false},
-        {"board_3", 4.0, 0.1, 1.6, Shadow::Block, false},  {"board_4", 4.0, 0.1, 1.6, Shadow::Block, false},
-        {"board_5", 4.0, 0.1, 1.6, Shadow::Block, false},  {"board_6", 4.0, 0.1, 1.6, Shadow::Block, false},
-        {"sign_100", 0.9, 0.1, 2.2, Shadow::None, true},   {"sign_50", 0.9, 0.1, 2.2, Shadow::None, true},
-        {"arrows", 3.0, 0.1, 1.8, Shadow::Block, false},   {"arrows_r", 3.0, 0.1, 1.8, Shadow::Block, false},
-        {"pier", 1.5, 12.0, 1.2, Shadow::None, false},     {"sailboat", 1.3, 3.2, 9.0, Shadow::None, false},
-        {"rowboat", 0.8, 2.0, 0.8, Shadow::None, false},   {"parasol", 1.5, 1.5, 2.4, Shadow::Roof, false},
-        {"flag", 0.2, 0.2, 8.0, Shadow::None, false},      {"marshal", 1.2, 1.2, 3.0, Shadow::Block, false},
+        {"house_a", 5.0, 4.0, 6.5, Shadow::Block, false},   {"house_b", 4.0, 4.5, 8.5, Shadow::Block, false},
+        {"house_c", 6.5, 4.0, 6.0, Shadow::Block, false},   {"house_d", 3.6, 3.6, 9.5, Shadow::Block, false},
+        {"villa", 8.0, 5.0, 8.0, Shadow::Block, false},     {"church", 5.0, 9.0, 9.0, Shadow::Block, false},
+        {"tower", 2.3, 2.3, 27.0, Shadow::Block, false},    {"stand", 13.0, 5.5, 9.5, Shadow::Block, false},
+        {"pits", 38.0, 4.5, 6.5, Shadow::Block, false},     {"gantry", 1.0, 11.6, 12.0, Shadow::None, false},
+        {"cypress", 1.2, 1.2, 11.0, Shadow::Cone, false},   {"cypress_r", 1.2, 1.2, 11.0, Shadow::Cone, true},
+        {"pine", 4.2, 4.2, 11.5, Shadow::Crown, false},     {"pine_r", 4.2, 4.2, 11.5, Shadow::Crown, true},
+        {"oak", 3.4, 3.4, 7.5, Shadow::Crown, false},       {"olive", 2.2, 2.2, 4.4, Shadow::Crown, false},
+        {"bush", 1.5, 1.5, 1.8, Shadow::Crown, false},      {"stonewall", 6.0, 0.35, 1.3, Shadow::Block, false},
+        {"pitwall", 6.0, 0.25, 1.0, Shadow::Block, false},  {"fence", 6.0, 0.1, 2.6, Shadow::None, false},
+        {"tyres", 0.75, 0.75, 1.1, Shadow::Block, true},    {"cone", 0.3, 0.3, 0.75, Shadow::Block, true},
+        {"bollard", 0.2, 0.2, 1.0, Shadow::Block, true},    {"bale", 1.0, 0.8, 1.9, Shadow::Block, false},
+        {"board_1", 4.0, 0.1, 1.6, Shadow::Block, false},   {"board_2", 4.0, 0.1, 1.6, Shadow::Block, false},
+        {"board_3", 4.0, 0.1, 1.6, Shadow::Block, false},   {"board_4", 4.0, 0.1, 1.6, Shadow::Block, false},
+        {"board_5", 4.0, 0.1, 1.6, Shadow::Block, false},   {"board_6", 4.0, 0.1, 1.6, Shadow::Block, false},
+        {"sign_100", 0.9, 0.1, 2.2, Shadow::None, true},    {"sign_50", 0.9, 0.1, 2.2, Shadow::None, true},
+        {"arrows", 3.0, 0.1, 1.8, Shadow::Block, false},    {"arrows_r", 3.0, 0.1, 1.8, Shadow::Block, false},
+        {"pier", 1.5, 12.0, 1.2, Shadow::None, false},      {"sailboat", 1.3, 3.2, 9.0, Shadow::None, false},
+        {"rowboat", 0.8, 2.0, 0.8, Shadow::None, false},    {"parasol", 1.5, 1.5, 2.4, Shadow::Roof, false},
+        {"flag", 0.2, 0.2, 8.0, Shadow::None, false},       {"marshal", 1.2, 1.2, 3.0, Shadow::Block, false},
+        {"wallend", 0.55, 0.55, 1.6, Shadow::Block, false}, {"backdrop", 0, 0, 0, Shadow::None, false},
     };
     return kinds;
 }
@@ -325,6 +327,8 @@ Plan MakePlan()
     PutShore(put);
     PutWalls(put);
     ScatterTrees(plan);
+    PutWallEnds(plan);
+    plan.Items.push_back({"backdrop", WorldSize / 2, WorldSize / 2});
     DropTouchingGuards(plan);
     std::stable_sort(plan.Items.begin(), plan.Items.end(),
                      [](const Standing& a, const Standing& b) { return a.Name < b.Name; });

@@ -104,8 +104,7 @@ void CastCone(const Caster& to, const Standing& item, const Kind& kind)
 void CastCrown(const Caster& to, const Standing& item, const Kind& kind)
 {
     const Point foot{item.X, item.Z};
-    const bool pine = kind.Name.starts_with("pine");
-    const double low = pine ? 0.62 : 0.15;
+    const double low = kind.Name.starts_with("pine") ? 0.62 : kind.Name == "plane" ? 0.35 : 0.15;
     const Point trunk[] = {{foot.X * TexelsPerUnit, foot.Y * TexelsPerUnit},
                            InTexels({Shifted(foot, kind.Height * (low + 0.1))})[0]};
     Stroke(to.Sun, trunk, 0.5 * TexelsPerUnit);
@@ -127,20 +126,76 @@ void CastRoof(const Caster& to, const Standing& item, const Kind& kind)
     FillDisc(to.Sun, {p.X * TexelsPerUnit, p.Y * TexelsPerUnit}, kind.HalfX * TexelsPerUnit);
 }
 
-void CastGantry(const Caster& to, const Standing& item, const Kind& kind)
+// A gate: two legs and what lies over them. Its sides are at +-`Half` along the direction.
+struct LegsAndBeam
 {
-    // Two legs and the beam between them.
-    const double dx = -std::sin(item.Angle), dz = std::cos(item.Angle);
+    Point Side; // unit vector from the middle to one leg
+    double Half, Leg, Beam;
+};
+
+void CastGate(const Caster& to, const Standing& item, double height, const LegsAndBeam& gate)
+{
     std::vector<Point> beam;
     for (const double side : {-1.0, 1.0})
     {
-        const Point foot{item.X + dx * side * kind.HalfZ, item.Z + dz * side * kind.HalfZ};
-        const std::vector<Point> leg = InTexels({foot, Shifted(foot, kind.Height)});
-        Stroke(to.Sun, leg, 0.9 * TexelsPerUnit);
-        beam.push_back(Shifted(foot, kind.Height));
-        beam.push_back(Shifted(foot, kind.Height - 2.6));
+        const double out = side * gate.Half, middle = side * (gate.Half - gate.Leg / 2);
+        const Point foot{item.X + gate.Side.X * middle, item.Z + gate.Side.Y * middle};
+        const std::vector<Point> leg = InTexels({foot, Shifted(foot, height)});
+        Stroke(to.Sun, leg, gate.Leg * TexelsPerUnit);
+        const Point end{item.X + gate.Side.X * out, item.Z + gate.Side.Y * out};
+        beam.push_back(Shifted(end, height));
+        beam.push_back(Shifted(end, height - gate.Beam));
     }
     FillPolygon(to.Sun, InTexels(Hull(beam)));
+}
+
+// A roof on columns, open between them: the columns stand at both ends of the front.
+void CastGallery(const Caster& to, const Standing& item, const Kind& kind)
+{
+    std::vector<Point> roof;
+    for (const Point& corner : Footprint(item, kind))
+    {
+        roof.push_back(Shifted(corner, kind.Height));
+        roof.push_back(Shifted(corner, kind.Height - 1.1));
+        const std::vector<Point> column = InTexels({corner, Shifted(corner, kind.Height)});
+        Stroke(to.Sun, column, 0.5 * TexelsPerUnit);
+    }
+    FillPolygon(to.Sun, InTexels(Hull(roof)));
+    FillPolygon(to.Contact, InTexels(Footprint(item, kind)), 0.6);
+}
+
+bool CastByName(const Caster& to, const Standing& item, const Kind& kind)
+{
+    const double c = std::cos(item.Angle), s = std::sin(item.Angle);
+    if (kind.Name == "gantry")
+        CastGate(to, item, kind.Height, {{-s, c}, kind.HalfZ, 0.9, 2.6});
+    else if (kind.Name == "arch")
+        CastGate(to, item, kind.Height, {{c, s}, kind.HalfX, 4.0, 4.0});
+    else if (kind.Name == "gallery")
+        CastGallery(to, item, kind);
+    else
+        return false;
+    return true;
+}
+
+void CastShadow(const Caster& to, const Standing& item)
+{
+    const Kind& kind = KindOf(item.Name);
+    if (CastByName(to, item, kind))
+        return;
+    switch (kind.Cast)
+    {
+    case Shadow::Block:
+        return CastBlock(to, item, kind);
+    case Shadow::Cone:
+        return CastCone(to, item, kind);
+    case Shadow::Crown:
+        return CastCrown(to, item, kind);
+    case Shadow::Roof:
+        return CastRoof(to, item, kind);
+    case Shadow::None:
+        return;
+    }
 }
 }
 
@@ -149,28 +204,7 @@ void PaintShadows(Canvas& ground, const Plan& plan)
     Mask sun(GroundSize, GroundSize), leaves(GroundSize, GroundSize), contact(GroundSize, GroundSize);
     const Caster caster{sun, leaves, contact};
     for (const Standing& item : plan.Items)
-    {
-        const Kind& kind = KindOf(item.Name);
-        switch (kind.Cast)
-        {
-        case Shadow::Block:
-            CastBlock(caster, item, kind);
-            break;
-        case Shadow::Cone:
-            CastCone(caster, item, kind);
-            break;
-        case Shadow::Crown:
-            CastCrown(caster, item, kind);
-            break;
-        case Shadow::Roof:
-            CastRoof(caster, item, kind);
-            break;
-        case Shadow::None:
-            break;
-        }
-        if (kind.Name == "gantry")
-            CastGantry(caster, item, kind);
-    }
+        CastShadow(caster, item);
     Blur(sun, 1);
     Blur(leaves, 1.4);
     Blur(contact, 4);

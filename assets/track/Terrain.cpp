@@ -108,7 +108,7 @@ std::vector<Point> Rounded(std::vector<Point> line, int passes, bool closed)
 
 void SurveyShore(const Plan& plan, Terrain& terrain)
 {
-    const std::vector<Point> shore = Rounded(plan.Lake, 3, true);
+    const std::vector<Point> shore = ShoreLine(plan);
     LowerToLine(terrain.Shore, shore, true, 60, 0);
     std::vector<Point> outline;
     outline.reserve(shore.size());
@@ -138,6 +138,11 @@ void SurveyPaths(const Plan& plan, Terrain& terrain)
                          terrain.Street.At(x, z) = std::min(-0.5f, -terrain.Street.At(x, z));
                  });
 }
+}
+
+std::vector<Point> ShoreLine(const Plan& plan)
+{
+    return Rounded(plan.Lake, 3, true);
 }
 
 Terrain SurveyTerrain(const Plan& plan)

@@ -26,6 +26,8 @@ struct Terrain
 };
 
 Terrain SurveyTerrain(const Plan& plan);
+// The lake's outline without corners; like the outline it runs outside the world.
+std::vector<Point> ShoreLine(const Plan& plan);
 
 inline Point TexelPlace(int x, int z)
 {

@@ -1,10 +1,12 @@
 #include "assets/track/Track.h"
 
 #include "assets/common/Bitmap.h"
+#include "assets/track/Backdrop.h"
 #include "assets/track/Ground.h"
 #include "assets/track/MapScript.h"
 #include "assets/track/Models.h"
 #include "assets/track/Sky.h"
+#include "assets/track/WallEnds.h"
 
 namespace assets::track
 {
@@ -20,6 +22,8 @@ void BuildTrack(const std::string& root)
     WriteStraight(models);
     WriteRoadside(models);
     WriteWaterside(models);
+    WriteWallEnd(models);
+    WriteBackdrop(models, plan);
     WriteBmp(map + "/ground.bmp", PaintGround(plan), Black::Keep);
 }
 }

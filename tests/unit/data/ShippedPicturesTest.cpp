@@ -1,4 +1,6 @@
 // What the game counts on in the pictures and letters that ship with it.
+#include "base/Numbers.h"
+#include "base/Pixels.h"
 #include "base/Text.h"
 #include "console/Texts.h"
 #include "render/Font.h"
@@ -38,6 +40,32 @@ double ClearShare(const render::Picture& picture)
     return static_cast<double>(clear) / (picture.Info.Width * picture.Info.Height);
 }
 
+// A glyph as the display draws it at this scale: 1 where there is ink.
+base::Grid<std::uint8_t> Shown(const render::Glyph& glyph, float scale)
+{
+    const double size = scale;
+    base::Grid<std::uint8_t> shown;
+    shown.Reset(base::Floor((glyph.GlyphW - 1) * size) + 1, base::Floor((glyph.GlyphH - 1) * size) + 1);
+    for (int y = 0; y < shown.Height; ++y)
+        for (int x = 0; x < shown.Width; ++x)
+            shown.At(x, y) = glyph.Row(base::Floor(y / size))[base::Floor(x / size)] != 0;
+    return shown;
+}
+
+int Inked(const base::Grid<std::uint8_t>& shown)
+{
+    return static_cast<int>(std::count(shown.Cells.begin(), shown.Cells.end(), 1));
+}
+
+int Differing(const base::Grid<std::uint8_t>& a, const base::Grid<std::uint8_t>& b)
+{
+    int count = 0;
+    for (int y = 0; y < std::max(a.Height, b.Height); ++y)
+        for (int x = 0; x < std::max(a.Width, b.Width); ++x)
+            count += (a.Has(x, y) && a.At(x, y) != 0) != (b.Has(x, y) && b.At(x, y) != 0);
+    return count;
+}
+
 struct ShippedFont : testing::Test
 {
     support::Messages Messages;
@@ -70,20 +98,37 @@ TEST_F(ShippedFont, DigitsAreOfOneWidth)
 
 TEST_F(ShippedFont, LettersKeepTheirInkAtTheSmallestScale)
 {
-    // At 0.4 every fifth pair of rows and columns is left: no letter may lose more than half of what it should keep.
+    // No letter may lose more than half of what it should keep.
     for (int code = 33; code < 127; ++code)
     {
-        const render::Glyph& glyph = Glyph(code);
-        double all = 0, kept = 0;
-        for (int y = 0; y < glyph.GlyphH; ++y)
-            for (int x = 0; x < glyph.GlyphW; ++x)
-                all += glyph.Mask[static_cast<std::size_t>(y * glyph.GlyphW + x)] != 0;
-        for (int j = 0; j * 5 / 2 < glyph.GlyphH; ++j)
-            for (int i = 0; i * 5 / 2 < glyph.GlyphW; ++i)
-                kept += glyph.Mask[static_cast<std::size_t>(j * 5 / 2 * glyph.GlyphW + i * 5 / 2)] != 0;
+        const double all = Inked(Shown(Glyph(code), 1)), kept = Inked(Shown(Glyph(code), 0.4f));
         EXPECT_GT(all, 0) << code;
         EXPECT_GT(kept, 0.5 * 0.16 * all) << code;
     }
+}
+
+TEST_F(ShippedFont, LettersThatAreAlikeDifferInTheSmallScales)
+{
+    const std::string_view alike[] = {"BG", "B8",  "CG",  "CO", "OQ", "038", "069", "568", "S5",
+                                      "Z2", "ceo", "aes", "as", "hn", "uv",  "1l",  "ft"};
+    for (const std::string_view group : alike)
+        for (std::size_t i = 0; i < group.size(); ++i)
+            for (std::size_t j = i + 1; j < group.size(); ++j)
+                for (const float scale : {0.4f, 0.5f})
+                    EXPECT_GE(Differing(Shown(Glyph(group[i]), scale), Shown(Glyph(group[j]), scale)), 2)
+                        << group[i] << group[j] << " at " << scale;
+}
+
+TEST_F(ShippedFont, StemsAreOnePixelWideInTheSmallScales)
+{
+    for (const char letter : std::string_view("HILlhinu"))
+        for (const float scale : {0.4f, 0.5f})
+        {
+            const base::Grid<std::uint8_t> shown = Shown(Glyph(letter), scale);
+            const int row = base::Floor(17 * scale); // above the feet and below the bars
+            for (int x = 1; x < shown.Width; ++x)
+                EXPECT_FALSE(shown.At(x, row) != 0 && shown.At(x - 1, row) != 0) << letter;
+        }
 }
 
 TEST_F(ShippedFont, EveryAnswerOfTheConsoleStandsOnTheFirstFrame)
