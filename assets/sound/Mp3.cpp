@@ -29,7 +29,9 @@ Encoder Open(const Tags& tags)
     lame_set_mode(encoder.get(), JOINT_STEREO);
     lame_set_brate(encoder.get(), 192);
     lame_set_quality(encoder.get(), 2);
-    lame_set_bWriteVbrTag(encoder.get(), 1); // tells players the exact length
+    // No frame in front that tells the length: at a constant bit rate the file's size does, and players that do not
+    // know such a frame play it as 26 ms of silence before the first beat.
+    lame_set_bWriteVbrTag(encoder.get(), 0);
     id3tag_init(encoder.get());
     id3tag_v2_only(encoder.get());
     id3tag_set_title(encoder.get(), tags.Title.c_str());
@@ -66,11 +68,6 @@ Bytes Encode(lame_global_flags* encoder, const Stereo& sound)
                                            piece.data(), static_cast<int>(piece.size())));
     }
     keep(lame_encode_flush(encoder, piece.data(), static_cast<int>(piece.size())));
-    // The first frame holds no sound but the length, which is known only now.
-    const std::size_t size = lame_get_lametag_frame(encoder, piece.data(), piece.size());
-    if (size == 0 || size > std::min(stream.size(), piece.size()))
-        throw std::runtime_error("the MP3 encoder does not tell the length");
-    std::copy(piece.begin(), piece.begin() + static_cast<std::ptrdiff_t>(size), stream.begin());
     return stream;
 }
 }

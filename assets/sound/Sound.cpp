@@ -14,8 +14,11 @@ struct Piece
     const char* Title; // the game shows the file's name
     Stereo (*Play)();
 };
-constexpr Piece Pieces[] = {
-    {"Luci sul lago", LuciSulLago}, {"Limonata sul molo", LimonataSulMolo}, {"Tornanti", Tornanti}};
+constexpr Piece Pieces[] = {{"Luci sul lago", LuciSulLago},
+                            {"Limonata sul molo", LimonataSulMolo},
+                            {"Tornanti", Tornanti},
+                            {"Tarantella a tavoletta", TarantellaATavoletta},
+                            {"Ora dorata", OraDorata}};
 }
 
 void BuildSound(const std::string& root)

@@ -11,4 +11,8 @@ Stereo LuciSulLago();
 Stereo LimonataSulMolo();
 // Hairpins: fast, electric guitars over a sequencer.
 Stereo Tornanti();
+// A tarantella with the drums of another century: mandolins, accordion, trumpet.
+Stereo TarantellaATavoletta();
+// A bossa nova for the last light: whistle, nylon strings, a soft horn.
+Stereo OraDorata();
 }

@@ -28,7 +28,7 @@ declare -A may=(
 declare -A called=(
     [base]=base [typeface]=typeface [render]=render [world]=world [console]=console [audio]=audio [webcam]=webcam
     [platform]=platform [platform/headless]=headless [platform/sdl]=sdl [platform/win32]="win32 platform"
-    [shell]=shell [shell/forms]=forms [shell/panels]=panels [program]=program [tools/drive]=drive
+    [shell]=shell [shell/forms]=forms [shell/panels]=panels [program]=program [tools/drive]=drive [tools/race]=race
     [assets]=assets [assets/cars]=assets::cars [assets/hud]=assets::hud [assets/sound]=assets::sound
     [assets/track]=assets::track [bench]=bench [tests/support]=support
 )

@@ -10,23 +10,6 @@ namespace drive
 {
 namespace
 {
-void RequireDone(Outcome outcome)
-{
-    switch (outcome)
-    {
-    case Outcome::Done:
-        return;
-    case Outcome::NoSuchPath:
-        throw Refusal{"there is no such path"};
-    case Outcome::NotOneValue:
-        throw Refusal{"only one number or text can be set"};
-    case Outcome::ReadOnly:
-        throw Refusal{"the field cannot be set"};
-    case Outcome::BadValue:
-        throw Refusal{"the value does not fit the field"};
-    }
-}
-
 void PeekPath(Session& session, Words& words, Object& answer)
 {
     const std::string_view path = Word(words, "the path");

@@ -1,5 +1,7 @@
 #include "tools/drive/Paths.h"
 
+#include "tools/drive/Session.h"
+
 namespace drive
 {
 namespace
@@ -78,6 +80,13 @@ Outcome Peek(shell::Form1& form, headless::Machine& machine, std::string_view pa
     return steps ? FollowFromRoots(form, machine, *steps, Reader(json)) : Outcome::NoSuchPath;
 }
 
+Outcome Find(shell::Form1& form, headless::Machine& machine, std::string_view path)
+{
+    const std::optional<std::vector<Step>> steps = ParsePath(path);
+    return steps ? FollowFromRoots(form, machine, *steps, [](const Value&) { return Outcome::Done; })
+                 : Outcome::NoSuchPath;
+}
+
 Outcome Poke(shell::Form1& form, headless::Machine& machine, std::string_view path, std::string_view text)
 {
     const std::optional<std::vector<Step>> steps = ParsePath(path);
@@ -93,5 +102,22 @@ Outcome Poke(shell::Form1& form, headless::Machine& machine, std::string_view pa
     if (outcome == Outcome::Done && turned)
         render::UpdateCameraTrig(form.State().Camera);
     return outcome;
+}
+
+void RequireDone(Outcome outcome)
+{
+    switch (outcome)
+    {
+    case Outcome::Done:
+        return;
+    case Outcome::NoSuchPath:
+        throw Refusal{"there is no such path"};
+    case Outcome::NotOneValue:
+        throw Refusal{"only one number or text can be set"};
+    case Outcome::ReadOnly:
+        throw Refusal{"the field cannot be set"};
+    case Outcome::BadValue:
+        throw Refusal{"the value does not fit the field"};
+    }
 }
 }

@@ -11,6 +11,10 @@ namespace drive
 {
 // Appends the value at the path to json.
 Outcome Peek(shell::Form1& form, headless::Machine& machine, std::string_view path, std::string& json);
+// Whether the path leads to anything.
+Outcome Find(shell::Form1& form, headless::Machine& machine, std::string_view path);
 // Sets one number or text. Whatever does not end in Done has changed nothing.
 Outcome Poke(shell::Form1& form, headless::Machine& machine, std::string_view path, std::string_view text);
+// Throws a Refusal that says why, unless the outcome is Done.
+void RequireDone(Outcome outcome);
 }

@@ -28,6 +28,14 @@ void Session::Pass(std::uint32_t milliseconds)
     }
 }
 
+void Session::Step(base::PhaseClock* clock)
+{
+    constexpr std::uint32_t GameStep = 25; // milliseconds
+    Machine.Clock += GameStep;
+    if (Form()->State().Timers.GameT.Enabled != base::False)
+        Form()->Race().GameT_Tick(clock);
+}
+
 void Require(bool condition, std::string_view why)
 {
     if (!condition)

@@ -50,6 +50,8 @@ struct Session
     bool Ended() { return Application && Application->Ended(); }
     // The clock goes on; what is due on the way fires when it is due.
     void Pass(std::uint32_t milliseconds);
+    // The clock goes on 25 ms, then one simulation tick if GameT is enabled; of a loaded game.
+    void Step(base::PhaseClock* clock = nullptr);
 
     headless::Machine Machine; // outlives the windows of the application
     std::unique_ptr<shell::Application> Application;

@@ -10,8 +10,6 @@ namespace drive
 {
 namespace
 {
-constexpr std::uint32_t GameStep = 25; // milliseconds
-
 void AnswerGameTime(Session& session, Object& answer)
 {
     if (shell::Form1* form = session.Form())
@@ -21,13 +19,8 @@ void AnswerGameTime(Session& session, Object& answer)
 void Game(Session& session, Words& words, Object& answer)
 {
     const std::uint32_t times = Times(words, session.Most.Ticks);
-    shell::Form1& form = *session.Form();
     for (std::uint32_t i = 0; i < times && !session.Ended(); ++i)
-    {
-        session.Machine.Clock += GameStep;
-        if (form.State().Timers.GameT.Enabled != base::False)
-            form.Race().GameT_Tick();
-    }
+        session.Step();
     AnswerGameTime(session, answer);
 }
 
@@ -81,18 +74,13 @@ void Measure(Session& session, Words& words, Object& answer)
     Require(what == "frame" || what == "tick", "a frame or a tick is measured");
     const bool isTick = what == "tick";
     const std::uint32_t times = Times(words, isTick ? session.Most.Ticks : session.Most.Frames);
-    shell::Form1& form = *session.Form();
     base::PhaseClock clock;
     for (std::uint32_t i = 0; i < times && !session.Ended(); ++i)
     {
-        if (!isTick)
-            form.Race().ShowFrame(&clock);
+        if (isTick)
+            session.Step(&clock);
         else
-        {
-            session.Machine.Clock += GameStep;
-            if (form.State().Timers.GameT.Enabled != base::False)
-                form.Race().GameT_Tick(&clock);
-        }
+            session.Form()->Race().ShowFrame(&clock);
     }
     AnswerPhases(clock, std::max(times, 1u), answer);
 }

@@ -10,10 +10,13 @@ namespace assets::sound
 {
 namespace
 {
-constexpr double Tail = 6;          // seconds for the last echoes
-constexpr double Loudest = -16;     // LUFS of a finished piece
-constexpr double Ceiling = -2.0;    // decibels; the encoder adds a little on top
+constexpr double Tail = 6;      // seconds for the last echoes
+constexpr double Loudest = -16; // LUFS of a finished piece
+// Decibels. The encoder adds a little on top, and the engine of a race is added to it all: both fit into full scale.
+constexpr double Ceiling = -6;
 constexpr double SilentBelow = -64; // decibels
+constexpr double MiddleBelow = 150; // Hz: what carries the piece stays between the loudspeakers
+constexpr double Apart = 3;         // decibels by which everything above stands further apart
 
 double HzOf(double key)
 {
@@ -147,11 +150,12 @@ Stereo Studio::Master(const std::vector<RidePoint>& ride)
     RoomBus.Add(echoes, 0.25, 0.25); // echoes stand in the same room
     MixBus.Add(Room(RoomBus, Reverb), 1, 1);
     CutLow(MixBus, 26);
+    Widen(MixBus, MiddleBelow, Apart);
     Follow(MixBus, 0, ride);
     Scale(MixBus, Decibels(Loudest - Loudness(MixBus)));
     // Glue: the loud passages draw a little nearer to the others.
-    Compress(MixBus, -17, 1.7, 0.015, 0.18);
-    Drive(MixBus, 2, 0); // like tape: the tips of the drums grow round
+    Compress(MixBus, -18, 1.9, 0.012, 0.18);
+    Drive(MixBus, 5, 0); // like tape: the tips of the drums grow round, and little is left to the limiter
     Stereo piece = MixBus;
     double gain = Loudest - Loudness(piece);
     for (int turn = 0; turn < 3; ++turn)

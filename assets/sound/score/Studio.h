@@ -43,7 +43,7 @@ public:
     void Record(const Line& line, const Instrument& instrument, const Strip& strip);
     // Every drum of the kit must have its sound.
     void Record(const Kit& kit, const std::map<std::string, Drum>& drums);
-    // The finished piece at -16 LUFS, no peak above -2 dB, the silence at its end cut off; `ride` is the way of the
+    // The finished piece at -16 LUFS, no peak above -6 dB, the silence at its end cut off; `ride` is the way of the
     // last fader. The studio is empty after it.
     Stereo Master(const std::vector<RidePoint>& ride = {});
 

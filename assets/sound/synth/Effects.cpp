@@ -57,6 +57,18 @@ void Drive(Stereo& sound, double decibels, double lean)
     CutLow(sound, 20); // the lean leaves an offset
 }
 
+void Widen(Stereo& sound, double hz, double decibels)
+{
+    Biquad high = HighPassOf(hz, 0.7071);
+    const double gain = Decibels(decibels);
+    for (std::size_t i = 0; i < sound.Size(); ++i)
+    {
+        const double middle = 0.5 * (sound.Left[i] + sound.Right[i]);
+        const double side = gain * high.Run(0.5 * (sound.Left[i] - sound.Right[i]));
+        sound.Put(i, middle + side, middle - side);
+    }
+}
+
 void Chorus(Stereo& sound, double depth, double mix)
 {
     constexpr std::size_t Room = 2048;

@@ -17,6 +17,10 @@ void HighShelf(Stereo& sound, double hz, double decibels);
 // `lean` bends one half more than the other.
 void Drive(Stereo& sound, double decibels, double lean = 0.1);
 
+// Moves what lies above the frequency further to the sides, and what lies below it into the middle. Both sides together
+// sound as before.
+void Widen(Stereo& sound, double hz, double decibels);
+
 // Three slowly moving copies on either side.
 void Chorus(Stereo& sound, double depth, double mix);
 

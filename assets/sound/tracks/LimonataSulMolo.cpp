@@ -73,7 +73,7 @@ Line Whistled(const Score& score)
 Line Brass(const Score& score)
 {
     const Range range{58, 76, 4};
-    Line line = score.Comp("intro", ". | . | . | ............x.X.", range);
+    Line line = score.Comp("intro", "X--............. | . | . | ............x.X.", range);
     line += score.Comp("lift 1", "x-----.....x.x.. | x-----.....x.x.. | x-----.....x.x.. | x-----..X-----..", range);
     for (const char* chorus : {"chorus 1", "chorus 2", "chorus 3"})
         line += score.Comp(chorus,
@@ -162,7 +162,7 @@ Kit Drums(const Score& score)
         shaker  xoxoxoxoxoxoxoxo
         conga   ......xx......x.
         tumba   ..........x....x
-        kick    . | . | X..x..x...X..x.. | X..x..x...X.....
+        kick    X............... | . | X..x..x...X..x.. | X..x..x...X.....
         snare   . | . | ............X..o | ........x.xoXxXX
         hat     . | . | x.x.x.x.x.x.x.x. | x.x.x.x.........)");
     for (const char* verse : {"verse 1", "verse 2"})
@@ -211,7 +211,7 @@ Kit Drums(const Score& score)
         open    ..x...x...x...x. | . | ..x...x...x..... | . | .
         tamb    x.oox.oox.oox.oo | . | x.oox.oox.oox... | . | .
         crash   X............... | . | . | X............... | .)");
-    kit["crash"] += score.Marks({"verse 1", "verse 2", "bridge"});
+    kit["crash"] += score.Marks({"intro", "verse 1", "verse 2", "bridge"});
     kit["swell"] = score.Marks({"chorus 1", "chorus 2", "chorus 3"}, 3);
     return kit;
 }

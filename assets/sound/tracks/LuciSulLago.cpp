@@ -59,7 +59,7 @@ Line SecondVoice(const Score& score, const Line& lead)
 Line Bells(const Score& score)
 {
     Line line;
-    line += score.Melody("intro", "rw | rw | rw | rw | mp e6q. c6q. b5q | a5w | f6q. e6q. d6q | e6h g#6q b5q");
+    line += score.Melody("intro", "mf e6w | rw | rw | rw | mp e6q. c6q. b5q | a5w | f6q. e6q. d6q | e6h g#6q b5q");
     line += score.Melody("verse 1", "rw | rh e6e c6e a5q | rw | rh g5e b5e e6q | rw | rw | rw | rh rq b5q");
     line += score.Melody("verse 2", "rw | rh a6e e6e c6q | rw | rq e6e g6e b6h | rw | rh rq c7q | rw | rq e6e d6e b5h");
     line += score.Melody("bridge", "p d6e f6e a6e f6e d6e f6e a6e c7e | e6e g6e c7e g6e e6e g6e c7e e7e |"
@@ -111,7 +111,7 @@ Kit Drums(const Score& score)
 {
     Kit kit;
     score.Drums(kit, "intro", R"(
-        kick    . | . | . | . | X...X...X...X... | % | % | X...X...X.......
+        kick    X............... | . | . | . | X...X...X...X... | % | % | X...X...X.......
         hat     . | . | . | . | o.x.o.x.o.x.o.x. | o.x.o.x.o.x.o.xo | o.x.o.x.o.x.o.x. | o.x.o.x.........
         snare   . | . | . | . | . | . | . | ........x.x.xoXx)");
     for (const char* verse : {"verse 1", "verse 2"})
@@ -150,11 +150,11 @@ Kit Drums(const Score& score)
         open    ..x...x...x...x. | ..x...x......... | . | . | .
         floor   . | . | ..x.....x...x... | . | .
         crash   X............... | . | X............... | x............... | .)");
-    kit["crash"] += score.Marks({"verse 1", "verse 2", "bridge"});
+    kit["crash"] += score.Marks({"intro", "verse 1", "verse 2", "bridge"});
     // What announces the next section.
     kit["swell"] = score.Marks({"verse 1", "chorus 1", "verse 2", "chorus 2"}, 4);
     kit["riser"] = score.Marks({"chorus 1", "chorus 3"}, 8);
-    kit["impact"] = score.Marks({"chorus 1", "bridge", "chorus 3"});
+    kit["impact"] = score.Marks({"intro", "chorus 1", "bridge", "chorus 3"});
     return kit;
 }
 

@@ -192,10 +192,10 @@ Kit Drums(const Score& score)
         open    ..x...x...x...x. | ..x...x...x...x. | ..x...x......... | . | .
         tom     . | . | .........xx..... | . | .
         crash   X............... | . | X.......X....... | X............... | .)");
-    kit["crash"] += score.Marks({"verse 1", "verse 2"});
+    kit["crash"] += score.Marks({"intro", "verse 1", "verse 2"});
     kit["swell"] = score.Marks({"riff 1", "chorus 1", "chorus 2", "break"}, 4);
     kit["riser"] = score.Marks({"riff 1", "chorus 3"}, 16);
-    kit["impact"] = score.Marks({"riff 1", "chorus 1", "break", "chorus 3"});
+    kit["impact"] = score.Marks({"intro", "riff 1", "chorus 1", "break", "chorus 3"});
     kit["impact"].Notes.push_back({score.EndOf("finish") - 8, 1, 60, 60, 0.9, 0});
     return kit;
 }

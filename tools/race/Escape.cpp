@@ -1,0 +1,178 @@
+#include "tools/race/Escape.h"
+
+#include "tools/race/Recovery.h"
+#include "tools/race/Scout.h"
+#include "tools/race/SideBySide.h"
+
+#include <algorithm>
+#include <array>
+#include <cmath>
+#include <limits>
+
+namespace race
+{
+namespace
+{
+constexpr int LongestLap = 180;                        // seconds for the line
+constexpr double StartSpeed = 2.5;                     // of attempts from the lap
+constexpr double Room = 4;                             // units that a start needs around the car
+constexpr double Slack = 0.05;                         // radians
+constexpr int DetourTicks = 2 * TicksASecond;          // round what is in the way
+constexpr std::array Detours = {0.9, -0.9, 1.5, -1.5}; // radians, by turns
+
+struct Ground
+{
+    double Width = 0, Height = 0; // units
+
+    double MarginOf(const Spot& spot) const { return std::min({spot.X, spot.Z, Width - spot.X, Height - spot.Z}); }
+    // Straight out.
+    Spot NearestBorder(const Spot& spot) const
+    {
+        const double margin = MarginOf(spot);
+        constexpr double beyond = 50; // so that a car at the border still heads out
+        if (margin == spot.X)
+            return {-beyond, spot.Z};
+        if (margin == spot.Z)
+            return {spot.X, -beyond};
+        return margin == Width - spot.X ? Spot{Width + beyond, spot.Z} : Spot{spot.X, Height + beyond};
+    }
+};
+
+Ground GroundOf(Stage& stage)
+{
+    const render::Ground& ground = stage.Game().Scene.Ground;
+    drive::Require(ground.Width > 0 && ground.GroundScale > 0, "the map has no picture of the ground");
+    return {ground.Width / static_cast<double>(ground.GroundScale),
+            ground.Height / static_cast<double>(ground.GroundScale)};
+}
+
+bool IsFree(Stage& stage, const Spot& spot)
+{
+    const std::vector<render::Obj>& objects = stage.Game().Scene.Objects.Items;
+    return std::none_of(objects.begin(), objects.end(),
+                        [&](const render::Obj& object) {
+                            return object.Free == 0 && !object.Sfere.empty() &&
+                                   Distance(spot, {object.X, object.Z}) < object.Radius + Room;
+                        });
+}
+
+// The index turned over behind the point: 1/2, 1/4, 3/4 … for base 2. Fills a range evenly, however many are taken.
+double TurnedOver(int index, int base)
+{
+    double value = 0, digit = 1;
+    for (; index > 0; index /= base)
+        value += (digit /= base) * (index % base);
+    return value;
+}
+
+std::vector<Attempt> PlanAttempts(const Setup& setup, int places)
+{
+    Stage stage(setup);
+    const Scouted track = ScoutLine(stage, LongestLap);
+    const Ground ground = GroundOf(stage);
+    std::vector<Attempt> attempts;
+    for (int i = 0; i < places; ++i)
+    {
+        const std::size_t at = track.Way.Count() * static_cast<std::size_t>(i) / static_cast<std::size_t>(places);
+        attempts.push_back({.IsFromLap = true, .From = track.Way.At(at), .Heading = track.Way.Heading(at)});
+    }
+    // Most of a map is free: where no place can be found it is not asked for ever.
+    for (int index = 1, found = 0; found < places && index < 100 * places; ++index)
+    {
+        const Spot spot = {ground.Width * TurnedOver(index, 2), ground.Height * TurnedOver(index, 3)};
+        if (!IsFree(stage, spot))
+            continue;
+        ++found;
+        attempts.push_back({.From = spot, .Heading = Bearing(spot, ground.NearestBorder(spot))});
+    }
+    return attempts;
+}
+
+void PlaceUser(Stage& stage, const Attempt& attempt)
+{
+    TakeOthersOff(stage);
+    stage.SkipCountdown();
+    stage.Race().Laps = std::numeric_limits<std::int16_t>::max();
+    stage.User()->Control = 0;
+    stage.User()->Speed = attempt.IsFromLap ? static_cast<float>(StartSpeed) : 0.0f;
+    if (render::Obj* car = stage.Car(0))
+    {
+        car->X = static_cast<float>(attempt.From.X);
+        car->Z = static_cast<float>(attempt.From.Z);
+        car->AngleA = static_cast<float>(attempt.Heading);
+    }
+}
+
+// At the border with full throttle; after each time that the car was stuck, aside for a while.
+class Stubborn
+{
+public:
+    world::HeldKeys Drive(const Seen& own, const Spot& border)
+    {
+        const bool backs = Trouble.Backs(own, true);
+        if (backs && !Backed)
+        {
+            Detour = DetourTicks;
+            ++Times;
+        }
+        Backed = backs;
+        double wanted = Bearing(own.Place, border);
+        if (!backs && Detour > 0)
+            --Detour;
+        if (Detour > 0)
+            wanted += Detours[Times % Detours.size()];
+        const double off = Wrapped(wanted - own.Heading) * (backs ? -1 : 1);
+        return {.KeyAccel = base::ToFlag(!backs),
+                .KeyBrake = base::ToFlag(backs),
+                .KeyLeft = base::ToFlag(off > Slack),
+                .KeyRight = base::ToFlag(off < -Slack),
+                .KeyHandbrake = 0,
+                .KeyLookBack = 0};
+    }
+
+private:
+    Recovery Trouble;
+    bool Backed = false;
+    int Detour = 0; // ticks
+    std::size_t Times = 0;
+};
+
+void Try(Stage& stage, Attempt& attempt, int seconds, Trace* trace)
+{
+    PlaceUser(stage, attempt);
+    const Ground ground = GroundOf(stage);
+    Stubborn driver;
+    attempt.Margin = ground.MarginOf(attempt.From);
+    attempt.Nearest = attempt.From;
+    for (int tick = 1; tick <= seconds * TicksASecond; ++tick)
+    {
+        const Seen own = LookAround(stage).Own;
+        stage.Game().Keys = driver.Drive(own, ground.NearestBorder(own.Place));
+        stage.Step();
+        const std::vector<CarState> cars = StatesOf(stage);
+        if (trace != nullptr)
+            trace->Take(cars);
+        const Spot now = {cars[0].X, cars[0].Z};
+        if (const double margin = ground.MarginOf(now); margin < attempt.Margin)
+        {
+            attempt.Margin = margin;
+            attempt.Nearest = now;
+        }
+        if (attempt.Margin < 0 && !attempt.Left)
+            attempt.Left = static_cast<double>(tick) / TicksASecond;
+    }
+}
+}
+
+std::vector<Attempt> TryToEscape(const Setup& setup, int places, int seconds, int jobs, Trace* trace)
+{
+    std::vector<Attempt> attempts = PlanAttempts(setup, places);
+    SideBySide(attempts.size(), jobs,
+               [&](std::size_t number)
+               {
+                   Stage stage(setup);
+                   Try(stage, attempts[number], seconds, number == 0 ? trace : nullptr);
+               });
+    return attempts;
+}
+}
