@@ -20,11 +20,6 @@ constexpr double LeastScale = 0.1, MostScale = 16;
 constexpr std::array<std::string_view, 7> ViewNames = {"chase", "driver", "overhead", "reverse",
                                                        "orbit", "side",   "overview"};
 
-std::string Quoted(std::string_view text)
-{
-    return "'" + std::string(text) + "'";
-}
-
 double RealFrom(std::string_view option, std::string_view word, double least, double most)
 {
     const std::optional<double> value = base::ReadNumber(word, base::DataSeparator);

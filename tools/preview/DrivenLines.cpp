@@ -39,7 +39,7 @@ std::string ReadRow(std::string_view line, Row& row)
         const std::string_view word = line.substr(0, end);
         const std::optional<double> value = base::ReadNumber(word, base::DataSeparator);
         if (!value || !std::isfinite(*value))
-            return "'" + std::string(word) + "' is no number";
+            return Quoted(word) + " is no number";
         values[i] = *value;
         if (!isLast)
             line.remove_prefix(end + 1);

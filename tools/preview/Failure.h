@@ -1,6 +1,7 @@
 // tools/preview/Failure.h: the two ways in which no picture comes about. Nothing has been written then.
 #pragma once
 #include <string>
+#include <string_view>
 
 namespace preview
 {
@@ -15,4 +16,13 @@ struct Failure
 {
     std::string Why;
 };
+
+// A word of somebody else's, as complaints quote it.
+inline std::string Quoted(std::string_view word)
+{
+    std::string text(1, '\'');
+    text += word;
+    text += '\'';
+    return text;
+}
 }

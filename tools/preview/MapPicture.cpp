@@ -214,7 +214,7 @@ void MapPicture::MarkLines(std::span<const DrivenLine> lines)
         const base::Rgb colour = Drivers[i % Drivers.size()];
         for (const std::vector<Spot>& drive : lines[i].Drives)
             for (std::size_t k = 1; k < drive.size(); ++k)
-                Picture.Line(ToPicture(drive[k - 1].X, drive[k - 1].Y), ToPicture(drive[k].X, drive[k].Y), 1.5,
+                Picture.Line(ToPicture(drive[k - 1].X, drive[k - 1].Y), ToPicture(drive[k].X, drive[k].Y), 2,
                              {colour, 0.9});
         Legend.push_back({colour, "driven: car " + std::to_string(lines[i].Car)});
     }
