@@ -105,6 +105,14 @@ void Canvas::Line(Spot from, Spot to, double width, Ink ink)
     }
 }
 
+void Canvas::Tint(const Canvas& mask, Ink ink)
+{
+    for (std::int32_t y = 0; y < Height(); ++y)
+        for (std::int32_t x = 0; x < Width(); ++x)
+            if (const std::uint8_t share = mask.At(x, y).R; share > 0)
+                Blend(x, y, ink, share / 255.0);
+}
+
 void Canvas::Paste(const base::ConstSurface& picture, std::int32_t left, std::int32_t top)
 {
     const base::Surface surface = Pixels.View();

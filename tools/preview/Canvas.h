@@ -36,6 +36,8 @@ public:
     void Disc(Spot centre, double radius, Ink ink);
     void Ring(Spot centre, double radius, double width, Ink ink); // width to both sides of the radius, by halves
     void Line(Spot from, Spot to, double width, Ink ink);
+    // As much as the mask, of the same size, is white.
+    void Tint(const Canvas& mask, Ink ink);
     void Paste(const base::ConstSurface& picture, std::int32_t left, std::int32_t top);
 
     // One line of text, its box beginning there; nothing of it beyond `right`.

@@ -39,6 +39,9 @@ void LoadedGame::StartRace(platform::Size resolution)
     Form().Race().ApplyResolution(resolution.Width, resolution.Height);
     Form().Click("cSTART");
     State().Timers.GameT.Elapsed = State().Race.GameTime = CountdownOver;
+    // On a clock that stands still between the frames their rate would say nothing.
+    State().Scene.Labels.At(State().Hud.FrameRate).Visible = 0;
+    Step(); // every car has a place then
     RefuseMessages();
 }
 

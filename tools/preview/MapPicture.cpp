@@ -89,11 +89,13 @@ MapPicture::MapPicture(const shell::Game& game, double scale)
 
 void MapPicture::MarkTinted(const world::TargetList& list, base::Rgb colour, const char* text)
 {
+    // Where zones overlap the ground is to be seen as well: they are tinted together, once.
+    Canvas zones(Picture.Width(), Picture.Height(), {});
     for (const world::Target& target : list.Targets())
-    {
-        Picture.Disc(Centre(target), target.R * Scale, {colour, 0.16});
-        Picture.Ring(Centre(target), target.R * Scale, 1, {colour, 0.7});
-    }
+        zones.Disc(Centre(target), target.R * Scale, {{255, 255, 255}, 1});
+    Picture.Tint(zones, {colour, 0.2});
+    for (const world::Target& target : list.Targets())
+        Picture.Ring(Centre(target), target.R * Scale, 1, {colour, 0.4});
     if (list.Count() > 0)
         Legend.push_back({colour, std::string(text) + " (" + std::to_string(list.Count()) + ")"});
 }

@@ -60,7 +60,7 @@ TEST(Canvas, LinesOfEverySlopeReachFromEndToEnd)
     {
         preview::Canvas canvas(41, 41, Black);
         canvas.Line({20.5, 20.5}, end, 2, {Red, 1});
-        for (const double share : {0.0, 0.3, 0.5, 1.0})
+        for (const double share : {0.0, 1.0 / 3, 2.0 / 3, 1.0})
             EXPECT_EQ(canvas
                           .At(static_cast<int>(20.5 + (end.X - 20.5) * share),
                               static_cast<int>(20.5 + (end.Y - 20.5) * share))
