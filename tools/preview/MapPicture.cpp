@@ -178,17 +178,18 @@ void MapPicture::MarkObject(const render::Obj& object)
 void MapPicture::MarkObjects()
 {
     const render::SlotList<render::Obj>& objects = TheGame.Scene.Objects;
-    int count = 0;
+    std::size_t count = 0, spheres = 0;
     for (std::int16_t i = 0; i < objects.Size(); ++i)
         if (render::IsDrawn(objects.At(i)) && IsScenery(i))
         {
             MarkObject(objects.At(i));
             ++count;
+            spheres += objects.At(i).Sfere.size();
         }
-    if (count == 0)
-        return;
-    Legend.push_back({Scenery, "objects (" + std::to_string(count) + ")"});
-    Legend.push_back({Sphere, "collision spheres"});
+    if (count > 0)
+        Legend.push_back({Scenery, "objects (" + std::to_string(count) + ")"});
+    if (spheres > 0)
+        Legend.push_back({Sphere, "collision spheres (" + std::to_string(spheres) + ")"});
 }
 
 void MapPicture::MarkStart()
