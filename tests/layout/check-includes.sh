@@ -29,11 +29,12 @@ declare -A called=(
     [base]=base [typeface]=typeface [render]=render [world]=world [console]=console [audio]=audio [webcam]=webcam
     [platform]=platform [platform/headless]=headless [platform/sdl]=sdl [platform/win32]="win32 platform"
     [shell]=shell [shell/forms]=forms [shell/panels]=panels [program]=program [tools/drive]=drive [tools/race]=race
+    [tools/preview]=preview
     [assets]=assets [assets/cars]=assets::cars [assets/hud]=assets::hud [assets/sound]=assets::sound
     [assets/track]=assets::track [bench]=bench [tests/support]=support
 )
-# Where system headers belong: the back ends, and the one encoder of music.
-system='^(platform/(sdl|win32)/|assets/sound/Mp3\.cpp)'
+# Where system headers belong: the back ends, and the encoders of music and of pictures.
+system='^(platform/(sdl|win32)/|assets/sound/Mp3\.cpp|tools/preview/Png\.cpp)'
 # The compiler's own, the same on every system; and the library of the benchmarks.
 everywhere='<(emmintrin\.h|benchmark/benchmark\.h)>'
 
