@@ -1,0 +1,51 @@
+#include "assets/cars/Spheres.h"
+
+#include "assets/cars/Fittings.h"
+
+namespace assets::cars
+{
+namespace
+{
+// Where two cars touch. They lie drawn in toward the middle: a touch costs both so much speed and health that a field
+// of eight lives on brushing by. The body is 2.2 wide and 5.2 long.
+struct TouchSizes
+{
+    double Aside = 0.34, Low = 0.55, Ahead = 1.10, Radius = 0.46; // of the six on the body
+    double High = 1.00, Cabin = 0.34;                             // height and radius of those in the cabin
+};
+constexpr TouchSizes Touch;
+
+// Where a touch shows: on the visible body, around the place that the sphere stands for.
+struct DentSizes
+{
+    double Aside = 0.62, Low = 0.58, Ahead = 1.85, Reach = 0.92; // the corners, and the doors between them
+    double High = 1.15, CabinReach = 0.85;
+};
+constexpr DentSizes Dent;
+
+constexpr double CabinZ[] = {0.25, -0.65};
+
+ModelSphere Touching(double x, double y, double z, double radius, const ModelSphere& dented)
+{
+    return {x, y, z, radius, dented.Links};
+}
+}
+
+void AddSpheres(Model& model, int panels)
+{
+    for (const double ahead : {1.0, 0.0, -1.0})
+        for (const double side : {-1.0, 1.0})
+        {
+            ModelSphere dented{side * Dent.Aside, Dent.Low, ahead * Dent.Ahead, Dent.Reach, {}};
+            model.LinkNear(dented, 0, panels - 1, 0);
+            model.Spheres.push_back(Touching(side * Touch.Aside, Touch.Low, ahead * Touch.Ahead, Touch.Radius, dented));
+        }
+    for (const double z : CabinZ)
+    {
+        ModelSphere dented{0, Dent.High, z, Dent.CabinReach, {}};
+        model.LinkNear(dented, 0, panels - 1, 0);
+        model.LinkNear(dented, GlassMesh, GlassMesh, 0);
+        model.Spheres.push_back(Touching(0, Touch.High, z, Touch.Cabin, dented));
+    }
+}
+}
