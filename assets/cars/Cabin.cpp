@@ -17,9 +17,9 @@ constexpr double HeaderEnd = 0.07; // how far the windscreen's upper frame reach
 // The wall between cabin or wheel housing and the outer skin, cut where the flank is.
 ModelMesh InnerWall(const Design& design, double side)
 {
-    const Curve half{{-2.0, .67}, {-0.88, .79}, {0.40, .79}, {0.92, .76}, {1.85, .66}};
+    const Curve half{{-2.0, .67}, {-0.88, .79}, {0.40, .79}, {0.86, .775}, {1.85, .66}};
     std::vector<Vec3> low, high;
-    for (const double z : {-2.0, -0.88, -0.2, 0.40, 0.92, 1.85})
+    for (const double z : {-2.0, -0.88, -0.2, 0.40, 0.86, 1.85})
     {
         const double x = half(z);
         low.push_back({side * x, 0.16, z});
@@ -46,8 +46,25 @@ void AddLining(Model& model, const Shape& shape)
     const Vec3 under{0, -0.034, 0};
     model.Meshes.push_back(
         FlatMesh(Hex(0x1E1D1F), {AcrossRoof(shape, 0, {0, -0.032, -0.004}), AcrossRoof(shape, HeaderEnd, under)}));
-    model.Meshes.push_back(FlatMesh(RoofCloth, {AcrossRoof(shape, HeaderEnd, under), AcrossRoof(shape, 0.35, under),
-                                                AcrossRoof(shape, 0.99, {0, -0.028, 0})}));
+    std::vector<std::vector<Vec3>> rows;
+    for (const double back : {HeaderEnd, 0.35, 0.99})
+    {
+        const std::vector<Vec3> row = AcrossRoof(shape, back, under);
+        rows.push_back({row.front(), row[2], row.back()});
+    }
+    model.Meshes.push_back(FlatMesh(RoofCloth, rows));
+}
+
+// What hides the paint of the quarter panel behind the windows from within.
+ModelMesh QuarterTrim(const Design& design, double side)
+{
+    const double first = QuarterEnd(design.Shape) - 0.03;
+    std::vector<std::vector<Vec3>> rows(2);
+    for (const double back : {first, (first + 1) / 2, 0.995})
+        for (std::size_t i = 0; i < 2; ++i)
+            rows[i].push_back(CabinSidePoint(design.Shape, side, back, i == 0 ? 0.0 : 1.0) -
+                              Vec3{side * 0.035, i == 0 ? -0.01 : 0.02, 0});
+    return FlatMesh(RoofCloth, rows);
 }
 
 // A pillar as the driver sees it: before the edges of glass and door, so that no outer paint shows.
@@ -57,9 +74,9 @@ ModelMesh Pillar(const Design& design, double side)
     std::vector<std::vector<Vec3>> rows;
     for (const double up : PillarKnots())
     {
-        const Vec3 inward{-side * 0.014, 0, -0.016};
-        rows.push_back({WindscreenPoint(shape, side * 0.955, up) + Vec3{0, 0, -0.014},
-                        WindscreenPoint(shape, side, up) + inward, CabinSidePoint(shape, side, 0.034, up) + inward});
+        const Vec3 inward{-side * 0.016, 0, -0.024};
+        rows.push_back({WindscreenPoint(shape, side * 0.966, up) + Vec3{0, 0, -0.024},
+                        WindscreenPoint(shape, side, up) + inward, CabinSidePoint(shape, side, 0.026, up) + inward});
     }
     return FlatMesh(Trim, rows);
 }
@@ -98,14 +115,14 @@ ModelMesh FairingFront(const Design& design, double side)
     return FlatMesh(Hex(0x1B1A1C), {low, high});
 }
 
-// With a headrest, or without so that the view back passes over it.
-ModelMesh Seat(double x, Rgb colour, bool headrest)
+// Low, so that the view back passes over it.
+ModelMesh Seat(double x, Rgb colour)
 {
     const auto row = [&](double half, double y, double z) {
         return std::vector<Vec3>{{x - half, y, z}, {x + half, y, z}};
     };
-    return FlatMesh(colour, {row(0.20, 0.22, -0.16), row(0.22, 0.56, -0.30), row(0.18, headrest ? 0.80 : 0.74, -0.37),
-                             row(headrest ? 0.10 : 0.14, headrest ? 0.95 : 0.77, headrest ? -0.41 : -0.38)});
+    return FlatMesh(colour,
+                    {row(0.20, 0.22, -0.16), row(0.22, 0.56, -0.30), row(0.18, 0.70, -0.37), row(0.13, 0.76, -0.39)});
 }
 
 // The wall behind the seats, and the shelf below the rear window.
@@ -147,12 +164,16 @@ void AddCabin(Model& model, const Design& design)
             model.Meshes.push_back(FairingFront(design, side));
     }
     else
+    {
         AddLining(model, design.Shape);
+        for (const double side : {-1.0, 1.0})
+            model.Meshes.push_back(QuarterTrim(design, side));
+    }
     AddMirror(model);
     model.Meshes.push_back(RearWall(design));
     const Rgb cloth = design.Second * 0.10 + Hex(0x242326) * 0.8;
-    model.Meshes.push_back(Seat(SeatX, cloth, true));
-    model.Meshes.push_back(Seat(-SeatX, cloth, false));
+    model.Meshes.push_back(Seat(SeatX, cloth));
+    model.Meshes.push_back(Seat(-SeatX, cloth));
 }
 
 void AddWindscreen(Model& model, const Design& design)

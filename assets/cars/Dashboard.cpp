@@ -5,6 +5,7 @@
 #include "assets/cars/Pieces.h"
 
 #include <cmath>
+#include <utility>
 
 namespace assets::cars
 {
@@ -12,7 +13,8 @@ namespace
 {
 constexpr Rgb Leather = Hex(0x28272B), Edge = Hex(0x47454A), Panelling = Hex(0x18181B), Alloy = Hex(0x8E9196),
               Needle = Hex(0xF0561E), Figure = Hex(0xE6E4DA);
-constexpr double EdgeZ = 0.44, EdgeY = 0.715;
+constexpr double EdgeZ = 0.44, EdgeY = 0.715; // of the top, toward the seats
+constexpr double HoodHalf = 0.225;
 
 // From the bonnet's edge over the windscreen's foot to the edge toward the seats. It shares the bonnet's corners, so
 // that not a pixel of road shows between them.
@@ -31,13 +33,18 @@ ModelMesh Top(const Shape& shape)
     return FlatMesh(Leather, rows);
 }
 
+// The edge and the face below it, left and right of the hood.
 void AddFace(Model& model)
 {
-    const std::vector<Vec3> edge{{-0.80, EdgeY, EdgeZ}, {0.80, EdgeY, EdgeZ}};
-    const std::vector<Vec3> lip{{-0.80, 0.685, 0.405}, {0.80, 0.685, 0.405}};
-    const std::vector<Vec3> foot{{-0.78, 0.40, 0.36}, {0.78, 0.40, 0.36}};
-    model.Meshes.push_back(FlatMesh(Edge, {edge, lip}));
-    model.Meshes.push_back(FlatMesh(Panelling, {lip, foot}));
+    const double hood[] = {SeatX - HoodHalf, SeatX + HoodHalf};
+    for (const auto& [from, to] : {std::pair{-0.80, hood[0]}, {hood[1], 0.80}})
+    {
+        const std::vector<Vec3> edge{{from, EdgeY, EdgeZ}, {to, EdgeY, EdgeZ}};
+        const std::vector<Vec3> lip{{from, 0.685, 0.405}, {to, 0.685, 0.405}};
+        const std::vector<Vec3> foot{{from, 0.40, 0.36}, {to, 0.40, 0.36}};
+        model.Meshes.push_back(FlatMesh(Edge, {edge, lip}));
+        model.Meshes.push_back(FlatMesh(Panelling, {lip, foot}));
+    }
 }
 
 // An alloy panel with switches before the other seat.
@@ -58,8 +65,8 @@ void AddSwitches(Model& model)
 void AddHood(Model& model)
 {
     std::vector<std::vector<Vec3>> rows(2);
-    const double aside[] = {-0.225, -0.205, 0, 0.205, 0.225};
-    const double front[] = {0.60, 0.770, 0.788, 0.770, 0.60}, rear[] = {0.60, 0.690, 0.702, 0.690, 0.60};
+    const double aside[] = {-HoodHalf, -0.205, 0, 0.205, HoodHalf};
+    const double front[] = {0.44, 0.770, 0.788, 0.770, 0.44}, rear[] = {0.44, 0.738, 0.752, 0.738, 0.44};
     for (std::size_t i = 0; i < std::size(aside); ++i)
     {
         rows[0].push_back({SeatX + aside[i], front[i], 0.405});
@@ -88,11 +95,11 @@ void AddClock(Model& model, Plane plane, double radius, double needle)
 
 void AddClocks(Model& model)
 {
-    const Vec3 low{SeatX, 0.60, 0.425}, high{SeatX, 0.775, 0.470}, up = Unit(high - low);
-    const Plane panel{(low + high) * 0.5, {1, 0, 0}, up};
-    model.Meshes.push_back(Plate(Hex(0x161618), panel, 0.21, 0.09));
+    const Plane panel{{SeatX, 0.688, 0.448}, {1, 0, 0}, Unit({0, 0.175, 0.045})};
+    const Plane back{panel.At(0, -0.075), panel.Right, panel.Up};
+    model.Meshes.push_back(Plate(Hex(0x161618), back, HoodHalf - 0.008, 0.148));
     for (const double side : {-1.0, 1.0})
-        AddClock(model, {panel.At(side * 0.097, 0.006), panel.Right, panel.Up}, 0.078, side < 0 ? 1.9 : 2.6);
+        AddClock(model, {panel.At(side * 0.099, 0.0), panel.Right, panel.Up}, 0.083, side < 0 ? 1.9 : 2.6);
     for (const double at : {0.012, -0.012})
         model.Meshes.push_back(Plate(at > 0 ? Hex(0x30C050) : Hex(0xE0A020),
                                      {panel.At(0, at * 3) - Vec3{0, 0, 0.006}, panel.Right, panel.Up}, 0.007, 0.007));
@@ -103,9 +110,9 @@ void AddWheel(Model& model)
     const Plane plane{{SeatX, 0.55, 0.27}, {1, 0, 0}, Unit({0, 0.165, 0.075})};
     Plane above = plane;
     above.Middle = plane.Middle + Vec3{0, 0.002, -0.005};
-    for (const double angle : {-Pi / 2, Pi / 10, Pi * 9 / 10})
+    for (const double angle : {Pi / 10, Pi * 9 / 10})
         model.Meshes.push_back(Hand(Alloy, plane, angle, 0.02, 0.165, 0.017));
-    model.Meshes.push_back(Disc(Hex(0x202022), above, 0.045, 8));
+    model.Meshes.push_back(Plate(Hex(0x202022), above, 0.045, 0.04));
     model.Meshes.push_back(Arc(Hex(0x1C1C1F), plane, 0.153, 0.180, 0, 2 * Pi, 14));
     model.Meshes.push_back(Arc(Hex(0x4C4A4E), above, 0.165, 0.172, Pi * 0.15, Pi * 0.85, 6));
 }

@@ -85,12 +85,15 @@ ModelMesh Tyre(double outerX, double z, Atlas& atlas, const std::string& texture
     return Build(panel, tread, atlas, texture);
 }
 
-// Two quads, one a side.
-ModelMesh DoorMirror(const Design& design, double side)
+void AddDoorMirror(Model& model, const Design& design, double side)
 {
     const double y = design.Shape.ShoulderY(DoorFront);
-    return FlatMesh(design.Base * 0.85, {{{side * 0.83, y + 0.04, 0.76}, {side * 1.00, y + 0.04, 0.73}},
-                                         {{side * 0.85, y + 0.12, 0.76}, {side * 1.00, y + 0.12, 0.73}}});
+    const Vec3 inner{side * 0.83, y + 0.04, 0.76}, outer{side * 1.00, y + 0.04, 0.73};
+    const Vec3 along = outer - inner, up{0, 0.08, 0};
+    model.Meshes.push_back(FlatMesh(design.Base * 0.85, {{inner, outer}, {inner + up, outer + up}}));
+    const auto glass = [&](double at, double high) { return inner + along * at + up * high - Vec3{0, 0, 0.012}; };
+    model.Meshes.push_back(
+        FlatMesh(Hex(0x8C9EAC), {{glass(0.14, 0.12), glass(0.94, 0.12)}, {glass(0.14, 0.88), glass(0.94, 0.88)}}));
 }
 
 // A panel from a front edge to a rear one, with two end plates.
@@ -206,7 +209,7 @@ ModelMesh GroundShape(const Design& design, Rgb colour, double out, double y)
     {
         const double end = z < 0 ? -TailZ + design.Shape.TailBulge : NoseZ + design.Shape.NoseBulge;
         const double round = std::pow(1 - std::pow(std::abs(z), 6.0), 0.4);
-        const double half = (0.60 + 0.36 * round) + out * (0.4 + 0.6 * round);
+        const double half = (0.60 + 0.34 * round) + out * (0.4 + 0.6 * round);
         const double at = z * (end + out);
         rows.push_back({{LeanX - half, y, at + LeanZ}, {LeanX + half, y, at + LeanZ}});
     }
@@ -219,7 +222,7 @@ void AddOutside(Model& model, const Design& design, Atlas& atlas, const std::str
     AddTyres(model, design, atlas, texture);
     AddWheelFaces(model, design, atlas, texture);
     for (const double side : {-1.0, 1.0})
-        model.Meshes.push_back(DoorMirror(design, side));
+        AddDoorMirror(model, design, side);
     if (design.Spoiler == Spoiler::Wing)
         AddWing(model, design, atlas, texture);
     if (design.Spoiler == Spoiler::Roof)
@@ -237,7 +240,7 @@ void AddDriver(Model& model, const Design& design, Atlas& atlas, const std::stri
 
 void AddShadow(Model& model, const Design& design)
 {
-    model.Meshes.push_back(GroundShape(design, Hex(0x2C2B2E), 0.10, 0.007));
+    model.Meshes.push_back(GroundShape(design, Hex(0x2C2B2E), 0.07, 0.007));
     model.Meshes.push_back(GroundShape(design, Hex(0x151517), 0.0, 0.015));
 }
 }

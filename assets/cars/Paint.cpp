@@ -213,13 +213,13 @@ Painter BonnetPainter(const Design& design)
 
 Painter DeckPainter(const Design& design)
 {
-    const auto figures = Figures(design, 0.46);
+    const auto figures = Figures(design, 0.44);
     return [&design, figures](const Sample& s) -> Ink
     {
         const double x = s.P.X, z = s.P.Z;
         Rgb colour = design.Livery(design, Part::Deck, s.P);
         if (design.Shape.Open) // where others have it on the roof
-            if (Rgb ink; NumberInk(design, *figures, x, z + 1.55, 0.38, ink))
+            if (Rgb ink; NumberInk(design, *figures, x, z + 1.70, 0.36, ink))
                 colour = ink;
         Rgb lit = Lit(colour, s.N, 1);
         if (Near(std::abs(x), 0.66, 0.009))
@@ -321,25 +321,23 @@ Painter CabinPainter(const Design& design)
     // The windows in the panel's own (a, b): a pillar in front, one behind the door, a pane, the quarter panel.
     const Shape& shape = design.Shape;
     const double doorAt = (CowlCorner - DoorRear) / (CowlCorner - shape.WindowRear) - 0.01;
-    const double roofEnd = (RoofFront - shape.RoofRear) / (RoofFront - shape.WindowRear);
-    return [&design, doorAt, roofEnd](const Sample& s) -> Ink
+    const double quarterEnd = QuarterEnd(shape);
+    return [&design, doorAt, quarterEnd](const Sample& s) -> Ink
     {
         const double a = s.A, b = s.B;
         const double front = 0.020 + 0.004 * b, doorEnd = doorAt - 0.02 * b;
-        const double last =
-            design.Louvres ? doorEnd + 0.07 : Lerp(std::max(0.80, roofEnd + 0.03), std::max(0.66, roofEnd - 0.03), b);
-        const bool door = Within(a, front, doorEnd) && b < 0.90;
-        const bool pane = Within(a, doorEnd + 0.03, last) && Within(b, 0.08, 0.86);
+        const double last = design.Louvres ? doorEnd + 0.07 : Lerp(std::max(0.80, quarterEnd + 0.06), quarterEnd, b);
         const bool doorGlass = Within(a, front + 0.011, doorEnd - 0.012) && Within(b, 0.10, 0.86);
-        const bool paneGlass = Within(a, doorEnd + 0.042, last - 0.014) && Within(b, 0.12, 0.82);
+        const bool paneGlass = Within(a, doorEnd + 0.030, last - 0.014) && Within(b, 0.12, 0.82);
         if (doorGlass || paneGlass)
         {
-            // A slanting reflection of the sky in every other texel.
+            // Two slanting reflections of the sky.
             const double slant = a - b * 0.12;
-            const bool odd = ((base::RoundEven(a * 159) + base::RoundEven(b * 33)) & 1) != 0;
-            return Within(slant, 0.26, 0.30) && odd ? Ink{Hex(0xA4B4BE)} : Ink{{}, true};
+            const bool streak = Within(slant, 0.25, 0.272) || Within(slant, 0.282, 0.289);
+            return streak ? Ink{Hex(0x92A5B1)} : Ink{{}, true};
         }
-        if (door || pane)
+        // All frames are dark, because they are seen from inside too.
+        if (a < last)
             return {Matte(Rubber, s.N)};
         Rgb lit = Lit(design.Livery(design, Part::Cabin, s.P), s.N, 1);
         if (design.Louvres && Within(a, last + 0.05, 0.90) && Within(b, 0.12, 0.80) &&
@@ -354,8 +352,6 @@ Painter RearWindowPainter(const Design& design)
     return [&design](const Sample& s) -> Ink
     {
         const double across = std::abs(2 * s.A - 1), down = s.B;
-        if (across > 0.955 || down < 0.03 || down > 0.965)
-            return {Lit(design.Livery(design, Part::Deck, s.P), s.N, 1) * 0.8};
         if (across > 0.90 || down < 0.075 || down > 0.92)
             return {Hex(0x0C0D10)};
         if (design.Louvres && std::fmod(down * 6.0, 1.0) < 0.58)

@@ -122,9 +122,15 @@ Vec3 CabinSidePoint(const Shape& shape, double side, double back, double up)
     return {Lerp(low.X, high.X, up) + side * bulge, Lerp(low.Y, high.Y, up), Lerp(low.Z, high.Z, up)};
 }
 
+double QuarterEnd(const Shape& shape)
+{
+    const double roofEnd = (RoofFront - shape.RoofRear) / (RoofFront - shape.WindowRear);
+    return std::max(0.66, roofEnd - 0.03);
+}
+
 Vec3 FairingPoint(const Shape& shape, double side, double around, double back)
 {
-    const double z = Lerp(shape.WindowRear + 0.02, -1.72, back);
+    const double z = Lerp(shape.WindowRear + 0.02, -1.36, back);
     const double half = Lerp(0.20, 0.10, back), height = Lerp(0.23, 0.0, back * back);
     const double angle = Pi * (1 - around);
     const double x = side * 0.30 + half * std::cos(angle);
