@@ -207,7 +207,7 @@ ModelMesh GroundShape(const Design& design, Rgb colour, double out, double y)
     std::vector<std::vector<Vec3>> rows;
     for (const double z : {-1.0, -0.93, -0.75, 0.0, 0.78, 0.94, 1.0})
     {
-        const double end = z < 0 ? -TailZ + design.Shape.TailBulge : NoseZ + design.Shape.NoseBulge;
+        const double end = z < 0 ? -TailZ + design.Shape.TailBulge : NoseZ + 0.6 * design.Shape.NoseBulge;
         const double round = std::pow(1 - std::pow(std::abs(z), 6.0), 0.4);
         const double half = (0.60 + 0.34 * round) + out * (0.4 + 0.6 * round);
         const double at = z * (end + out);
