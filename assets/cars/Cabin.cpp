@@ -63,7 +63,7 @@ ModelMesh QuarterTrim(const Design& design, double side)
     for (const double back : {first, (first + 1) / 2, 0.995})
         for (std::size_t i = 0; i < 2; ++i)
             rows[i].push_back(CabinSidePoint(design.Shape, side, back, i == 0 ? 0.0 : 1.0) -
-                              Vec3{side * 0.035, i == 0 ? -0.01 : 0.02, 0});
+                              Vec3{side * 0.05, i == 0 ? -0.01 : 0.02, 0});
     return FlatMesh(RoofCloth, rows);
 }
 

@@ -69,7 +69,7 @@ void AddHood(Model& model)
     const double front[] = {0.44, 0.770, 0.788, 0.770, 0.44}, rear[] = {0.44, 0.738, 0.752, 0.738, 0.44};
     for (std::size_t i = 0; i < std::size(aside); ++i)
     {
-        rows[0].push_back({SeatX + aside[i], front[i], 0.405});
+        rows[0].push_back({SeatX + aside[i], front[i], 0.382});
         rows[1].push_back({SeatX + aside[i], rear[i], 0.62});
     }
     model.Meshes.push_back(FlatMesh(Leather * 1.25, rows));
@@ -95,7 +95,7 @@ void AddClock(Model& model, Plane plane, double radius, double needle)
 
 void AddClocks(Model& model)
 {
-    const Plane panel{{SeatX, 0.688, 0.448}, {1, 0, 0}, Unit({0, 0.175, 0.045})};
+    const Plane panel{{SeatX, 0.688, 0.424}, {1, 0, 0}, Unit({0, 0.175, 0.045})};
     const Plane back{panel.At(0, -0.075), panel.Right, panel.Up};
     model.Meshes.push_back(Plate(Hex(0x161618), back, HoodHalf - 0.008, 0.148));
     for (const double side : {-1.0, 1.0})

@@ -170,7 +170,7 @@ void AddWheelFaces(Model& model, const Design& design, Atlas& atlas, const std::
 }
 
 // Beside the eye of the view from the seat, and beyond the edge of the one back over the shoulder.
-constexpr Vec3 Head{-0.36, 0.93, -0.15};
+constexpr Vec3 Head{-0.37, 0.93, -0.13};
 
 ModelMesh Helmet(const Design& design, Atlas& atlas, const std::string& texture)
 {
@@ -193,10 +193,10 @@ ModelMesh Helmet(const Design& design, Atlas& atlas, const std::string& texture)
 ModelMesh Shoulders(const Design& design)
 {
     const auto row = [](double half, double y, double z) {
-        return std::vector<Vec3>{{Head.X + 0.04 - half, y, z}, {Head.X + 0.04 + half, y, z}};
+        return std::vector<Vec3>{{Head.X + 0.03 - half, y, z}, {Head.X + 0.03 + half, y, z}};
     };
     return FlatMesh(design.Helmet * 0.55 + Hex(0x202020),
-                    {row(0.17, 0.45, -0.12), row(0.21, 0.72, -0.15), row(0.09, 0.82, -0.20)});
+                    {row(0.16, 0.45, -0.14), row(0.18, 0.70, -0.15), row(0.08, 0.81, -0.17)});
 }
 
 // An outline of the ground below the car, `out` wider than the car on every side.

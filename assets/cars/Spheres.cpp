@@ -6,11 +6,12 @@ namespace assets::cars
 {
 namespace
 {
-// Where two cars touch. They lie drawn in toward the middle: a touch costs both so much speed and health that a field
-// of eight lives on brushing by. The body is 2.2 wide and 5.2 long.
+// Where two cars touch. The body is 2.2 wide and 5.2 long; the spheres nearly fill its width, but lie drawn in along
+// it: who runs up to the car ahead in a bend has another heading, and then a touch costs both so much speed and health
+// that a field of eight would not live.
 struct TouchSizes
 {
-    double Aside = 0.34, Low = 0.55, Ahead = 1.10, Radius = 0.46; // of the six on the body
+    double Aside = 0.45, Low = 0.55, Ahead = 0.60, Radius = 0.45; // of the six on the body
     double High = 1.00, Cabin = 0.34;                             // height and radius of those in the cabin
 };
 constexpr TouchSizes Touch;
@@ -19,11 +20,11 @@ constexpr TouchSizes Touch;
 struct DentSizes
 {
     double Aside = 0.62, Low = 0.58, Ahead = 1.85, Reach = 0.92; // the corners, and the doors between them
-    double High = 1.15, CabinReach = 0.85;
+    double High = 1.10, CabinReach = 1.10;
 };
 constexpr DentSizes Dent;
 
-constexpr double CabinZ[] = {0.25, -0.65};
+constexpr double CabinZ[] = {0.35, -0.75};
 
 ModelSphere Touching(double x, double y, double z, double radius, const ModelSphere& dented)
 {
