@@ -12,17 +12,20 @@ struct BodyPanel
     Painter Paint; // its colour at a point
 };
 
-// Meshes 0 to 9 of a car: bonnet, deck, roof, left and right flank, nose, tail, left and right cabin side, rear window.
-// Keeps references to the design.
+// The first meshes of a car: bonnet, deck, roof, left and right flank, nose, tail, left and right cabin side, rear
+// window. An open car has a fairing behind each seat and neither roof nor windows. Keeps references to the design.
 std::vector<BodyPanel> BodyPanels(const Design& design);
-inline constexpr std::size_t FirstWindow = 7; // panels from here on have window panes
+inline constexpr std::size_t FirstWindow = 7; // what is see-through in panels from here on is a window pane
 
-// A whole car with its texture, as the game loads it.
+// A whole car with its texture. Without spheres, which are in Spheres.h.
 struct Car
 {
-    Model Form;         // its textured meshes name body.bmp
+    Model Form;         // metres; its textured meshes name body.bmp
     Canvas Texture;     // all texels that they use; coverage 0 is see-through
-    std::size_t Shadow; // the mesh on the ground
+    std::size_t Shadow; // the first of the meshes on the ground, which are the last ones
 };
 Car BuildCar(const Design& design);
+
+// The car as the game loads it: in its units, with the spheres that collide.
+Model GameModel(const Design& design, const Car& car);
 }

@@ -11,160 +11,169 @@ namespace assets::cars
 namespace
 {
 constexpr int GlassWidth = 128, GlassHeight = 64;
+constexpr Rgb Trim = Hex(0x232225), Carpet = Hex(0x18181B), RoofCloth = Hex(0x3A3733);
+constexpr double HeaderEnd = 0.07; // how far the windscreen's upper frame reaches along the roof
 
-// The wall between cabin or wheel housing and the outer skin.
+// The wall between cabin or wheel housing and the outer skin, cut where the flank is.
 ModelMesh InnerWall(const Design& design, double side)
 {
-    const Curve half{{-2.0, .68}, {-0.95, .68}, {-0.80, .79}, {0.56, .79}, {0.80, .68}, {1.70, .68}, {2.0, .62}};
+    const Curve half{{-2.0, .67}, {-0.88, .79}, {0.40, .79}, {0.86, .775}, {1.85, .66}};
     std::vector<Vec3> low, high;
-    for (const double z : {-2.0, -1.05, -0.80, -0.2, 0.27, 0.50, 0.78, 1.85})
+    for (const double z : {-2.0, -0.88, -0.2, 0.40, 0.86, 1.85})
     {
         const double x = half(z);
         low.push_back({side * x, 0.16, z});
-        // Along the doors it ends above the sill, so that no outer paint is seen from the seats.
-        const double above = z > -0.9 && z < 0.55 ? 0.055 : -0.03;
-        high.push_back({side * (x + above * 0.2), design.Shape.ShoulderY(z) + above, z});
+        const bool door = z > -0.9 && z < 0.9;
+        if (door && design.Shape.Open)
+            high.push_back(FlankPoint(design.Shape, side, z, 1));
+        else // along the doors above the sill, so that no outer paint is seen from the seats
+            high.push_back({side * (door ? x + 0.011 : x), design.Shape.ShoulderY(z) + (door ? 0.055 : -0.03), z});
     }
-    return FlatMesh(Hex(0x18181B), {low, high});
+    return FlatMesh(Carpet, {low, high});
 }
 
-// The inside of the roof.
-ModelMesh Lining(const Design& design)
+std::vector<Vec3> AcrossRoof(const Shape& shape, double back, Vec3 offset)
 {
-    std::vector<std::vector<Vec3>> rows;
-    for (const double back : {0.01, 0.35, 0.99})
-    {
-        std::vector<Vec3> row;
-        for (const double across : {-0.98, -0.5, 0.0, 0.5, 0.98})
-            row.push_back(RoofPoint(design.Shape, across, back) - Vec3{0, 0.028, 0});
-        rows.push_back(row);
-    }
-    return FlatMesh(Hex(0x3A3733), rows);
+    std::vector<Vec3> row;
+    for (const double across : {-0.99, -0.5, 0.0, 0.5, 0.99})
+        row.push_back(RoofPoint(shape, across, back) + offset);
+    return row;
 }
 
-// The trim behind a front pillar: close to its inner side, so that the driver does not see the outer paint.
-ModelMesh PillarTrim(const Design& design, double side)
+// The inside of the roof, cut where the roof is.
+void AddLining(Model& model, const Shape& shape)
 {
+    const Vec3 under{0, -0.034, 0};
+    model.Meshes.push_back(
+        FlatMesh(Hex(0x1E1D1F), {AcrossRoof(shape, 0, {0, -0.032, -0.004}), AcrossRoof(shape, HeaderEnd, under)}));
     std::vector<std::vector<Vec3>> rows;
-    for (const double up : {0.0, 0.45, 1.0})
+    for (const double back : {HeaderEnd, 0.35, 0.99})
     {
-        std::vector<Vec3> row;
-        for (const double back : {0.002, 0.040})
-            row.push_back(CabinSidePoint(design.Shape, side, back, up) - Vec3{side * 0.014, 0, 0.004});
-        rows.push_back(row);
+        const std::vector<Vec3> row = AcrossRoof(shape, back, under);
+        rows.push_back({row.front(), row[2], row.back()});
     }
-    return FlatMesh(Hex(0x232225), rows);
+    model.Meshes.push_back(FlatMesh(RoofCloth, rows));
 }
 
+// What hides the paint of the quarter panel behind the windows from within.
+ModelMesh QuarterTrim(const Design& design, double side)
+{
+    const double first = QuarterEnd(design.Shape) - 0.03;
+    std::vector<std::vector<Vec3>> rows(2);
+    for (const double back : {first, (first + 1) / 2, 0.995})
+        for (std::size_t i = 0; i < 2; ++i)
+            rows[i].push_back(CabinSidePoint(design.Shape, side, back, i == 0 ? 0.0 : 1.0) -
+                              Vec3{side * 0.05, i == 0 ? -0.01 : 0.02, 0});
+    return FlatMesh(RoofCloth, rows);
+}
+
+// A pillar as the driver sees it: before the edges of glass and door, so that no outer paint shows.
+ModelMesh Pillar(const Design& design, double side)
+{
+    const Shape& shape = design.Shape;
+    std::vector<std::vector<Vec3>> rows;
+    for (const double up : PillarKnots())
+    {
+        const Vec3 inward{-side * 0.016, 0, -0.024};
+        rows.push_back({WindscreenPoint(shape, side * 0.966, up) + Vec3{0, 0, -0.024},
+                        WindscreenPoint(shape, side, up) + inward, CabinSidePoint(shape, side, 0.026, up) + inward});
+    }
+    return FlatMesh(Trim, rows);
+}
+
+// The frame around an open car's windscreen, seen from outside and from the seat.
+void AddFrame(Model& model, const Design& design)
+{
+    const Shape& shape = design.Shape;
+    const Rgb colour = design.Base * 0.30 + Hex(0x1A1A1C);
+    std::vector<std::vector<Vec3>> bar;
+    for (const Vec3 offset : {Vec3{0, -0.03, 0.016}, Vec3{0, 0.012, -0.004}, Vec3{0, -0.026, -0.030}})
+        bar.push_back(AcrossRoof(shape, 0, offset));
+    model.Meshes.push_back(FlatMesh(colour, bar));
+    for (const double side : {-1.0, 1.0})
+    {
+        std::vector<std::vector<Vec3>> rows;
+        for (const double up : PillarKnots())
+        {
+            const Vec3 corner = WindscreenPoint(shape, side, up);
+            rows.push_back({WindscreenPoint(shape, side * 0.955, up) + Vec3{0, 0, 0.008},
+                            corner + Vec3{side * 0.012, 0, 0.008}, corner + Vec3{side * 0.012, 0, -0.045}});
+        }
+        model.Meshes.push_back(FlatMesh(colour, rows));
+    }
+}
+
+// What closes the humps of an open car toward the seats.
+ModelMesh FairingFront(const Design& design, double side)
+{
+    std::vector<Vec3> high, low;
+    for (const double around : Evenly(4))
+    {
+        high.push_back(FairingPoint(design.Shape, side, around, 0));
+        low.push_back({high.back().X, FairingPoint(design.Shape, side, 0, 0).Y - 0.04, high.back().Z});
+    }
+    return FlatMesh(Hex(0x1B1A1C), {low, high});
+}
+
+// Low, so that the view back passes over it.
 ModelMesh Seat(double x, Rgb colour)
 {
     const auto row = [&](double half, double y, double z) {
         return std::vector<Vec3>{{x - half, y, z}, {x + half, y, z}};
     };
     return FlatMesh(colour,
-                    {row(0.20, 0.22, -0.32), row(0.22, 0.60, -0.42), row(0.17, 0.86, -0.50), row(0.10, 0.98, -0.54)});
+                    {row(0.20, 0.22, -0.16), row(0.22, 0.56, -0.30), row(0.18, 0.70, -0.37), row(0.13, 0.76, -0.39)});
 }
 
-Ink DialInk(const Sample& s)
+// The wall behind the seats, and the shelf below the rear window.
+ModelMesh RearWall(const Design& design)
 {
-    const double x = (s.A - 0.5) * 2.6, y = (s.B - 0.5) * 1.3;
-    for (const double centre : {-0.55, 0.55})
-    {
-        const double dx = x - centre, dy = y + 0.02, from = std::hypot(dx, dy);
-        if (from > 0.50)
-            continue;
-        if (from > 0.46)
-            return {Hex(0x9A9DA2)};
-        const double angle = std::atan2(dy, dx);
-        const bool tick = from > 0.35 && std::fmod(angle + 7 * Pi, Pi / 6) < 0.16 && !(dy < -0.22);
-        const double needle = centre < 0 ? 0.9 : 2.2;
-        if (from < 0.36 && std::abs(std::sin(angle - needle)) * from < 0.035 && std::cos(angle - needle) > -0.1)
-            return {Hex(0xF0561E)};
-        if (tick)
-            return {centre < 0 && dx > 0.2 && dy < 0.25 ? Hex(0xD82A20) : Hex(0xE8E6DC)};
-        return {Hex(0x101114)};
-    }
-    if (std::abs(x) < 0.06 && std::abs(y - 0.25) < 0.06)
-        return {Hex(0x30C050)};
-    return {Mix(Hex(0x232326), Hex(0x38383B), s.B)};
-}
-
-// The dashboard: b 0 to 0.4 is its face, above that its top up to the windscreen.
-Ink DashInk(const Sample& s)
-{
-    const double x = Lerp(-0.80, 0.80, s.A), b = s.B;
-    if (b > 0.40)
-    {
-        const double edge = SmoothStep(0.52, 0.42, b);
-        Rgb colour = Mix(Hex(0x242325), Hex(0x5A564F), edge * edge);
-        if (b > 0.80 && b < 0.88 && std::fmod(std::abs(x) + 0.02, 0.30) < 0.20) // warm air for the windscreen
-            colour = Hex(0x121214);
-        return {colour};
-    }
-    Rgb colour = Mix(Hex(0x151416), Hex(0x29272A), b / 0.4);
-    if (x > 0.28 && x < 0.70 && b > 0.06 && b < 0.30) // glove box
-        colour = x < 0.29 || x > 0.69 || b < 0.07 || b > 0.29 ? Hex(0x0C0C0D) : colour * 1.25;
-    for (const double centre : {-0.02, 0.10, 0.22}) // small clocks
-    {
-        const double from = std::hypot(x - centre, (b - 0.27) * 0.95) / 0.052;
-        if (from < 1)
-            colour = from > 0.82                                                   ? Hex(0x8C8F94)
-                     : std::abs(x - centre - (b - 0.25) * 0.5) < 0.006 && b > 0.25 ? Hex(0xF0561E)
-                                                                                   : Hex(0x0E0F11);
-    }
-    return {colour};
-}
-
-Ink SteeringInk(const Sample& s)
-{
-    const double x = (s.A - 0.5) * 2, y = (s.B - 0.5) * 2, from = std::hypot(x, y);
-    if (from <= 0.98 && from >= 0.82)
-        return {Mix(Hex(0x1A1A1C), Hex(0x4A4845), SmoothStep(0.10, 0.0, std::abs(from - 0.92)))};
-    const bool spoke = (std::abs(y + 0.02) < 0.10 || (std::abs(x) < 0.10 && y < 0)) && from < 0.84;
-    if (from < 0.22)
-        return {from < 0.15 ? Hex(0xC9A23A) : Hex(0x202022)};
-    if (spoke)
-        return {Hex(0xA4A7AC)};
-    return {{}, true};
-}
-}
-
-void AddCabin(Model& model, const Design& design, Atlas& atlas, const std::string& texture)
-{
-    model.Meshes.push_back(InnerWall(design, -1));
-    model.Meshes.push_back(InnerWall(design, 1));
-    model.Meshes.push_back(
-        FlatMesh(Hex(0x0E0E10), {{{-0.84, 0.17, -2.0}, {0.84, 0.17, -2.0}}, {{-0.80, 0.17, 2.0}, {0.80, 0.17, 2.0}}}));
-    Panel dash;
-    dash.Shape = [&design](double across, double up)
-    {
-        const Vec3 low{Lerp(-0.80, 0.80, across), 0.42, 0.385}, edge{Lerp(-0.80, 0.80, across), 0.765, 0.42};
-        const Vec3 top = WindscreenPoint(design.Shape, Lerp(-0.94, 0.94, across), 0.03) - Vec3{0, 0.02, 0.02};
-        return up < 0.4 ? low + (edge - low) * (up / 0.4) : edge + (top - edge) * ((up - 0.4) / 0.6);
-    };
-    dash.KnotsA = Evenly(2);
-    dash.KnotsB = {0, 0.4, 1};
-    dash.Width = 128;
-    dash.Height = 64;
-    model.Meshes.push_back(Build(dash, DashInk, atlas, texture));
-    model.Meshes.push_back(PillarTrim(design, -1));
-    model.Meshes.push_back(PillarTrim(design, 1));
-    // Dials under a small hood, the wheel before them.
-    model.Meshes.push_back(Face({SeatX - 0.21, 0.69, 0.39}, {SeatX + 0.21, 0.69, 0.39}, {SeatX - 0.21, 0.86, 0.45},
-                                {SeatX + 0.21, 0.86, 0.45}, 1, 64, 32, DialInk, atlas, texture));
-    model.Meshes.push_back(FlatMesh(Hex(0x242325), {{{SeatX - 0.23, 0.875, 0.43}, {SeatX + 0.23, 0.875, 0.43}},
-                                                    {{SeatX - 0.26, 0.765, 0.62}, {SeatX + 0.26, 0.765, 0.62}}}));
-    const Vec3 up{0, 0.165, 0.075}, middle{SeatX, 0.775, 0.30}, across{0.18, 0, 0};
-    model.Meshes.push_back(Face(middle - across - up, middle + across - up, middle - across + up, middle + across + up,
-                                1, 48, 48, SteeringInk, atlas, texture));
-    model.Meshes.push_back(Lining(design));
     const double shelf = design.Shape.WindowRear + 0.03;
     const double shelfY = BonnetPoint(design.Shape, 0, shelf).Y - 0.012;
-    model.Meshes.push_back(FlatMesh(Hex(0x1B1A1C), {{{-0.79, 0.20, -0.60}, {0.79, 0.20, -0.60}},
-                                                    {{-0.79, 0.72, -0.66}, {0.79, 0.72, -0.66}},
-                                                    {{-0.68, shelfY, shelf}, {0.68, shelfY, shelf}}}));
-    model.Meshes.push_back(Seat(SeatX, design.Second * 0.10 + Hex(0x242326) * 0.8));
-    model.Meshes.push_back(Seat(-SeatX, design.Second * 0.10 + Hex(0x242326) * 0.8));
+    const double wallY = design.Shape.Open ? shelfY : 0.72;
+    return FlatMesh(Hex(0x1B1A1C), {{{-0.79, 0.20, -0.56}, {0.79, 0.20, -0.56}},
+                                    {{-0.79, wallY, -0.62}, {0.79, wallY, -0.62}},
+                                    {{-0.68, shelfY, shelf}, {0.68, shelfY, shelf}}});
+}
+
+// The mirror under the windscreen's frame: a strip of sky over a strip of road.
+void AddMirror(Model& model)
+{
+    const Plane plane{{0.02, 1.126, 0.555}, {1, 0, 0}, {0, 0.98, -0.17}};
+    Plane glass = plane;
+    glass.Middle = plane.At(0, 0.011) - Vec3{0, 0, 0.008};
+    model.Meshes.push_back(Plate(Hex(0x141416), plane, 0.108, 0.034));
+    model.Meshes.push_back(Plate(Hex(0xA8BAC8), glass, 0.098, 0.014));
+    glass.Middle = plane.At(0, -0.014) - Vec3{0, 0, 0.008};
+    model.Meshes.push_back(Plate(Hex(0x4E4F54), glass, 0.098, 0.011));
+}
+}
+
+void AddCabin(Model& model, const Design& design)
+{
+    for (const double side : {-1.0, 1.0})
+        model.Meshes.push_back(InnerWall(design, side));
+    model.Meshes.push_back(
+        FlatMesh(Hex(0x0E0E10), {{{-0.84, 0.17, -2.0}, {0.84, 0.17, -2.0}}, {{-0.80, 0.17, 2.0}, {0.80, 0.17, 2.0}}}));
+    for (const double side : {-1.0, 1.0})
+        model.Meshes.push_back(Pillar(design, side));
+    if (design.Shape.Open)
+    {
+        AddFrame(model, design);
+        for (const double side : {-1.0, 1.0})
+            model.Meshes.push_back(FairingFront(design, side));
+    }
+    else
+    {
+        AddLining(model, design.Shape);
+        for (const double side : {-1.0, 1.0})
+            model.Meshes.push_back(QuarterTrim(design, side));
+    }
+    AddMirror(model);
+    model.Meshes.push_back(RearWall(design));
+    const Rgb cloth = design.Second * 0.10 + Hex(0x242326) * 0.8;
+    model.Meshes.push_back(Seat(SeatX, cloth));
+    model.Meshes.push_back(Seat(-SeatX, cloth));
 }
 
 void AddWindscreen(Model& model, const Design& design)

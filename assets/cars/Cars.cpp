@@ -11,7 +11,7 @@ void BuildCars(const std::string& root)
     {
         const std::string folder = root + "/data/models/" + design.Folder;
         const Car car = BuildCar(design);
-        WriteModel(car.Form, folder + "/car.3dm");
+        WriteModel(GameModel(design, car), folder + "/car.3dm");
         WriteBmp(folder + "/body.bmp", car.Texture, Black::Key);
     }
 }

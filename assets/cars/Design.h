@@ -26,7 +26,8 @@ enum class Spoiler
 {
     None,
     Lip,
-    Wing
+    Wing, // on two struts over the tail
+    Roof  // a lip at the end of a long roof
 };
 enum class Rim
 {

@@ -2,7 +2,6 @@
 
 #include "assets/cars/Paint.h"
 #include "assets/cars/Pieces.h"
-#include "base/Numbers.h"
 
 #include <cmath>
 
@@ -86,72 +85,51 @@ ModelMesh Tyre(double outerX, double z, Atlas& atlas, const std::string& texture
     return Build(panel, tread, atlas, texture);
 }
 
-// The driver's head, behind the eye of the view from the seat.
-ModelMesh Helmet(const Design& design, Atlas& atlas, const std::string& texture)
+void AddDoorMirror(Model& model, const Design& design, double side)
+{
+    const double y = design.Shape.ShoulderY(DoorFront);
+    const Vec3 inner{side * 0.83, y + 0.04, 0.76}, outer{side * 1.00, y + 0.04, 0.73};
+    const Vec3 along = outer - inner, up{0, 0.08, 0};
+    model.Meshes.push_back(FlatMesh(design.Base * 0.85, {{inner, outer}, {inner + up, outer + up}}));
+    const auto glass = [&](double at, double high) { return inner + along * at + up * high - Vec3{0, 0, 0.012}; };
+    model.Meshes.push_back(
+        FlatMesh(Hex(0x8C9EAC), {{glass(0.14, 0.12), glass(0.94, 0.12)}, {glass(0.14, 0.88), glass(0.94, 0.88)}}));
+}
+
+// A panel from a front edge to a rear one, with two end plates.
+void AddBlade(Model& model, const Design& design, double half, Vec3 front, Vec3 rear, Atlas& atlas,
+              const std::string& texture)
 {
     Panel panel;
-    panel.Shape = [](double a, double b)
+    panel.Shape = [=](double a, double b)
     {
-        const Curve radius{{0, 0.080}, {0.45, 0.118}, {0.75, 0.102}, {1, 0.036}};
-        const double angle = 2 * Pi * (a - 0.5), r = radius(b);
-        return Vec3{SeatX - 0.04 + r * std::sin(angle), 0.80 + 0.235 * b, -0.47 + 1.1 * r * std::cos(angle)};
+        const Vec3 at = front + (rear - front) * b;
+        return Vec3{Lerp(-half, half, a), at.Y - 0.08 * b * (1 - b), at.Z};
     };
-    panel.KnotsA = Evenly(6);
-    panel.KnotsB = {0, 0.5, 1};
-    panel.Width = 48;
-    panel.Height = 24;
-    panel.Inside = {SeatX, 0.90, -0.10};
-    return Build(
-        panel, [&design](const Sample& s) { return HelmetInk(design, s); }, atlas, texture);
-}
-
-Ink ShadowInk(const Sample& s)
-{
-    // Darkest under the car, dissolving outward into single texels.
-    const double x = (s.A - 0.5) * 2, z = (s.B - 0.5) * 2;
-    const double out = std::pow(std::pow(std::abs(x), 3.0) + std::pow(std::abs(z), 4.0), 0.3);
-    const double density = SmoothStep(1.02, 0.70, out);
-    const int column = base::RoundEven(s.A * 55), row = base::RoundEven(s.B * 111);
-    constexpr int Order[4][4] = {{0, 8, 2, 10}, {12, 4, 14, 6}, {3, 11, 1, 9}, {15, 7, 13, 5}};
-    if (density <= (Order[row & 3][column & 3] + 0.5) / 16)
-        return {{}, true};
-    return {Mix(Hex(0x4A494A), Hex(0x0E0E10), density * density)};
-}
-
-// Two quads, one a side.
-ModelMesh DoorMirror(const Design& design, double side)
-{
-    ModelMesh mesh = FlatMesh(design.Base * 0.85, {{{side * 0.84, 0.80, 0.44}, {side * 1.00, 0.81, 0.42}},
-                                                   {{side * 0.86, 0.89, 0.44}, {side * 1.00, 0.89, 0.42}}});
-    return mesh;
+    panel.KnotsA = panel.KnotsB = Evenly(2);
+    panel.Width = 128;
+    panel.Height = 32;
+    panel.Inside = {0, -1, 0};
+    model.Meshes.push_back(Build(panel, WingPainter(design), atlas, texture));
+    for (const double side : {-1.0, 1.0})
+        model.Meshes.push_back(
+            FlatMesh(design.Second * 0.75,
+                     {{{side * half, rear.Y - 0.14, rear.Z - 0.03}, {side * half, front.Y - 0.08, front.Z + 0.03}},
+                      {{side * half, rear.Y + 0.05, rear.Z - 0.03}, {side * half, front.Y + 0.05, front.Z + 0.03}}}));
 }
 
 void AddWing(Model& model, const Design& design, Atlas& atlas, const std::string& texture)
 {
-    Panel panel;
-    panel.Shape = [](double a, double b)
-    {
-        const double x = Lerp(-0.80, 0.80, a);
-        return Vec3{x, 1.02 + 0.06 * b - 0.08 * b * (1 - b), Lerp(-1.80, -2.14, b)};
-    };
-    panel.KnotsA = panel.KnotsB = Evenly(2);
-    panel.Width = 128;
-    panel.Height = 24;
-    panel.Inside = {0, -1, 0};
-    model.Meshes.push_back(Build(panel, WingPainter(design), atlas, texture));
+    AddBlade(model, design, 0.80, {0, 1.02, -1.80}, {0, 1.08, -2.14}, atlas, texture);
     for (const double side : {-1.0, 1.0})
     {
-        model.Meshes.push_back(
-            FlatMesh(design.Second * 0.75, {{{side * 0.80, 0.94, -2.17}, {side * 0.80, 0.94, -1.77}},
-                                            {{side * 0.80, 1.13, -2.17}, {side * 0.80, 1.07, -1.77}}}));
         const double deck = BonnetPoint(design.Shape, 0.55, -1.9).Y - 0.02;
         model.Meshes.push_back(FlatMesh(Hex(0x1A1A1C), {{{side * 0.50, deck, -2.04}, {side * 0.50, deck, -1.86}},
                                                         {{side * 0.50, 1.03, -2.04}, {side * 0.50, 1.03, -1.86}}}));
     }
 }
-}
 
-std::size_t AddOutside(Model& model, const Design& design, Atlas& atlas, const std::string& texture)
+void AddTyres(Model& model, const Design& design, Atlas& atlas, const std::string& texture)
 {
     ModelMesh tyre;
     for (const double side : {-1.0, 1.0})
@@ -169,6 +147,10 @@ std::size_t AddOutside(Model& model, const Design& design, Atlas& atlas, const s
             }
             model.Meshes.push_back(tread);
         }
+}
+
+void AddWheelFaces(Model& model, const Design& design, Atlas& atlas, const std::string& texture)
+{
     ModelMesh face;
     for (const double side : {-1.0, 1.0})
         for (const double z : {FrontAxle, RearAxle})
@@ -176,7 +158,7 @@ std::size_t AddOutside(Model& model, const Design& design, Atlas& atlas, const s
             const double x = side * (design.Shape.HalfWidth(z) - 0.010);
             const Vec3 low{x, 0, z - AxleY}, high{x, 2 * AxleY, z - AxleY}, along{0, 0, 2 * AxleY};
             if (face.Points.empty())
-                face = Face(low, low + along, high, high + along, 2, 52, 52, WheelPainter(design), atlas, texture);
+                face = Face(low, low + along, high, high + along, 2, 64, 64, WheelPainter(design), atlas, texture);
             for (int i = 0; i < 3; ++i)
                 for (int j = 0; j < 3; ++j)
                 {
@@ -185,31 +167,80 @@ std::size_t AddOutside(Model& model, const Design& design, Atlas& atlas, const s
                 }
             model.Meshes.push_back(face);
         }
-    const std::size_t shadow = model.Meshes.size();
-    model.Meshes.push_back(Face({-1.14, 0.02, -2.44}, {1.14, 0.02, -2.44}, {-1.14, 0.02, 2.44}, {1.14, 0.02, 2.44}, 2,
-                                56, 112, ShadowInk, atlas, texture));
-    model.Meshes.push_back(Helmet(design, atlas, texture));
-    model.Meshes.push_back(DoorMirror(design, -1));
-    model.Meshes.push_back(DoorMirror(design, 1));
-    if (design.Spoiler == Spoiler::Wing)
-        AddWing(model, design, atlas, texture);
-    return shadow;
 }
 
-void AddSpheres(Model& model)
+// Beside the eye of the view from the seat, and beyond the edge of the one back over the shoulder.
+constexpr Vec3 Head{-0.37, 0.93, -0.13};
+
+ModelMesh Helmet(const Design& design, Atlas& atlas, const std::string& texture)
 {
-    for (const double z : {1.55, 0.05, -1.50})
-        for (const double side : {-1.0, 1.0})
-            model.Spheres.push_back({side * 0.48, 0.50, z, 0.56, {}});
-    for (const double z : {0.05, -0.75})
-        model.Spheres.push_back({0, 0.90, z, 0.40, {}});
-    constexpr int LastBody = 9;
-    for (std::size_t i = 0; i < model.Spheres.size(); ++i)
+    Panel panel;
+    panel.Shape = [](double a, double b)
     {
-        const bool cabin = i >= 6;
-        model.LinkNear(model.Spheres[i], cabin ? 2 : 0, LastBody, cabin ? 0.34 : 0.20);
-        if (cabin)
-            model.LinkNear(model.Spheres[i], GlassMesh, GlassMesh, 0.34);
+        const Curve radius{{0, 0.070}, {0.45, 0.105}, {0.75, 0.092}, {1, 0.030}};
+        const double angle = 2 * Pi * (a - 0.5), r = radius(b);
+        return Head + Vec3{r * std::sin(angle), 0.225 * (b - 0.5), r * std::cos(angle)};
+    };
+    panel.KnotsA = Evenly(6);
+    panel.KnotsB = {0, 0.5, 1};
+    panel.Width = 48;
+    panel.Height = 24;
+    panel.Inside = {Head.X, Head.Y, Head.Z * 0.2};
+    return Build(
+        panel, [&design](const Sample& s) { return HelmetInk(design, s); }, atlas, texture);
+}
+
+ModelMesh Shoulders(const Design& design)
+{
+    const auto row = [](double half, double y, double z) {
+        return std::vector<Vec3>{{Head.X + 0.03 - half, y, z}, {Head.X + 0.03 + half, y, z}};
+    };
+    return FlatMesh(design.Helmet * 0.55 + Hex(0x202020),
+                    {row(0.16, 0.45, -0.14), row(0.18, 0.70, -0.15), row(0.08, 0.81, -0.17)});
+}
+
+// An outline of the ground below the car, `out` wider than the car on every side.
+ModelMesh GroundShape(const Design& design, Rgb colour, double out, double y)
+{
+    // The sun is low on the left, behind: the shadow leans the other way.
+    constexpr double LeanX = 0.07, LeanZ = 0.05;
+    std::vector<std::vector<Vec3>> rows;
+    for (const double z : {-1.0, -0.93, -0.75, 0.0, 0.78, 0.94, 1.0})
+    {
+        const double end = z < 0 ? -TailZ + design.Shape.TailBulge : NoseZ + 0.6 * design.Shape.NoseBulge;
+        const double round = std::pow(1 - std::pow(std::abs(z), 6.0), 0.4);
+        const double half = (0.60 + 0.34 * round) + out * (0.4 + 0.6 * round);
+        const double at = z * (end + out);
+        rows.push_back({{LeanX - half, y, at + LeanZ}, {LeanX + half, y, at + LeanZ}});
     }
+    return FlatMesh(colour, rows);
+}
+}
+
+void AddOutside(Model& model, const Design& design, Atlas& atlas, const std::string& texture)
+{
+    AddTyres(model, design, atlas, texture);
+    AddWheelFaces(model, design, atlas, texture);
+    for (const double side : {-1.0, 1.0})
+        AddDoorMirror(model, design, side);
+    if (design.Spoiler == Spoiler::Wing)
+        AddWing(model, design, atlas, texture);
+    if (design.Spoiler == Spoiler::Roof)
+    {
+        const double y = design.Shape.RoofY + 0.015, z = design.Shape.RoofRear;
+        AddBlade(model, design, RoofHalf, {0, y, z + 0.02}, {0, y + 0.035, z - 0.28}, atlas, texture);
+    }
+}
+
+void AddDriver(Model& model, const Design& design, Atlas& atlas, const std::string& texture)
+{
+    model.Meshes.push_back(Helmet(design, atlas, texture));
+    model.Meshes.push_back(Shoulders(design));
+}
+
+void AddShadow(Model& model, const Design& design)
+{
+    model.Meshes.push_back(GroundShape(design, Hex(0x2C2B2E), 0.07, 0.007));
+    model.Meshes.push_back(GroundShape(design, Hex(0x151517), 0.0, 0.015));
 }
 }

@@ -3,6 +3,7 @@
 #include "assets/cars/Lettering.h"
 #include "base/Numbers.h"
 
+#include <algorithm>
 #include <cmath>
 #include <memory>
 #include <string>
@@ -16,6 +17,12 @@ constexpr Rgb Chrome = Hex(0xC9CED4);
 constexpr Rgb LampGlass = Hex(0xF4F2E4);
 constexpr Rgb RedLamp = Hex(0xE01420);
 constexpr Rgb AmberLamp = Hex(0xF08A18);
+
+// Where the low sun stands as the cars wait on the grid: behind them, to their left. The light turns with the car, so
+// it is only leaned that way.
+constexpr Vec3 SunSide{-0.62, 0.52, -0.59};
+constexpr Rgb InSun{1.13, 1.07, 0.97};
+constexpr Rgb InShade{0.76, 0.80, 0.90};
 
 bool Within(double value, double low, double high)
 {
@@ -121,8 +128,10 @@ Rgb Lit(Rgb paint, Vec3 normal, double gloss)
     const double sky = SmoothStep(0.0, 0.35, normal.Y) * 0.07 * gloss;
     const double edge = SmoothStep(0.22, 0.0, std::abs(normal.Y - 0.62)) * 0.20 * gloss;
     const double flare = SmoothStep(0.93, 1.0, normal.Y) * 0.06 * gloss;
-    const Rgb reflected = Rgb{0.92, 0.96, 1.0} * (sky + edge + flare);
-    const Rgb body = paint * (light - horizon);
+    const double sun = SmoothStep(-0.35, 0.80, Dot(normal, SunSide));
+    const double gleam = SmoothStep(0.80, 1.0, Dot(normal, SunSide)) * 0.16 * gloss;
+    const Rgb reflected = Rgb{0.92, 0.96, 1.0} * (sky + edge + flare) + Rgb{1.0, 0.92, 0.74} * gleam;
+    const Rgb body = paint * (light - horizon) * Mix(InShade, InSun, sun);
     return {std::min(1.0, body.R + reflected.R), std::min(1.0, body.G + reflected.G),
             std::min(1.0, body.B + reflected.B)};
 }
@@ -140,7 +149,8 @@ Painter FlankPainter(const Design& design, double side)
         Rgb colour = design.Livery(design, Part::Flank, s.P);
         double gloss = 1;
         // Seen from the left the nose points left, so text runs toward -z there and toward +z on the right.
-        if (Rgb ink; NumberInk(design, *figures, side * (z + 0.06), y - 0.475, 0.215, ink))
+        const double door = (DoorFront + DoorRear) / 2;
+        if (Rgb ink; NumberInk(design, *figures, side * (z - door), y - 0.455, 0.215, ink))
         {
             colour = ink;
             gloss = 0.7;
@@ -173,23 +183,21 @@ Painter FlankPainter(const Design& design, double side)
 
 Painter BonnetPainter(const Design& design)
 {
-    const auto figures = Figures(design, 0.30);
+    const auto figures = Figures(design, 0.36);
     return [&design, figures](const Sample& s) -> Ink
     {
-        const double x = s.P.X, z = s.P.Z, across = 2 * s.A - 1;
+        const double x = s.P.X, z = s.P.Z;
         Rgb colour = design.Livery(design, Part::Bonnet, s.P);
         double gloss = 1;
         if (design.Roundel) // read from the front
-            if (Rgb ink; NumberInk(design, *figures, -x, 1.42 - z, 0.27, ink))
+            if (Rgb ink; NumberInk(design, *figures, -x, 1.52 - z, 0.30, ink))
                 colour = ink;
         Rgb lit = Lit(colour, s.N, gloss);
-        if (z < CowlZ(across) + 0.055)
-            return {Matte(Rubber, s.N)};
         const double lid = 0.60 - 0.05 * (z - 0.8);
         if ((Near(std::abs(x), lid, 0.009) && z < 1.86) || (Near(z, 1.86, 0.009) && std::abs(x) < lid))
             lit = lit * 0.45;
-        for (const double middle : {-0.33, 0.33}) // hot air outlets
-            if (InBox(x, z, middle, 0.99, 0.12, 0.075))
+        for (const double middle : {-0.44, 0.44}) // hot air outlets
+            if (InBox(x, z, middle, 1.22, 0.10, 0.055))
                 lit = Near(std::fmod(z, 0.05), 0.0125, 0.0125) ? Rubber : lit * 0.55;
         if (design.Front == Front::HiddenLamps)
             for (const double middle : {-0.52, 0.52})
@@ -205,10 +213,15 @@ Painter BonnetPainter(const Design& design)
 
 Painter DeckPainter(const Design& design)
 {
-    return [&design](const Sample& s) -> Ink
+    const auto figures = Figures(design, 0.44);
+    return [&design, figures](const Sample& s) -> Ink
     {
         const double x = s.P.X, z = s.P.Z;
-        Rgb lit = Lit(design.Livery(design, Part::Deck, s.P), s.N, 1);
+        Rgb colour = design.Livery(design, Part::Deck, s.P);
+        if (design.Shape.Open) // where others have it on the roof
+            if (Rgb ink; NumberInk(design, *figures, x, z + 1.70, 0.36, ink))
+                colour = ink;
+        Rgb lit = Lit(colour, s.N, 1);
         if (Near(std::abs(x), 0.66, 0.009))
             lit = lit * 0.45;
         if (design.Spoiler == Spoiler::Lip && z < TailZ + 0.04)
@@ -220,12 +233,13 @@ Painter DeckPainter(const Design& design)
 
 Painter RoofPainter(const Design& design)
 {
-    const auto figures = Figures(design, 0.34);
-    return [&design, figures](const Sample& s) -> Ink
+    const auto figures = Figures(design, 0.46);
+    const double middle = (RoofFront + std::max(design.Shape.RoofRear, -0.6)) / 2;
+    return [&design, figures, middle](const Sample& s) -> Ink
     {
         const double across = 2 * s.A - 1;
         Rgb colour = design.Livery(design, Part::Roof, s.P);
-        if (Rgb ink; NumberInk(design, *figures, s.P.X, s.P.Z + 0.26, 0.31, ink)) // read from behind
+        if (Rgb ink; NumberInk(design, *figures, s.P.X, s.P.Z - middle, 0.40, ink)) // read from behind
             colour = ink;
         Rgb lit = Lit(colour, s.N, 1);
         if (std::abs(across) > 0.965)
@@ -304,28 +318,30 @@ Painter TailPainter(const Design& design)
 
 Painter CabinPainter(const Design& design)
 {
-    return [&design](const Sample& s) -> Ink
+    // The windows in the panel's own (a, b): a pillar in front, one behind the door, a pane, the quarter panel.
+    const Shape& shape = design.Shape;
+    const double doorAt = (CowlCorner - DoorRear) / (CowlCorner - shape.WindowRear) - 0.01;
+    const double quarterEnd = QuarterEnd(shape);
+    return [&design, doorAt, quarterEnd](const Sample& s) -> Ink
     {
-        // The window in the panel's own (a, b): a pillar in front, one behind the door, a small pane, the quarter
-        // panel.
         const double a = s.A, b = s.B;
-        const double front = 0.020 + 0.004 * b, doorEnd = 0.535 - 0.02 * b;
-        const double last = design.Louvres ? 0.60 : Lerp(0.80, 0.66, b);
-        const bool door = Within(a, front, doorEnd) && Within(b, 0.06, 0.90);
-        const bool pane = Within(a, doorEnd + 0.03, last) && Within(b, 0.08, 0.86);
+        const double front = 0.020 + 0.004 * b, doorEnd = doorAt - 0.02 * b;
+        const double last = design.Louvres ? doorEnd + 0.07 : Lerp(std::max(0.80, quarterEnd + 0.06), quarterEnd, b);
         const bool doorGlass = Within(a, front + 0.011, doorEnd - 0.012) && Within(b, 0.10, 0.86);
-        const bool paneGlass = Within(a, doorEnd + 0.042, last - 0.014) && Within(b, 0.12, 0.82);
+        const bool paneGlass = Within(a, doorEnd + 0.030, last - 0.014) && Within(b, 0.12, 0.82);
         if (doorGlass || paneGlass)
         {
-            // A slanting reflection of the sky in every other texel.
+            // Two slanting reflections of the sky.
             const double slant = a - b * 0.12;
-            const bool odd = ((base::RoundEven(a * 159) + base::RoundEven(b * 33)) & 1) != 0;
-            return Within(slant, 0.29, 0.325) && odd ? Ink{Hex(0xA4B4BE)} : Ink{{}, true};
+            const bool streak = Within(slant, 0.25, 0.272) || Within(slant, 0.282, 0.289);
+            return streak ? Ink{Hex(0x92A5B1)} : Ink{{}, true};
         }
-        if (door || pane)
+        // All frames are dark, because they are seen from inside too.
+        if (a < last)
             return {Matte(Rubber, s.N)};
         Rgb lit = Lit(design.Livery(design, Part::Cabin, s.P), s.N, 1);
-        if (design.Louvres && Within(a, 0.62, 0.86) && Within(b, 0.12, 0.80) && Near(std::fmod(a, 0.04), 0.012, 0.012))
+        if (design.Louvres && Within(a, last + 0.05, 0.90) && Within(b, 0.12, 0.80) &&
+            Near(std::fmod(a, 0.04), 0.012, 0.012))
             lit = Rubber;
         return {lit};
     };
@@ -336,8 +352,6 @@ Painter RearWindowPainter(const Design& design)
     return [&design](const Sample& s) -> Ink
     {
         const double across = std::abs(2 * s.A - 1), down = s.B;
-        if (across > 0.955 || down < 0.03 || down > 0.965)
-            return {Lit(design.Livery(design, Part::Deck, s.P), s.N, 1) * 0.8};
         if (across > 0.90 || down < 0.075 || down > 0.92)
             return {Hex(0x0C0D10)};
         if (design.Louvres && std::fmod(down * 6.0, 1.0) < 0.58)
@@ -345,6 +359,11 @@ Painter RearWindowPainter(const Design& design)
                     Lerp(1.0, 0.55, std::fmod(down * 6.0, 1.0) / 0.58)};
         return {{}, true};
     };
+}
+
+Painter FairingPainter(const Design& design)
+{
+    return [&design](const Sample& s) -> Ink { return {Lit(design.Livery(design, Part::Deck, s.P), s.N, 1)}; };
 }
 
 Painter WingPainter(const Design& design)

@@ -7,7 +7,8 @@
 
 namespace assets::cars
 {
-// The paint's colour on a surface with this outward direction, lit from above. `gloss` 0 (cloth) to 1 (fresh paint).
+// The paint's colour on a surface with this outward direction, lit from above and from one side. `gloss` 0 (cloth) to 1
+// (fresh paint).
 Rgb Lit(Rgb paint, Vec3 normal, double gloss);
 
 // Each keeps a reference to the design. `side` is -1 left, +1 right.
@@ -19,5 +20,6 @@ Painter NosePainter(const Design& design);
 Painter TailPainter(const Design& design);
 Painter CabinPainter(const Design& design);
 Painter RearWindowPainter(const Design& design);
+Painter FairingPainter(const Design& design);
 Painter WingPainter(const Design& design);
 }

@@ -3,6 +3,7 @@
 #include "base/Numbers.h"
 
 #include <algorithm>
+#include <cmath>
 
 namespace assets::cars
 {
@@ -26,6 +27,49 @@ ModelMesh FlatMesh(Rgb colour, const std::vector<std::vector<Vec3>>& rows)
             mesh.At(i, j) = {p.X, p.Y, p.Z};
         }
     return mesh;
+}
+
+ModelMesh Disc(Rgb colour, const Plane& plane, double radius, int corners)
+{
+    // Chords from the lowest side to the highest.
+    std::vector<std::vector<Vec3>> rows;
+    for (int i = 0; i < corners / 2; ++i)
+    {
+        const double angle = 2 * Pi * (i + 0.5) / corners;
+        const double half = radius * std::sin(angle), up = -radius * std::cos(angle);
+        rows.push_back({plane.At(-half, up), plane.At(half, up)});
+    }
+    return FlatMesh(colour, rows);
+}
+
+ModelMesh Arc(Rgb colour, const Plane& plane, double inner, double outer, double from, double to, int cells)
+{
+    std::vector<std::vector<Vec3>> rows(2);
+    for (int i = 0; i <= cells; ++i)
+    {
+        const double angle = Lerp(from, to, static_cast<double>(i) / cells);
+        rows[0].push_back(plane.At(inner * std::cos(angle), inner * std::sin(angle)));
+        rows[1].push_back(plane.At(outer * std::cos(angle), outer * std::sin(angle)));
+    }
+    return FlatMesh(colour, rows);
+}
+
+ModelMesh Hand(Rgb colour, const Plane& plane, double angle, double from, double to, double half)
+{
+    const double c = std::cos(angle), s = std::sin(angle);
+    const auto at = [&](double out, double aside) { return plane.At(c * out - s * aside, s * out + c * aside); };
+    return FlatMesh(colour, {{at(from, -half), at(from, half)}, {at(to, -half), at(to, half)}});
+}
+
+ModelMesh Plate(Rgb colour, const Plane& plane, double halfWidth, double halfHeight)
+{
+    return FlatMesh(colour, {{plane.At(-halfWidth, -halfHeight), plane.At(halfWidth, -halfHeight)},
+                             {plane.At(-halfWidth, halfHeight), plane.At(halfWidth, halfHeight)}});
+}
+
+std::vector<double> PillarKnots()
+{
+    return {0, 0.12, 1};
 }
 
 ModelMesh Face(Vec3 lowLeft, Vec3 lowRight, Vec3 highLeft, Vec3 highRight, int cells, int width, int height,

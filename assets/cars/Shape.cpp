@@ -7,8 +7,7 @@ namespace assets::cars
 {
 namespace
 {
-constexpr double RoofY = 1.195; // roof at its edge
-constexpr double CabinFront = 0.58, CabinFrontTop = 0.15;
+constexpr double CowlStrip = 0.05; // length of the strip between windscreen and bonnet
 
 double Power(double base, double exponent)
 {
@@ -22,14 +21,14 @@ double ShoulderHalf(const Shape& shape, double z)
 
 double RoofCrown(double across)
 {
-    return 0.042 * (1 - across * across);
+    return 0.034 * (1 - across * across);
 }
 
 // The upper edge of the cabin's side: along the roof, then down beside the rear window.
 Vec3 CabinEdge(const Shape& shape, double z)
 {
     if (z >= shape.RoofRear)
-        return {RoofHalf, RoofY, z};
+        return {RoofHalf, shape.RoofY, z};
     const double t = Clamp01((z - shape.RoofRear) / (shape.WindowRear - shape.RoofRear));
     return RearWindowPoint(shape, 1, t);
 }
@@ -51,22 +50,28 @@ Vec3 BonnetPoint(const Shape& shape, double across, double z)
 
 double CowlZ(double across)
 {
-    return 0.78 - (0.78 - CabinFront) * across * across;
+    return Lerp(CowlMiddle, CowlCorner, across * across);
+}
+
+Vec3 BonnetEdge(const Shape& shape, double across)
+{
+    return BonnetPoint(shape, across, CowlZ(across) + CowlStrip);
 }
 
 Vec3 WindscreenPoint(const Shape& shape, double across, double up)
 {
     const Vec3 low = BonnetPoint(shape, across, CowlZ(across));
     const Vec3 high = RoofPoint(shape, across, 0);
-    const double bulge = 0.10 * up * (1 - up);
+    // None at the pillars, which are straight.
+    const double bulge = 0.10 * up * (1 - up) * (1 - across * across);
     return {Lerp(low.X, high.X, up), Lerp(low.Y, high.Y, up) + bulge, Lerp(low.Z, high.Z, up) + bulge};
 }
 
 Vec3 RoofPoint(const Shape& shape, double across, double back)
 {
-    const double front = 0.21 - 0.06 * across * across;
+    const double front = RoofFront + 0.06 * (1 - across * across);
     const double rear = shape.RoofRear - 0.05 * (1 - across * across);
-    return {across * RoofHalf, RoofY + RoofCrown(across) + 0.012 * (1 - Power(2 * back - 1, 2)),
+    return {across * RoofHalf, shape.RoofY + RoofCrown(across) + 0.012 * (1 - Power(2 * back - 1, 2)),
             Lerp(front, rear, back)};
 }
 
@@ -110,10 +115,26 @@ Vec3 TailPoint(const Shape& shape, double across, double up)
 
 Vec3 CabinSidePoint(const Shape& shape, double side, double back, double up)
 {
-    const Vec3 low = FlankPoint(shape, side, Lerp(CabinFront, shape.WindowRear, back), 1);
-    Vec3 high = CabinEdge(shape, Lerp(CabinFrontTop, shape.WindowRear, Power(back, 0.9)));
+    const Vec3 low = FlankPoint(shape, side, Lerp(CowlCorner, shape.WindowRear, back), 1);
+    Vec3 high = CabinEdge(shape, Lerp(RoofFront, shape.WindowRear, Power(back, 0.9)));
     high.X *= side;
-    const double bulge = 0.05 * up * (1 - up);
+    const double bulge = 0.05 * up * (1 - up) * SmoothStep(0, 0.2, back);
     return {Lerp(low.X, high.X, up) + side * bulge, Lerp(low.Y, high.Y, up), Lerp(low.Z, high.Z, up)};
+}
+
+double QuarterEnd(const Shape& shape)
+{
+    const double roofEnd = (RoofFront - shape.RoofRear) / (RoofFront - shape.WindowRear);
+    return std::max(0.66, roofEnd - 0.03);
+}
+
+Vec3 FairingPoint(const Shape& shape, double side, double around, double back)
+{
+    const double z = Lerp(shape.WindowRear + 0.02, -1.36, back);
+    const double half = Lerp(0.20, 0.10, back), height = Lerp(0.23, 0.0, back * back);
+    const double angle = Pi * (1 - around);
+    const double x = side * 0.30 + half * std::cos(angle);
+    const double foot = BonnetPoint(shape, x / ShoulderHalf(shape, z), z).Y - 0.012;
+    return {x, foot + height * Power(std::sin(angle), 0.7), z};
 }
 }

@@ -216,9 +216,8 @@ void DrawCar(Canvas& canvas, const cars::Design& design, const SceneView& view, 
     DrawBody(raster, panels, pose, light);
     // Everything else comes from the model itself, but for its shadow.
     const cars::Car car = cars::BuildCar(design);
-    for (std::size_t k = panels.size(); k < car.Form.Meshes.size(); ++k)
-        if (k != car.Shadow)
-            DrawMesh(raster, car.Form.Meshes[k], car.Texture, pose, light);
+    for (std::size_t k = panels.size(); k < car.Shadow; ++k)
+        DrawMesh(raster, car.Form.Meshes[k], car.Texture, pose, light);
     raster.PasteInto(canvas);
 }
 }

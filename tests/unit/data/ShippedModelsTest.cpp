@@ -60,7 +60,7 @@ TEST_P(ShippedCar, LoadsWithinItsBudget)
     const Shipped car(CarPath(GetParam()));
     car.ExpectSound();
     EXPECT_EQ(car.Object().Visible, 1);
-    EXPECT_LE(car.Triangles(), 600);
+    EXPECT_LE(car.Triangles(), 715);
     EXPECT_GT(car.Object().Mass, 0);
 }
 
@@ -78,11 +78,11 @@ TEST_P(ShippedCar, HasTheMeasuresOfACar)
             tail = std::min(tail, p.Z);
             nose = std::max(nose, p.Z);
         }
-    EXPECT_NEAR(nose - tail, 4.4, 0.15);
+    EXPECT_NEAR(nose - tail, 5.2, 0.2);
     EXPECT_NEAR(nose + tail, 0, 0.15);
-    EXPECT_NEAR(right - left, 1.9, 0.1);
+    EXPECT_NEAR(right - left, 2.25, 0.05);
     EXPECT_NEAR(left + right, 0, 0.001);
-    EXPECT_NEAR(high, 1.25, 0.03);
+    EXPECT_NEAR(high, 1.4, 0.12);
     EXPECT_GT(low, 0.1);
 }
 

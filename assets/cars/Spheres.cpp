@@ -1,0 +1,52 @@
+#include "assets/cars/Spheres.h"
+
+#include "assets/cars/Fittings.h"
+
+namespace assets::cars
+{
+namespace
+{
+// Where two cars touch. The body is 2.2 wide and 5.2 long; the spheres nearly fill its width, but lie drawn in along
+// it: who runs up to the car ahead in a bend has another heading, and then a touch costs both so much speed and health
+// that a field of eight would not live.
+struct TouchSizes
+{
+    double Aside = 0.45, Low = 0.55, Ahead = 0.60, Radius = 0.45; // of the six on the body
+    double High = 1.00, Cabin = 0.34;                             // height and radius of those in the cabin
+};
+constexpr TouchSizes Touch;
+
+// Where a touch shows: on the visible body, around the place that the sphere stands for.
+struct DentSizes
+{
+    double Aside = 0.62, Low = 0.58, Ahead = 1.85, Reach = 0.92; // the corners, and the doors between them
+    double High = 1.10, CabinReach = 1.10;
+};
+constexpr DentSizes Dent;
+
+constexpr double CabinZ[] = {0.35, -0.75};
+
+ModelSphere Touching(double x, double y, double z, double radius, const ModelSphere& dented)
+{
+    return {x, y, z, radius, dented.Links};
+}
+}
+
+void AddSpheres(Model& model, int panels)
+{
+    for (const double ahead : {1.0, 0.0, -1.0})
+        for (const double side : {-1.0, 1.0})
+        {
+            ModelSphere dented{side * Dent.Aside, Dent.Low, ahead * Dent.Ahead, Dent.Reach, {}};
+            model.LinkNear(dented, 0, panels - 1, 0);
+            model.Spheres.push_back(Touching(side * Touch.Aside, Touch.Low, ahead * Touch.Ahead, Touch.Radius, dented));
+        }
+    for (const double z : CabinZ)
+    {
+        ModelSphere dented{0, Dent.High, z, Dent.CabinReach, {}};
+        model.LinkNear(dented, 0, panels - 1, 0);
+        model.LinkNear(dented, GlassMesh, GlassMesh, 0);
+        model.Spheres.push_back(Touching(0, Touch.High, z, Touch.Cabin, dented));
+    }
+}
+}
