@@ -42,6 +42,7 @@ double GrassRoom(const Plan& plan, double x, double z)
     const double s = along > length / 2 ? along - length : along;
     if (s > PitFrom - 44 && s < PitTo + 44 && offset > 0)
         room = std::min(room, std::max({offset - (BoxLeft + 5.5), PitFrom - 40 - s, s - PitTo - 40}));
+    room = std::min(room, LayByEdge(plan, along, offset) - 0.8);
     return std::min(room, 60.0);
 }
 
@@ -100,14 +101,19 @@ std::vector<Zone> AlternativeCheckpoints(const Circuit& road)
     return zones;
 }
 
-std::vector<Zone> RepairBoxes(const Circuit& road)
+std::vector<Zone> RepairBoxes(const Plan& plan)
 {
+    constexpr double Reach = 4.4;
     std::vector<Zone> zones;
-    for (int box = 0; box < PitBoxes; ++box)
+    const auto add = [&](double s, double left)
     {
-        const Point p = road.Place(BoxFirst + BoxLength * box, BoxLeft);
-        zones.push_back({Tenth(p.X), Tenth(p.Y), 4.4});
-    }
+        const Point p = plan.Road.Place(s, left);
+        zones.push_back({Tenth(p.X), Tenth(p.Y), Reach});
+    };
+    for (int box = 0; box < PitBoxes; ++box)
+        add(BoxFirst + BoxLength * box, BoxLeft);
+    for (const LayBy& bay : plan.LayBys)
+        add(bay.S, bay.Side * (plan.Road.Along(bay.S).HalfWidth + LayByBox));
     return zones;
 }
 
@@ -133,18 +139,19 @@ std::vector<Zone> WaterZones(const Plan& plan)
 
 const std::vector<Driver>& Drivers()
 {
+    constexpr double Rolling = 0.0005; // so little that a car with any damage still moves
     static const std::vector<Driver> drivers{
-        {0.0640, 5.25, 1.3, 0.0460, 0.045, 0.0025}, {0.0640, 5.22, 1.2, 0.0365, 0.042, 0.0025},
-        {0.0640, 5.20, 1.2, 0.0345, 0.042, 0.0025}, {0.0640, 5.17, 1.2, 0.0326, 0.042, 0.0025},
-        {0.0635, 5.13, 1.2, 0.0308, 0.042, 0.0025}, {0.0635, 5.09, 1.2, 0.0290, 0.042, 0.0025},
-        {0.0630, 5.05, 1.2, 0.0273, 0.042, 0.0025}, {0.0630, 5.00, 1.2, 0.0257, 0.042, 0.0025},
+        {0.0640, 5.40, 1.3, 0.0460, 0.045, Rolling}, {0.0640, 5.40, 1.2, 0.0445, 0.042, Rolling},
+        {0.0640, 5.37, 1.2, 0.0440, 0.042, Rolling}, {0.0640, 5.34, 1.2, 0.0435, 0.042, Rolling},
+        {0.0640, 5.31, 1.2, 0.0430, 0.042, Rolling}, {0.0640, 5.28, 1.2, 0.0425, 0.042, Rolling},
+        {0.0640, 5.25, 1.2, 0.0420, 0.042, Rolling}, {0.0640, 5.22, 1.2, 0.0415, 0.042, Rolling},
     };
     return drivers;
 }
 
 const std::vector<int>& GridSlots()
 {
-    static const std::vector<int> slots{1, 0, 2, 3, 4, 5, 6, 7};
+    static const std::vector<int> slots{7, 0, 1, 2, 3, 4, 5, 6}; // the player starts last
     return slots;
 }
 
