@@ -15,10 +15,10 @@ struct Corner
 };
 const Corner Corners[] = {
     {76, 236, 66},   // from the shore onto the main straight
-    {452, 198, 120}, // end of the main straight, right: opens out, a whole field comes here at once
-    {512, 92, 48},   // bottom of the east side, two lefts
-    {602, 86, 50},   //
-    {590, 330, 600}, // a kink on the east side
+    {452, 198, 88},  // end of the main straight, right: opens out, a whole field comes here at once
+    {512, 92, 40},   // bottom of the east side, two lefts
+    {602, 86, 44},   //
+    {590, 330, 220}, // a kink on the east side
     {606, 582, 27},  // hairpin
     {549, 582, 27},  //
     {545, 404, 46},  // into the infield, right

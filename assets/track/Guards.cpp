@@ -1,5 +1,6 @@
 #include "assets/track/Guards.h"
 
+#include "assets/track/Stops.h"
 #include "base/Numbers.h"
 
 #include <algorithm>
@@ -12,7 +13,7 @@ constexpr double RowInset = 8;       // of the hedges and walls, from the rim of
 constexpr double RingRadius = 6;     // large: no car jumps past the middle of one in a tick
 constexpr double RingInset = -1.6;   // of the ring's centres: behind the row, which has guards of its own near the road
 constexpr double WaterRing = 14;     // of the ring's centres in the lake, from the shore
-constexpr double GuardReach = 45;    // things farther from the middle of the road are seen and not met
+constexpr double GuardReach = 32;    // things farther from the middle of the road are seen and not met
 constexpr double HedgeReach = 62;    // the rim is a hedge where the road is near, elsewhere a wall
 constexpr double SolidRadius = 0.85; // at most, of the models that carry spheres
 constexpr double GuardGap = 0.06;
@@ -58,7 +59,7 @@ double RoomFor(const Plan& plan, const Guard& wanted)
 }
 
 // Radii in steps, so that a few models serve all guards.
-void Add(Plan& plan, Guard guard)
+void AddGuard(Plan& plan, Guard guard)
 {
     const double room = RoomFor(plan, guard);
     if (room < guard.R)
@@ -85,7 +86,7 @@ void RingOnLand(Plan& plan)
         {
             const double x = side.From.X + side.Dir.X * t, z = side.From.Y + side.Dir.Y * t;
             if (!InsideOutline(plan.Lake, x, z))
-                Add(plan, {x, z, RingRadius, Inward(plan, x, z)});
+                AddGuard(plan, {x, z, RingRadius, Inward(plan, x, z)});
         }
 }
 
@@ -108,20 +109,20 @@ void RingInLake(Plan& plan)
             if (ShoreDistance(plan, p) < WaterRing - 0.7 ||
                 std::hypot(p.X - last.X, p.Y - last.Y) < 2 * RingRadius + GuardGap)
                 continue;
-            Add(plan, {p.X, p.Y, RingRadius, Inward(plan, p.X, p.Y)});
+            AddGuard(plan, {p.X, p.Y, RingRadius, Inward(plan, p.X, p.Y)});
             last = p;
         }
     }
 }
 
-void Body(Plan& plan, const Standing& item)
+void GuardItem(Plan& plan, const Standing& item)
 {
     const double c = std::cos(item.Angle), s = std::sin(item.Angle);
-    for (const Guard& part : KindOf(item.Name).Body)
+    for (const Stop& part : StopsOf(item.Name))
     {
         const double x = item.X + c * part.X - s * part.Z, z = item.Z + s * part.X + c * part.Z;
         const RoadPoint& road = plan.Road.At(plan.Road.Nearest(x, z));
-        Add(plan, {x, z, part.R, std::atan2(-road.DirX, road.DirZ)});
+        AddGuard(plan, {x, z, part.R, std::atan2(-road.DirX, road.DirZ)});
     }
 }
 }
@@ -154,6 +155,6 @@ void PutGuards(Plan& plan)
     RingInLake(plan);
     for (const Standing& item : std::vector<Standing>(plan.Items))
         if (RoadDistance(plan, item.X, item.Z) < GuardReach)
-            Body(plan, item);
+            GuardItem(plan, item);
 }
 }

@@ -1,6 +1,7 @@
 #include "assets/track/Plan.h"
 
 #include "assets/track/Guards.h"
+#include "assets/track/Light.h"
 #include "assets/track/Scatter.h"
 #include "base/Numbers.h"
 
@@ -165,7 +166,9 @@ void PutVillageStreet(Builder& put, Plan& plan)
         for (double s = From; s < To;)
         {
             const Kind& kind = KindOf(order[number++ % std::size(order)]);
-            put.Beside(kind.Name, s + kind.HalfX, side * (put.HalfWidth(s) + Pavement + kind.HalfZ));
+            const RoadPoint p = plan.Road.Along(s);
+            const char* const light = Facing(side * p.DirZ, -side * p.DirX) > 0 ? "" : "_s";
+            put.Beside(kind.Name + light, s + kind.HalfX, side * (put.HalfWidth(s) + Pavement + kind.HalfZ));
             s += 2 * kind.HalfX + 0.05;
         }
         std::vector<Point> kerb;
@@ -229,7 +232,7 @@ void PutShore(Builder& put)
 
 void PutAlleys(Builder& put)
 {
-    put.Both("plane", 964, 1040, 8.4, 9.2); // the avenue: crowns that meet over the road
+    put.Both("plane", 964, 1040, 8.4, 8.8); // the avenue: crowns that meet over the road
     put.Row("hedge", {1384, 1468, 9.6});
     put.Row("hedge", {1384, 1468, -9.6});
     put.Row("stonewall", {596, 836, -10.3});

@@ -32,8 +32,7 @@ struct Kind
     double HalfX, HalfZ; // footprint around the origin
     double Height;
     Shadow Cast;
-    bool Solid;              // its own model carries collision spheres
-    std::vector<Guard> Body; // what stops cars where it stands, around the origin; nothing: it is driven through
+    bool Solid; // its own model carries collision spheres
 };
 
 struct Standing

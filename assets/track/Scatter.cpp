@@ -142,7 +142,7 @@ void Bales(Grove& grove, const Plan& plan, Sequence& dice)
 
 void Wild(Grove& grove, Sequence& dice)
 {
-    for (int i = 0; i < 2100; ++i)
+    for (int i = 0; i < 1700; ++i)
     {
         const double x = dice.Between(4, WorldSize - 4), z = dice.Between(4, WorldSize - 4);
         const double rim = std::min({WorldSize - x, WorldSize - z, z}); // thicker toward the rim
