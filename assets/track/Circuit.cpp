@@ -15,7 +15,7 @@ struct Corner
 };
 const Corner Corners[] = {
     {76, 236, 66},   // from the shore onto the main straight
-    {452, 198, 62},  // end of the main straight, right
+    {452, 198, 88},  // end of the main straight, right: opens out, a whole field comes here at once
     {512, 92, 40},   // bottom of the east side, two lefts
     {602, 86, 44},   //
     {590, 330, 220}, // a kink on the east side
@@ -147,6 +147,27 @@ void RotateToStart(std::vector<Point>& line)
     std::rotate(line.begin(), nearest, line.end());
 }
 
+// The half width of the road: a little more room where the road bends hard, on the
+// grid, and in the first bend, where the whole field arrives side by side.
+void SetWidths(Circuit& circuit)
+{
+    constexpr double Plain = 6.7, Grid = 7.1, FirstBend = 8.0;
+    constexpr int GridFrom = -140, FirstBendFrom = 140, FirstBendTo = 275;
+    const int count = circuit.Count();
+    std::vector<double> widths;
+    for (int i = 0; i < count; ++i)
+    {
+        const double bend = Plain + std::min(1.0, 26 * std::abs(circuit.At(i).Bend));
+        const double least = i >= FirstBendFrom && i < FirstBendTo        ? FirstBend
+                             : i < FirstBendFrom || i >= count + GridFrom ? Grid
+                                                                          : Plain;
+        widths.push_back(std::max(bend, least));
+    }
+    Ease(widths, 25);
+    for (int i = 0; i < count; ++i)
+        circuit.Points[static_cast<std::size_t>(i)].HalfWidth = widths[static_cast<std::size_t>(i)];
+}
+
 // The racing line swings out before a bend and cuts its inside: the bend itself, smoothed twice over and subtracted.
 void AddRacingLine(Circuit& circuit)
 {
@@ -162,7 +183,7 @@ void AddRacingLine(Circuit& circuit)
     Ease(outside, 40);
     Ease(outside, 30);
     for (std::size_t i = 0; i < circuit.Points.size(); ++i)
-        circuit.Points[i].Line = std::clamp(9 * inside[i] - 7 * outside[i], -5.2, 5.2);
+        circuit.Points[i].Line = std::clamp(9 * inside[i] - 7 * outside[i], -4.2, 4.2);
 }
 }
 
@@ -191,14 +212,7 @@ Circuit MakeCircuit()
         p.Bend = std::remainder(out - in, 2 * Pi) / 4;
         circuit.Points.push_back(p);
     }
-    // A little more room where the road bends hard and on the main straight.
-    std::vector<double> widths;
-    for (int i = 0; i < count; ++i)
-        widths.push_back(7.4 + std::min(1.5, 34 * std::abs(circuit.At(i).Bend)) +
-                         (i < 160 || i > count - 70 ? 1.2 : 0.0));
-    Ease(widths, 25);
-    for (int i = 0; i < count; ++i)
-        circuit.Points[static_cast<std::size_t>(i)].HalfWidth = std::min(widths[static_cast<std::size_t>(i)], 9.0);
+    SetWidths(circuit);
     AddRacingLine(circuit);
     return circuit;
 }

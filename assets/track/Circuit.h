@@ -13,7 +13,7 @@ struct RoadPoint
     double X = 0, Z = 0;
     double DirX = 0, DirZ = 1; // unit vector along the lap
     double Bend = 0;           // curvature, 1 / radius; positive bends to the left
-    double HalfWidth = 8;
+    double HalfWidth = 6.7;
     double Line = 0; // offset of the worn racing line to the left of the centre
 };
 

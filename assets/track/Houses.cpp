@@ -1,5 +1,5 @@
 // Village houses, villa, church and bell tower. Walls stand along the axes: each side has its own light.
-#include "assets/track/Models.h"
+#include "assets/track/Facades.h"
 
 #include "assets/common/Noise.h"
 #include "assets/common/Shapes.h"
@@ -33,61 +33,12 @@ const House HouseList[] = {
     {"villa", 8.0, 5.0, 6.2, 8.4, Hex(0xF3D9A0), Hex(0x3F6650), 2, 5},
 };
 
-// Plaster with rain streaks, a darker foot and a little sun-bleaching at the top.
-void Plaster(Canvas& sheet, const Region& r, Rgb colour, Rgb light, std::uint32_t seed)
-{
-    for (int y = 0; y < r.Height; ++y)
-        for (int x = 0; x < r.Width; ++x)
-        {
-            const double cloud = Fbm(x / 22.0, y / 22.0, seed, 4), streak = Fbm(x / 3.0, y / 40.0, seed + 1, 3);
-            const double foot = SmoothStep(12, 0, y + 6 * cloud);
-            Rgb c = colour * (1 + 0.09 * cloud + 0.05 * streak + 0.05 * (HashUnit(x, y, seed + 2) - 0.5));
-            c = Mix(c, Hex(0xA38F76), 0.5 * foot);
-            const double eaves = SmoothStep(r.Height - 12.0, r.Height - 2.0, y); // shadow below the roof
-            sheet.Set(r.Left + x, r.Low + y, c * light * (1 - 0.38 * eaves));
-        }
-}
-
-void Window(Canvas& sheet, double x, double y, double width, double height, Rgb shutters, Rgb light, bool open)
-{
-    FillRect(sheet, x - width / 2 - 1, y - 1.5, width + 2, 1.8, Hex(0xE8DFC8) * light);
-    FillRect(sheet, x - width / 2 - 0.8, y, width + 1.6, height + 1, Hex(0xE6DAC2) * light);
-    const Rgb pane = open ? Hex(0x2E3840) : shutters * light;
-    FillRect(sheet, x - width / 2, y, width, height, pane);
-    if (!open)
-    {
-        for (double slat = y + 1; slat < y + height - 0.5; slat += 2)
-            FillRect(sheet, x - width / 2 + 0.5, slat, width - 1, 0.8, shutters * light * 0.72);
-        FillRect(sheet, x - 0.4, y, 0.8, height, shutters * light * 0.6);
-        return;
-    }
-    FillRect(sheet, x - width / 2, y + height * 0.45, width, height * 0.55, Hex(0x5E7484) * light, 0.7);
-    FillRect(sheet, x - 0.35, y, 0.7, height, Hex(0xE8DFC8) * light);
-    for (const double side : {-1.0, 1.0}) // shutters folded back against the wall
-    {
-        const double left = side < 0 ? x - width / 2 - width * 0.62 : x + width / 2 + 0.12 * width;
-        FillRect(sheet, left, y, width * 0.5, height, shutters * light);
-        for (double slat = y + 1; slat < y + height - 0.5; slat += 2)
-            FillRect(sheet, left + 0.4, slat, width * 0.5 - 0.8, 0.8, shutters * light * 0.75);
-        FillRect(sheet, left + 0.8, y - 0.8, width * 0.5, 0.9, Hex(0x6B5A48) * light, 0.5);
-    }
-}
-
-void Door(Canvas& sheet, double x, double width, double height, Rgb light)
-{
-    FillRect(sheet, x - width / 2 - 1.5, 0, width + 3, height + 1.5, Hex(0xCDBFA4) * light);
-    FillDisc(sheet, {x, height}, width / 2 + 1.2, Hex(0xCDBFA4) * light);
-    FillDisc(sheet, {x, height}, width / 2, Hex(0x5B3B26) * light);
-    FillRect(sheet, x - width / 2, 0, width, height, Hex(0x5B3B26) * light);
-    FillRect(sheet, x - 0.4, 0, 0.8, height + width / 2, Hex(0x38251A) * light);
-}
-
 void Facade(Canvas& sheet, const Region& r, const House& house, int side, double metres, Rgb light)
 {
     // Painted apart, so that nothing runs into the neighbour's part of the sheet.
     Canvas wall(r.Width, r.Height);
     const Region whole{0, 0, r.Width, r.Height};
-    Plaster(wall, whole, house.Plaster, light, house.Seed * 31u + static_cast<std::uint32_t>(side));
+    PaintPlaster(wall, whole, house.Plaster, light, house.Seed * 31u + static_cast<std::uint32_t>(side));
     const double perUnit = r.Width / metres, storey = r.Height / (house.Floors + 0.12);
     const int columns = std::max(1, base::RoundEven(metres / 2.9));
     const double width = 1.0 * perUnit, high = storey * 0.46;
@@ -97,9 +48,9 @@ void Facade(Canvas& sheet, const Region& r, const House& house, int side, double
             const double x = (column + 0.5) * r.Width / columns, y = floor * storey + storey * 0.32;
             const double luck = HashUnit(column * 4 + side, floor, house.Seed + 60);
             if (floor == 0 && column == (columns - 1) / 2 && side % 2 == 0)
-                Door(wall, x, 1.25 * perUnit, storey * 0.56, light);
+                PaintDoor(wall, x, 1.25 * perUnit, storey * 0.56, light);
             else if (luck < 0.86)
-                Window(wall, x, y, width, high, house.Shutters, light, luck > 0.3);
+                PaintWindow(wall, x, y, width, high, house.Shutters, light, luck > 0.3);
             if (floor > 0 && luck > 0.3 && HashUnit(column, floor, house.Seed + 70) > 0.6) // flower boxes
                 for (int i = 0; i < 7; ++i)
                     FillDisc(wall, {x - width / 2 + i * width / 6, y + 0.3}, 1.0,
@@ -108,25 +59,6 @@ void Facade(Canvas& sheet, const Region& r, const House& house, int side, double
     if (house.Floors > 1)
         FillRect(wall, 0, storey - 1, r.Width, 1.6, Hex(0xEFE4CC) * light, 0.5);
     Paste(sheet, wall, r.Left, r.Low);
-}
-
-// Curved terracotta tiles in rows down the slope.
-void Tiles(Canvas& sheet, const Region& r, Rgb light, std::uint32_t seed)
-{
-    for (int y = 0; y < r.Height; ++y)
-        for (int x = 0; x < r.Width; ++x)
-        {
-            const int course = y / 5, tile = (x + (course % 2) * 2) / 4;
-            const double tone = HashUnit(tile, course, seed),
-                         arc = std::sin(Pi * ((x + (course % 2) * 2) % 4 + 0.5) / 4);
-            const double lip = y % 5 == 0 ? 0.72 : 1;
-            Rgb c = Mix(Hex(0xB5573A), Hex(0xD98A5A), tone);
-            if (tone > 0.93)
-                c = Hex(0xA88A66);
-            const double moss = SmoothStep(0.15, 0.5, Fbm(x / 18.0, y / 18.0, seed + 3, 3));
-            c = Mix(c, Hex(0x8A7A52), 0.35 * moss) * (0.72 + 0.36 * arc) * lip;
-            sheet.Set(r.Left + x, r.Low + y, c * light);
-        }
 }
 
 Region WallRegion(int side)
@@ -153,11 +85,11 @@ Canvas HouseSheet(const House& house)
         Facade(sheet, WallRegion(side), house, side, metres, WallLight(normal.X, normal.Y));
     }
     for (int slope = 0; slope < 2; ++slope)
-        Tiles(sheet, RoofRegion(slope), RoofLights[slope], house.Seed * 17u);
+        PaintTiles(sheet, RoofRegion(slope), RoofLights[slope], house.Seed * 17u);
     // Plain plaster for the gables, lit from the west and unlit in the east.
     for (int gable = 0; gable < 2; ++gable)
-        Plaster(sheet, {2 * RoofWidth + gable * 64, 0, 64, RoofHeight}, house.Plaster,
-                WallLight(gable == 0 ? 1 : -1, 0), house.Seed * 13u);
+        PaintPlaster(sheet, {2 * RoofWidth + gable * 64, 0, 64, RoofHeight}, house.Plaster,
+                     WallLight(gable == 0 ? 1 : -1, 0), house.Seed * 13u);
     return sheet;
 }
 
@@ -184,20 +116,6 @@ void AddRoof(Model& model, const std::string& texture, double hx, double hz, dou
         Face(texture, west, {-hx, eaves, hz}, {-hx, eaves, -hz}, {-hx, ridge - 0.1, 0}, {-hx, ridge - 0.1, 0}));
 }
 
-void AddChimney(Model& model, double x, double z, double low, double high)
-{
-    const double r = 0.4;
-    const Rgb brick = Hex(0xB5714F);
-    model.Meshes.push_back(FlatFace(brick * ShadeLight, {x - r, low, z - r}, {x + r, low, z - r}, {x + r, high, z - r},
-                                    {x - r, high, z - r}));
-    model.Meshes.push_back(
-        FlatFace(brick, {x - r, low, z + r}, {x + r, low, z + r}, {x + r, high, z + r}, {x - r, high, z + r}));
-    model.Meshes.push_back(
-        FlatFace(brick, {x - r, low, z - r}, {x - r, low, z + r}, {x - r, high, z + r}, {x - r, high, z - r}));
-    model.Meshes.push_back(FlatFace(brick * ShadeLight, {x + r, low, z - r}, {x + r, low, z + r}, {x + r, high, z + r},
-                                    {x + r, high, z - r}));
-}
-
 void WriteHouse(const ModelFolder& folder, const House& house)
 {
     folder.Texture(house.Name, HouseSheet(house));
@@ -209,21 +127,6 @@ void WriteHouse(const ModelFolder& folder, const House& house)
     folder.Write(house.Name, model);
 }
 
-// Stone sides of church and tower: coursed, pale, with what `decorate` adds.
-void StoneSide(Canvas& sheet, const Region& r, Rgb light, std::uint32_t seed)
-{
-    for (int y = 0; y < r.Height; ++y)
-        for (int x = 0; x < r.Width; ++x)
-        {
-            const int course = y / 4, stone = (x + course % 2 * 4 + course % 3) / 8;
-            const double tone = HashUnit(stone, course, seed);
-            const bool joint = y % 4 == 0 || (x + course % 2 * 4 + course % 3) % 8 == 0;
-            Rgb c = Mix(Hex(0xDCC9A2), Hex(0xB9A582), tone) * (joint ? 0.84 : 1.0);
-            c = c * (1 + 0.08 * Fbm(x / 20.0, y / 20.0, seed + 4, 3));
-            sheet.Set(r.Left + x, r.Low + y, c * light);
-        }
-}
-
 void WriteChurch(const ModelFolder& folder)
 {
     const House church{"church", 9.0, 5.0, 6.2, 9.0, Hex(0xEAD9B4), Hex(0x6B4A35), 1, 9};
@@ -233,11 +136,11 @@ void WriteChurch(const ModelFolder& folder)
         const Region r = WallRegion(side);
         const Point normal = SideNormals[static_cast<std::size_t>(side)];
         const Rgb light = WallLight(normal.X, normal.Y);
-        StoneSide(sheet, r, light, 91);
+        PaintStone(sheet, r, light, 91);
         if (side == 3) // the front looks west, into the evening sun
         {
             Canvas front(r.Width, r.Height);
-            Door(front, r.Width / 2.0, 22, 26, light);
+            PaintDoor(front, r.Width / 2.0, 22, 26, light);
             FillDisc(front, {r.Width / 2.0, 66}, 12, Hex(0xF4EAD2) * light);
             FillDisc(front, {r.Width / 2.0, 66}, 9.5, Hex(0x3C4654));
             for (int ray = 0; ray < 8; ++ray)
@@ -279,7 +182,7 @@ void WriteTower(const ModelFolder& folder)
         const Point normal = SideNormals[static_cast<std::size_t>(side)];
         const Rgb light = WallLight(normal.X, normal.Y);
         const Region r{side * Side, 32, Side, High};
-        StoneSide(sheet, r, light, 95);
+        PaintStone(sheet, r, light, 95);
         const double x = r.Left + Side / 2.0;
         for (const double level : {70.0, 140.0, 172.0, 214.0}) // string courses
         {
@@ -300,7 +203,7 @@ void WriteTower(const ModelFolder& folder)
         Stroke(sheet, minute, 1.2, Hex(0x2F2A28));
         for (const double level : {30.0, 104.0})
             FillRect(sheet, x - 2.5, r.Low + level, 5, 14, Hex(0x38332F));
-        Tiles(sheet, {side * Side, 0, Side, 32}, side == 2 || side == 3 ? SunLight : RoofLights[0], 97);
+        PaintTiles(sheet, {side * Side, 0, Side, 32}, side == 2 || side == 3 ? SunLight : RoofLights[0], 97);
     }
     folder.Texture("tower", sheet);
     Model model;

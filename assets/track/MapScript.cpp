@@ -61,7 +61,7 @@ std::string Guards(const Plan& plan, const std::string& folder)
         for (const Guard& guard : guards)
         {
             text += &guard == &guards[0] ? "LoadObject,\"<path>" + name + ".3dm\"," : "DuplicateLastObj,";
-            text += Place(guard.X, guard.Z, 0, false);
+            text += Place(guard.X, guard.Z, guard.Angle, false);
         }
     }
     return text;
@@ -92,7 +92,7 @@ void WriteMap(const Plan& plan, const std::string& folder)
     const std::pair<const char*, std::vector<Zone>> lists[] = {
         {"Checkpoints", Checkpoints(plan.Road)},
         {"ACheckpoints", AlternativeCheckpoints(plan.Road)},
-        {"Box", RepairBoxes(plan.Road)},
+        {"Box", RepairBoxes(plan)},
         {"Grass", GrassZones(plan)},
         {"Water", WaterZones(plan)},
     };

@@ -52,6 +52,29 @@ public:
                      [&](int x, int y, double c)
                      { Ground.Blend(x, y, colour, c * opacity * (0.85 + 0.15 * HashUnit(x, y, 703))); });
     }
+    // The asphalt of a lay-by, with a pale line at its outer edge.
+    void Bay(const LayBy& bay)
+    {
+        const double half = HalfWidth(bay.S), outer = bay.Side * (half + LayByDepth), inner = bay.Side * (half - 0.2);
+        const double end = LayByHalf + LayByRamp;
+        std::vector<Point> edge;
+        for (const auto& [s, left] : {std::pair{bay.S - end, inner},
+                                      {bay.S - LayByHalf, outer},
+                                      {bay.S, outer},
+                                      {bay.S + LayByHalf, outer},
+                                      {bay.S + end, inner}})
+            edge.push_back(Texel(s, left));
+        std::vector<Point> outline = edge;
+        for (double s = bay.S + end - 4; s > bay.S - end; s -= 4)
+            outline.push_back(Texel(s, inner));
+        CoverPolygon(Ground.Width, Ground.Height, outline,
+                     [&](int x, int y, double c)
+                     {
+                         const double cloudy = Fbm(x / 36.0, y / 36.0, 704, 4), fine = HashUnit(x, y, 705) - 0.5;
+                         Ground.Blend(x, y, Hex(0x77736F) * (1 + 0.10 * cloudy + 0.12 * fine), c);
+                     });
+        Worn(edge, 0.36, White, 0.9);
+    }
     // Letters `tall` units long along `up` (+1: read along the lap, -1: against it, 0: from the left side).
     void Text(std::string_view text, double s, double left, double tall, double stretch, int up, Rgb colour,
               double thickness)
@@ -125,6 +148,24 @@ void StartAndGrid(Brush& brush)
     }
 }
 
+// A place where cars are mended: red ground in a yellow frame.
+void RepairBox(Brush& brush, double s0, double s1, double left0, double left1)
+{
+    brush.Patch(s0, s1, left0, left1, Hex(0x9A4B34), 0.35);
+    brush.Line(s0, s1, left0, left0, 0.3, Yellow);
+    brush.Line(s0, s1, left1, left1, 0.3, Yellow);
+    brush.Line(s0, s0, left0, left1, 0.3, Yellow);
+    brush.Line(s1, s1, left0, left1, 0.3, Yellow);
+}
+
+void Spanner(Brush& brush, double s, double left, double size)
+{
+    const double jaw = s + 2.3 * size, tip = s + 3.1 * size;
+    brush.Line(s, jaw, left, left, 0.45 * size, White);
+    brush.Line(jaw, tip, left, left - 0.7 * size, 0.4 * size, White);
+    brush.Line(jaw, tip, left, left + 0.7 * size, 0.4 * size, White);
+}
+
 void PitLane(Brush& brush)
 {
     brush.Line(PitFrom, PitTo, PitLeft - PitHalfWidth + 0.3, PitLeft - PitHalfWidth + 0.3, 0.3, White);
@@ -137,26 +178,32 @@ void PitLane(Brush& brush)
     {
         const double s = BoxFirst + BoxLength * box;
         const double near = BoxLeft - 2.2, far = BoxLeft + 2.6, s0 = s - 3.7, s1 = s + 3.7;
-        brush.Patch(s0, s1, near, far, Hex(0x9A4B34), 0.35);
-        brush.Line(s0, s1, near, near, 0.3, Yellow);
-        brush.Line(s0, s1, far, far, 0.3, Yellow);
-        brush.Line(s0, s0, near, far, 0.3, Yellow);
-        brush.Line(s1, s1, near, far, 0.3, Yellow);
+        RepairBox(brush, s0, s1, near, far);
         brush.Text(std::string(1, static_cast<char>('1' + box)), s - 2.2, BoxLeft + 0.2, 2.2, 1.0, 1, White, 0.32);
-        // A spanner: the place where cars are mended.
-        brush.Line(s - 0.2, s + 2.1, BoxLeft + 0.2, BoxLeft + 0.2, 0.45, White);
-        brush.Line(s + 2.1, s + 2.9, BoxLeft + 0.2, BoxLeft - 0.5, 0.4, White);
-        brush.Line(s + 2.1, s + 2.9, BoxLeft + 0.2, BoxLeft + 0.9, 0.4, White);
+        Spanner(brush, s - 0.2, BoxLeft + 0.2, 1);
     }
     brush.Text("BOX", PitFrom + 12, PitLeft, 5, 0.45, 1, White, 0.45);
     brush.Text("60", PitFrom + 24, PitLeft, 4.5, 0.5, 1, Yellow, 0.45);
-    brush.Text("BOX", PitFrom - 26, 5.2, 6, 0.32, 1, White, 0.4);
+    brush.Text("BOX", PitFrom - 26, 4.4, 6, 0.32, 1, White, 0.4);
+}
+
+// The same box and spanner as in the pit lane, on asphalt of its own, announced on the road.
+void PaintLayBy(Brush& brush, const LayBy& bay)
+{
+    const double half = brush.HalfWidth(bay.S), side = bay.Side, middle = side * (half + LayByBox);
+    brush.Bay(bay);
+    const double s0 = bay.S - LayByBoxHalfX, s1 = bay.S + LayByBoxHalfX;
+    RepairBox(brush, s0, s1, middle - LayByBoxHalfZ, middle + LayByBoxHalfZ);
+    Spanner(brush, bay.S - 1.6, middle, 1.5);
+    for (double s = bay.S - LayByHalf - LayByRamp; s < bay.S + LayByHalf + LayByRamp; s += 3)
+        brush.Line(s, s + 1.5, side * (half - 0.6), side * (half - 0.6), 0.3, Yellow);
+    brush.Text("BOX", bay.S - LayByHalf - LayByRamp - 12, side * (half - 2.4), 5, 0.3, 1, Yellow, 0.4);
 }
 
 void TyreMarks(Brush& brush, const Circuit& road)
 {
     Sequence dice(801);
-    const double brakes[] = {156, 278, 296, 822, 836, 1050, 1132, 1176, 1312, 1480, 1960, 1090, 890};
+    const double brakes[] = {156, 278, 296, 822, 836, 1050, 1132, 1176, 1312, 1480, 1940, 1080, 880};
     std::uint32_t seed = 1;
     for (const double begin : brakes)
         for (int i = 0; i < 6; ++i)
@@ -171,7 +218,7 @@ void TyreMarks(Brush& brush, const Circuit& road)
                    slot % 2 == 0 ? GridLeft : -GridLeft, slot % 2 == 0 ? GridLeft - 0.3 : 0.3 - GridLeft, 0.9, seed++);
     for (int i = 0; i < 12; ++i) // off into the gravel and back
     {
-        const double s = i < 6 ? 182 + 4.0 * i : 1078 + 4.0 * (i - 6);
+        const double s = i < 6 ? 184 + 4.0 * i : 1066 + 4.0 * (i - 6);
         brush.Skid(s, s + dice.Between(16, 30), 6, dice.Between(12, 21), 0.55, seed++);
     }
 }
@@ -192,9 +239,9 @@ void Drains(Brush& brush, double length)
 void Lettering(Brush& brush)
 {
     brush.Text("VELKAR", 62, -21.5, 8, 1.0, 0, White, 1.1);
-    brush.Text("LARIANO", 1720, 18.5, 6, 1.0, 0, White, 0.8);
+    brush.Text("LARIANO", 1730, 17.5, 6, 1.0, 0, White, 0.8);
     // Arrows that ask for more speed on the east side, chevrons into the hairpin.
-    for (const double s : {520.0, 660.0})
+    for (const double s : {448.0, 640.0})
     {
         brush.Line(s, s + 7, 0, 0, 0.5, White, 0.55);
         brush.Line(s + 4.5, s + 7, -1.2, 0, 0.5, White, 0.55);
@@ -212,6 +259,8 @@ void PaintMarkings(Canvas& ground, const Plan& plan)
     EdgeLines(brush, plan.Road.Length);
     StartAndGrid(brush);
     PitLane(brush);
+    for (const LayBy& bay : plan.LayBys)
+        PaintLayBy(brush, bay);
     Lettering(brush);
 }
 }

@@ -45,6 +45,32 @@ ModelMesh Upright(const std::string& texture, const Region& region, double x0, d
     return Face(texture, region, {x0, low, z0}, {x1, low, z1}, {x1, high, z1}, {x0, high, z0}, across, up);
 }
 
+ModelMesh Turned(const std::string& texture, const Region& region, const std::vector<Ring>& rings, int sides, double x,
+                 double z, double uneven)
+{
+    const int rows = static_cast<int>(rings.size());
+    ModelMesh mesh(rows, sides + 1);
+    mesh.Texture = ModelFolder::PathOf(texture);
+    for (int i = 0; i < rows; ++i)
+        for (int j = 0; j <= sides; ++j)
+        {
+            const Ring& ring = rings[static_cast<std::size_t>(i)];
+            const double turn = 1.0 * j / sides, around = 2 * Pi * turn;
+            const double r = ring.R * (1 + uneven * (HashUnit(j % sides, i, 881) - 0.5));
+            mesh.At(i, j) = {x + r * std::cos(around), ring.Y, z + r * std::sin(around),
+                             region.Left + base::RoundEven(turn * (region.Width - 1)),
+                             region.Low + base::RoundEven(1.0 * i / (rows - 1) * (region.Height - 1))};
+        }
+    return mesh;
+}
+
+void SetRows(ModelMesh& turned, const Region& region, const std::vector<int>& rows)
+{
+    for (int i = 0; i < turned.Rows; ++i)
+        for (int j = 0; j < turned.Cols; ++j)
+            turned.At(i, j).V = region.Low + rows.at(static_cast<std::size_t>(i));
+}
+
 ModelSphere SphereAt(double x, double y, double z, double radius)
 {
     ModelSphere sphere;

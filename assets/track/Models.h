@@ -26,6 +26,18 @@ ModelMesh FlatFace(Rgb colour, Vec3 lowLeft, Vec3 lowRight, Vec3 upRight, Vec3 u
 ModelMesh Upright(const std::string& texture, const Region& region, double x0, double z0, double x1, double z1,
                   double low, double high, int across = 1, int up = 1);
 
+// A level of a turned body: its height and its radius there.
+struct Ring
+{
+    double Y, R;
+};
+// A body turned about the upright through (x, z): `rings` from below, the region once round it from local +x over +z.
+// `uneven` makes that share of each radius random.
+ModelMesh Turned(const std::string& texture, const Region& region, const std::vector<Ring>& rings, int sides,
+                 double x = 0, double z = 0, double uneven = 0);
+// Rows of the region's picture at each ring, instead of equal steps.
+void SetRows(ModelMesh& turned, const Region& region, const std::vector<int>& rows);
+
 inline constexpr double HeavyMass = 1000000; // does not give way
 inline constexpr double LightMass = 0.001;   // flies
 
@@ -45,8 +57,14 @@ private:
 };
 
 void WriteHouses(const ModelFolder& folder);
+void WriteRowhouses(const ModelFolder& folder); // a village street
+void WriteGallery(const ModelFolder& folder);   // columns along the shore
+void WriteGate(const ModelFolder& folder);      // an arch over the road
 void WriteTrees(const ModelFolder& folder);
+void WriteHedge(const ModelFolder& folder);
+void WriteShelter(const ModelFolder& folder);   // for a car under repair
 void WriteStraight(const ModelFolder& folder);  // stand, pits, gantry
-void WriteRoadside(const ModelFolder& folder);  // walls, boards, tyres, signs
+void WriteRoadside(const ModelFolder& folder);  // walls, tyres, what is light
+void WriteBoards(const ModelFolder& folder);    // adverts, arrows, signs
 void WriteWaterside(const ModelFolder& folder); // pier, boats, parasols
 }

@@ -1,50 +1,15 @@
 #include "assets/track/Plan.h"
 
+#include "assets/track/Guards.h"
+#include "assets/track/Light.h"
 #include "assets/track/Scatter.h"
 #include "assets/track/WallEnds.h"
 #include "base/Numbers.h"
 
 #include <algorithm>
-#include <stdexcept>
 
 namespace assets::track
 {
-const std::vector<Kind>& Kinds()
-{
-    static const std::vector<Kind> kinds{
-        {"house_a", 5.0, 4.0, 6.5, Shadow::Block, false},   {"house_b", 4.0, 4.5, 8.5, Shadow::Block, false},
-        {"house_c", 6.5, 4.0, 6.0, Shadow::Block, false},   {"house_d", 3.6, 3.6, 9.5, Shadow::Block, false},
-        {"villa", 8.0, 5.0, 8.0, Shadow::Block, false},     {"church", 5.0, 9.0, 9.0, Shadow::Block, false},
-        {"tower", 2.3, 2.3, 27.0, Shadow::Block, false},    {"stand", 13.0, 5.5, 9.5, Shadow::Block, false},
-        {"pits", 38.0, 4.5, 6.5, Shadow::Block, false},     {"gantry", 1.0, 11.6, 12.0, Shadow::None, false},
-        {"cypress", 1.2, 1.2, 11.0, Shadow::Cone, false},   {"cypress_r", 1.2, 1.2, 11.0, Shadow::Cone, true},
-        {"pine", 4.2, 4.2, 11.5, Shadow::Crown, false},     {"pine_r", 4.2, 4.2, 11.5, Shadow::Crown, true},
-        {"oak", 3.4, 3.4, 7.5, Shadow::Crown, false},       {"olive", 2.2, 2.2, 4.4, Shadow::Crown, false},
-        {"bush", 1.5, 1.5, 1.8, Shadow::Crown, false},      {"stonewall", 6.0, 0.35, 1.3, Shadow::Block, false},
-        {"pitwall", 6.0, 0.25, 1.0, Shadow::Block, false},  {"fence", 6.0, 0.1, 2.6, Shadow::None, false},
-        {"tyres", 0.75, 0.75, 1.1, Shadow::Block, true},    {"cone", 0.3, 0.3, 0.75, Shadow::Block, true},
-        {"bollard", 0.2, 0.2, 1.0, Shadow::Block, true},    {"bale", 1.0, 0.8, 1.9, Shadow::Block, false},
-        {"board_1", 4.0, 0.1, 1.6, Shadow::Block, false},   {"board_2", 4.0, 0.1, 1.6, Shadow::Block, false},
-        {"board_3", 4.0, 0.1, 1.6, Shadow::Block, false},   {"board_4", 4.0, 0.1, 1.6, Shadow::Block, false},
-        {"board_5", 4.0, 0.1, 1.6, Shadow::Block, false},   {"board_6", 4.0, 0.1, 1.6, Shadow::Block, false},
-        {"sign_100", 0.9, 0.1, 2.2, Shadow::None, true},    {"sign_50", 0.9, 0.1, 2.2, Shadow::None, true},
-        {"arrows", 3.0, 0.1, 1.8, Shadow::Block, false},    {"arrows_r", 3.0, 0.1, 1.8, Shadow::Block, false},
-        {"pier", 1.5, 12.0, 1.2, Shadow::None, false},      {"sailboat", 1.3, 3.2, 9.0, Shadow::None, false},
-        {"rowboat", 0.8, 2.0, 0.8, Shadow::None, false},    {"parasol", 1.5, 1.5, 2.4, Shadow::Roof, false},
-        {"flag", 0.2, 0.2, 8.0, Shadow::None, false},       {"marshal", 1.2, 1.2, 3.0, Shadow::Block, false},
-        {"wallend", 0.55, 0.55, 1.6, Shadow::Block, false}, {"backdrop", 0, 0, 0, Shadow::None, false},
-    };
-    return kinds;
-}
-
-const Kind& KindOf(const std::string& name)
-{
-    for (const Kind& kind : Kinds())
-        if (kind.Name == name)
-            return kind;
-    throw std::runtime_error("no model kind named " + name);
-}
-
 double AngleFacing(double dirX, double dirZ)
 {
     return std::atan2(dirX, -dirZ);
@@ -60,6 +25,21 @@ bool InsideOutline(const std::vector<Point>& outline, double x, double z)
             inside = !inside;
     }
     return inside;
+}
+
+double LayByEdge(const Plan& plan, double s, double offset)
+{
+    double least = 1e9;
+    for (const LayBy& bay : plan.LayBys)
+    {
+        const double along = std::abs(std::remainder(s - bay.S, plan.Road.Length));
+        if (along > LayByHalf + LayByRamp + 60 || offset * bay.Side < 0)
+            continue;
+        const double depth = LayByDepth * Clamp01((LayByHalf + LayByRamp - along) / LayByRamp);
+        const double out = std::abs(offset) - plan.Road.Along(s).HalfWidth - depth;
+        least = std::min(least, std::max(out, along - LayByHalf - LayByRamp));
+    }
+    return least;
 }
 
 namespace
@@ -90,70 +70,52 @@ public:
         const Point place = Layout.Road.Place(s, left);
         Put(name, place.X, place.Y, AngleFacing(-p.DirX, -p.DirZ));
     }
-    // Pieces of the same length end to end.
-    void Row(const std::string& name, const Barrier& run, double guardRadius)
+    // Pieces end to end, their middles at the same distance from the middle of the road.
+    void Row(const std::string& name, const Barrier& run)
     {
         const double step = 2 * KindOf(name).HalfX;
-        for (double s = run.S0 + step / 2; s < run.S1; s += step)
-            Beside(name, s, run.Left);
-        if (guardRadius > 0)
-            GuardRow(run, guardRadius);
-    }
-    void GuardRow(const Barrier& run, double radius)
-    {
-        const double behind = run.Left + (run.Left > 0 ? 1 : -1) * (radius - 0.4);
-        Point last{-1e9, -1e9};
-        for (double s = run.S0 + radius; s < run.S1; s += 0.25)
+        for (double s = run.S0 + step / 2; s < run.S1;)
         {
-            const Point p = Layout.Road.Place(s, behind);
-            if (std::hypot(p.X - last.X, p.Y - last.Y) < 2 * radius + 0.3)
-                continue;
-            Layout.Guards.push_back({p.X, p.Y, radius});
-            last = p;
+            Beside(name, s, run.Left);
+            s += StepAlong(s, run.Left, step);
         }
     }
-    void GuardAt(double x, double z, double radius) { Layout.Guards.push_back({x, z, radius}); }
+    void Both(const std::string& name, double s0, double s1, double step, double left)
+    {
+        for (double s = s0; s <= s1; s += step)
+        {
+            Beside(name, s, left);
+            Beside(name, s, -left);
+        }
+    }
+    double HalfWidth(double s) const { return Layout.Road.Along(s).HalfWidth; }
 
 private:
+    // How far along the centre line a piece of that length reaches: less on the outside of a bend, more on its inside.
+    double StepAlong(double s, double left, double length) const
+    {
+        const Point a = Layout.Road.Place(s, left), b = Layout.Road.Place(s + length, left);
+        return length * length / std::hypot(b.X - a.X, b.Y - a.Y);
+    }
     Plan& Layout;
 };
 
-void PutStraight(Builder& put, Plan& plan)
+void PutStraight(Builder& put, const Plan& plan)
 {
     for (int i = 0; i < 3; ++i)
-    {
-        const double s = -76 + 28.0 * i;
-        put.Beside("stand", s, -22);
-        for (const double along : {-8.7, 0.0, 8.7})
-        {
-            const Point p = plan.Road.Place(s + along, -22);
-            put.GuardAt(p.X, p.Y, 4.2);
-        }
-    }
-    put.Row("fence", {-88, 8, -12.6}, 0);
-    put.GuardRow({-88, 8, -12.6}, 2.4);
+        put.Beside("stand", -76 + 28.0 * i, -21);
+    put.Row("fence", {-88, 8, -11.9});
     put.Beside("pits", BoxFirst + BoxLength * 3.5, 30.5);
-    for (int i = 0; i < 8; ++i)
-    {
-        const Point p = plan.Road.Place(BoxFirst + BoxLength * i, 30.5);
-        put.GuardAt(p.X, p.Y, 4.2);
-    }
-    put.Row("pitwall", {PitWallFrom, PitWallTo, PitWallLeft}, 0);
-    for (double s = PitWallFrom + 1; s < PitWallTo; s += 4.4)
-    {
-        const Point p = plan.Road.Place(s, PitWallLeft);
-        put.GuardAt(p.X, p.Y, 0.9);
-    }
+    put.Row("pitwall", {PitWallFrom, PitWallTo, PitWallLeft});
     const RoadPoint start = plan.Road.At(0);
     put.Put("gantry", start.X, start.Z, AngleFacing(-start.DirX, -start.DirZ) + Pi / 2);
-    // The left leg stands over the pit wall, whose guards are enough.
-    put.GuardAt(plan.Road.Place(0, -10.9).X, plan.Road.Place(0, -10.9).Y, 0.7);
     for (int i = 0; i < 7; ++i)
         put.Beside("flag", -92 + 15.5 * i, -28.5);
-    for (const double s : {78.0, 90.0, 120.0, 132.0})
-        put.Beside("board_" + std::to_string(1 + base::RoundEven(s) % 6), s, -14);
-    put.Against("sign_100", 136, -11.5);
-    put.Against("sign_50", 156, -11.5);
+    for (int i = 0; i < 12; ++i)
+        put.Beside("board_" + std::to_string(1 + (i * 5 + 3) % 6), 20 + 9.5 * i, -10.6);
+    put.Row("hedge", {62, 110, -13.5});
+    put.Against("sign_100", 136, -9.6);
+    put.Against("sign_50", 156, -9.9);
 }
 
 void PutCorners(Builder& put)
@@ -163,45 +125,63 @@ void PutCorners(Builder& put)
         for (double s = s0; s <= s1; s += 9)
             put.Beside("board_" + std::to_string(1 + first++ % 6), s, left);
     };
-    boards(192, 232, 29, 2);
-    boards(865, 945, -27, 0);
-    boards(1088, 1124, 27, 4);
-    boards(520, 538, -15, 1);
-    boards(680, 702, -15, 3);
-    boards(1290, 1310, -15, 5);
-    boards(1630, 1660, 14, 2);
-    boards(2020, 2038, 16, 0);
+    boards(186, 250, 31, 2);
+    boards(868, 945, -26, 0);
+    boards(1074, 1116, 26, 4);
+    boards(1226, 1240, 9.6, 1);
+    boards(1286, 1302, -9.6, 5);
+    boards(2044, 2056, 10.4, 0);
     const auto tyres = [&](double s0, double s1, double step, double left)
     {
         for (double s = s0; s <= s1; s += step)
             put.Beside("tyres", s, left);
     };
-    tyres(186, 240, 4.5, 26.5);
-    tyres(858, 952, 6, -23.5);
-    tyres(1086, 1126, 5, 24.5);
-    tyres(356, 412, 7, -17.5);
-    put.Beside("arrows", 866, -15.5);
-    put.Beside("arrows_r", 1082, 15.5);
-    put.Beside("arrows_r", 1352, 15.5);
-    put.Beside("arrows", 324, -15.5);
-    for (const double s : {1136.0, 1148.0, 1204.0, 1216.0})
-    {
-        put.Beside("bollard", s, 10.6);
-        put.Beside("bollard", s, -10.6);
-    }
-    for (const double s : {306.0, 312.0, 318.0})
-        put.Beside("cone", s, 11.5);
-    for (const double s : {1346.0, 1352.0, 1358.0})
-        put.Beside("cone", s, -11.2);
-    for (const double s : {1546.0, 1552.0, 1558.0})
-        put.Beside("cone", s, 11.2);
-    put.Against("sign_100", 806, -11);
-    put.Against("sign_50", 828, -11);
-    for (const double s : {250.0, 430.0, 910.0, 1100.0, 1390.0, 1600.0, 1950.0})
-        put.Beside("marshal", s, s == 910.0 ? -30 : s == 1100.0 ? 31 : -19);
+    tyres(184, 252, 5.5, 28.5);
+    tyres(860, 948, 6, -23);
+    tyres(1070, 1120, 5, 23.5);
+    tyres(366, 430, 7, -17.5);
+    put.Beside("arrows", 872, -15.5);
+    put.Beside("arrows_r", 1068, 15.5);
+    put.Beside("arrows_r", 1340, 15.5);
+    put.Beside("arrows", 334, -15.5);
+    put.Both("bollard", 1130, 1226, 8, 9.4); // the chicane
+    for (const double s : {306.0, 312.0, 318.0, 1546.0, 1552.0, 1558.0})
+        put.Beside("cone", s, put.HalfWidth(s) + 2.4);
+    for (const double s : {1334.0, 1340.0, 1346.0})
+        put.Beside("cone", s, -put.HalfWidth(s) - 2.4);
+    put.Against("sign_100", 786, 9);
+    put.Against("sign_50", 820, 9);
+    for (const double s : {282.0, 448.0, 910.0, 1094.0, 1390.0, 1570.0, 1950.0})
+        put.Beside("marshal", s, s == 910.0 ? -29 : s == 1094.0 ? 29 : -19);
 }
 
-void PutVillage(Builder& put, const Plan& plan)
+// Narrow houses wall to wall along both kerbs, a pavement before them, and the gate behind the last.
+void PutVillageStreet(Builder& put, Plan& plan)
+{
+    constexpr double From = 462, To = 558, Pavement = 3;
+    const char* const order[] = {"rowhouse_b", "rowhouse_a", "rowhouse_c", "rowhouse_a", "rowhouse_b",
+                                 "rowhouse_c", "rowhouse_c", "rowhouse_a", "rowhouse_b"};
+    for (const int side : {1, -1})
+    {
+        int number = side > 0 ? 0 : 4;
+        for (double s = From; s < To;)
+        {
+            const Kind& kind = KindOf(order[number++ % std::size(order)]);
+            const RoadPoint p = plan.Road.Along(s);
+            const char* const light = Facing(side * p.DirZ, -side * p.DirX) > 0 ? "" : "_s";
+            put.Beside(kind.Name + light, s + kind.HalfX, side * (put.HalfWidth(s) + Pavement + kind.HalfZ));
+            s += 2 * kind.HalfX + 0.05;
+        }
+        std::vector<Point> kerb;
+        for (double s = From - 2; s <= To + 8; s += 6)
+            kerb.push_back(plan.Road.Place(s, side * (put.HalfWidth(s) + Pavement / 2)));
+        plan.Paths.push_back({kerb, Pavement + 0.6, true});
+    }
+    put.Both("bollard", From + 4, To - 4, 9, put.HalfWidth(From) + 1.1);
+    put.Against("arch", To + 14, 0);
+}
+
+void PutVillage(Builder& put)
 {
     struct Place
     {
@@ -209,26 +189,22 @@ void PutVillage(Builder& put, const Plan& plan)
         double X, Z, Angle;
     };
     const Place houses[] = {
-        {"tower", 543, 232, 0},      {"church", 553, 243, 0},      {"house_a", 512, 248, 0.08},
-        {"house_b", 511, 233, 0.0},  {"house_c", 521, 263, -0.05}, {"house_d", 541, 265, 0.05},
-        {"house_b", 533, 206, 0.1},  {"house_a", 551, 212, -0.06}, {"house_c", 522, 190, 0.15},
-        {"house_d", 510, 214, 0.05}, {"house_a", 540, 287, 0.03},  {"house_b", 556, 282, 0},
-        {"house_c", 558, 300, 0.06}, {"house_d", 536, 304, 0},     {"house_a", 519, 290, -0.12},
-        {"house_b", 548, 322, 0.08}, {"house_d", 554, 186, 0.02},  {"house_a", 545, 166, 0.05},
-        {"villa", 152, 488, 0.1},    {"house_a", 196, 512, -0.1},  {"house_c", 206, 474, 0.05},
-        {"house_d", 186, 492, 0},    {"house_b", 342, 330, 0.06},  {"house_c", 360, 322, 0.06},
-        {"house_a", 430, 560, 0.1},  {"house_d", 446, 570, 0.05},  {"house_c", 420, 540, 0.1},
-        {"house_a", 312, 590, 0.05}, {"villa", 470, 40, -0.1},     {"house_b", 82, 372, 0.05},
-        {"house_d", 90, 384, 0.0},   {"house_a", 86, 356, 0.1},
+        {"tower", 573, 214, 0},       {"church", 568, 229, 0},      {"house_a", 512, 248, 0.08},
+        {"house_b", 511, 233, 0.0},   {"house_c", 521, 263, -0.05}, {"house_d", 541, 265, 0.05},
+        {"house_b", 533, 206, 0.1},   {"house_a", 554, 208, -0.06}, {"house_c", 522, 190, 0.15},
+        {"house_d", 510, 214, 0.05},  {"house_a", 540, 287, 0.03},  {"house_b", 556, 282, 0},
+        {"house_c", 558, 300, 0.06},  {"house_d", 536, 304, 0},     {"house_a", 519, 290, -0.12},
+        {"house_b", 548, 322, 0.08},  {"house_d", 558, 186, 0.02},  {"house_a", 552, 166, 0.05},
+        {"house_d", 554, 244, 0.04},  {"house_c", 552, 262, 0.02},  {"house_b", 625, 184, 0.03},
+        {"house_d", 624, 216, -0.04}, {"house_a", 624, 240, 0.05},  {"villa", 152, 488, 0.1},
+        {"house_a", 196, 512, -0.1},  {"house_c", 206, 474, 0.05},  {"house_d", 186, 492, 0},
+        {"house_b", 342, 330, 0.06},  {"house_c", 360, 322, 0.06},  {"house_a", 430, 560, 0.1},
+        {"house_d", 446, 570, 0.05},  {"house_c", 420, 540, 0.1},   {"house_a", 312, 590, 0.05},
+        {"villa", 470, 40, -0.1},     {"house_b", 82, 372, 0.05},   {"house_d", 90, 384, 0.0},
+        {"house_a", 86, 356, 0.1},
     };
     for (const Place& house : houses)
-    {
         put.Put(house.Name, house.X, house.Z, house.Angle);
-        const Kind& kind = KindOf(house.Name);
-        const RoadPoint& road = plan.Road.At(plan.Road.Nearest(house.X, house.Z));
-        if (std::hypot(road.X - house.X, road.Z - house.Z) < 75) // no car gets farther
-            put.GuardAt(house.X, house.Z, std::min(kind.HalfX, kind.HalfZ) + 0.8);
-    }
     const Point parasols[] = {{527, 228}, {531, 236}, {524, 238}, {532, 224}, {528, 244}};
     for (const Point& p : parasols)
         put.Put("parasol", p.X, p.Y);
@@ -251,39 +227,32 @@ void PutShore(Builder& put)
     const Point parasols[] = {{120, 186}, {127, 181}, {133, 179}, {140, 174}, {112, 190}, {104, 196}, {147, 172}};
     for (const Point& p : parasols)
         put.Put("parasol", p.X, p.Y);
-    put.Row("stonewall", {1600, 1720, -12.6}, 2.8);
-    put.Row("stonewall", {1786, 1910, -12.4}, 2.8);
+    put.Row("stonewall", {1604, 1776, -10.3});
+    put.Row("gallery", {1784, 1910, -11.4}); // columns between road and water
 }
 
-void PutWalls(Builder& put)
+void PutAlleys(Builder& put)
 {
-    put.Row("stonewall", {446, 840, -16.5}, 3.2);
-    put.Row("stonewall", {970, 1045, 15}, 0);
-    put.Row("stonewall", {1365, 1450, 15.5}, 0);
-    put.Row("stonewall", {1220, 1290, -17}, 0);
+    put.Both("plane", 964, 1040, 8.4, 8.8); // the avenue: crowns that meet over the road
+    put.Row("hedge", {1384, 1468, 9.6});
+    put.Row("hedge", {1384, 1468, -9.6});
+    put.Row("stonewall", {596, 836, -10.3});
+    put.Row("stonewall", {1222, 1236, -10.3});
 }
 
-// Things that touch at the start would push each other over: a guard gives way to what stands there before it.
-void DropTouchingGuards(Plan& plan)
+// A shelter behind each box; cones show where the box ends.
+void PutLayBys(Builder& put, const Plan& plan)
 {
-    constexpr double SolidRadius = 0.85, Gap = 0.05;
-    std::vector<Guard> kept;
-    for (const Guard& guard : plan.Guards)
+    for (const LayBy& bay : plan.LayBys)
     {
-        const bool meetsGuard =
-            std::any_of(kept.begin(), kept.end(),
-                        [&](const Guard& other)
-                        { return std::hypot(other.X - guard.X, other.Z - guard.Z) < other.R + guard.R + Gap; });
-        const bool meetsItem =
-            std::any_of(plan.Items.begin(), plan.Items.end(),
-                        [&](const Standing& item) {
-                            return KindOf(item.Name).Solid &&
-                                   std::hypot(item.X - guard.X, item.Z - guard.Z) < SolidRadius + guard.R + Gap;
-                        });
-        if (!meetsGuard && !meetsItem)
-            kept.push_back(guard);
+        const double edge = put.HalfWidth(bay.S) + LayByDepth;
+        put.Beside("shedbox", bay.S, bay.Side * (edge + 1.8));
+        for (const double end : {-1.0, 1.0})
+        {
+            put.Beside("cone", bay.S + end * (LayByHalf + 1), bay.Side * (edge - 0.6));
+            put.Beside("flag", bay.S + end * 5.5, bay.Side * (edge + 0.8));
+        }
     }
-    plan.Guards = kept;
 }
 }
 
@@ -315,21 +284,26 @@ Plan MakePlan()
         {{{104, 262}, {106, 340}, {104, 440}, {130, 480}, {176, 498}, {214, 500}, {240, 480}}, 3.4, false},
         {{{344, 344}, {352, 322}, {372, 310}, {410, 310}}, 3.2, false},
         {{{430, 550}, {456, 520}, {452, 440}, {470, 430}}, 3.2, false},
-        {{{440, 160}, {430, 90}, {458, 50}, {500, 30}, {560, 26}, {634, 30}}, 3.4, false},
+        {{{440, 160}, {430, 90}, {458, 50}, {500, 30}, {560, 26}, {618, 29}}, 3.4, false},
         {{{310, 150}, {250, 178}, {190, 178}, {150, 186}, {120, 204}}, 3.4, false},
     };
-    plan.Gravels = {{176, 256, 10.5, 26},   {856, 954, -22.5, -10.5}, {1072, 1132, 10.5, 24},
-                    {352, 418, -17, -10.5}, {1336, 1380, 10.5, 22},   {1990, 2040, -18, -10.5}};
+    plan.Gravels = {{172, 262, 11.5, 28}, {856, 954, -22, -10.2}, {1058, 1126, 10, 23},
+                    {356, 434, -17, -10}, {1324, 1376, 10, 21},   {1982, 2036, -17, -9.6}};
+    plan.LayBys = {{692, 1}, {1262, -1}, {1652, 1}};
     Builder put(plan);
     PutStraight(put, plan);
     PutCorners(put);
-    PutVillage(put, plan);
+    PutVillageStreet(put, plan);
+    PutVillage(put);
     PutShore(put);
-    PutWalls(put);
+    PutAlleys(put);
+    PutLayBys(put, plan);
+    PutBorder(plan);
     ScatterTrees(plan);
     PutWallEnds(plan);
     plan.Items.push_back({"backdrop", WorldSize / 2, WorldSize / 2});
-    DropTouchingGuards(plan);
+    ThinFarTrees(plan);
+    PutGuards(plan);
     std::stable_sort(plan.Items.begin(), plan.Items.end(),
                      [](const Standing& a, const Standing& b) { return a.Name < b.Name; });
     return plan;

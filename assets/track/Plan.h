@@ -18,6 +18,17 @@ enum class Shadow
     Roof   // a thin roof high up
 };
 
+// What follows a tree's name in the simpler model for places far from the road.
+inline constexpr const char* Far = "_far";
+bool HasFarModel(const std::string& name);
+
+// What stops cars: a ground sphere without a picture. `Angle` is its heading, an AngleA.
+struct Guard
+{
+    double X = 0, Z = 0, R = 1;
+    double Angle = 0;
+};
+
 // One model of the world.
 struct Kind
 {
@@ -33,12 +44,6 @@ struct Standing
     std::string Name; // of its Kind
     double X = 0, Z = 0;
     double Angle = 0; // AngleA: the local z axis points along (-sin, cos)
-};
-
-// A ground sphere without a picture that stops cars where a building stands.
-struct Guard
-{
-    double X = 0, Z = 0, R = 1;
 };
 
 // A tilled piece of land.
@@ -70,6 +75,13 @@ struct Gravel
     double S0, S1, Near, Far;
 };
 
+// A place beside the road where cars are mended.
+struct LayBy
+{
+    double S;    // its middle along the lap
+    double Side; // +1 left of the road, -1 right
+};
+
 // A barrier along the road.
 struct Barrier
 {
@@ -84,6 +96,7 @@ struct Plan
     std::vector<Field> Fields;
     std::vector<Path> Paths;
     std::vector<Gravel> Gravels;
+    std::vector<LayBy> LayBys;
     std::vector<Standing> Items;
     std::vector<Guard> Guards;
 };
@@ -93,12 +106,15 @@ const Kind& KindOf(const std::string& name);
 // AngleA of a model whose front shall look along this direction.
 double AngleFacing(double dirX, double dirZ);
 bool InsideOutline(const std::vector<Point>& outline, double x, double z);
+// Distance to the paved ground of the nearest lay-by, negative on it; `s` along the lap, `offset` to the left of the
+// centre line.
+double LayByEdge(const Plan& plan, double s, double offset);
 Plan MakePlan();
 
 inline constexpr double WorldSize = 640;
 
 // The grid: the front of the first slot behind the start line, the step to the next, their distance from the middle.
-inline constexpr double GridFront = -3.4, GridStep = 15, GridLeft = 3.6;
+inline constexpr double GridFront = -3.4, GridStep = 16, GridLeft = 3.4;
 
 // The pit lane lies to the left of the main straight.
 inline constexpr double PitFrom = -88, PitTo = 112; // along the lap
@@ -107,4 +123,9 @@ inline constexpr int PitBoxes = 8;
 inline constexpr double BoxLength = 9, BoxFirst = -34; // centre of the first box along the lap
 inline constexpr double BoxLeft = 21.4;
 inline constexpr double PitWallLeft = 11.2, PitWallFrom = -58, PitWallTo = 50;
+
+// A lay-by: half its length at full depth, the ramps at both ends, its depth from the edge of the road, and the middle
+// of its box from there.
+inline constexpr double LayByHalf = 9, LayByRamp = 15, LayByDepth = 6.6, LayByBox = 3.8;
+inline constexpr double LayByBoxHalfX = 5, LayByBoxHalfZ = 2.2;
 }

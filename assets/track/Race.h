@@ -15,7 +15,8 @@ std::vector<Zone> Checkpoints(const Circuit& road);
 // For each gate a wider zone that begins where the gate begins and reaches out to both sides beyond it; at the chicane
 // it takes in the grass that tempts to cut.
 std::vector<Zone> AlternativeCheckpoints(const Circuit& road);
-std::vector<Zone> RepairBoxes(const Circuit& road);
+// Those of the pit lane, then those of the lay-bys.
+std::vector<Zone> RepairBoxes(const Plan& plan);
 // Circles that cover the grass and gravel beside the road, and the lake.
 std::vector<Zone> GrassZones(const Plan& plan);
 std::vector<Zone> WaterZones(const Plan& plan);

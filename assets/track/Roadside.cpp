@@ -1,40 +1,57 @@
-// Walls, fences, tyre stacks, boards, signs and what can be knocked over. Fronts look along local -z.
+// Walls, fences, tyre stacks, and light things that a car passes through. Fronts look along local -z.
 #include "assets/track/Models.h"
 
 #include "assets/common/Noise.h"
 #include "assets/common/Shapes.h"
-#include "assets/track/Lettering.h"
 #include "assets/track/Light.h"
 #include "base/Numbers.h"
+
+#include <functional>
 
 namespace assets::track
 {
 namespace
 {
-void WriteStoneWall(const ModelFolder& folder)
+// The two faces, the coping and the ends of a straight wall: the picture's rows below `coping` are the face, those
+// above the top.
+Model WallModel(const std::string& texture, int width, int height, int coping, double halfThick, double high)
 {
-    Canvas picture(192, 32);
-    for (int y = 0; y < 32; ++y)
-        for (int x = 0; x < 192; ++x)
-        {
-            const CellDistance stone = Cells(x / 7.0, y / 5.2, 1101, 0, 0);
-            const double tone = (stone.Id & 255u) / 255.0;
-            Rgb c = Mix(Hex(0xC9B894), Hex(0x968A74), tone) * (0.92 + 0.16 * HashUnit(x, y, 1102));
-            c = Mix(c, Hex(0x6A5F4C), 0.7 * SmoothStep(0.14, 0.03, stone.Second - stone.First));
-            if (y >= 24) // coping
-                c = Hex(0xD9CCAE) * (0.95 + 0.08 * HashUnit(x, y, 1103)) * (x % 24 == 0 ? 0.75 : 1);
-            c = Mix(c, Hex(0x7E8A4E), 0.5 * SmoothStep(7, 1, y + 5 * Noise(x / 9.0, 0, 1104)));
-            picture.Set(x, y, c * (y < 24 ? 0.92 : 1.05));
-        }
-    folder.Texture("stonewall", picture);
+    constexpr double X = 6;
+    constexpr int Across = 5;
+    const Region face{0, 0, width, coping}, end{0, 0, 12, coping}, top{0, coping, width, height - coping};
+    const double z = halfThick;
     Model model;
     model.Mass = HeavyMass;
-    constexpr double X = 6, Z = 0.35, High = 1.3;
-    model.Meshes.push_back(Upright("stonewall", {0, 0, 192, 24}, -X, -Z, X, -Z, 0, High, 2, 1));
-    model.Meshes.push_back(Upright("stonewall", {0, 0, 192, 24}, X, Z, -X, Z, 0, High, 2, 1));
-    model.Meshes.push_back(
-        Face("stonewall", {0, 24, 192, 8}, {-X, High, -Z}, {X, High, -Z}, {X, High, Z}, {-X, High, Z}, 2, 1));
-    folder.Write("stonewall", model);
+    model.Meshes.push_back(Upright(texture, face, -X, -z, X, -z, 0, high, Across, 1));
+    model.Meshes.push_back(Upright(texture, face, X, z, -X, z, 0, high, Across, 1));
+    model.Meshes.push_back(Face(texture, top, {-X, high, -z}, {X, high, -z}, {X, high, z}, {-X, high, z}, Across));
+    for (const double x : {-X, X})
+        model.Meshes.push_back(Upright(texture, end, x, -z, x, z, 0, high));
+    return model;
+}
+
+void WriteStoneWall(const ModelFolder& folder)
+{
+    constexpr int Width = 192;
+    Canvas picture(Width, 34);
+    for (int y = 0; y < 34; ++y)
+        for (int x = 0; x < Width; ++x)
+        {
+            // Repeats along the wall, so that pieces join.
+            const CellDistance stone = Cells(x / 8.0, y / 5.2, 1101, Width / 8, 0);
+            const double tone = (stone.Id & 255u) / 255.0;
+            Rgb c = Mix(Hex(0xD2C09A), Hex(0x9A8C74), tone) * (0.92 + 0.16 * HashUnit(x, y, 1102));
+            c = Mix(c, Hex(0x6E624E), 0.7 * SmoothStep(0.14, 0.03, stone.Second - stone.First));
+            const double wild = 5 * Noise(x / 12.0, 0, 1104, Width / 12);
+            c = Mix(c, Hex(0x7E8A4E), 0.55 * SmoothStep(8, 1, y + wild));
+            if (y >= 22) // coping slabs: their edge, then their top
+                c = Hex(0xE0D3B4) * (0.95 + 0.08 * HashUnit(x, y, 1103)) * (x % 24 == 0 ? 0.75 : 1);
+            if (y == 21)
+                c = c * 0.62;
+            picture.Set(x, y, c * (y < 22 ? 0.8 + 0.14 * y / 22 : y < 25 ? 0.98 : 1.06));
+        }
+    folder.Texture("stonewall", picture);
+    folder.Write("stonewall", WallModel("stonewall", Width, 34, 25, 0.35, 1.3));
 }
 
 void WritePitWall(const ModelFolder& folder)
@@ -46,18 +63,12 @@ void WritePitWall(const ModelFolder& folder)
             Rgb c = (x / 24) % 2 == 0 ? Hex(0xEDE8DC) : Hex(0xC63A2B);
             if (y < 9)
                 c = Hex(0xC4BEB0);
-            c = c * (0.93 + 0.09 * HashUnit(x, y, 1111) - 0.12 * SmoothStep(0.1, 0.5, Fbm(x / 12.0, y / 8.0, 1112, 3)));
+            c = c *
+                (0.93 + 0.09 * HashUnit(x, y, 1111) - 0.12 * SmoothStep(0.1, 0.5, Fbm(x / 12.0, y / 8.0, 1112, 3, 16)));
             picture.Set(x, y, x % 48 == 0 ? c * 0.7 : c);
         }
     folder.Texture("pitwall", picture);
-    Model model;
-    model.Mass = HeavyMass;
-    constexpr double X = 6, Z = 0.25, High = 1.0;
-    model.Meshes.push_back(Upright("pitwall", {0, 0, 192, 18}, -X, -Z, X, -Z, 0, High, 3, 1));
-    model.Meshes.push_back(Upright("pitwall", {0, 0, 192, 18}, X, Z, -X, Z, 0, High, 3, 1));
-    model.Meshes.push_back(
-        Face("pitwall", {0, 18, 192, 2}, {-X, High, -Z}, {X, High, -Z}, {X, High, Z}, {-X, High, Z}));
-    folder.Write("pitwall", model);
+    folder.Write("pitwall", WallModel("pitwall", 192, 20, 18, 0.25, 1.0));
 }
 
 void WriteFence(const ModelFolder& folder)
@@ -92,65 +103,63 @@ void WriteTyres(const ModelFolder& folder)
         }
     for (int y = 36; y < 48; ++y)
         for (int x = 0; x < 64; ++x)
-            picture.Set(x, y, Hex(0x5A5654) * (0.9 + 0.2 * HashUnit(x, y, 1122)));
+            picture.Set(x, y, Mix(Hex(0x1C1B1C), Hex(0x6A6562), (y - 36) / 11.0) * (0.9 + 0.2 * HashUnit(x, y, 1122)));
     folder.Texture("tyres", picture);
     Model model;
     model.Mass = LightMass;
-    constexpr int Sides = 6;
     constexpr double R = 0.8, High = 1.15;
-    ModelMesh wall(2, Sides + 1), top(2, Sides + 1);
-    wall.Texture = top.Texture = ModelFolder::PathOf("tyres");
-    for (int j = 0; j <= Sides; ++j)
-    {
-        const double angle = 2 * Pi * j / Sides, x = R * std::cos(angle), z = R * std::sin(angle);
-        const int u = base::RoundEven(63.0 * j / Sides);
-        wall.At(0, j) = {x, 0, z, u, 0};
-        wall.At(1, j) = {x, High, z, u, 35};
-        top.At(0, j) = {x, High, z, u, 36};
-        top.At(1, j) = {x * 0.45, High - 0.12, z * 0.45, u, 47};
-    }
-    model.Meshes = {wall, top};
+    constexpr int Sides = 7;
+    constexpr Region Around{0, 0, 64, 36}, Top{0, 36, 64, 12};
+    model.Meshes.push_back(Turned("tyres", Around, {{0, R}, {High, R}}, Sides));
+    model.Meshes.push_back(Turned("tyres", Top, {{High, R}, {High - 0.1, R * 0.5}, {High - 0.6, R * 0.4}}, Sides));
+    SetRows(model.Meshes.back(), Top, {11, 4, 0});
     model.Spheres.push_back(SphereAt(0, 0.55, 0, 0.8));
     folder.Write("tyres", model);
 }
 
+// Round things are lit from the west; the rows of their pictures are colours from the foot up.
+Canvas RoundPicture(int width, int height, const std::function<Rgb(int)>& colour)
+{
+    Canvas picture(width, height);
+    for (int y = 0; y < height; ++y)
+        for (int x = 0; x < width; ++x)
+        {
+            const double around = 2 * Pi * (x + 0.5) / width;
+            const double sun = std::cos(around) * SunX + std::sin(around) * SunZ;
+            picture.Set(x, y, colour(y) * Mix(ShadeLight, SunLight, SmoothStep(-0.7, 0.6, sun)));
+        }
+    return picture;
+}
+
+// Thin plastic: light shines through the side away from the sun.
 void WriteCone(const ModelFolder& folder)
 {
-    Canvas picture(24, 32);
-    const Point outline[] = {{4.5, 3}, {19.5, 3}, {13.5, 31}, {10.5, 31}};
-    FillPolygon(picture, outline, Hex(0xF0702A));
-    for (int y = 0; y < 32; ++y)
-        for (int x = 0; x < 24; ++x)
-        {
-            if (picture.At(x, y).A < 0.5f)
-                continue;
-            const Rgb c = (y > 11 && y < 17) || (y > 22 && y < 26) ? Hex(0xF8F4EA) : Hex(0xF0702A);
-            picture.Set(x, y, c * (1.1 - 0.04 * std::abs(x - 8.0)));
-        }
-    FillRect(picture, 1, 0, 22, 3.2, Hex(0x3A3A3C));
-    folder.Texture("cone", picture, Black::Key);
+    const auto colour = [](int y) {
+        return (y > 9 && y < 15) || (y > 20 && y < 24) ? Hex(0xFBF7EC) : y < 2 ? Hex(0xC8501C) : Hex(0xFF7A30);
+    };
+    folder.Texture("cone", RoundPicture(24, 32, colour));
     Model model;
     model.Mass = LightMass;
-    model.Meshes.push_back(Upright("cone", {0, 0, 24, 32}, -0.33, 0, 0.33, 0, 0, 0.85));
-    model.Meshes.push_back(Upright("cone", {0, 0, 24, 32}, 0, 0.33, 0, -0.33, 0, 0.85));
-    model.Spheres.push_back(SphereAt(0, 0.4, 0, 0.35));
+    model.Meshes.push_back(Turned("cone", {0, 0, 24, 32}, {{0.04, 0.25}, {0.82, 0.05}}, 6));
+    model.Meshes.push_back(
+        FlatFace(Hex(0xE0682C), {-0.3, 0.03, -0.3}, {0.3, 0.03, -0.3}, {0.3, 0.03, 0.3}, {-0.3, 0.03, 0.3}));
     folder.Write("cone", model);
 }
 
+// A bending post of plastic with a reflecting band.
 void WriteBollard(const ModelFolder& folder)
 {
-    Canvas picture(12, 40, Hex(0xF4F0E6));
-    FillRect(picture, 0, 10, 12, 8, Hex(0xC63A2B));
-    FillRect(picture, 0, 27, 12, 8, Hex(0xC63A2B));
-    for (int y = 0; y < 40; ++y)
-        for (int x = 0; x < 12; ++x)
-            picture.Shade(x, y, {0.55, 0.57, 0.62}, Clamp01((x - 4) / 8.0));
-    folder.Texture("bollard", picture);
+    const auto colour = [](int y) {
+        return y > 24 && y < 33   ? Hex(0xE0452F)
+               : y > 33 && y < 36 ? Hex(0xF8D060)
+               : y < 2            ? Hex(0x9A958A)
+                                  : Hex(0xFBF8F0);
+    };
+    folder.Texture("bollard", RoundPicture(12, 40, colour));
     Model model;
     model.Mass = LightMass;
-    model.Meshes.push_back(Upright("bollard", {0, 0, 12, 40}, -0.16, 0, 0.16, 0, 0, 1.05));
-    model.Meshes.push_back(Upright("bollard", {0, 0, 12, 40}, 0, 0.16, 0, -0.16, 0, 1.05));
-    model.Spheres.push_back(SphereAt(0, 0.5, 0, 0.3));
+    model.Meshes.push_back(Turned("bollard", {0, 0, 12, 40}, {{0, 0.1}, {1.02, 0.085}, {1.06, 0.01}}, 5));
+    SetRows(model.Meshes.back(), {0, 0, 12, 40}, {0, 38, 39});
     folder.Write("bollard", model);
 }
 
@@ -203,87 +212,6 @@ void WriteBale(const ModelFolder& folder)
     folder.Write("bale", model);
 }
 
-struct Advert
-{
-    const char* Text;
-    Rgb Ground, Ink, Band;
-};
-const Advert Adverts[] = {
-    {"MOTORI BRENNA", Hex(0xC63A2B), Hex(0xFBF6E8), Hex(0xF2C744)},
-    {"CAFFE SERENA", Hex(0x4A2C1C), Hex(0xF6E2B8), Hex(0xC98A3C)},
-    {"GOMME TORRE", Hex(0xF2C744), Hex(0x22242A), Hex(0x22242A)},
-    {"ACQUA LARIA", Hex(0x2C7FB8), Hex(0xF6FBFF), Hex(0x8FD0EA)},
-    {"OLIO RONDINE", Hex(0x2E7D4F), Hex(0xFBF6E8), Hex(0xF2C744)},
-    {"CICLI VALMARA", Hex(0xF4F0E4), Hex(0x1F3D66), Hex(0xC63A2B)},
-};
-
-void WriteBoards(const ModelFolder& folder)
-{
-    int number = 0;
-    for (const Advert& advert : Adverts)
-    {
-        const std::string name = "board_" + std::to_string(++number);
-        Canvas picture(240, 56, advert.Ground);
-        FillRect(picture, 0, 0, 240, 5, advert.Band);
-        FillRect(picture, 0, 51, 240, 5, advert.Band);
-        PaintText(picture, advert.Text, {120, 28}, 27, 4.6, advert.Ink, 1, 226 / (LettersWidth(advert.Text) * 27));
-        for (int y = 0; y < 56; ++y)
-            for (int x = 0; x < 240; ++x)
-                picture.Set(x, y,
-                            picture.Colour(x, y) * (0.94 + 0.05 * HashUnit(x, y, 1141)) *
-                                (1 - 0.12 * SmoothStep(12, 0, y)));
-        folder.Texture(name, picture);
-        Model model;
-        model.Mass = HeavyMass;
-        model.Meshes.push_back(Upright(name, {0, 0, 240, 56}, -4, -0.1, 4, -0.1, 0.15, 1.75, 5, 1));
-        model.Meshes.push_back(
-            FlatFace(Hex(0x8C8A86), {-4, 0.15, 0.1}, {4, 0.15, 0.1}, {4, 1.75, 0.1}, {-4, 1.75, 0.1}));
-        model.Meshes.push_back(
-            FlatFace(Hex(0xB4B2AC), {-4, 1.75, -0.1}, {4, 1.75, -0.1}, {4, 1.75, 0.1}, {-4, 1.75, 0.1}));
-        folder.Write(name, model);
-    }
-}
-
-void WriteSigns(const ModelFolder& folder)
-{
-    for (const char* text : {"100", "50"})
-    {
-        const std::string name = std::string("sign_") + text;
-        Canvas picture(64, 80);
-        FillRect(picture, 14, 0, 5, 40, Hex(0x8E9094));
-        FillRect(picture, 45, 0, 5, 40, Hex(0x8E9094));
-        FillRect(picture, 0, 34, 64, 46, Hex(0xF6F2E6));
-        FillRect(picture, 3, 37, 58, 40, Hex(0xC63A2B));
-        FillRect(picture, 6, 40, 52, 34, Hex(0xF6F2E6));
-        PaintText(picture, text, {32, 57}, 24, 5, Hex(0x22242A), 1, 0.95);
-        folder.Texture(name, picture, Black::Key);
-        Model model;
-        model.Mass = LightMass;
-        model.Meshes.push_back(Upright(name, {0, 0, 64, 80}, -0.9, 0, 0.9, 0, 0, 2.3, 2, 1));
-        model.Meshes.push_back(
-            FlatFace(Hex(0x8C8A86), {-0.88, 1.0, 0.06}, {0.88, 1.0, 0.06}, {0.88, 2.28, 0.06}, {-0.88, 2.28, 0.06}));
-        model.Spheres.push_back(SphereAt(0, 0.6, 0, 0.7));
-        folder.Write(name, model);
-    }
-    Canvas picture(192, 56, Hex(0xF6F2E6));
-    for (int i = 0; i < 4; ++i)
-    {
-        const double x = 8 + i * 46;
-        const Point arrow[] = {{x + 34, 4}, {x + 16, 28}, {x + 34, 52}, {x + 18, 52}, {x, 28}, {x + 18, 4}};
-        FillPolygon(picture, arrow, Hex(0xC63A2B));
-    }
-    folder.Texture("arrows", picture);
-    folder.Texture("arrows_r", FlippedX(picture));
-    for (const char* name : {"arrows", "arrows_r"})
-    {
-        Model model;
-        model.Mass = HeavyMass;
-        model.Meshes.push_back(Upright(name, {0, 0, 192, 56}, -3, -0.1, 3, -0.1, 0.3, 2.0, 3, 1));
-        model.Meshes.push_back(FlatFace(Hex(0x8C8A86), {-3, 0.3, 0.1}, {3, 0.3, 0.1}, {3, 2, 0.1}, {-3, 2, 0.1}));
-        folder.Write(name, model);
-    }
-}
-
 void WriteMarshal(const ModelFolder& folder)
 {
     Canvas picture(128, 64, Hex(0xE8DCC0));
@@ -323,8 +251,6 @@ void WriteRoadside(const ModelFolder& folder)
     WriteCone(folder);
     WriteBollard(folder);
     WriteBale(folder);
-    WriteBoards(folder);
-    WriteSigns(folder);
     WriteMarshal(folder);
 }
 }

@@ -29,7 +29,7 @@ public:
         const RoadPoint& road = Layout.Road.At(Layout.Road.Nearest(x, z));
         if (std::hypot(road.X - x, road.Z - z) < road.HalfWidth + 8 + room)
             return false;
-        if (OnGravelOrPits(x, z) || InsideOutline(Layout.Plaza, x, z))
+        if (OnGravelOrPits(x, z) || InLayBy(x, z, room) || InsideOutline(Layout.Plaza, x, z))
             return false;
         for (const Path& path : Layout.Paths)
             if (LineDistance(path.Line, x, z) < path.Width / 2 + 0.6 + room * 0.3)
@@ -40,9 +40,6 @@ public:
             if (std::hypot(item.X - x, item.Z - z) < std::max(kind.HalfX, kind.HalfZ) + room)
                 return false;
         }
-        for (const Guard& guard : Layout.Guards)
-            if (std::hypot(guard.X - x, guard.Z - z) < guard.R + room)
-                return false;
         return true;
     }
     bool InField(double x, double z) const
@@ -66,6 +63,11 @@ public:
     }
 
 private:
+    bool InLayBy(double x, double z, double room) const
+    {
+        const double s = Layout.Road.Nearest(x, z) * Layout.Road.Length / Layout.Road.Count();
+        return LayByEdge(Layout, s, Layout.Road.Offset(x, z)) < 3 + room;
+    }
     bool OnGravelOrPits(double x, double z) const
     {
         const int nearest = Layout.Road.Nearest(x, z);
@@ -94,18 +96,18 @@ void Avenues(Grove& grove)
         grove.Try("cypress", 300 + 16.0 * i, 250 - 1.1 * i, 1.2);
     for (int i = 0; i < 10; ++i)
         grove.Try("cypress", 240 + 14.0 * i, 187 - 1.3 * i, 1.4);
-    for (int i = 0; i < 12; ++i)
-        grove.Roadside(i % 2 == 0 ? "cypress_r" : "cypress", 990 + 13.0 * i, i % 2 == 0 ? 17.5 : 18.0);
-    for (int i = 0; i < 8; ++i)
-        grove.Roadside(i % 2 == 0 ? "cypress_r" : "cypress", 1380 + 13.0 * i, -15.0);
-    for (int i = 0; i < 9; ++i)
-        grove.Roadside("cypress_r", 1620 + 34.0 * i, 15.5);
     for (int i = 0; i < 6; ++i)
-        grove.Roadside("pine_r", 464 + 58.0 * i, 16.5);
-    for (int i = 0; i < 5; ++i)
-        grove.Roadside("pine_r", 1230 + 30.0 * i, 16.5);
+        grove.Roadside("cypress_r", 612 + 10.0 * i, 10.6);
+    for (int i = 0; i < 9; ++i)
+        grove.Roadside("cypress_r", 728 + 11.0 * i, 10.6);
+    for (int i = 0; i < 8; ++i)
+        grove.Roadside("cypress", 1386 + 11.0 * i, -13.0);
+    for (int i = 0; i < 7; ++i)
+        grove.Roadside("cypress_r", 1682 + 34.0 * i, 11.5);
     for (int i = 0; i < 4; ++i)
-        grove.Roadside("pine_r", 150 + 34.0 * i, -19.0);
+        grove.Roadside("pine_r", 1246 + 16.0 * i, 11.8);
+    for (int i = 0; i < 4; ++i)
+        grove.Roadside("pine_r", 150 + 34.0 * i, -17.0);
 }
 
 void Olives(Grove& grove, const Plan& plan, Sequence& dice)
@@ -140,7 +142,7 @@ void Bales(Grove& grove, const Plan& plan, Sequence& dice)
 
 void Wild(Grove& grove, Sequence& dice)
 {
-    for (int i = 0; i < 2100; ++i)
+    for (int i = 0; i < 1700; ++i)
     {
         const double x = dice.Between(4, WorldSize - 4), z = dice.Between(4, WorldSize - 4);
         const double rim = std::min({WorldSize - x, WorldSize - z, z}); // thicker toward the rim
@@ -168,5 +170,16 @@ void ScatterTrees(Plan& plan)
     Olives(grove, plan, dice);
     Bales(grove, plan, dice);
     Wild(grove, dice);
+}
+
+void ThinFarTrees(Plan& plan)
+{
+    constexpr double Beside = 32; // from the middle of the road: cars come no nearer than what has guards
+    for (Standing& item : plan.Items)
+    {
+        const RoadPoint& road = plan.Road.At(plan.Road.Nearest(item.X, item.Z));
+        if (HasFarModel(item.Name) && std::hypot(item.X - road.X, item.Z - road.Z) > Beside)
+            item.Name += Far;
+    }
 }
 }

@@ -18,9 +18,15 @@ void BuildTrack(const std::string& root)
     WriteMap(plan, map);
     const ModelFolder models(root + "/data/models/world");
     WriteHouses(models);
+    WriteRowhouses(models);
+    WriteGallery(models);
+    WriteGate(models);
     WriteTrees(models);
+    WriteHedge(models);
+    WriteShelter(models);
     WriteStraight(models);
     WriteRoadside(models);
+    WriteBoards(models);
     WriteWaterside(models);
     WriteWallEnd(models);
     WriteBackdrop(models, plan);
