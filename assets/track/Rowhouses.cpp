@@ -66,7 +66,7 @@ struct StreetLights
 };
 StreetLights LightsOf(bool sunny)
 {
-    const Rgb warm = WallLight(SunX, SunZ), dim = Mix(ShadeLight, SunLight, 0.22);
+    const Rgb warm = WallLight(SunX, SunZ), dim = Mix(ShadeLight, SunLight, 0.34);
     return {sunny ? warm : dim, sunny ? dim : warm, WallLight(0, 1), dim};
 }
 
