@@ -74,7 +74,7 @@ void WriteAdverts(const ModelFolder& folder)
         PaintText(picture, advert.Text, {120, 28}, 27, 4.6, advert.Ink, 1, 226 / (LettersWidth(advert.Text) * 27));
         Weather(picture);
         folder.Texture(name, picture);
-        Model model = PanelModel(name, {0, 0, 240, 56}, {4, 0.15, 1.75, 0.1, 6, 3});
+        Model model = PanelModel(name, {0, 0, 240, 56}, {4, 0.1, 1.7, 0.1, 5, 2});
         model.Mass = HeavyMass;
         folder.Write(name, model);
     }

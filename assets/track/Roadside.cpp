@@ -17,14 +17,13 @@ namespace
 Model WallModel(const std::string& texture, int width, int height, int coping, double halfThick, double high)
 {
     constexpr double X = 6;
-    constexpr int Across = 3;
     const Region face{0, 0, width, coping}, end{0, 0, 12, coping}, top{0, coping, width, height - coping};
     const double z = halfThick;
     Model model;
     model.Mass = HeavyMass;
-    model.Meshes.push_back(Upright(texture, face, -X, -z, X, -z, 0, high, Across, 1));
-    model.Meshes.push_back(Upright(texture, face, X, z, -X, z, 0, high, Across, 1));
-    model.Meshes.push_back(Face(texture, top, {-X, high, -z}, {X, high, -z}, {X, high, z}, {-X, high, z}, Across));
+    model.Meshes.push_back(Upright(texture, face, -X, -z, X, -z, 0, high, 3, 1));
+    model.Meshes.push_back(Upright(texture, face, X, z, -X, z, 0, high, 2, 1));
+    model.Meshes.push_back(Face(texture, top, {-X, high, -z}, {X, high, -z}, {X, high, z}, {-X, high, z}, 2));
     for (const double x : {-X, X})
         model.Meshes.push_back(Upright(texture, end, x, -z, x, z, 0, high));
     return model;
@@ -110,7 +109,7 @@ void WriteTyres(const ModelFolder& folder)
     constexpr double R = 0.8, High = 1.15;
     constexpr int Sides = 6;
     constexpr Region Around{0, 0, 64, 36}, Top{0, 36, 64, 12};
-    model.Meshes.push_back(Turned("tyres", Around, {{0, R}, {High / 2, R}, {High, R}}, Sides));
+    model.Meshes.push_back(Turned("tyres", Around, {{0, R}, {High, R}}, Sides));
     model.Meshes.push_back(Turned("tyres", Top, {{High, R}, {High - 0.5, R * 0.4}}, Sides));
     SetRows(model.Meshes.back(), Top, {11, 0});
     model.Spheres.push_back(SphereAt(0, 0.55, 0, 0.8));

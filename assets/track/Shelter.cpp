@@ -118,6 +118,9 @@ void WriteShelter(const ModelFolder& folder)
                                 {-X - Over, ShedBack, Z + Over}, 4, 2));
     model.Meshes.push_back(
         Upright("shedbox", ShedSign, -X - Over, -Z - Over, X + Over, -Z - Over, ShedFront - Sign, ShedFront + 0.02, 4));
+    // What the tiles rest on.
+    model.Meshes.push_back(Face("shedbox", ShedCeiling, {-X, ShedFront - 0.12, -Z}, {X, ShedFront - 0.12, -Z},
+                                {X, ShedBack - 0.06, Z}, {-X, ShedBack - 0.06, Z}, 4, 2));
     model.Meshes.push_back(
         Face("shedbox", ShedFloor, {-X, 0.06, -Z}, {X, 0.06, -Z}, {X, 0.06, Z}, {-X, 0.06, Z}, 3, 2));
     for (const double x : {-X + 0.1, X - 0.1})

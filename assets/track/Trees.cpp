@@ -67,7 +67,7 @@ const std::vector<Tree>& Trees()
          .TrunkSides = 3,
          .TuftRadius = 0.6,
          .Scale = 13,
-         .Sides = 5,
+         .Sides = 4,
          .Cells = 1,
          .BesideRoad = false,
          .Leaves = {Hex(0xC8CCA2), Hex(0x8A9A6E), Hex(0x5A6A4E), 51}},
@@ -138,14 +138,14 @@ Canvas TreePicture(const Tree& tree, const Sheet& sheet)
 }
 
 // The round crown stays inside the rims of the cuts, and is all but closed below and above. It does without the middle
-// one of five levels.
+// level of the outline.
 std::vector<Ring> Core(const std::vector<Ring>& crown)
 {
     const double middle = (crown.front().Y + crown.back().Y) / 2;
     std::vector<Ring> core;
     for (std::size_t i = 0; i < crown.size(); ++i)
-        if (crown.size() < 5 || i != crown.size() / 2)
-            core.push_back({middle + (crown[i].Y - middle) * 0.9, crown[i].R * 0.86});
+        if (i != crown.size() / 2)
+            core.push_back({middle + (crown[i].Y - middle) * 0.95, crown[i].R * 0.93});
     core.front().R *= 0.4;
     core.back().R *= 0.4;
     return core;
@@ -178,7 +178,7 @@ Model TreeModel(const Tree& tree, const Sheet& sheet, bool far)
     model.Mass = HeavyMass;
     AddTrunk(model, tree, sheet);
     if (!far)
-        model.Meshes.push_back(Turned(tree.Name, sheet.Skin, Core(tree.Crown), tree.Sides, 0, 0, 0.2));
+        model.Meshes.push_back(Turned(tree.Name, sheet.Skin, Core(tree.Crown), tree.Sides, 0, 0, 0.14));
     AddCuts(model, tree, sheet);
     return model;
 }
