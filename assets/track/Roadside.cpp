@@ -22,8 +22,8 @@ Model WallModel(const std::string& texture, int width, int height, int coping, d
     Model model;
     model.Mass = HeavyMass;
     model.Meshes.push_back(Upright(texture, face, -X, -z, X, -z, 0, high, 3, 1));
-    model.Meshes.push_back(Upright(texture, face, X, z, -X, z, 0, high, 2, 1));
-    model.Meshes.push_back(Face(texture, top, {-X, high, -z}, {X, high, -z}, {X, high, z}, {-X, high, z}, 2));
+    model.Meshes.push_back(Upright(texture, face, X, z, -X, z, 0, high));
+    model.Meshes.push_back(Face(texture, top, {-X, high, -z}, {X, high, -z}, {X, high, z}, {-X, high, z}));
     for (const double x : {-X, X})
         model.Meshes.push_back(Upright(texture, end, x, -z, x, z, 0, high));
     return model;
@@ -139,7 +139,7 @@ void WriteCone(const ModelFolder& folder)
     folder.Texture("cone", RoundPicture(24, 32, colour));
     Model model;
     model.Mass = LightMass;
-    model.Meshes.push_back(Turned("cone", {0, 0, 24, 32}, {{0.04, 0.25}, {0.82, 0.05}}, 6));
+    model.Meshes.push_back(Turned("cone", {0, 0, 24, 32}, {{0.04, 0.25}, {0.82, 0.05}}, 5));
     model.Meshes.push_back(
         FlatFace(Hex(0xE0682C), {-0.3, 0.03, -0.3}, {0.3, 0.03, -0.3}, {0.3, 0.03, 0.3}, {-0.3, 0.03, 0.3}));
     folder.Write("cone", model);
@@ -157,8 +157,7 @@ void WriteBollard(const ModelFolder& folder)
     folder.Texture("bollard", RoundPicture(12, 40, colour));
     Model model;
     model.Mass = LightMass;
-    model.Meshes.push_back(Turned("bollard", {0, 0, 12, 40}, {{0, 0.1}, {1.02, 0.085}, {1.06, 0.01}}, 5));
-    SetRows(model.Meshes.back(), {0, 0, 12, 40}, {0, 38, 39});
+    model.Meshes.push_back(Turned("bollard", {0, 0, 12, 40}, {{0, 0.1}, {1.06, 0.08}}, 4));
     folder.Write("bollard", model);
 }
 
