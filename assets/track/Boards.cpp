@@ -32,7 +32,7 @@ struct Panel
 
 Model PanelModel(const std::string& texture, const Region& region, const Panel& p)
 {
-    const Rgb back = Hex(0x86827C), rim = Hex(0xC2BCAE), foot = Hex(0x6E665C);
+    const Rgb back = Hex(0x9C9078), rim = Hex(0xC2BCAE), foot = Hex(0x6E665C);
     const double x = p.HalfWide, z = p.HalfThick;
     Model model;
     model.Meshes.push_back(Upright(texture, region, -x, -z, x, -z, p.Low, p.High, p.Across, 1));
@@ -74,7 +74,7 @@ void WriteAdverts(const ModelFolder& folder)
         PaintText(picture, advert.Text, {120, 28}, 27, 4.6, advert.Ink, 1, 226 / (LettersWidth(advert.Text) * 27));
         Weather(picture);
         folder.Texture(name, picture);
-        Model model = PanelModel(name, {0, 0, 240, 56}, {4, 0.15, 1.75, 0.1, 6, 3});
+        Model model = PanelModel(name, {0, 0, 240, 56}, {4, 0.1, 1.7, 0.1, 5, 2});
         model.Mass = HeavyMass;
         folder.Write(name, model);
     }
@@ -96,7 +96,7 @@ void WriteSigns(const ModelFolder& folder)
         folder.Texture(name, picture, Black::Key);
         Model model;
         model.Mass = LightMass;
-        model.Meshes.push_back(Upright(name, {0, 0, 64, 80}, -0.9, 0, 0.9, 0, 0, 2.3, 2, 1));
+        model.Meshes.push_back(Upright(name, {0, 0, 64, 80}, -0.9, 0, 0.9, 0, 0, 2.3, 3, 3));
         model.Meshes.push_back(
             FlatFace(Hex(0xA8A49A), {-0.88, 1.0, 0.05}, {0.88, 1.0, 0.05}, {0.88, 2.28, 0.05}, {-0.88, 2.28, 0.05}));
         folder.Write(name, model);

@@ -126,16 +126,15 @@ Canvas GalleryPicture()
 
 ModelMesh RoundColumn(double x, double z)
 {
-    ModelMesh column =
-        Turned("gallery", BayColumn, {{0, 0.44}, {0.38, 0.42}, {0.42, 0.31}, {2.92, 0.26}, {3.25, 0.45}}, 6, x, z);
-    SetRows(column, BayColumn, {0, 9, 11, 70, 79});
+    ModelMesh column = Turned("gallery", BayColumn, {{0, 0.46}, {0.42, 0.32}, {2.92, 0.26}, {3.25, 0.45}}, 5, x, z);
+    SetRows(column, BayColumn, {0, 10, 70, 79});
     return column;
 }
 
 // The underside of the arch between its two faces.
 ModelMesh ArchSoffit(double z0, double z1)
 {
-    constexpr int Steps = 8;
+    constexpr int Steps = 6;
     ModelMesh mesh(Steps + 1, 2);
     mesh.Texture = ModelFolder::PathOf("gallery");
     for (int i = 0; i <= Steps; ++i)
@@ -153,7 +152,7 @@ void AddArcade(Model& model)
     constexpr double Thick = 0.22, X = HalfBay;
     for (const double side : {-1.0, 1.0})
         model.Meshes.push_back(Upright("gallery", ArchedWall, -X, ColumnsFront + side * Thick, X,
-                                       ColumnsFront + side * Thick, BayWallLow, BayTop, 4));
+                                       ColumnsFront + side * Thick, BayWallLow, BayTop, 3));
     model.Meshes.push_back(ArchSoffit(ColumnsFront - Thick, ColumnsFront + Thick));
     model.Meshes.push_back(RoundColumn(-X, ColumnsFront));
     model.Meshes.push_back(RoundColumn(X, ColumnsFront));
@@ -175,7 +174,7 @@ void AddRoofAndFloor(Model& model)
     model.Meshes.push_back(Face("gallery", BayBeams, {-X, BayTop - 0.1, ColumnsFront}, {X, BayTop - 0.1, ColumnsFront},
                                 {X, BayTop - 0.1, ColumnsBack}, {-X, BayTop - 0.1, ColumnsBack}, 3));
     model.Meshes.push_back(
-        Face("gallery", BayFloor, {-X, High, Step}, {X, High, Step}, {X, High, -Step}, {-X, High, -Step}, 3, 2));
+        Face("gallery", BayFloor, {-X, High, Step}, {X, High, Step}, {X, High, -Step}, {-X, High, -Step}, 3));
     model.Meshes.push_back(
         Upright("gallery", {BayPlain.Left, BayPlain.Low, BayPlain.Width, 5}, -X, Step, X, Step, 0, High, 2));
     for (const double x : {-X, X}) // the ends of the roof

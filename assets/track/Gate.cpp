@@ -20,7 +20,7 @@ constexpr double GateWall = 9.7, GateTop = 11.0;
 constexpr double FrontScale = 16, BackScale = 8; // a unit
 
 constexpr Region FrontHalf{0, 0, 216, 176}, BackHalf{216, 0, 108, 88}, GateVault{216, 88, 108, 40},
-    Plaque{216, 132, 108, 14}, GateSide{216, 148, 48, 28}, GateWalk{264, 148, 60, 28};
+    Plaque{216, 132, 108, 14}, GateWalk{264, 148, 60, 28};
 constexpr int GateSheetWidth = 324, GateSheetHeight = 176;
 
 // 1 on the arch's edge, less inside the opening.
@@ -122,7 +122,7 @@ Canvas GatePicture()
 {
     Canvas sheet(GateSheetWidth, GateSheetHeight);
     PaintWall(sheet, FrontHalf, FrontScale, Mix(ShadeLight, SunLight, 0.85));
-    PaintWall(sheet, BackHalf, BackScale, Mix(ShadeLight, SunLight, 0.4));
+    PaintWall(sheet, BackHalf, BackScale, Mix(ShadeLight, SunLight, 0.45));
     PaintPlaque(sheet);
     for (int y = 0; y < GateVault.Height; ++y) // plaster, lighter toward its ends near the ground
         for (int x = 0; x < GateVault.Width; ++x)
@@ -132,7 +132,6 @@ Canvas GatePicture()
             sheet.Set(GateVault.Left + x, GateVault.Low + y,
                       c * Mix(ShadeLight, SunLight, 0.35 - 0.25 * up) * (0.94 + 0.1 * HashUnit(x, y, 531)));
         }
-    PaintStone(sheet, GateSide, Mix(ShadeLight, SunLight, 0.6), 541, 6, 12);
     PaintStone(sheet, GateWalk, SunLight, 542, 7, 14);
     return sheet;
 }
@@ -205,8 +204,10 @@ void WriteGate(const ModelFolder& folder)
     AddWall(model, -GateDeep, FrontHalf, FrontScale);
     AddWall(model, GateDeep, BackHalf, BackScale);
     model.Meshes.push_back(Passage());
+    // The outer ends show a part of the front's picture.
+    constexpr Region outer{FrontHalf.Left + 164, FrontHalf.Low, 48, 155};
     for (const double x : {-GateHalf, GateHalf})
-        model.Meshes.push_back(Upright("arch", GateSide, x, -GateDeep, x, GateDeep, 0, GateWall, 1, 3));
+        model.Meshes.push_back(Upright("arch", outer, x, -GateDeep, x, GateDeep, 0, GateWall, 2, 4));
     model.Meshes.push_back(Face("arch", GateWalk, {-GateHalf, GateWall, -GateDeep}, {GateHalf, GateWall, -GateDeep},
                                 {GateHalf, GateWall, GateDeep}, {-GateHalf, GateWall, GateDeep}, 6));
     model.Meshes.push_back(Upright("arch", Plaque, -3.4, -GateDeep - 0.05, 3.4, -GateDeep - 0.05, 7.6, 8.48, 4));

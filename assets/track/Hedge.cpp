@@ -19,14 +19,8 @@ struct Contour
 {
     double Z, Y, Way;
 };
-constexpr std::array<Contour, 8> HedgeContour{{{-0.66, 0, 0},
-                                               {-0.72, 1.2, 0.23},
-                                               {-0.62, 2.05, 0.4},
-                                               {-0.26, 2.34, 0.48},
-                                               {0.26, 2.34, 0.55},
-                                               {0.62, 2.05, 0.64},
-                                               {0.72, 1.2, 0.8},
-                                               {0.66, 0, 1}}};
+constexpr std::array<Contour, 6> HedgeContour{
+    {{-0.68, 0, 0}, {-0.66, 1.95, 0.38}, {-0.28, 2.34, 0.48}, {0.28, 2.34, 0.55}, {0.66, 1.95, 0.64}, {0.68, 0, 1}}};
 
 const Leafage& HedgeLeaves()
 {
@@ -80,7 +74,7 @@ Canvas HedgePicture()
 
 void WriteHedge(const ModelFolder& folder)
 {
-    constexpr int Across = 4;
+    constexpr int Across = 2;
     folder.Texture("hedge", HedgePicture(), Black::Key);
     Model model;
     model.Mass = HeavyMass;
@@ -95,11 +89,9 @@ void WriteHedge(const ModelFolder& folder)
                              base::RoundEven(c.Way * (Coat.Height - 1))};
         }
     model.Meshes.push_back(coat);
-    for (const double z : {-0.3, 0.3})
-        model.Meshes.push_back(Upright("hedge", Fringe, -HalfHedge, z, HalfHedge, z, 2.2, 2.72, 2));
+    model.Meshes.push_back(Upright("hedge", Fringe, -HalfHedge, 0, HalfHedge, 0, 2.2, 2.72));
     for (const double x : {-HalfHedge, HalfHedge})
-        model.Meshes.push_back(
-            Face("hedge", HedgeEnd, {x, 0, -0.66}, {x, 0, 0.66}, {x, 2.3, 0.5}, {x, 2.3, -0.5}, 1, 2));
+        model.Meshes.push_back(Face("hedge", HedgeEnd, {x, 0, -0.66}, {x, 0, 0.66}, {x, 2.3, 0.5}, {x, 2.3, -0.5}));
     folder.Write("hedge", model);
 }
 }

@@ -75,7 +75,8 @@ void PaintCrownCut(Canvas& sheet, const Region& region, const std::vector<Ring>&
             const double y = low + tuftRadius * 0.8 + share * (high - low - tuftRadius * 1.6);
             const double side = HashUnit(i, layer, leaves.Seed + 5) * 2 - 1;
             const double wide = std::max(0.0, RadiusAt(crown, y) - tuftRadius * 0.8);
-            const double up = 2 * share - 1, light = CrownLight({side * sunward * SunX, up, side * sunward * SunZ});
+            const double up = 2 * share - 1, luck = 0.22 * (HashUnit(i, layer, leaves.Seed + 8) - 0.5);
+            const double light = CrownLight({side * sunward * SunX, up, side * sunward * SunZ}) + luck;
             const Point centre{region.Width / 2.0 - side * wide * scale, (y - low) * scale};
             PaintTuft(sheet, region,
                       {centre, radius * (0.75 + 0.4 * HashUnit(i, layer, leaves.Seed + 7)), light * (0.8 + 0.1 * layer),
@@ -93,7 +94,8 @@ void PaintCrownSkin(Canvas& sheet, const Region& region, double tuftRadius, cons
             const double share = (i + HashUnit(i, layer, leaves.Seed + 16)) / count;
             const double turn = HashUnit(i, layer, leaves.Seed + 15), around = 2 * Pi * turn, up = 2 * share - 1;
             const double out = std::sqrt(std::max(0.0, 1 - up * up));
-            const double light = CrownLight({std::cos(around) * out, up, std::sin(around) * out});
+            const double luck = 0.22 * (HashUnit(i, layer, leaves.Seed + 20) - 0.5);
+            const double light = CrownLight({std::cos(around) * out, up, std::sin(around) * out}) + luck;
             PaintTuft(sheet, region,
                       {{turn * region.Width, share * region.Height},
                        tuftRadius * (0.75 + 0.4 * HashUnit(i, layer, leaves.Seed + 17)),

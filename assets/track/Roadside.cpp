@@ -17,14 +17,13 @@ namespace
 Model WallModel(const std::string& texture, int width, int height, int coping, double halfThick, double high)
 {
     constexpr double X = 6;
-    constexpr int Across = 5;
     const Region face{0, 0, width, coping}, end{0, 0, 12, coping}, top{0, coping, width, height - coping};
     const double z = halfThick;
     Model model;
     model.Mass = HeavyMass;
-    model.Meshes.push_back(Upright(texture, face, -X, -z, X, -z, 0, high, Across, 1));
-    model.Meshes.push_back(Upright(texture, face, X, z, -X, z, 0, high, Across, 1));
-    model.Meshes.push_back(Face(texture, top, {-X, high, -z}, {X, high, -z}, {X, high, z}, {-X, high, z}, Across));
+    model.Meshes.push_back(Upright(texture, face, -X, -z, X, -z, 0, high, 3, 1));
+    model.Meshes.push_back(Upright(texture, face, X, z, -X, z, 0, high));
+    model.Meshes.push_back(Face(texture, top, {-X, high, -z}, {X, high, -z}, {X, high, z}, {-X, high, z}));
     for (const double x : {-X, X})
         model.Meshes.push_back(Upright(texture, end, x, -z, x, z, 0, high));
     return model;
@@ -85,7 +84,7 @@ void WriteFence(const ModelFolder& folder)
     folder.Texture("fence", picture, Black::Key);
     Model model;
     model.Mass = HeavyMass;
-    model.Meshes.push_back(Upright("fence", {0, 0, 192, 48}, -6, 0, 6, 0, 0, 2.6, 3, 1));
+    model.Meshes.push_back(Upright("fence", {0, 0, 192, 48}, -6, 0, 6, 0, 0, 2.6, 6, 1));
     folder.Write("fence", model);
 }
 
@@ -108,11 +107,11 @@ void WriteTyres(const ModelFolder& folder)
     Model model;
     model.Mass = LightMass;
     constexpr double R = 0.8, High = 1.15;
-    constexpr int Sides = 7;
+    constexpr int Sides = 6;
     constexpr Region Around{0, 0, 64, 36}, Top{0, 36, 64, 12};
     model.Meshes.push_back(Turned("tyres", Around, {{0, R}, {High, R}}, Sides));
-    model.Meshes.push_back(Turned("tyres", Top, {{High, R}, {High - 0.1, R * 0.5}, {High - 0.6, R * 0.4}}, Sides));
-    SetRows(model.Meshes.back(), Top, {11, 4, 0});
+    model.Meshes.push_back(Turned("tyres", Top, {{High, R}, {High - 0.5, R * 0.4}}, Sides));
+    SetRows(model.Meshes.back(), Top, {11, 0});
     model.Spheres.push_back(SphereAt(0, 0.55, 0, 0.8));
     folder.Write("tyres", model);
 }
@@ -140,7 +139,7 @@ void WriteCone(const ModelFolder& folder)
     folder.Texture("cone", RoundPicture(24, 32, colour));
     Model model;
     model.Mass = LightMass;
-    model.Meshes.push_back(Turned("cone", {0, 0, 24, 32}, {{0.04, 0.25}, {0.82, 0.05}}, 6));
+    model.Meshes.push_back(Turned("cone", {0, 0, 24, 32}, {{0.04, 0.25}, {0.82, 0.05}}, 5));
     model.Meshes.push_back(
         FlatFace(Hex(0xE0682C), {-0.3, 0.03, -0.3}, {0.3, 0.03, -0.3}, {0.3, 0.03, 0.3}, {-0.3, 0.03, 0.3}));
     folder.Write("cone", model);
@@ -158,8 +157,7 @@ void WriteBollard(const ModelFolder& folder)
     folder.Texture("bollard", RoundPicture(12, 40, colour));
     Model model;
     model.Mass = LightMass;
-    model.Meshes.push_back(Turned("bollard", {0, 0, 12, 40}, {{0, 0.1}, {1.02, 0.085}, {1.06, 0.01}}, 5));
-    SetRows(model.Meshes.back(), {0, 0, 12, 40}, {0, 38, 39});
+    model.Meshes.push_back(Turned("bollard", {0, 0, 12, 40}, {{0, 0.1}, {1.06, 0.08}}, 4));
     folder.Write("bollard", model);
 }
 
@@ -234,7 +232,7 @@ void WriteMarshal(const ModelFolder& folder)
     for (int side = 0; side < 4; ++side)
     {
         const Point a = corners[side], b = corners[(side + 1) % 4];
-        model.Meshes.push_back(Upright("marshal", {side * 32, 0, 32, 64}, a.X, a.Y, b.X, b.Y, 0, 2.6));
+        model.Meshes.push_back(Upright("marshal", {side * 32, 0, 32, 64}, a.X, a.Y, b.X, b.Y, 0, 2.6, 2, 3));
     }
     model.Meshes.push_back(
         FlatFace(Hex(0xB5573A), {-1.5, 2.6, -1.5}, {1.5, 2.6, -1.5}, {1.5, 3.0, 1.5}, {-1.5, 3.0, 1.5}));

@@ -66,7 +66,7 @@ struct StreetLights
 };
 StreetLights LightsOf(bool sunny)
 {
-    const Rgb warm = WallLight(SunX, SunZ), dim = Mix(ShadeLight, SunLight, 0.22);
+    const Rgb warm = WallLight(SunX, SunZ), dim = Mix(ShadeLight, SunLight, 0.34);
     return {sunny ? warm : dim, sunny ? dim : warm, WallLight(0, 1), dim};
 }
 
@@ -230,22 +230,22 @@ void AddBody(Model& model, const std::string& sheet, int index, bool sunny)
 {
     const RowHouse& house = Terrace[index];
     const double x = house.Width / 2, z = TerraceDepth;
-    model.Meshes.push_back(Upright(sheet, FrontRegion(index), -x, -z, x, -z, 0, house.Eaves, 4, 4));
-    model.Meshes.push_back(Upright(sheet, BackRegion(index), x, z, -x, z, 0, house.Eaves, 2, 2));
+    model.Meshes.push_back(Upright(sheet, FrontRegion(index), -x, -z, x, -z, 0, house.Eaves, 4, 3));
+    model.Meshes.push_back(Upright(sheet, BackRegion(index), x, z, -x, z, 0, house.Eaves, 2, 1));
     // A front in the sun looks west and has its right flank to the south, away from it; the other way round in shade.
     for (const double flank : {-1.0, 1.0})
     {
         const Region side = SideRegion(index, (flank < 0) == sunny);
-        model.Meshes.push_back(Upright(sheet, side, flank * x, flank * -z, flank * x, flank * z, 0, house.Eaves, 2, 2));
+        model.Meshes.push_back(Upright(sheet, side, flank * x, flank * -z, flank * x, flank * z, 0, house.Eaves));
         model.Meshes.push_back(Face(sheet, {side.Left, side.Low, side.Width, StripHigh - 14},
                                     {flank * x, house.Eaves, -z}, {flank * x, house.Eaves, z},
                                     {flank * x, house.Ridge, 0}, {flank * x, house.Ridge, 0}));
     }
     const double low = house.Eaves - 0.15, out = z + 0.55, drop = 0.18;
     model.Meshes.push_back(
-        Face(sheet, RoofFront, {-x, low, -out}, {x, low, -out}, {x, house.Ridge, 0}, {-x, house.Ridge, 0}, 2, 2));
+        Face(sheet, RoofFront, {-x, low, -out}, {x, low, -out}, {x, house.Ridge, 0}, {-x, house.Ridge, 0}, 2));
     model.Meshes.push_back(
-        Face(sheet, RoofBack, {x, low, out}, {-x, low, out}, {-x, house.Ridge, 0}, {x, house.Ridge, 0}, 2, 2));
+        Face(sheet, RoofBack, {x, low, out}, {-x, low, out}, {-x, house.Ridge, 0}, {x, house.Ridge, 0}, 2));
     model.Meshes.push_back(Upright(sheet, Beam, -x, -out, x, -out, low - drop, low, 2));
     AddChimney(model, x * 0.5, 0.9, house.Eaves + 0.5, house.Ridge + 0.7);
 }

@@ -15,7 +15,7 @@ constexpr double ShedX = 3.5, ShedZ = 1.5, ShedFront = 3.2, ShedBack = 2.55;
 
 constexpr Region ShedInside{0, 0, 112, 44}, ShedOutside{0, 44, 112, 40}, ShedRoof{0, 84, 112, 40},
     ShedSign{112, 0, 112, 12}, ShedFloor{112, 12, 112, 40}, ShedFlank{112, 52, 48, 48}, ShedPost{160, 52, 8, 48},
-    ShedChest{168, 52, 40, 24};
+    ShedChest{168, 52, 40, 24}, ShedCeiling{112, 100, 112, 24};
 
 void PaintPlanks(Canvas& sheet, const Region& r, Rgb light, std::uint32_t seed)
 {
@@ -62,6 +62,7 @@ Canvas ShelterPicture()
         for (int y = 30; y < ShedInside.Height; ++y)
             sheet.Shade(x, y, {0.6, 0.6, 0.64}, SmoothStep(30, 44, y));
     PaintTools(sheet);
+    PaintPlanks(sheet, ShedCeiling, Mix(ShadeLight, SunLight, 0.2) * 0.8, 708);
     PaintPlanks(sheet, ShedOutside, Mix(ShadeLight, SunLight, 0.55), 702);
     PaintPlanks(sheet, ShedFlank, Mix(ShadeLight, SunLight, 0.65), 703);
     PaintPlanks(sheet, ShedPost, SunLight, 704);
@@ -117,6 +118,9 @@ void WriteShelter(const ModelFolder& folder)
                                 {-X - Over, ShedBack, Z + Over}, 4, 2));
     model.Meshes.push_back(
         Upright("shedbox", ShedSign, -X - Over, -Z - Over, X + Over, -Z - Over, ShedFront - Sign, ShedFront + 0.02, 4));
+    // What the tiles rest on.
+    model.Meshes.push_back(Face("shedbox", ShedCeiling, {-X, ShedFront - 0.12, -Z}, {X, ShedFront - 0.12, -Z},
+                                {X, ShedBack - 0.06, Z}, {-X, ShedBack - 0.06, Z}, 4, 2));
     model.Meshes.push_back(
         Face("shedbox", ShedFloor, {-X, 0.06, -Z}, {X, 0.06, -Z}, {X, 0.06, Z}, {-X, 0.06, Z}, 3, 2));
     for (const double x : {-X + 0.1, X - 0.1})

@@ -34,18 +34,18 @@ const std::vector<Tree>& Trees()
          .TrunkSides = 0,
          .TuftRadius = 0.42,
          .Scale = 12,
-         .Sides = 5,
-         .Cells = 2,
+         .Sides = 4,
+         .Cells = 1,
          .BesideRoad = true,
          .Leaves = {Hex(0x96A64C), Hex(0x557637), Hex(0x34512F), 21}},
         {.Name = "pine",
          .Crown = {{8.0, 1.2}, {8.7, 4.6}, {9.5, 5.2}, {10.7, 3.7}, {11.6, 1.2}},
          .TrunkRadius = 0.3,
          .TrunkTop = 9.0,
-         .TrunkSides = 5,
+         .TrunkSides = 3,
          .TuftRadius = 0.85,
          .Scale = 11,
-         .Sides = 7,
+         .Sides = 5,
          .Cells = 1,
          .BesideRoad = true,
          .Leaves = {Hex(0xA9BA52), Hex(0x66883C), Hex(0x3B5930), 31}},
@@ -53,10 +53,10 @@ const std::vector<Tree>& Trees()
          .Crown = {{1.7, 1.3}, {2.6, 3.0}, {4.6, 3.7}, {6.5, 2.9}, {7.8, 1.0}},
          .TrunkRadius = 0.3,
          .TrunkTop = 2.6,
-         .TrunkSides = 4,
+         .TrunkSides = 3,
          .TuftRadius = 0.8,
          .Scale = 12,
-         .Sides = 6,
+         .Sides = 5,
          .Cells = 1,
          .BesideRoad = false,
          .Leaves = {Hex(0xBCBC58), Hex(0x708A40), Hex(0x435E33), 41}},
@@ -64,10 +64,10 @@ const std::vector<Tree>& Trees()
          .Crown = {{1.2, 0.9}, {1.9, 2.0}, {3.1, 2.3}, {4.6, 0.9}},
          .TrunkRadius = 0.26,
          .TrunkTop = 1.8,
-         .TrunkSides = 4,
+         .TrunkSides = 3,
          .TuftRadius = 0.6,
          .Scale = 13,
-         .Sides = 5,
+         .Sides = 4,
          .Cells = 1,
          .BesideRoad = false,
          .Leaves = {Hex(0xC8CCA2), Hex(0x8A9A6E), Hex(0x5A6A4E), 51}},
@@ -78,18 +78,18 @@ const std::vector<Tree>& Trees()
          .TrunkSides = 0,
          .TuftRadius = 0.45,
          .Scale = 14,
-         .Sides = 5,
+         .Sides = 4,
          .Cells = 1,
          .BesideRoad = false,
          .Leaves = {Hex(0xB2B85A), Hex(0x68843E), Hex(0x43603A), 61}},
         {.Name = "plane",
-         .Crown = {{4.5, 2.4}, {5.7, 5.0}, {8.2, 6.0}, {10.9, 4.7}, {13.0, 1.5}},
+         .Crown = {{4.5, 2.4}, {6.0, 5.2}, {8.2, 6.0}, {10.6, 4.9}, {13.0, 1.5}},
          .TrunkRadius = 0.45,
          .TrunkTop = 5.8,
-         .TrunkSides = 7,
+         .TrunkSides = 6,
          .TuftRadius = 1.15,
          .Scale = 10,
-         .Sides = 8,
+         .Sides = 7,
          .Cells = 2,
          .BesideRoad = false,
          .Leaves = {Hex(0xCCC968), Hex(0x83994A), Hex(0x4C683C), 71}},
@@ -97,9 +97,9 @@ const std::vector<Tree>& Trees()
     return trees;
 }
 
-double Widest(const std::vector<Ring>& crown)
+std::vector<Ring>::const_iterator Widest(const std::vector<Ring>& crown)
 {
-    return std::max_element(crown.begin(), crown.end(), [](const Ring& a, const Ring& b) { return a.R < b.R; })->R;
+    return std::max_element(crown.begin(), crown.end(), [](const Ring& a, const Ring& b) { return a.R < b.R; });
 }
 
 // Where the parts of a tree's sheet lie: the cut that runs toward the sun, the one for the two others, skin and bark.
@@ -112,7 +112,7 @@ struct Sheet
 Sheet SheetOf(const Tree& tree)
 {
     const double high = tree.Crown.back().Y - tree.Crown.front().Y;
-    const int wide = base::RoundEven(2 * Widest(tree.Crown) * tree.Scale), tall = base::RoundEven(high * tree.Scale);
+    const int wide = base::RoundEven(2 * Widest(tree.Crown)->R * tree.Scale), tall = base::RoundEven(high * tree.Scale);
     const int skin = wide * 3 / 2, bark = tree.TrunkSides > 0 ? 30 : 0;
     Sheet sheet;
     sheet.ToSun = {0, 0, wide, tall};
@@ -137,30 +137,31 @@ Canvas TreePicture(const Tree& tree, const Sheet& sheet)
     return picture;
 }
 
-// The round crown stays inside the rims of the cuts, and is all but closed below and above.
+// The round crown stays inside the rims of the cuts, and is all but closed below and above. It does without the middle
+// level of the outline.
 std::vector<Ring> Core(const std::vector<Ring>& crown)
 {
     const double middle = (crown.front().Y + crown.back().Y) / 2;
     std::vector<Ring> core;
-    for (const Ring& ring : crown)
-        core.push_back({middle + (ring.Y - middle) * 0.9, ring.R * 0.84});
-    core.front().R *= 0.3;
-    core.back().R *= 0.3;
+    for (std::size_t i = 0; i < crown.size(); ++i)
+        if (i != crown.size() / 2)
+            core.push_back({middle + (crown[i].Y - middle) * 0.95, crown[i].R * 0.93});
+    core.front().R *= 0.4;
+    core.back().R *= 0.4;
     return core;
 }
 
-Model TreeModel(const Tree& tree, const Sheet& sheet)
+void AddTrunk(Model& model, const Tree& tree, const Sheet& sheet)
 {
-    Model model;
-    model.Mass = HeavyMass;
     if (tree.TrunkSides > 0)
         model.Meshes.push_back(Turned(tree.Name, sheet.Bark,
-                                      {{0, tree.TrunkRadius * 1.25},
-                                       {tree.TrunkTop * 0.3, tree.TrunkRadius},
-                                       {tree.TrunkTop, tree.TrunkRadius * 0.75}},
+                                      {{0, tree.TrunkRadius * 1.2}, {tree.TrunkTop, tree.TrunkRadius * 0.75}},
                                       tree.TrunkSides));
-    model.Meshes.push_back(Turned(tree.Name, sheet.Skin, Core(tree.Crown), tree.Sides, 0, 0, 0.2));
-    const double half = Widest(tree.Crown), low = tree.Crown.front().Y, high = tree.Crown.back().Y;
+}
+
+void AddCuts(Model& model, const Tree& tree, const Sheet& sheet)
+{
+    const double half = Widest(tree.Crown)->R, low = tree.Crown.front().Y, high = tree.Crown.back().Y;
     for (int cut = 0; cut < 3; ++cut)
     {
         const double turn = (cut - 1) * Pi / 3, c = std::cos(turn) * half, s = std::sin(turn) * half;
@@ -168,6 +169,17 @@ Model TreeModel(const Tree& tree, const Sheet& sheet)
         model.Meshes.push_back(
             Upright(tree.Name, cut == 1 ? sheet.ToSun : sheet.Askew, x, z, -x, -z, low, high, 1, tree.Cells));
     }
+}
+
+// `far` is the tree without its round crown, for where nobody comes near: a quarter of the triangles.
+Model TreeModel(const Tree& tree, const Sheet& sheet, bool far)
+{
+    Model model;
+    model.Mass = HeavyMass;
+    AddTrunk(model, tree, sheet);
+    if (!far)
+        model.Meshes.push_back(Turned(tree.Name, sheet.Skin, Core(tree.Crown), tree.Sides, 0, 0, 0.14));
+    AddCuts(model, tree, sheet);
     return model;
 }
 }
@@ -177,13 +189,15 @@ void WriteTrees(const ModelFolder& folder)
     for (const Tree& tree : Trees())
     {
         const Sheet sheet = SheetOf(tree);
-        Model model = TreeModel(tree, sheet);
-        folder.Texture(tree.Name, TreePicture(tree, sheet), Black::Key);
-        folder.Write(tree.Name, model);
+        const std::string name = tree.Name;
+        folder.Texture(name, TreePicture(tree, sheet), Black::Key);
+        folder.Write(name + "_far", TreeModel(tree, sheet, true));
+        Model model = TreeModel(tree, sheet, false);
+        folder.Write(name, model);
         if (!tree.BesideRoad)
             continue;
         model.Spheres.push_back(SphereAt(0, 0.6, 0, 0.7));
-        folder.Write(std::string(tree.Name) + "_r", model);
+        folder.Write(name + "_r", model);
     }
 }
 }
