@@ -26,16 +26,14 @@ void PaintFrame(Canvas& glass)
         }
 }
 
-// A broad and a thin slanting reflection of the sky in every other texel, near the right edge: the driver
-// on the left does not see it.
+// A thin slanting reflection of the sky near the right edge: the driver on the left hardly sees it.
 void PaintReflection(Canvas& glass)
 {
     for (int y = 3; y < Height - 10; ++y)
         for (int x = 106; x < Width - 4; ++x)
         {
             const double slant = x - y * 0.55;
-            const bool streak = (slant > 84 && slant < 90) || (slant > 93 && slant < 95);
-            if (streak && (x + y) % 2 == 0)
+            if (slant > 93 && slant < 95)
                 glass.Set(x, y, Hex(0xC4D4DC));
         }
 }

@@ -139,17 +139,17 @@ const std::vector<Driver>& Drivers()
 {
     constexpr double Rolling = 0.0005; // so little that a car with any damage still moves
     static const std::vector<Driver> drivers{
-        {0.0640, 5.35, 1.3, 0.0460, 0.045, Rolling}, {0.0640, 5.30, 1.2, 0.0365, 0.042, Rolling},
-        {0.0640, 5.27, 1.2, 0.0347, 0.042, Rolling}, {0.0640, 5.24, 1.2, 0.0329, 0.042, Rolling},
-        {0.0640, 5.21, 1.2, 0.0311, 0.042, Rolling}, {0.0640, 5.18, 1.2, 0.0293, 0.042, Rolling},
-        {0.0640, 5.15, 1.2, 0.0275, 0.042, Rolling}, {0.0640, 5.12, 1.2, 0.0257, 0.042, Rolling},
+        {0.0640, 5.35, 1.3, 0.0414, 0.045, Rolling}, {0.0640, 5.22, 1.2, 0.0336, 0.042, Rolling},
+        {0.0640, 5.19, 1.2, 0.0319, 0.042, Rolling}, {0.0640, 5.16, 1.2, 0.0303, 0.042, Rolling},
+        {0.0640, 5.13, 1.2, 0.0286, 0.042, Rolling}, {0.0640, 5.10, 1.2, 0.0270, 0.042, Rolling},
+        {0.0640, 5.07, 1.2, 0.0253, 0.042, Rolling}, {0.0640, 5.04, 1.2, 0.0236, 0.042, Rolling},
     };
     return drivers;
 }
 
 const std::vector<int>& GridSlots()
 {
-    static const std::vector<int> slots{1, 0, 2, 3, 4, 5, 6, 7};
+    static const std::vector<int> slots{7, 0, 1, 2, 3, 4, 5, 6};
     return slots;
 }
 

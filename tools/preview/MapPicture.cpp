@@ -76,6 +76,8 @@ private:
     void Outline(const render::Obj& object, double width, Ink ink);
     bool IsScenery(std::int16_t object) const;
 
+    void Explain(base::Rgb colour, const char* what, std::size_t count);
+
     const shell::Game& TheGame;
     double Scale; // pixels a unit
     Canvas Picture;
@@ -85,6 +87,14 @@ private:
 MapPicture::MapPicture(const shell::Game& game, double scale)
     : TheGame(game), Scale(scale), Picture(GroundPicture(game, scale))
 {
+}
+
+// An entry of the legend: what there is and how many.
+void MapPicture::Explain(base::Rgb colour, const char* what, std::size_t count)
+{
+    std::string text = what;
+    text.append(" (").append(std::to_string(count)).append(")");
+    Legend.push_back({colour, std::move(text)});
 }
 
 void MapPicture::MarkTinted(const world::TargetList& list, base::Rgb colour, const char* text)
@@ -97,7 +107,7 @@ void MapPicture::MarkTinted(const world::TargetList& list, base::Rgb colour, con
     for (const world::Target& target : list.Targets())
         Picture.Ring(Centre(target), target.R * Scale, 1, {colour, 0.4});
     if (list.Count() > 0)
-        Legend.push_back({colour, std::string(text) + " (" + std::to_string(list.Count()) + ")"});
+        Explain(colour, text, static_cast<std::size_t>(list.Count()));
 }
 
 // A straight line from each to its checkpoint.
@@ -112,7 +122,7 @@ void MapPicture::MarkAlternatives()
             Picture.Line(Centre(alternatives[i]), Centre(checkpoints[i]), 1, {Alternative, 0.6});
     }
     if (!alternatives.empty())
-        Legend.push_back({Alternative, "alternative checkpoints (" + std::to_string(alternatives.size()) + ")"});
+        Explain(Alternative, "alternative checkpoints", alternatives.size());
 }
 
 void MapPicture::MarkCheckpoints()
@@ -128,7 +138,7 @@ void MapPicture::MarkCheckpoints()
     for (std::size_t i = 0; i < checkpoints.size(); ++i)
         Picture.WriteCentred(Centre(checkpoints[i]), NumberSize, Checkpoint, std::to_string(i));
     if (!checkpoints.empty())
-        Legend.push_back({Checkpoint, "checkpoints (" + std::to_string(checkpoints.size()) + ")"});
+        Explain(Checkpoint, "checkpoints", checkpoints.size());
 }
 
 void MapPicture::MarkZones()
@@ -187,9 +197,9 @@ void MapPicture::MarkObjects()
             spheres += objects.At(i).Sfere.size();
         }
     if (count > 0)
-        Legend.push_back({Scenery, "objects (" + std::to_string(count) + ")"});
+        Explain(Scenery, "objects", count);
     if (spheres > 0)
-        Legend.push_back({Sphere, "collision spheres (" + std::to_string(spheres) + ")"});
+        Explain(Sphere, "collision spheres", spheres);
 }
 
 void MapPicture::MarkStart()
@@ -207,7 +217,7 @@ void MapPicture::MarkStart()
         Picture.WriteCentred(ToPicture(beside.X, beside.Z), NumberSize, Start, std::to_string(i));
     }
     if (!players.empty())
-        Legend.push_back({Start, "start, by player"});
+        Explain(Start, "start, by player", players.size());
 }
 
 void MapPicture::MarkLines(std::span<const DrivenLine> lines)
@@ -219,7 +229,7 @@ void MapPicture::MarkLines(std::span<const DrivenLine> lines)
             for (std::size_t k = 1; k < drive.size(); ++k)
                 Picture.Line(ToPicture(drive[k - 1].X, drive[k - 1].Y), ToPicture(drive[k].X, drive[k].Y), 2,
                              {colour, 0.9});
-        Legend.push_back({colour, "driven: car " + std::to_string(lines[i].Car)});
+        Legend.push_back({colour, std::string("driven: car ").append(std::to_string(lines[i].Car))});
     }
 }
 }
