@@ -45,8 +45,9 @@ bool Course::HasMissed(const Seen& own, std::size_t checkpoint) const
            distance > gate.R;
 }
 
-void Course::Locate(const Sight& sight, const Seen& own)
+void Course::Locate(const Sight& sight)
 {
+    const Seen& own = sight.Own;
     const auto next = static_cast<std::size_t>(sight.NextCheckpoint) % Checkpoints.size();
     if (Lost)
     {
@@ -77,11 +78,11 @@ double Course::MostSpeed(const Sight& sight, double trust) const
     return most;
 }
 
-Aim Course::Next(const Sight& sight, const Seen& own, double left, double trust) const
+Aim Course::Next(const Sight& sight, double left, double trust) const
 {
     if (Lost)
         return {Centre(Checkpoints[static_cast<std::size_t>(sight.NextCheckpoint) % Checkpoints.size()]), SlowSpeed};
-    const double ahead = LookAheadLeast + LookAheadASpeed * std::max(own.Speed, 0.0);
+    const double ahead = LookAheadLeast + LookAheadASpeed * std::max(sight.Own.Speed, 0.0);
     const auto points = static_cast<std::size_t>(ahead / TheLine.Spacing());
     return {TheLine.Beside(Index + std::max<std::size_t>(points, 1), left), MostSpeed(sight, trust)};
 }

@@ -17,10 +17,10 @@ public:
     // All outlive this.
     Course(const Line& line, std::span<const world::Target> checkpoints, const Skill& skill);
 
-    // Finds the car on the line. own: where the driver believes to be by now.
-    void Locate(const Sight& sight, const Seen& own);
+    // Finds the car on the line.
+    void Locate(const Sight& sight);
     // left: units to the left of the line that are aimed at. trust: of the brake, 1 as the skill has it.
-    Aim Next(const Sight& sight, const Seen& own, double left, double trust) const;
+    Aim Next(const Sight& sight, double left, double trust) const;
 
     bool IsLost() const { return Lost; }
     std::size_t Here() const { return Index; } // the point of the line beside the car

@@ -28,28 +28,32 @@ HumanDriver::HumanDriver(const Line& line, const world::Map& map, const Skill& s
     Random.Seed(seed ^ OwnDraws);
 }
 
-// What was seen, and what the hands have done since.
-Seen HumanDriver::Believed() const
+// What was seen, and what must have become of it since: the hands are known, the others are thought to go on.
+Sight HumanDriver::Believed() const
 {
-    const Sight& seen = Memory.front().Seen;
-    Seen own = seen.Own;
-    if (seen.Released)
-        for (std::size_t i = 0; i + 1 < Memory.size(); ++i)
-            own = AfterTick(own, seen, Memory[i].Steer, Memory[i].Pedal);
-    return own;
+    Sight now = Memory.front().Seen;
+    if (!now.Released)
+        return now;
+    for (std::size_t i = 0; i + 1 < Memory.size(); ++i)
+    {
+        now.Own = AfterTick(now.Own, now, Memory[i].Steer, Memory[i].Pedal);
+        for (Seen& other : now.Others)
+            other = AfterTick(other, now, 0, 0);
+    }
+    return now;
 }
 
-Aim HumanDriver::Choose(const Sight& seen, const Seen& own)
+Aim HumanDriver::Choose(const Sight& now)
 {
-    TheCourse.Locate(seen, own);
+    TheCourse.Locate(now);
     const double wanders = LineError.Next(Random);
     const double trust = 1 + BrakeError.Next(Random);
-    const double aside = TheTraffic.Left(seen, own, TheCourse.Here());
-    Aim aim = TheCourse.Next(seen, own, aside + wanders, trust);
+    const double aside = TheTraffic.Left(now, TheCourse.Here());
+    Aim aim = TheCourse.Next(now, aside + wanders, trust);
     if (Repairs)
-        if (const std::optional<Aim> box = TheTrip.Next(seen, own, TheCourse))
+        if (const std::optional<Aim> box = TheTrip.Next(now, TheCourse))
             aim = {box->To, std::min(box->Most, aim.Most)};
-    aim.Most = std::min(aim.Most, aim.Most > 0 ? TheTraffic.MostSpeed(seen, own) : 0);
+    aim.Most = std::min(aim.Most, aim.Most > 0 ? TheTraffic.MostSpeed(now) : 0);
     return aim;
 }
 
@@ -89,11 +93,11 @@ world::HeldKeys HumanDriver::Drive(const Sight& now)
     Memory.push_back({now});
     while (Memory.size() > static_cast<std::size_t>(TheSkill.Reaction) + 1)
         Memory.pop_front();
-    const Sight& seen = Memory.front().Seen;
-    const Seen own = Believed();
-    const Aim aim = Choose(seen, own);
+    const Sight believed = Believed();
+    const Seen& own = believed.Own;
+    const Aim aim = Choose(believed);
     const int steer = SteerTo(own, aim);
-    if (TheRecovery.Backs(seen.Own, seen.Released && aim.Most > 0))
+    if (TheRecovery.Backs(Memory.front().Seen.Own, believed.Released && aim.Most > 0))
         // Backwards the wheel turns the nose to the other side.
         return Press(Wheel.Press(own.Speed < 0 ? -steer : 0), Pedals.Press(-1), false);
     const double off = std::fabs(Wrapped(Bearing(own.Place, aim.To) - own.Heading));

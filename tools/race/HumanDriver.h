@@ -28,8 +28,8 @@ private:
         int Steer = 0, Pedal = 0; // what was pressed then
     };
 
-    Seen Believed() const;
-    Aim Choose(const Sight& seen, const Seen& own);
+    Sight Believed() const;
+    Aim Choose(const Sight& now);
     int SteerTo(const Seen& own, const Aim& aim);
     static int PedalFor(const Seen& own, double most);
     world::HeldKeys Press(int steer, int pedal, bool handbrake);

@@ -11,6 +11,7 @@ namespace
 {
 constexpr double UnitsASpeed = 20;              // a second
 constexpr double CarLength = 5, CarWidth = 2.2; // units
+constexpr double KeptDistance = 2;              // behind a car that is followed
 constexpr double Gap = 3.3;                     // between the middles of two cars that pass
 constexpr double MostOffset = 4.5;              // beside the line, still on the road
 constexpr double Shift = 0.12, Return = 0.04;   // units a tick
@@ -41,14 +42,14 @@ bool IsBeside(const Relative& other)
 }
 }
 
-std::optional<double> Traffic::Wanted(const Sight& sight, const Seen& own, std::size_t here)
+std::optional<double> Traffic::Wanted(const Sight& sight, std::size_t here)
 {
     std::optional<double> wanted;
     double nearest = NoLimit;
     bool passes = false;
     for (const Seen& other : sight.Others)
     {
-        const Relative seen = LookAt(own, other);
+        const Relative seen = LookAt(sight.Own, other);
         const bool inTheWay = IsInTheWay(seen);
         passes = passes || inTheWay || IsBeside(seen);
         if ((!inTheWay && !IsBeside(seen)) || std::fabs(seen.Ahead) >= nearest)
@@ -66,25 +67,25 @@ std::optional<double> Traffic::Wanted(const Sight& sight, const Seen& own, std::
     return wanted;
 }
 
-double Traffic::Left(const Sight& sight, const Seen& own, std::size_t here)
+double Traffic::Left(const Sight& sight, std::size_t here)
 {
-    const std::optional<double> wanted = Wanted(sight, own, here);
+    const std::optional<double> wanted = Wanted(sight, here);
     const double step = wanted ? Shift : Return;
     Offset += std::clamp(wanted.value_or(0) - Offset, -step, step);
     return Offset;
 }
 
-double Traffic::MostSpeed(const Sight& sight, const Seen& own) const
+double Traffic::MostSpeed(const Sight& sight)
 {
     double most = NoLimit;
     for (const Seen& other : sight.Others)
     {
-        const Relative seen = LookAt(own, other);
-        if (seen.Ahead <= 0 || std::fabs(seen.Left) > CarWidth || seen.Closing <= 0)
+        const Relative seen = LookAt(sight.Own, other);
+        if (seen.Ahead <= 0 || std::fabs(seen.Left) > CarWidth + 0.4)
             continue;
-        // The closer, the nearer to its own speed.
-        const double room = std::max(seen.Ahead - CarLength, 0.0);
-        most = std::min(most, own.Speed - seen.Closing + room * 0.12);
+        // The closer, the nearer to its own speed; too close, slower than that.
+        const double room = seen.Ahead - CarLength - KeptDistance;
+        most = std::min(most, sight.Own.Speed - seen.Closing + (room > 0 ? room * 0.1 : -0.3));
     }
     return std::max(most, 0.3);
 }

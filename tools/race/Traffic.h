@@ -12,13 +12,13 @@ public:
     explicit Traffic(const Line& line) : TheLine(line) {}
 
     // Units to the left of the line that the driver keeps to, for the cars that are near; changes slowly.
-    // here: the driver's point of the line. own: as believed; others: as seen.
-    double Left(const Sight& sight, const Seen& own, std::size_t here);
+    // here: the driver's point of the line.
+    double Left(const Sight& sight, std::size_t here);
     // The speed that a car right ahead leaves.
-    double MostSpeed(const Sight& sight, const Seen& own) const;
+    static double MostSpeed(const Sight& sight);
 
 private:
-    std::optional<double> Wanted(const Sight& sight, const Seen& own, std::size_t here);
+    std::optional<double> Wanted(const Sight& sight, std::size_t here);
 
     const Line& TheLine;
     double Offset = 0;

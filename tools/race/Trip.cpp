@@ -34,7 +34,7 @@ void Trip::Begin(const Sight& sight, const Course& course)
     }
 }
 
-std::optional<Aim> Trip::Next(const Sight& sight, const Seen& own, const Course& course)
+std::optional<Aim> Trip::Next(const Sight& sight, const Course& course)
 {
     if (Patience < 0)
         ++Patience;
@@ -48,7 +48,7 @@ std::optional<Aim> Trip::Next(const Sight& sight, const Seen& own, const Course&
         Patience = sight.Damage > 0 ? -PauseTicks : 0;
         return std::nullopt;
     }
-    const double distance = Distance(own.Place, Centre(*Goal));
+    const double distance = Distance(sight.Own.Place, Centre(*Goal));
     if (distance < Goal->R * 0.6)
         return Aim{Centre(*Goal), 0};
     // Slow enough to stop in it with half of the brake.

@@ -14,7 +14,7 @@ public:
     explicit Trip(std::span<const world::Target> boxes) : Boxes(boxes) {}
 
     // Where to drive for the repair; nothing while there is no trip. Asked once a tick.
-    std::optional<Aim> Next(const Sight& sight, const Seen& own, const Course& course);
+    std::optional<Aim> Next(const Sight& sight, const Course& course);
 
 private:
     void Begin(const Sight& sight, const Course& course);

@@ -109,7 +109,7 @@ TEST_F(Alone, NothingIsDoneAboutWhatIsNotSeenYet)
     ASSERT_GT(Now.Own.Speed, 2);
     // A car stands right ahead from now on.
     race::Seen other;
-    other.Place = Line.At(Line.Nearest(Now.Own.Place) + 4);
+    other.Place = Line.At(Line.Nearest(Now.Own.Place) + 14);
     race::HumanDriver twin = driver;
     race::Sight with = Now;
     with.Others.push_back(other);
