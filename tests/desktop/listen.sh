@@ -91,12 +91,12 @@ leave_menu() {
 # menu, at the end.
 hear_engine() {
     make_root engine
-    # A car that gathers speed slowly: its step changes little within the stretch of sound that is compared.
+    # A car that gathers speed slowly and rolls to a stop by itself: its step changes little within the stretch of sound that is compared.
     rm engine/data
     cp -rs "$root/data" engine/data
     local user=engine/data/maps/map_01/p1.player
     rm $user
-    awk -F, -v OFS=, '{ $4 = 0.016; print }' "$root/${user#engine/}" >$user
+    awk -F, -v OFS=, '{ $4 = 0.016; $6 = 0.0025; print }' "$root/${user#engine/}" >$user
     # The step after each tick of a race in which the accelerator goes down.
     {
         printf 'load\nclick cSTART\ngame 140\nkey down 38\n'
