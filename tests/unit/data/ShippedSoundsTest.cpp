@@ -90,7 +90,6 @@ TEST_F(EngineLoop, SoundsLikeManyFiringsOfUnequalCylinders)
     EXPECT_GT(Strength(Firings * 3 / 2), firing / 60);
 }
 
-// Small loudspeakers give nothing of the firing frequency itself.
 TEST_F(EngineLoop, LeavesTheTopOfItsBandEmpty)
 {
     double low = 0, high = 0;
