@@ -101,7 +101,7 @@ int Silence(const std::vector<float>& sound)
 
 // ---- The engine ----
 
-constexpr int WindowFrames = 1024, HopFrames = 512, Thinning = 4;
+constexpr int WindowFrames = 512, HopFrames = 256, Thinning = 4, StretchLength = WindowFrames / Thinning;
 constexpr double LeastStep = 0.16, MostStep = 0.68;
 
 std::vector<float> ToStreamRate(const std::vector<float>& sound)
@@ -120,69 +120,106 @@ struct Heard
     double Likeness = 0, Level = 0;          // 0 to 1; effective, of full scale
 };
 
-// A stretch of the loop as it would sound from that position with that step, every Thinning-th frame.
-void LoopFrom(const std::vector<float>& table, double position, double step, std::vector<float>& out)
+// A stretch of the loop as it would sound from that position with that step, every Thinning-th frame, as long as `out`.
+void LoopFrom(const std::vector<float>& table, double position, double step, float* out)
 {
-    for (float& value : out)
+    for (int i = 0; i < StretchLength; ++i)
     {
-        value = table[static_cast<std::size_t>(std::nearbyint(position))];
+        out[i] = table[static_cast<std::size_t>(std::nearbyint(position))];
         for (int k = 0; k < Thinning; ++k)
             position = position + step > 1023 ? 0 : position + step;
     }
 }
 
-double Likeness(const std::vector<float>& a, const std::vector<float>& b)
+// Several sums side by side: one would wait for each addition.
+float Product(const float* a, const float* b)
 {
-    double ab = 0, aa = 0, bb = 0;
-    for (std::size_t i = 0; i < a.size(); ++i)
-    {
-        ab += a[i] * b[i];
-        aa += a[i] * a[i];
-        bb += b[i] * b[i];
-    }
-    return aa > 0 && bb > 0 ? ab / std::sqrt(aa * bb) : 0;
+    constexpr int Lanes = 8;
+    std::array<float, Lanes> sums{};
+    for (int i = 0; i < StretchLength; i += Lanes)
+        for (int lane = 0; lane < Lanes; ++lane)
+            sums[static_cast<std::size_t>(lane)] += a[i + lane] * b[i + lane];
+    return std::accumulate(sums.begin(), sums.end(), 0.0f);
 }
 
-// The step whose stretch of the loop is most like this window, wherever in the loop it begins.
-Heard Listen(const std::vector<float>& sound, std::size_t from, const std::vector<float>& table)
+void Normalise(float* stretch)
 {
-    std::vector<float> window, loop(WindowFrames / Thinning);
-    for (std::size_t i = 0; i < WindowFrames; i += Thinning)
-        window.push_back(sound[from + i]);
-    Heard best;
-    best.Time = static_cast<double>(from + WindowFrames / 2) / StreamRate;
-    double power = 0;
-    for (std::size_t i = 0; i < WindowFrames; ++i)
-        power += static_cast<double>(sound[from + i]) * sound[from + i];
-    best.Level = std::sqrt(power / WindowFrames);
-    const auto consider = [&](double position, double step)
-    {
-        LoopFrom(table, position, step, loop);
-        const double likeness = Likeness(window, loop);
-        if (likeness > best.Likeness)
-        {
-            best.Likeness = likeness;
-            best.Step = step;
-            best.Position = position;
-        }
-    };
-    struct Search
-    {
-        double FromStep, ToStep, Ratio, FromPosition, ToPosition, Stride;
-    };
-    const auto search = [&](const Search& area)
-    {
-        for (double step = area.FromStep; step <= area.ToStep; step *= area.Ratio)
-            for (double at = area.FromPosition; at <= area.ToPosition; at += area.Stride)
-                consider(at < 0 ? at + 1023 : at > 1023 ? at - 1023 : at, step);
-    };
-    search({LeastStep, MostStep, 1.02, 0, 1023, 6});
-    if (best.Likeness <= 0)
-        return best; // silence: a search from step 0 would never end
-    const Heard coarse = best;
-    search({coarse.Step * 0.975, coarse.Step * 1.025, 1.003, coarse.Position - 6, coarse.Position + 6, 1});
-    return best;
+    const float power = Product(stretch, stretch);
+    for (int i = 0; power > 0 && i < StretchLength; ++i)
+        stretch[i] /= std::sqrt(power);
 }
+
+// All stretches of the loop, so near to one another that its highest strong harmonics, a few entries long, fall
+// together with those of whatever is heard.
+class Ear
+{
+public:
+    explicit Ear(std::vector<float> loop) : Table(std::move(loop))
+    {
+        for (double step = LeastStep; step <= MostStep; step *= StepRatio)
+            for (double position = 0; position <= 1023; position += Stride)
+            {
+                Places.push_back({step, position});
+                Stretches.resize(Places.size() * StretchLength);
+                float* stretch = &Stretches[(Places.size() - 1) * StretchLength];
+                LoopFrom(Table, position, step, stretch);
+                Normalise(stretch);
+            }
+    }
+
+    // The step whose stretch of the loop is most like this window, wherever in the loop it begins.
+    Heard Listen(const std::vector<float>& sound, std::size_t from) const
+    {
+        Stretch window{};
+        double power = 0;
+        for (std::size_t i = 0; i < WindowFrames; ++i)
+        {
+            power += static_cast<double>(sound[from + i]) * sound[from + i];
+            if (i % Thinning == 0)
+                window[i / Thinning] = sound[from + i];
+        }
+        Normalise(window.data());
+        Heard best;
+        best.Time = static_cast<double>(from + WindowFrames / 2) / StreamRate;
+        best.Level = std::sqrt(power / WindowFrames);
+        const auto consider = [&](double step, double position, const float* stretch)
+        {
+            const double likeness = Product(window.data(), stretch);
+            if (likeness > best.Likeness)
+            {
+                best.Likeness = likeness;
+                best.Step = step;
+                best.Position = position;
+            }
+        };
+        for (std::size_t i = 0; i < Places.size(); ++i)
+            consider(Places[i].Step, Places[i].Position, &Stretches[i * StretchLength]);
+        if (best.Likeness <= 0)
+            return best; // silence: a search from step 0 would never end
+        const Heard coarse = best;
+        for (double step = coarse.Step / StepRatio; step <= coarse.Step * StepRatio; step *= 1.001)
+            for (double at = coarse.Position - Stride; at <= coarse.Position + Stride; at += 0.5)
+            {
+                const double position = at < 0 ? at + 1023 : at > 1023 ? at - 1023 : at;
+                Stretch stretch{};
+                LoopFrom(Table, position, step, stretch.data());
+                Normalise(stretch.data());
+                consider(step, position, stretch.data());
+            }
+        return best;
+    }
+
+private:
+    static constexpr double StepRatio = 1.006, Stride = 2;
+    using Stretch = std::array<float, StretchLength>;
+    struct Place
+    {
+        double Step, Position;
+    };
+    std::vector<float> Table;
+    std::vector<Place> Places;
+    std::vector<float> Stretches; // as many for each place as a stretch is long
+};
 
 std::vector<float> Table(const char* file)
 {
@@ -224,7 +261,7 @@ std::optional<std::size_t> Follow(const std::vector<double>& steps, std::size_t 
 
 // A window in which the step changes much is like no stretch of the loop: it is left out. All others must go through
 // the steps in their order, from standstill to the last of them.
-int Engine(const std::vector<float>& recorded, const std::vector<float>& table, const std::vector<double>& steps)
+int Engine(const std::vector<float>& recorded, const Ear& ear, const std::vector<double>& steps)
 {
     constexpr double Clear = 0.95;
     const std::vector<float> sound = ToStreamRate(recorded);
@@ -232,7 +269,7 @@ int Engine(const std::vector<float>& recorded, const std::vector<float>& table, 
     double furthest = 0, found = 0; // seconds of the last window that was
     for (std::size_t from = 0; from + WindowFrames <= sound.size() && at + 1 < steps.size(); from += HopFrames)
     {
-        const Heard heard = Listen(sound, from, table);
+        const Heard heard = ear.Listen(sound, from);
         if (heard.Likeness < Clear)
             continue;
         const std::optional<std::size_t> next = Follow(steps, at, heard.Step, still > 0 ? heard.Time - found : 0);
@@ -299,7 +336,7 @@ int main(int count, char** words)
 {
     const std::string_view what = count > 2 ? words[1] : "";
     if (what == "engine" && count == 5)
-        return Engine(Recording(words[2]), Table(words[3]), Numbers(words[4]));
+        return Engine(Recording(words[2]), Ear(Table(words[3])), Numbers(words[4]));
     if (what == "gap" && count == 4)
         return Gap(Recording(words[2]), std::atof(words[3]));
     if (what == "silence" && count == 3)

@@ -90,6 +90,19 @@ TEST_F(EngineLoop, SoundsLikeManyFiringsOfUnequalCylinders)
     EXPECT_GT(Strength(Firings * 3 / 2), firing / 60);
 }
 
+// Small loudspeakers give nothing of the firing frequency itself.
+TEST_F(EngineLoop, CarriesNearlyAsMuchFromThirdToEighthOrderAsInTheFirst)
+{
+    constexpr int Firings = 32;
+    double first = 0, middle = 0;
+    for (int turns = Firings / 2; turns < Firings * 3 / 2; ++turns)
+        first += Strength(turns) * Strength(turns);
+    for (int turns = Firings * 5 / 2; turns < Firings * 17 / 2; ++turns)
+        middle += Strength(turns) * Strength(turns);
+    EXPECT_GT(middle, first * 0.8);
+}
+
+// What lies high up is mirrored by the nearest-sample playback. A seam that clicks fills that region as well.
 TEST_F(EngineLoop, LeavesTheTopOfItsBandEmpty)
 {
     double low = 0, high = 0;
