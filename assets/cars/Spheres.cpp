@@ -7,12 +7,13 @@ namespace assets::cars
 namespace
 {
 // Where two cars touch. How far a touch throws them apart grows with the depth to which spheres meet, and what it costs
-// with the angle between their headings: spheres that are small and lie in the car's middle are what a field of eight,
-// whose computer drivers see nobody, lives with. Found by racing many seeds.
+// with the angle between their headings, which in a bend is the larger the farther one is ahead: small spheres abreast
+// of the car's middle are what a field of eight, whose computer drivers see nobody, lives with. Found by racing many
+// seeds.
 struct TouchSizes
 {
-    double Aside = 0, Low = 0.55, Ahead = 0, Radius = 0.05; // of the six on the body
-    double High = 1.00, Cabin = 0.05;                       // height and radius of those in the cabin
+    double Aside = 0.6, Low = 0.55, Ahead = 0, Radius = 0.08; // of the six on the body
+    double High = 1.00, Cabin = 0.08;                         // height and radius of those in the cabin
 };
 constexpr TouchSizes Touch;
 

@@ -97,9 +97,9 @@ void Avenues(Grove& grove)
     for (int i = 0; i < 10; ++i)
         grove.Try("cypress", 240 + 14.0 * i, 187 - 1.3 * i, 1.4);
     for (int i = 0; i < 6; ++i)
-        grove.Roadside("cypress_r", 612 + 10.0 * i, 10.6);
+        grove.Roadside("cypress_r", 612 + 10.0 * i, 12.2);
     for (int i = 0; i < 9; ++i)
-        grove.Roadside("cypress_r", 728 + 11.0 * i, 10.6);
+        grove.Roadside("cypress_r", 728 + 11.0 * i, 12.2);
     for (int i = 0; i < 8; ++i)
         grove.Roadside("cypress", 1386 + 11.0 * i, -13.0);
     for (int i = 0; i < 7; ++i)
@@ -107,7 +107,7 @@ void Avenues(Grove& grove)
     for (int i = 0; i < 4; ++i)
         grove.Roadside("pine_r", 1246 + 16.0 * i, 11.8);
     for (int i = 0; i < 4; ++i)
-        grove.Roadside("pine_r", 150 + 34.0 * i, -17.0);
+        grove.Roadside("pine_r", 150 + 34.0 * i, -25.0);
 }
 
 void Olives(Grove& grove, const Plan& plan, Sequence& dice)
