@@ -233,7 +233,7 @@ void PutShore(Builder& put)
 
 void PutAlleys(Builder& put)
 {
-    put.Both("plane", 972.4, 1040, 8.4, 8.8); // the avenue: crowns that meet over the road
+    put.Both("plane", 972.4, 1040, 8.4, 9.0); // the avenue: crowns that meet over the road
     put.Row("hedge", {1384, 1468, 9.6});
     put.Row("hedge", {1384, 1468, -9.6});
     put.Row("stonewall", {596, 836, -10.3});
