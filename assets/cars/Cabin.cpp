@@ -19,7 +19,7 @@ ModelMesh InnerWall(const Design& design, double side)
 {
     const Curve half{{-2.0, .67}, {-0.88, .79}, {0.40, .79}, {0.86, .775}, {1.85, .66}};
     std::vector<Vec3> low, high;
-    for (const double z : {-2.0, -0.88, -0.2, 0.40, 0.86, 1.85})
+    for (const double z : {-2.0, -0.88, -0.2, 0.10, 0.40, 0.66, 0.86, 1.85})
     {
         const double x = half(z);
         low.push_back({side * x, 0.16, z});
