@@ -68,14 +68,17 @@ ModelMesh QuarterTrim(const Design& design, double side)
 }
 
 // What hides the painted frame above a side window from within: its texels are as large as fingers there. Cut where the
-// windows are.
+// windows are; it runs out into the pillar in front.
 ModelMesh WindowTrim(const Design& design, double side)
 {
     std::vector<std::vector<Vec3>> rows(2);
     for (const double back : {0.026, 0.15, 0.53, QuarterEnd(design.Shape)})
-        for (std::size_t i = 0; i < 2; ++i)
-            rows[i].push_back(CabinSidePoint(design.Shape, side, back, i == 0 ? 0.80 : 1.0) - Vec3{side * 0.04, 0, 0});
-    return FlatMesh(Trim, rows);
+    {
+        const Vec3 inward{-side * (back < 0.1 ? 0.018 : 0.06), 0, 0};
+        rows[0].push_back(CabinSidePoint(design.Shape, side, back, 0.78) + inward);
+        rows[1].push_back(CabinSidePoint(design.Shape, side, back, 1.0) + inward);
+    }
+    return FlatMesh(Hex(0x1C1C1D), rows); // as dark as the frame, of which corners show through
 }
 
 Rgb FrameColour(const Design& design)
