@@ -50,7 +50,8 @@ void AddSides(std::vector<BodyPanel>& panels, const Design& design)
     {
         const auto flank = [&shape, side](double a, double b)
         { return FlankPoint(shape, side, Lerp(TailZ, NoseZ, a), b); };
-        panels.push_back({{flank, FlankKnots(), {0, 0.34, 0.66, 1}, 440, 72, BodyMiddle}, FlankPainter(design, side)});
+        panels.push_back(
+            {{flank, FlankKnots(), {0, 0.17, 0.34, 0.66, 1}, 440, 72, BodyMiddle}, FlankPainter(design, side)});
     }
     const auto nose = [&shape](double a, double b) { return NosePoint(shape, Across(a), b); };
     const auto tail = [&shape](double a, double b) { return TailPoint(shape, Across(a), b); };

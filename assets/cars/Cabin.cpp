@@ -10,7 +10,7 @@ namespace assets::cars
 {
 namespace
 {
-constexpr int GlassWidth = 128, GlassHeight = 64;
+constexpr int GlassWidth = 512, GlassHeight = 256;
 constexpr Rgb Trim = Hex(0x232225), Carpet = Hex(0x18181B), RoofCloth = Hex(0x3A3733);
 constexpr double HeaderEnd = 0.07; // how far the windscreen's upper frame reaches along the roof
 
@@ -19,7 +19,7 @@ ModelMesh InnerWall(const Design& design, double side)
 {
     const Curve half{{-2.0, .67}, {-0.88, .79}, {0.40, .79}, {0.86, .775}, {1.85, .66}};
     std::vector<Vec3> low, high;
-    for (const double z : {-2.0, -0.88, -0.2, 0.40, 0.86, 1.85})
+    for (const double z : {-2.0, -0.88, -0.2, 0.10, 0.40, 0.66, 0.86, 1.85})
     {
         const double x = half(z);
         low.push_back({side * x, 0.16, z});
@@ -67,6 +67,25 @@ ModelMesh QuarterTrim(const Design& design, double side)
     return FlatMesh(RoofCloth, rows);
 }
 
+// What hides the painted frame above a side window from within: its texels are as large as fingers there. Cut where the
+// windows are; it runs out into the pillar in front.
+ModelMesh WindowTrim(const Design& design, double side)
+{
+    std::vector<std::vector<Vec3>> rows(2);
+    for (const double back : {0.026, 0.15, 0.53, QuarterEnd(design.Shape)})
+    {
+        const Vec3 inward{-side * (back < 0.1 ? 0.018 : 0.06), 0, 0};
+        rows[0].push_back(CabinSidePoint(design.Shape, side, back, 0.78) + inward);
+        rows[1].push_back(CabinSidePoint(design.Shape, side, back, 1.0) + inward);
+    }
+    return FlatMesh(Hex(0x1C1C1D), rows); // as dark as the frame, of which corners show through
+}
+
+Rgb FrameColour(const Design& design)
+{
+    return design.Base * 0.30 + Hex(0x1A1A1C);
+}
+
 // A pillar as the driver sees it: before the edges of glass and door, so that no outer paint shows.
 ModelMesh Pillar(const Design& design, double side)
 {
@@ -78,14 +97,14 @@ ModelMesh Pillar(const Design& design, double side)
         rows.push_back({WindscreenPoint(shape, side * 0.966, up) + Vec3{0, 0, -0.024},
                         WindscreenPoint(shape, side, up) + inward, CabinSidePoint(shape, side, 0.026, up) + inward});
     }
-    return FlatMesh(Trim, rows);
+    return FlatMesh(shape.Open ? FrameColour(design) * 0.85 : Trim, rows);
 }
 
 // The frame around an open car's windscreen, seen from outside and from the seat.
 void AddFrame(Model& model, const Design& design)
 {
     const Shape& shape = design.Shape;
-    const Rgb colour = design.Base * 0.30 + Hex(0x1A1A1C);
+    const Rgb colour = FrameColour(design);
     std::vector<std::vector<Vec3>> bar;
     for (const Vec3 offset : {Vec3{0, -0.03, 0.016}, Vec3{0, 0.012, -0.004}, Vec3{0, -0.026, -0.030}})
         bar.push_back(AcrossRoof(shape, 0, offset));
@@ -167,7 +186,10 @@ void AddCabin(Model& model, const Design& design)
     {
         AddLining(model, design.Shape);
         for (const double side : {-1.0, 1.0})
+        {
             model.Meshes.push_back(QuarterTrim(design, side));
+            model.Meshes.push_back(WindowTrim(design, side));
+        }
     }
     AddMirror(model);
     model.Meshes.push_back(RearWall(design));

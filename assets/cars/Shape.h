@@ -37,7 +37,8 @@ inline constexpr double RoofFront = 0.60;                     // z of its upper 
 
 // Where the flanks are cut: at the ends of the wheel arches above all. What lies close behind them is cut there too:
 // the game finds depths along a face by a rule that errs in long cells, and then both err alike.
-inline constexpr double FlankStations[] = {TailZ, -1.66, RearAxle, -0.88, -0.2, 0.40, 0.92, FrontAxle, 1.66, NoseZ};
+inline constexpr double FlankStations[] = {TailZ, -1.66, RearAxle, -0.88,     -0.2, 0.10,
+                                           0.40,  0.66,  0.92,     FrontAxle, 1.66, NoseZ};
 
 // Points of the surfaces. `side` is -1 left, +1 right; a and b from 0 to 1.
 Vec3 FlankPoint(const Shape& shape, double side, double z, double up);

@@ -9,32 +9,21 @@ namespace assets::hud
 {
 namespace
 {
-constexpr int Width = 128, Height = 64;
+constexpr int Width = 512, Height = 256;
 
-// The seal below and the shade strip along the top, which both whole and broken glass have. The sides stay clear: the
-// pillars frame them, and a seal beside a pillar would be a splinter in the driver's view.
+// The seal below and the shade strip along the top, which both whole and broken glass have: from the seat, dashboard
+// and roof hide them. All else stays clear, for a seal beside a pillar or a reflection would be a splinter in the
+// driver's view.
 void PaintFrame(Canvas& glass)
 {
     for (int y = 0; y < Height; ++y)
         for (int x = 0; x < Width; ++x)
         {
             const double top = Height - 1 - y;
-            if (y < 2 || top < 1)
+            if (y < 8 || top < 3)
                 glass.Set(x, y, Hex(0x121316));
-            else if (top < 4)
-                glass.Set(x, y, Mix(Hex(0x16262C), Hex(0x24404A), (4 - top) / 3));
-        }
-}
-
-// A thin slanting reflection of the sky near the right edge: the driver on the left hardly sees it.
-void PaintReflection(Canvas& glass)
-{
-    for (int y = 3; y < Height - 10; ++y)
-        for (int x = 106; x < Width - 4; ++x)
-        {
-            const double slant = x - y * 0.55;
-            if (slant > 93 && slant < 95)
-                glass.Set(x, y, Hex(0xC4D4DC));
+            else if (top < 14)
+                glass.Set(x, y, Mix(Hex(0x16262C), Hex(0x24404A), (14 - top) / 11));
         }
 }
 
@@ -49,10 +38,10 @@ void PaintCracks(Canvas& glass, Point hit, int count, double reach, std::uint32_
         const double length = reach * random.Between(0.55, 1.3);
         Point at = hit;
         std::vector<Point> ray{at};
-        for (double gone = 0; gone < length; gone += 5)
+        for (double gone = 0; gone < length; gone += 20)
         {
             angle += random.Between(-0.16, 0.16);
-            at = {at.X + 5 * std::cos(angle), at.Y + 5 * std::sin(angle)};
+            at = {at.X + 20 * std::cos(angle), at.Y + 20 * std::sin(angle)};
             ray.push_back(at);
         }
         rays.push_back(ray);
@@ -60,27 +49,25 @@ void PaintCracks(Canvas& glass, Point hit, int count, double reach, std::uint32_
     const Rgb bright = Hex(0xE2ECEE), dim = Hex(0x9FB0B6);
     for (std::size_t i = 0; i < rays.size(); ++i)
     {
-        Stroke(glass, rays[i], 1.15, bright);
+        Stroke(glass, rays[i], 2.6, bright);
         for (const std::size_t step : {1u, 2u, 4u})
             if (const auto& next = rays[(i + 1) % rays.size()];
                 step < rays[i].size() && step < next.size() && random.Next() < 0.8)
-                Stroke(glass, std::vector<Point>{rays[i][step], next[step]}, 1.0, dim);
+                Stroke(glass, std::vector<Point>{rays[i][step], next[step]}, 2.2, dim);
     }
-    FillDisc(glass, hit, 2.2, Hex(0xF4FAFA));
+    FillDisc(glass, hit, 6, Hex(0xF4FAFA));
 }
 }
 
 void WriteGlass(const std::string& folder)
 {
     Canvas whole(Width, Height);
-    PaintReflection(whole);
     PaintFrame(whole);
     WriteBmp(folder + "/glass.bmp", whole, Black::Key);
 
     Canvas broken(Width, Height);
-    PaintReflection(broken);
-    PaintCracks(broken, {88, 40}, 13, 40, 5);
-    PaintCracks(broken, {30, 16}, 8, 20, 11);
+    PaintCracks(broken, {352, 160}, 13, 160, 5);
+    PaintCracks(broken, {120, 64}, 8, 80, 11);
     PaintFrame(broken);
     WriteBmp(folder + "/glass_b.bmp", broken, Black::Key);
 }

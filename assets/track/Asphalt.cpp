@@ -130,17 +130,19 @@ Surface RoadSurface(const Plan& plan, const Terrain& terrain, int x, int z)
     const double side = offset > 0 ? 1 : -1;
     const double straight = Signed(s, plan.Road.Length);
     Surface surface;
-    const double pit = PitEdge(straight, offset);
-    const double paved = std::min(edge, pit);
+    const double pit = PitEdge(straight, offset), bay = LayByEdge(plan, s, offset);
+    const double paved = std::min({edge, pit, bay});
     if (paved > 0.3 && !(edge < KerbWidth + 0.3))
         return surface;
     const Point p = TexelPlace(x, z);
-    surface.Colour = Asphalt(
-        {x, z, p, s, offset, edge, terrain.Line.At(x, z), terrain.Bend.At(x, z), Fbm(p.X / 9, p.Y / 9, 603, 4)});
+    surface.Colour = Asphalt({x, z, p, s, offset, std::min(edge, bay), terrain.Line.At(x, z), terrain.Bend.At(x, z),
+                              Fbm(p.X / 9, p.Y / 9, 603, 4)});
     if (pit < edge && pit < 0.3 && edge > -0.5) // newer, darker surface of the pit lane
         surface.Colour = surface.Colour * Rgb{0.86, 0.87, 0.90};
+    else if (bay < edge && edge > 0) // no rubber lies there, so that it would be paler than the road
+        surface.Colour = surface.Colour * Rgb{0.92, 0.92, 0.93};
     surface.Cover = CoverOf(paved);
-    if (edge > -0.25 && edge < KerbWidth + 0.3 && pit > 0.5 && HasKerb(plan.Road, s, side))
+    if (edge > -0.25 && edge < KerbWidth + 0.3 && pit > 0.5 && bay > 0.5 && HasKerb(plan.Road, s, side))
     {
         const double kerb = std::min(CoverOf(-edge), CoverOf(edge - KerbWidth));
         surface.Colour = Mix(surface.Colour, Kerb(x, z, s, Clamp01(edge / KerbWidth)), kerb);

@@ -36,7 +36,13 @@ Model PanelModel(const std::string& texture, const Region& region, const Panel& 
     const double x = p.HalfWide, z = p.HalfThick;
     Model model;
     model.Meshes.push_back(Upright(texture, region, -x, -z, x, -z, p.Low, p.High, p.Across, 1));
-    model.Meshes.push_back(FlatFace(back, {-x, p.Low, z}, {x, p.Low, z}, {x, p.High, z}, {-x, p.High, z}));
+    // Cut as the front is: the game finds depths along a face by a rule that errs in long cells, and a back in one
+    // piece would let the picture through.
+    for (int cell = 0; cell < p.Across; ++cell)
+    {
+        const double a = x * (2.0 * cell / p.Across - 1), b = x * (2.0 * (cell + 1) / p.Across - 1);
+        model.Meshes.push_back(FlatFace(back, {a, p.Low, z}, {b, p.Low, z}, {b, p.High, z}, {a, p.High, z}));
+    }
     model.Meshes.push_back(FlatFace(rim, {-x, p.High, -z}, {x, p.High, -z}, {x, p.High, z}, {-x, p.High, z}));
     for (const double end : {-x, x})
         model.Meshes.push_back(

@@ -1,5 +1,7 @@
 // A town gate of stone over the road, with swallow-tailed battlements. Its front (local -z) looks toward the oncoming
 // cars; local x runs across the road. Front and back are painted as one half each and mirrored.
+#include "assets/track/Gate.h"
+
 #include "assets/track/Facades.h"
 
 #include "assets/common/Noise.h"
@@ -15,7 +17,7 @@ namespace assets::track
 {
 namespace
 {
-constexpr double GateHalf = 13.5, GateDeep = 1.5, GateOpening = 9.5, GateSpringing = 3.5, GateRise = 3.5;
+constexpr double GateHalf = 13.5, GateOpening = 9.5, GateSpringing = 3.5, GateRise = 3.5;
 constexpr double GateWall = 9.7, GateTop = 11.0;
 constexpr double FrontScale = 16, BackScale = 8; // a unit
 
@@ -173,7 +175,7 @@ void AddWall(Model& model, double z, const Region& half, double texels)
 }
 
 // Once round the opening: up one pier, through the arch, down the other.
-ModelMesh Passage()
+std::vector<Point> OpeningOutline()
 {
     constexpr int Steps = 10;
     std::vector<Point> path{{-GateOpening, 0}};
@@ -183,6 +185,12 @@ ModelMesh Passage()
         path.push_back({x, GateArch(x)});
     }
     path.push_back({GateOpening, 0});
+    return path;
+}
+
+ModelMesh Passage()
+{
+    const std::vector<Point> path = OpeningOutline();
     ModelMesh mesh(2, static_cast<int>(path.size()));
     mesh.Texture = ModelFolder::PathOf("arch");
     const double last = static_cast<double>(path.size()) - 1;
@@ -194,6 +202,14 @@ ModelMesh Passage()
     }
     return mesh;
 }
+}
+
+std::vector<Point> GateOutline()
+{
+    std::vector<Point> outline{{-GateHalf, 0}, {-GateHalf, GateTop}, {GateHalf, GateTop}, {GateHalf, 0}};
+    const std::vector<Point> opening = OpeningOutline();
+    outline.insert(outline.end(), opening.rbegin(), opening.rend());
+    return outline;
 }
 
 void WriteGate(const ModelFolder& folder)

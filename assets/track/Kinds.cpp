@@ -30,9 +30,9 @@ std::vector<Kind> Plants()
     std::vector<Kind> kinds{
         {"cypress", 1.2, 1.2, 11.0, Shadow::Cone, false}, {"cypress_r", 1.2, 1.2, 11.0, Shadow::Cone, true},
         {"pine", 4.2, 4.2, 11.5, Shadow::Crown, false},   {"pine_r", 4.2, 4.2, 11.5, Shadow::Crown, true},
-        {"plane", 6.0, 6.0, 13.0, Shadow::Crown, false},  {"oak", 3.4, 3.4, 7.5, Shadow::Crown, false},
+        {"plane", 6.2, 6.2, 16.0, Shadow::Crown, false},  {"oak", 3.4, 3.4, 7.5, Shadow::Crown, false},
         {"olive", 2.2, 2.2, 4.4, Shadow::Crown, false},   {"bush", 1.5, 1.5, 1.8, Shadow::Crown, false},
-        {"hedge", 3.0, 0.7, 2.4, Shadow::Block, false},
+        {"hedge", 3.0, 0.7, 2.4, Shadow::Block, false},   {"hedge_long", 6.0, 0.7, 2.4, Shadow::Block, false},
     };
     for (const Kind& tree : std::vector<Kind>(kinds))
         if (HasFarModel(tree.Name))

@@ -52,8 +52,8 @@ public:
                      [&](int x, int y, double c)
                      { Ground.Blend(x, y, colour, c * opacity * (0.85 + 0.15 * HashUnit(x, y, 703))); });
     }
-    // The asphalt of a lay-by, with a pale line at its outer edge.
-    void Bay(const LayBy& bay)
+    // The pale line round a lay-by.
+    void BayLine(const LayBy& bay)
     {
         const double half = HalfWidth(bay.S), outer = bay.Side * (half + LayByDepth), inner = bay.Side * (half - 0.2);
         const double end = LayByHalf + LayByRamp;
@@ -64,15 +64,6 @@ public:
                                       {bay.S + LayByHalf, outer},
                                       {bay.S + end, inner}})
             edge.push_back(Texel(s, left));
-        std::vector<Point> outline = edge;
-        for (double s = bay.S + end - 4; s > bay.S - end; s -= 4)
-            outline.push_back(Texel(s, inner));
-        CoverPolygon(Ground.Width, Ground.Height, outline,
-                     [&](int x, int y, double c)
-                     {
-                         const double cloudy = Fbm(x / 36.0, y / 36.0, 704, 4), fine = HashUnit(x, y, 705) - 0.5;
-                         Ground.Blend(x, y, Hex(0x77736F) * (1 + 0.10 * cloudy + 0.12 * fine), c);
-                     });
         Worn(edge, 0.36, White, 0.9);
     }
     // Letters `tall` units long along `up` (+1: read along the lap, -1: against it, 0: from the left side).
@@ -187,11 +178,11 @@ void PitLane(Brush& brush)
     brush.Text("BOX", PitFrom - 26, 4.4, 6, 0.32, 1, White, 0.4);
 }
 
-// The same box and spanner as in the pit lane, on asphalt of its own, announced on the road.
+// The same box and spanner as in the pit lane, on asphalt beside the road, announced on the road.
 void PaintLayBy(Brush& brush, const LayBy& bay)
 {
     const double half = brush.HalfWidth(bay.S), side = bay.Side, middle = side * (half + LayByBox);
-    brush.Bay(bay);
+    brush.BayLine(bay);
     const double s0 = bay.S - LayByBoxHalfX, s1 = bay.S + LayByBoxHalfX;
     RepairBox(brush, s0, s1, middle - LayByBoxHalfZ, middle + LayByBoxHalfZ);
     Spanner(brush, bay.S - 1.6, middle, 1.5);

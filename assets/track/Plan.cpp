@@ -233,7 +233,10 @@ void PutShore(Builder& put)
 
 void PutAlleys(Builder& put)
 {
-    put.Both("plane", 972.4, 1040, 8.4, 8.8); // the avenue: crowns that meet over the road
+    // The avenue: crowns that all but meet over the road. On the inside of the bend that follows it ends a tree
+    // earlier.
+    put.Both("plane", 972.4, 1032, 8.4, 9.0);
+    put.Beside("plane", 1039.6, 9.0);
     put.Row("hedge", {1384, 1468, 9.6});
     put.Row("hedge", {1384, 1468, -9.6});
     put.Row("stonewall", {596, 836, -10.3});

@@ -174,12 +174,16 @@ void ScatterTrees(Plan& plan)
 
 void ThinFarTrees(Plan& plan)
 {
-    constexpr double Beside = 32; // from the middle of the road: cars come no nearer than what has guards
-    for (Standing& item : plan.Items)
+    constexpr double Beside = 32;    // from the middle of the road: cars come no nearer than what has guards
+    constexpr double BushesEnd = 60; // a bush farther away is lost in the grass
+    const auto away = [&](const Standing& item)
     {
         const RoadPoint& road = plan.Road.At(plan.Road.Nearest(item.X, item.Z));
-        if (HasFarModel(item.Name) && std::hypot(item.X - road.X, item.Z - road.Z) > Beside)
+        return std::hypot(item.X - road.X, item.Z - road.Z);
+    };
+    std::erase_if(plan.Items, [&](const Standing& item) { return item.Name == "bush" && away(item) > BushesEnd; });
+    for (Standing& item : plan.Items)
+        if (HasFarModel(item.Name) && away(item) > Beside)
             item.Name += Far;
-    }
 }
 }

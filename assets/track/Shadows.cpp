@@ -3,6 +3,7 @@
 
 #include "assets/common/Noise.h"
 #include "assets/common/Shapes.h"
+#include "assets/track/Gate.h"
 #include "assets/track/Light.h"
 #include "base/Numbers.h"
 
@@ -104,7 +105,7 @@ void CastCone(const Caster& to, const Standing& item, const Kind& kind)
 void CastCrown(const Caster& to, const Standing& item, const Kind& kind)
 {
     const Point foot{item.X, item.Z};
-    const double low = kind.Name.starts_with("pine") ? 0.62 : kind.Name == "plane" ? 0.35 : 0.15;
+    const double low = kind.Name.starts_with("pine") ? 0.62 : kind.Name == "plane" ? 0.54 : 0.15;
     const Point trunk[] = {{foot.X * TexelsPerUnit, foot.Y * TexelsPerUnit},
                            InTexels({Shifted(foot, kind.Height * (low + 0.1))})[0]};
     Stroke(to.Sun, trunk, 0.5 * TexelsPerUnit);
@@ -126,14 +127,14 @@ void CastRoof(const Caster& to, const Standing& item, const Kind& kind)
     FillDisc(to.Sun, {p.X * TexelsPerUnit, p.Y * TexelsPerUnit}, kind.HalfX * TexelsPerUnit);
 }
 
-// A gate: two legs and what lies over them. Its sides are at +-`Half` along the direction.
+// A gantry: two legs and what lies over them. Its sides are at +-`Half` along the direction.
 struct LegsAndBeam
 {
     Point Side; // unit vector from the middle to one leg
     double Half, Leg, Beam;
 };
 
-void CastGate(const Caster& to, const Standing& item, double height, const LegsAndBeam& gate)
+void CastGantry(const Caster& to, const Standing& item, double height, const LegsAndBeam& gate)
 {
     std::vector<Point> beam;
     for (const double side : {-1.0, 1.0})
@@ -147,6 +148,22 @@ void CastGate(const Caster& to, const Standing& item, double height, const LegsA
         beam.push_back(Shifted(end, height - gate.Beam));
     }
     FillPolygon(to.Sun, InTexels(Hull(beam)));
+}
+
+// The gate's outline in slices from its front to its back, so that the sun falls through the opening.
+void CastGate(const Caster& to, const Standing& item)
+{
+    constexpr int Slices = 12;
+    const std::vector<Point> outline = GateOutline();
+    const double c = std::cos(item.Angle), s = std::sin(item.Angle);
+    for (int i = 0; i <= Slices; ++i)
+    {
+        const double z = GateDeep * (2.0 * i / Slices - 1);
+        std::vector<Point> slice;
+        for (const Point& p : outline)
+            slice.push_back(Shifted({item.X + c * p.X - s * z, item.Z + s * p.X + c * z}, p.Y));
+        FillPolygon(to.Sun, InTexels(slice));
+    }
 }
 
 // A roof on columns, open between them: the columns stand at both ends of the front.
@@ -168,9 +185,9 @@ bool CastByName(const Caster& to, const Standing& item, const Kind& kind)
 {
     const double c = std::cos(item.Angle), s = std::sin(item.Angle);
     if (kind.Name == "gantry")
-        CastGate(to, item, kind.Height, {{-s, c}, kind.HalfZ, 0.9, 2.6});
+        CastGantry(to, item, kind.Height, {{-s, c}, kind.HalfZ, 0.9, 2.6});
     else if (kind.Name == "arch")
-        CastGate(to, item, kind.Height, {{c, s}, kind.HalfX, 4.0, 4.0});
+        CastGate(to, item);
     else if (kind.Name == "gallery")
         CastGallery(to, item, kind);
     else

@@ -83,9 +83,9 @@ const std::vector<Tree>& Trees()
          .BesideRoad = false,
          .Leaves = {Hex(0xB2B85A), Hex(0x68843E), Hex(0x43603A), 61}},
         {.Name = "plane",
-         .Crown = {{4.5, 2.4}, {6.0, 5.2}, {8.2, 6.0}, {10.6, 4.9}, {13.0, 1.5}},
+         .Crown = {{8.6, 2.4}, {9.8, 5.2}, {11.6, 6.2}, {13.8, 4.9}, {16.0, 1.5}}, // above the eye that chases a car
          .TrunkRadius = 0.45,
-         .TrunkTop = 5.8,
+         .TrunkTop = 9.8,
          .TrunkSides = 6,
          .TuftRadius = 1.15,
          .Scale = 10,
