@@ -11,12 +11,13 @@ namespace
 {
 constexpr double RowInset = 8;       // of the hedges and walls, from the rim of the world
 constexpr double RingRadius = 6;     // large: no car jumps past the middle of one in a tick
-constexpr double RingInset = -1.6;   // of the ring's centres: behind the row, which has guards of its own near the road
+constexpr double RingInset = 1;      // of the ring's centres: behind the row, which has guards of its own near the road
 constexpr double WaterRing = 14;     // of the ring's centres in the lake, from the shore
 constexpr double GuardReach = 32;    // things farther from the middle of the road are seen and not met
 constexpr double HedgeReach = 62;    // the rim is a hedge where the road is near, elsewhere a wall
 constexpr double SolidRadius = 0.85; // at most, of the models that carry spheres
 constexpr double GuardGap = 0.06;
+constexpr double RingJoint = 3; // by which guards of the two rings may overlap, so that nothing slips between them
 
 double RoadDistance(const Plan& plan, double x, double z)
 {
@@ -58,10 +59,10 @@ double RoomFor(const Plan& plan, const Guard& wanted)
     return room;
 }
 
-// Radii in steps, so that a few models serve all guards.
-void AddGuard(Plan& plan, Guard guard)
+// Radii in steps, so that a few models serve all guards. overlap: with others, units that are allowed.
+void AddGuard(Plan& plan, Guard guard, double overlap = 0)
 {
-    const double room = RoomFor(plan, guard);
+    const double room = RoomFor(plan, guard) + overlap;
     if (room < guard.R)
     {
         if (room < 0.5 * guard.R)
@@ -85,7 +86,7 @@ void RingOnLand(Plan& plan)
         for (double t = 0; t < WorldSize - 2 * RingInset; t += step)
         {
             const double x = side.From.X + side.Dir.X * t, z = side.From.Y + side.Dir.Y * t;
-            if (!InsideOutline(plan.Lake, x, z))
+            if (!InsideOutline(plan.Lake, x, z) || ShoreDistance(plan, {x, z}) < WaterRing)
                 AddGuard(plan, {x, z, RingRadius, Inward(plan, x, z)});
         }
 }
@@ -109,7 +110,7 @@ void RingInLake(Plan& plan)
             if (ShoreDistance(plan, p) < WaterRing - 0.7 ||
                 std::hypot(p.X - last.X, p.Y - last.Y) < 2 * RingRadius + GuardGap)
                 continue;
-            AddGuard(plan, {p.X, p.Y, RingRadius, Inward(plan, p.X, p.Y)});
+            AddGuard(plan, {p.X, p.Y, RingRadius, Inward(plan, p.X, p.Y)}, RingJoint);
             last = p;
         }
     }

@@ -1,5 +1,6 @@
 #include "tools/race/Escape.h"
 
+#include "tools/race/HumanDriver.h"
 #include "tools/race/Recovery.h"
 #include "tools/race/Scout.h"
 #include "tools/race/SideBySide.h"
@@ -17,6 +18,8 @@ constexpr int LongestLap = 180;                        // seconds for the line
 constexpr double StartSpeed = 2.5;                     // of attempts from the lap
 constexpr double Room = 4;                             // units that a start needs around the car
 constexpr double Slack = 0.05;                         // radians
+constexpr int LongestReturn = 180;                     // seconds
+constexpr double BackOnLine = 5;                       // units from it
 constexpr int DetourTicks = 2 * TicksASecond;          // round what is in the way
 constexpr std::array Detours = {0.9, -0.9, 1.5, -1.5}; // radians, by turns
 
@@ -49,10 +52,15 @@ Ground GroundOf(Stage& stage)
 bool IsFree(Stage& stage, const Spot& spot)
 {
     const std::vector<render::Obj>& objects = stage.Game().Scene.Objects.Items;
+    const std::vector<world::Target>& water = stage.Race().Map.Water.Items;
     return std::none_of(objects.begin(), objects.end(),
                         [&](const render::Obj& object) {
                             return object.Free == 0 && !object.Sfere.empty() &&
                                    Distance(spot, {object.X, object.Z}) < object.Radius + Room;
+                        }) &&
+           std::none_of(water.begin(), water.end(),
+                        [&](const world::Target& zone) {
+                            return Distance(spot, {zone.X, zone.Z}) < zone.R;
                         });
 }
 
@@ -65,16 +73,15 @@ double TurnedOver(int index, int base)
     return value;
 }
 
-std::vector<Attempt> PlanAttempts(const Setup& setup, int places)
+// stage: a game in which the line was driven.
+std::vector<Attempt> PlanAttempts(Stage& stage, const Line& line, int places)
 {
-    Stage stage(setup);
-    const Scouted track = ScoutLine(stage, LongestLap);
     const Ground ground = GroundOf(stage);
     std::vector<Attempt> attempts;
     for (int i = 0; i < places; ++i)
     {
-        const std::size_t at = track.Way.Count() * static_cast<std::size_t>(i) / static_cast<std::size_t>(places);
-        attempts.push_back({.IsFromLap = true, .From = track.Way.At(at), .Heading = track.Way.Heading(at)});
+        const std::size_t at = line.Count() * static_cast<std::size_t>(i) / static_cast<std::size_t>(places);
+        attempts.push_back({.IsFromLap = true, .From = line.At(at), .Heading = line.Heading(at)});
     }
     // Most of a map is free: where no place can be found it is not asked for ever.
     for (int index = 1, found = 0; found < places && index < 100 * places; ++index)
@@ -137,7 +144,23 @@ private:
     std::size_t Times = 0;
 };
 
-void Try(Stage& stage, Attempt& attempt, int seconds, Trace* trace)
+// Seconds until the car is on the line again; nothing where the driver gives up.
+std::optional<double> DriveBack(Stage& stage, const Line& line)
+{
+    HumanDriver driver(line, stage.Race().Map, *FindSkill("average"), true, 1);
+    for (int tick = 0; tick < LongestReturn * TicksASecond; ++tick)
+    {
+        const Sight sight = LookAround(stage);
+        const Spot& place = sight.Own.Place;
+        if (Distance(place, line.At(line.Nearest(place))) < BackOnLine)
+            return static_cast<double>(tick) / TicksASecond;
+        stage.Game().Keys = driver.Drive(sight);
+        stage.Step();
+    }
+    return std::nullopt;
+}
+
+void Try(Stage& stage, const Line& line, Attempt& attempt, int seconds, Trace* trace)
 {
     PlaceUser(stage, attempt);
     const Ground ground = GroundOf(stage);
@@ -161,17 +184,21 @@ void Try(Stage& stage, Attempt& attempt, int seconds, Trace* trace)
         if (attempt.Margin < 0 && !attempt.Left)
             attempt.Left = static_cast<double>(tick) / TicksASecond;
     }
+    if (!attempt.Left)
+        attempt.Back = DriveBack(stage, line);
 }
 }
 
 std::vector<Attempt> TryToEscape(const Setup& setup, int places, int seconds, int jobs, Trace* trace)
 {
-    std::vector<Attempt> attempts = PlanAttempts(setup, places);
+    Stage scouting(setup);
+    const Line line = ScoutLine(scouting, LongestLap).Way;
+    std::vector<Attempt> attempts = PlanAttempts(scouting, line, places);
     SideBySide(attempts.size(), jobs,
                [&](std::size_t number)
                {
                    Stage stage(setup);
-                   Try(stage, attempts[number], seconds, number == 0 ? trace : nullptr);
+                   Try(stage, line, attempts[number], seconds, number == 0 ? trace : nullptr);
                });
     return attempts;
 }

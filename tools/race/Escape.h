@@ -1,5 +1,6 @@
 // tools/race/Escape.h: whether a stubborn driver can leave the map: from places round the lap and all over the ground
-// the user's car, alone, is driven at the nearest border, round what is in the way.
+// the user's car, alone, is driven at the nearest border, round what is in the way; then an average human-like driver
+// takes it back to the road, as far as it is still on the map.
 #pragma once
 #include "tools/race/Line.h"
 #include "tools/race/Stage.h"
@@ -20,9 +21,10 @@ struct Attempt
     double Margin = 0;               // units from the border where the car was nearest to it; below 0 it was outside
     Spot Nearest = {};               // there
     std::optional<double> Left = {}; // seconds after which it left the picture of the ground
+    std::optional<double> Back = {}; // seconds that the way back to the line took, where it was found
 };
 
-// `places` attempts from places along the line, then as many from all over the ground, each in a game of its own,
+// `places` attempts from places along the line, then as many from all over the dry ground, each in a game of its own,
 // on `jobs` threads. trace: is given one car, that of the first attempt; may be null.
 std::vector<Attempt> TryToEscape(const Setup& setup, int places, int seconds, int jobs, Trace* trace);
 

@@ -116,6 +116,6 @@ TEST_F(Racing, NothingKeepsACarOnAPlain)
     EXPECT_TRUE(attempts[0].IsFromLap);
     EXPECT_FALSE(attempts[3].IsFromLap);
     EXPECT_EQ(race::EscapeJson(attempts), race::EscapeJson(race::TryToEscape(setup, 2, 20, 4, nullptr)));
-    EXPECT_THAT(race::EscapeTable(attempts), testing::HasSubstr("4 attempts, 4 left the map\n"));
+    EXPECT_THAT(race::EscapeTable(attempts), testing::HasSubstr("4 attempts, 4 left the map, 0 did not come back\n"));
     EXPECT_EQ(race::TryToEscape(setup, 1, 1, 1, nullptr)[1].Left, std::nullopt);
 }
