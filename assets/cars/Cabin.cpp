@@ -67,15 +67,20 @@ ModelMesh QuarterTrim(const Design& design, double side)
     return FlatMesh(RoofCloth, rows);
 }
 
-// What hides the painted frame above a side window from within: its texels are as large as fingers there. Cut where the
-// windows are.
-ModelMesh WindowTrim(const Design& design, double side)
+// What hides the painted frame above the driver's window from within: its texels are as large as fingers there. Cut
+// where the window is; it runs out into the pillar in front.
+ModelMesh WindowTrim(const Design& design)
 {
+    constexpr double Left = -1;
     std::vector<std::vector<Vec3>> rows(2);
     for (const double back : {0.026, 0.15, 0.53, QuarterEnd(design.Shape)})
-        for (std::size_t i = 0; i < 2; ++i)
-            rows[i].push_back(CabinSidePoint(design.Shape, side, back, i == 0 ? 0.80 : 1.0) - Vec3{side * 0.04, 0, 0});
-    return FlatMesh(Trim, rows);
+    {
+        const bool pillar = back < 0.1;
+        const Vec3 inward{pillar ? 0.018 : 0.06, 0, 0};
+        rows[0].push_back(CabinSidePoint(design.Shape, Left, back, pillar ? 0.82 : 0.78) + inward);
+        rows[1].push_back(CabinSidePoint(design.Shape, Left, back, 1.0) + inward);
+    }
+    return FlatMesh(Hex(0x1C1C1D), rows); // as dark as the frame, of which corners show through
 }
 
 Rgb FrameColour(const Design& design)
@@ -183,10 +188,8 @@ void AddCabin(Model& model, const Design& design)
     {
         AddLining(model, design.Shape);
         for (const double side : {-1.0, 1.0})
-        {
             model.Meshes.push_back(QuarterTrim(design, side));
-            model.Meshes.push_back(WindowTrim(design, side));
-        }
+        model.Meshes.push_back(WindowTrim(design));
     }
     AddMirror(model);
     model.Meshes.push_back(RearWall(design));
