@@ -73,7 +73,7 @@ ModelMesh WindowTrim(const Design& design)
 {
     constexpr double Left = -1;
     std::vector<std::vector<Vec3>> rows(2);
-    for (const double back : {0.026, 0.15, 0.53, QuarterEnd(design.Shape)})
+    for (const double back : {0.026, 0.15, DoorEnd(design.Shape) - 0.035})
     {
         const bool pillar = back < 0.1;
         const Vec3 inward{pillar ? 0.018 : 0.06, 0, 0};
@@ -81,6 +81,21 @@ ModelMesh WindowTrim(const Design& design)
         rows[1].push_back(CabinSidePoint(design.Shape, Left, back, 1.0) + inward);
     }
     return FlatMesh(Hex(0x1C1C1D), rows); // as dark as the frame, of which corners show through
+}
+
+// The post behind the right door, which the view back looks at: straight edges before the painted ones.
+ModelMesh DoorPost(const Design& design)
+{
+    const Shape& shape = design.Shape;
+    const double doorEnd = DoorEnd(shape);
+    std::vector<std::vector<Vec3>> rows;
+    for (const double up : {0.05, 1.0})
+    {
+        const double middle = doorEnd - 0.02 * up + 0.009;
+        rows.push_back({CabinSidePoint(shape, 1, middle - 0.036, up) - Vec3{0.03, 0, 0},
+                        CabinSidePoint(shape, 1, middle + 0.036, up) - Vec3{0.03, 0, 0}});
+    }
+    return FlatMesh(Trim, rows);
 }
 
 Rgb FrameColour(const Design& design)
@@ -190,6 +205,7 @@ void AddCabin(Model& model, const Design& design)
         for (const double side : {-1.0, 1.0})
             model.Meshes.push_back(QuarterTrim(design, side));
         model.Meshes.push_back(WindowTrim(design));
+        model.Meshes.push_back(DoorPost(design));
     }
     AddMirror(model);
     model.Meshes.push_back(RearWall(design));

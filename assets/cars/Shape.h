@@ -51,6 +51,8 @@ Vec3 DeckPoint(const Shape& shape, double across, double back);
 Vec3 NosePoint(const Shape& shape, double across, double up);
 Vec3 TailPoint(const Shape& shape, double across, double up);
 Vec3 CabinSidePoint(const Shape& shape, double side, double back, double up);
+// Where the post behind the door begins at its foot, as CabinSidePoint's `back`.
+double DoorEnd(const Shape& shape);
 // Where the last side window ends at its top, as CabinSidePoint's `back`.
 double QuarterEnd(const Shape& shape);
 // The hump behind a seat of an open car.
