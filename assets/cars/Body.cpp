@@ -50,8 +50,7 @@ void AddSides(std::vector<BodyPanel>& panels, const Design& design)
     {
         const auto flank = [&shape, side](double a, double b)
         { return FlankPoint(shape, side, Lerp(TailZ, NoseZ, a), b); };
-        panels.push_back(
-            {{flank, FlankKnots(), {0, 0.17, 0.34, 0.66, 1}, 440, 72, BodyMiddle}, FlankPainter(design, side)});
+        panels.push_back({{flank, FlankKnots(), {0, 0.34, 0.66, 1}, 440, 72, BodyMiddle}, FlankPainter(design, side)});
     }
     const auto nose = [&shape](double a, double b) { return NosePoint(shape, Across(a), b); };
     const auto tail = [&shape](double a, double b) { return TailPoint(shape, Across(a), b); };
@@ -61,12 +60,14 @@ void AddSides(std::vector<BodyPanel>& panels, const Design& design)
 
 void AddWindows(std::vector<BodyPanel>& panels, const Design& design)
 {
+    // Cut before the door's post, so that no part of it lies in the long cell beside the eye.
     const Shape& shape = design.Shape;
     for (const double side : {-1.0, 1.0})
     {
         const auto window = [&shape, side](double a, double b) { return CabinSidePoint(shape, side, a, b); };
         panels.push_back(
-            {{window, {0, 0.032, 0.15, 0.53, 0.75, 1}, PillarKnots(), 200, 44, BodyMiddle}, CabinPainter(design)});
+            {{window, {0, 0.032, 0.15, DoorEnd(shape) - 0.035, 0.75, 1}, PillarKnots(), 200, 44, BodyMiddle},
+             CabinPainter(design)});
     }
     const auto rear = [&shape](double a, double b) { return RearWindowPoint(shape, Across(a), b); };
     panels.push_back({{rear, Evenly(4), Evenly(2), 112, 64, BodyMiddle}, RearWindowPainter(design)});

@@ -19,7 +19,7 @@ ModelMesh InnerWall(const Design& design, double side)
 {
     const Curve half{{-2.0, .67}, {-0.88, .79}, {0.40, .79}, {0.86, .775}, {1.85, .66}};
     std::vector<Vec3> low, high;
-    for (const double z : {-2.0, -0.88, -0.2, 0.10, 0.40, 0.66, 0.86, 1.85})
+    for (const double z : {-2.0, -0.88, -0.2, 0.40, 0.86, 1.85})
     {
         const double x = half(z);
         low.push_back({side * x, 0.16, z});
@@ -67,18 +67,35 @@ ModelMesh QuarterTrim(const Design& design, double side)
     return FlatMesh(RoofCloth, rows);
 }
 
-// What hides the painted frame above a side window from within: its texels are as large as fingers there. Cut where the
-// windows are; it runs out into the pillar in front.
-ModelMesh WindowTrim(const Design& design, double side)
+// What hides the painted frame above the driver's window from within: its texels are as large as fingers there. Cut
+// where the window is; it runs out into the pillar in front.
+ModelMesh WindowTrim(const Design& design)
 {
+    constexpr double Left = -1;
     std::vector<std::vector<Vec3>> rows(2);
-    for (const double back : {0.026, 0.15, 0.53, QuarterEnd(design.Shape)})
+    for (const double back : {0.026, 0.15, DoorEnd(design.Shape) - 0.035})
     {
-        const Vec3 inward{-side * (back < 0.1 ? 0.018 : 0.06), 0, 0};
-        rows[0].push_back(CabinSidePoint(design.Shape, side, back, 0.78) + inward);
-        rows[1].push_back(CabinSidePoint(design.Shape, side, back, 1.0) + inward);
+        const bool pillar = back < 0.1;
+        const Vec3 inward{pillar ? 0.018 : 0.06, 0, 0};
+        rows[0].push_back(CabinSidePoint(design.Shape, Left, back, pillar ? 0.82 : 0.78) + inward);
+        rows[1].push_back(CabinSidePoint(design.Shape, Left, back, 1.0) + inward);
     }
     return FlatMesh(Hex(0x1C1C1D), rows); // as dark as the frame, of which corners show through
+}
+
+// The post behind the right door, which the view back looks at: straight edges before the painted ones.
+ModelMesh DoorPost(const Design& design)
+{
+    const Shape& shape = design.Shape;
+    const double doorEnd = DoorEnd(shape);
+    std::vector<std::vector<Vec3>> rows;
+    for (const double up : {0.05, 1.0})
+    {
+        const double middle = doorEnd - 0.02 * up + 0.009;
+        rows.push_back({CabinSidePoint(shape, 1, middle - 0.036, up) - Vec3{0.03, 0, 0},
+                        CabinSidePoint(shape, 1, middle + 0.036, up) - Vec3{0.03, 0, 0}});
+    }
+    return FlatMesh(Trim, rows);
 }
 
 Rgb FrameColour(const Design& design)
@@ -186,10 +203,9 @@ void AddCabin(Model& model, const Design& design)
     {
         AddLining(model, design.Shape);
         for (const double side : {-1.0, 1.0})
-        {
             model.Meshes.push_back(QuarterTrim(design, side));
-            model.Meshes.push_back(WindowTrim(design, side));
-        }
+        model.Meshes.push_back(WindowTrim(design));
+        model.Meshes.push_back(DoorPost(design));
     }
     AddMirror(model);
     model.Meshes.push_back(RearWall(design));

@@ -320,7 +320,7 @@ Painter CabinPainter(const Design& design)
 {
     // The windows in the panel's own (a, b): a pillar in front, one behind the door, a pane, the quarter panel.
     const Shape& shape = design.Shape;
-    const double doorAt = (CowlCorner - DoorRear) / (CowlCorner - shape.WindowRear) - 0.01;
+    const double doorAt = DoorEnd(shape);
     const double quarterEnd = QuarterEnd(shape);
     return [&design, doorAt, quarterEnd](const Sample& s) -> Ink
     {

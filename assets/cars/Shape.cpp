@@ -122,6 +122,11 @@ Vec3 CabinSidePoint(const Shape& shape, double side, double back, double up)
     return {Lerp(low.X, high.X, up) + side * bulge, Lerp(low.Y, high.Y, up), Lerp(low.Z, high.Z, up)};
 }
 
+double DoorEnd(const Shape& shape)
+{
+    return (CowlCorner - DoorRear) / (CowlCorner - shape.WindowRear) - 0.01;
+}
+
 double QuarterEnd(const Shape& shape)
 {
     const double roofEnd = (RoofFront - shape.RoofRear) / (RoofFront - shape.WindowRear);

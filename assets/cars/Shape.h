@@ -37,8 +37,7 @@ inline constexpr double RoofFront = 0.60;                     // z of its upper 
 
 // Where the flanks are cut: at the ends of the wheel arches above all. What lies close behind them is cut there too:
 // the game finds depths along a face by a rule that errs in long cells, and then both err alike.
-inline constexpr double FlankStations[] = {TailZ, -1.66, RearAxle, -0.88,     -0.2, 0.10,
-                                           0.40,  0.66,  0.92,     FrontAxle, 1.66, NoseZ};
+inline constexpr double FlankStations[] = {TailZ, -1.66, RearAxle, -0.88, -0.2, 0.40, 0.92, FrontAxle, 1.66, NoseZ};
 
 // Points of the surfaces. `side` is -1 left, +1 right; a and b from 0 to 1.
 Vec3 FlankPoint(const Shape& shape, double side, double z, double up);
@@ -52,6 +51,8 @@ Vec3 DeckPoint(const Shape& shape, double across, double back);
 Vec3 NosePoint(const Shape& shape, double across, double up);
 Vec3 TailPoint(const Shape& shape, double across, double up);
 Vec3 CabinSidePoint(const Shape& shape, double side, double back, double up);
+// Where the post behind the door begins at its foot, as CabinSidePoint's `back`.
+double DoorEnd(const Shape& shape);
 // Where the last side window ends at its top, as CabinSidePoint's `back`.
 double QuarterEnd(const Shape& shape);
 // The hump behind a seat of an open car.
