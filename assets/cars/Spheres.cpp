@@ -12,8 +12,8 @@ namespace
 // seeds.
 struct TouchSizes
 {
-    double Aside = 0.6, Low = 0.55, Ahead = 0, Radius = 0.08; // of the six on the body
-    double High = 1.00, Cabin = 0.08;                         // height and radius of those in the cabin
+    double Aside = 0.6, Low = 0.55, Ahead = 0, Radius = 0.06; // of the six on the body
+    double High = 1.00, Cabin = 0.06;                         // height and radius of those in the cabin
 };
 constexpr TouchSizes Touch;
 

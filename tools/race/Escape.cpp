@@ -145,7 +145,7 @@ private:
 };
 
 // Seconds until the car is on the line again; nothing where the driver gives up.
-std::optional<double> DriveBack(Stage& stage, const Line& line)
+std::optional<double> DriveBack(Stage& stage, const Line& line, Trace* trace)
 {
     HumanDriver driver(line, stage.Race().Map, *FindSkill("average"), true, 1);
     for (int tick = 0; tick < LongestReturn * TicksASecond; ++tick)
@@ -156,6 +156,8 @@ std::optional<double> DriveBack(Stage& stage, const Line& line)
             return static_cast<double>(tick) / TicksASecond;
         stage.Game().Keys = driver.Drive(sight);
         stage.Step();
+        if (trace != nullptr)
+            trace->Take(StatesOf(stage));
     }
     return std::nullopt;
 }
@@ -185,7 +187,7 @@ void Try(Stage& stage, const Line& line, Attempt& attempt, int seconds, Trace* t
             attempt.Left = static_cast<double>(tick) / TicksASecond;
     }
     if (!attempt.Left)
-        attempt.Back = DriveBack(stage, line);
+        attempt.Back = DriveBack(stage, line, trace);
 }
 }
 
