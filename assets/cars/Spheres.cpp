@@ -27,6 +27,14 @@ constexpr DentSizes Dent;
 
 constexpr double CabinZ[] = {0.35, -0.75};
 
+// The roof stays where it is: pressed in, it would hang before the driver's eyes.
+void SpareRoof(const Model& model, ModelSphere& dented)
+{
+    constexpr double Highest = 0.98; // below the eye
+    std::erase_if(dented.Links, [&](const SphereLink& link)
+                  { return model.Meshes.at(static_cast<std::size_t>(link.Mesh)).At(link.Row, link.Col).Y > Highest; });
+}
+
 ModelSphere Touching(double x, double y, double z, double radius, const ModelSphere& dented)
 {
     return {x, y, z, radius, dented.Links};
@@ -40,6 +48,7 @@ void AddSpheres(Model& model, int panels)
         {
             ModelSphere dented{side * Dent.Aside, Dent.Low, ahead * Dent.Ahead, Dent.Reach, {}};
             model.LinkNear(dented, 0, panels - 1, 0);
+            SpareRoof(model, dented);
             model.Spheres.push_back(Touching(side * Touch.Aside, Touch.Low, ahead * Touch.Ahead, Touch.Radius, dented));
         }
     for (const double z : CabinZ)
@@ -47,6 +56,7 @@ void AddSpheres(Model& model, int panels)
         ModelSphere dented{0, Dent.High, z, Dent.CabinReach, {}};
         model.LinkNear(dented, 0, panels - 1, 0);
         model.LinkNear(dented, GlassMesh, GlassMesh, 0);
+        SpareRoof(model, dented);
         model.Spheres.push_back(Touching(0, Touch.High, z, Touch.Cabin, dented));
     }
 }
