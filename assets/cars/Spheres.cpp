@@ -27,12 +27,17 @@ constexpr DentSizes Dent;
 
 constexpr double CabinZ[] = {0.35, -0.75};
 
-// The roof stays where it is: pressed in, it would hang before the driver's eyes.
+// The roof stays where it is as far as the driver sees it: pressed in, it would hang before his eyes.
 void SpareRoof(const Model& model, ModelSphere& dented)
 {
-    constexpr double Highest = 0.98; // below the eye
-    std::erase_if(dented.Links, [&](const SphereLink& link)
-                  { return model.Meshes.at(static_cast<std::size_t>(link.Mesh)).At(link.Row, link.Col).Y > Highest; });
+    constexpr double BelowEye = 0.98, BehindEye = -0.45;
+    std::erase_if(dented.Links,
+                  [&](const SphereLink& link)
+                  {
+                      const ModelMesh& mesh = model.Meshes.at(static_cast<std::size_t>(link.Mesh));
+                      const ModelPoint& point = mesh.At(link.Row, link.Col);
+                      return point.Y > BelowEye && point.Z > BehindEye;
+                  });
 }
 
 ModelSphere Touching(double x, double y, double z, double radius, const ModelSphere& dented)
