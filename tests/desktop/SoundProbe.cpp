@@ -1,9 +1,9 @@
 // sound_probe: listens to a recording (signed 16-bit little-endian stereo at 44100 Hz without a header).
-//   sound_probe engine RECORDING SAMPLE   the engine's step from its sample: standstill, rising gears, two falls at
-//   least sound_probe gap RECORDING MS          no silence longer than that between the first sound and the last
-//   sound_probe silence RECORDING         nothing is heard
-//   sound_probe tones RECORDING HZ…       which of the tones sounds when, in a line: their places in the list
-//   sound_probe write-tone FILE HZ SECONDS   music to record
+//   sound_probe engine RECORDING SAMPLE STEPS   the engine goes through the steps in their order, two falls at least
+//   sound_probe gap RECORDING MS                no silence longer than that between the first sound and the last
+//   sound_probe silence RECORDING               nothing is heard
+//   sound_probe tones RECORDING HZ…             which of the tones sounds when: their places in the list, one a line
+//   sound_probe write-tone FILE HZ SECONDS      music to record
 // Says what it hears; status 1 where it is not as it should be.
 #include "base/Numbers.h"
 #include "tests/support/MusicFile.h"

@@ -91,7 +91,8 @@ leave_menu() {
 # menu, at the end.
 hear_engine() {
     make_root engine
-    # A car that gathers speed slowly and rolls to a stop by itself: its step changes little within the stretch of sound that is compared.
+    # A car that gathers speed slowly and rolls to a stop by itself: its step changes little within the stretch of
+    # sound that is compared.
     rm engine/data
     cp -rs "$root/data" engine/data
     local user=engine/data/maps/map_01/p1.player

@@ -2,8 +2,6 @@
 #include "tools/race/Escape.h"
 #include "tools/race/Format.h"
 
-#include <algorithm>
-
 namespace race
 {
 namespace

@@ -117,5 +117,15 @@ TEST_F(Racing, NothingKeepsACarOnAPlain)
     EXPECT_FALSE(attempts[3].IsFromLap);
     EXPECT_EQ(race::EscapeJson(attempts), race::EscapeJson(race::TryToEscape(setup, 2, 20, 4, nullptr)));
     EXPECT_THAT(race::EscapeTable(attempts), testing::HasSubstr("4 attempts, 4 left the map, 0 did not come back\n"));
-    EXPECT_EQ(race::TryToEscape(setup, 1, 1, 1, nullptr)[1].Left, std::nullopt);
+    EXPECT_FALSE(attempts[0].Back.has_value());
+}
+
+TEST_F(Racing, WhoHasStayedOnThePlainDrivesBack)
+{
+    const race::Setup setup{World.Path.string(), 1, 1, {}};
+    const std::vector<race::Attempt> attempts = race::TryToEscape(setup, 1, 1, 1, nullptr);
+    ASSERT_EQ(attempts.size(), 2u);
+    EXPECT_EQ(attempts[1].Left, std::nullopt);
+    EXPECT_TRUE(attempts[1].Back.has_value());
+    EXPECT_THAT(race::EscapeTable({&attempts[1], 1}), testing::HasSubstr(" back after "));
 }
