@@ -6,7 +6,6 @@
 #include "tools/race/SideBySide.h"
 
 #include <algorithm>
-#include <array>
 #include <cmath>
 #include <limits>
 
@@ -14,14 +13,12 @@ namespace race
 {
 namespace
 {
-constexpr int LongestLap = 180;                        // seconds for the line
-constexpr double StartSpeed = 2.5;                     // of attempts from the lap
-constexpr double Room = 4;                             // units that a start needs around the car
-constexpr double Slack = 0.05;                         // radians
-constexpr int LongestReturn = 180;                     // seconds
-constexpr double BackOnLine = 5;                       // units from it
-constexpr int DetourTicks = 2 * TicksASecond;          // round what is in the way
-constexpr std::array Detours = {0.9, -0.9, 1.5, -1.5}; // radians, by turns
+constexpr int LongestLap = 180;    // seconds for the line
+constexpr double StartSpeed = 2.5; // of attempts from the lap
+constexpr double Room = 4;         // units that a start needs around the car
+constexpr double Slack = 0.05;     // radians
+constexpr int LongestReturn = 600; // seconds: damage of the lake makes a car slow
+constexpr double BackOnLine = 5;   // units from it
 
 struct Ground
 {
@@ -110,39 +107,19 @@ void PlaceUser(Stage& stage, const Attempt& attempt)
     }
 }
 
-// At the border with full throttle; after each time that the car was stuck, aside for a while.
-class Stubborn
+// At the border with full throttle.
+world::HeldKeys DriveOut(const Sight& sight, const Spot& border, Recovery& trouble)
 {
-public:
-    world::HeldKeys Drive(const Seen& own, const Spot& border)
-    {
-        const bool backs = Trouble.Backs(own, true);
-        if (backs && !Backed)
-        {
-            Detour = DetourTicks;
-            ++Times;
-        }
-        Backed = backs;
-        double wanted = Bearing(own.Place, border);
-        if (!backs && Detour > 0)
-            --Detour;
-        if (Detour > 0)
-            wanted += Detours[Times % Detours.size()];
-        const double off = Wrapped(wanted - own.Heading) * (backs ? -1 : 1);
-        return {.KeyAccel = base::ToFlag(!backs),
-                .KeyBrake = base::ToFlag(backs),
-                .KeyLeft = base::ToFlag(off > Slack),
-                .KeyRight = base::ToFlag(off < -Slack),
-                .KeyHandbrake = 0,
-                .KeyLookBack = 0};
-    }
-
-private:
-    Recovery Trouble;
-    bool Backed = false;
-    int Detour = 0; // ticks
-    std::size_t Times = 0;
-};
+    const Manoeuvre way = trouble.Next(sight.Own, sight.Acceleration, true);
+    const double wanted = Bearing(sight.Own.Place, border) + way.Aside;
+    const double off = Wrapped(wanted - sight.Own.Heading) * (way.Backs ? -1 : 1);
+    return {.KeyAccel = base::ToFlag(!way.Backs),
+            .KeyBrake = base::ToFlag(way.Backs),
+            .KeyLeft = base::ToFlag(off > Slack),
+            .KeyRight = base::ToFlag(off < -Slack),
+            .KeyHandbrake = 0,
+            .KeyLookBack = 0};
+}
 
 // Seconds until the car is on the line again; nothing where the driver gives up.
 std::optional<double> DriveBack(Stage& stage, const Line& line, Trace* trace)
@@ -166,13 +143,13 @@ void Try(Stage& stage, const Line& line, Attempt& attempt, int seconds, Trace* t
 {
     PlaceUser(stage, attempt);
     const Ground ground = GroundOf(stage);
-    Stubborn driver;
+    Recovery trouble(0);
     attempt.Margin = ground.MarginOf(attempt.From);
     attempt.Nearest = attempt.From;
     for (int tick = 1; tick <= seconds * TicksASecond; ++tick)
     {
-        const Seen own = LookAround(stage).Own;
-        stage.Game().Keys = driver.Drive(own, ground.NearestBorder(own.Place));
+        const Sight sight = LookAround(stage);
+        stage.Game().Keys = DriveOut(sight, ground.NearestBorder(sight.Own.Place), trouble);
         stage.Step();
         const std::vector<CarState> cars = StatesOf(stage);
         if (trace != nullptr)

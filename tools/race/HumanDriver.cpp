@@ -57,9 +57,9 @@ Aim HumanDriver::Choose(const Sight& now)
     return aim;
 }
 
-int HumanDriver::SteerTo(const Seen& own, const Aim& aim)
+int HumanDriver::SteerTo(const Seen& own, const Aim& aim, double aside)
 {
-    const double off = Wrapped(Bearing(own.Place, aim.To) - own.Heading);
+    const double off = Wrapped(Bearing(own.Place, aim.To) + aside - own.Heading);
     if (std::fabs(off) > TheSkill.Slack)
         Turning = off > 0 ? 1 : -1;
     else if (off * Turning < TheSkill.Slack * 0.25)
@@ -96,8 +96,10 @@ world::HeldKeys HumanDriver::Drive(const Sight& now)
     const Sight believed = Believed();
     const Seen& own = believed.Own;
     const Aim aim = Choose(believed);
-    const int steer = SteerTo(own, aim);
-    if (TheRecovery.Backs(Memory.front().Seen.Own, believed.Released && aim.Most > 0))
+    const Sight& seen = Memory.front().Seen;
+    const Manoeuvre way = TheRecovery.Next(seen.Own, seen.Acceleration, believed.Released && aim.Most > 0);
+    const int steer = SteerTo(own, aim, way.Aside);
+    if (way.Backs)
         // Backwards the wheel turns the nose to the other side.
         return Press(Wheel.Press(own.Speed < 0 ? -steer : 0), Pedals.Press(-1), false);
     const double off = std::fabs(Wrapped(Bearing(own.Place, aim.To) - own.Heading));

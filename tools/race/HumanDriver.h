@@ -30,7 +30,7 @@ private:
 
     Sight Believed() const;
     Aim Choose(const Sight& now);
-    int SteerTo(const Seen& own, const Aim& aim);
+    int SteerTo(const Seen& own, const Aim& aim, double aside);
     static int PedalFor(const Seen& own, double most);
     world::HeldKeys Press(int steer, int pedal, bool handbrake);
 
@@ -40,7 +40,7 @@ private:
     Course TheCourse;
     Traffic TheTraffic;
     Trip TheTrip;
-    Recovery TheRecovery;
+    Recovery TheRecovery{2};
     Fingers Wheel, Pedals;
     Wandering LineError, BrakeError;
     std::deque<Moment> Memory; // the oldest one is what is seen now

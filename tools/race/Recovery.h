@@ -1,38 +1,33 @@
-// tools/race/Recovery.h: what a driver does who is stuck: back for a moment, then on.
+// tools/race/Recovery.h: what a driver does who is stuck: back for a moment, then on; round what is in the way, where
+// that was not enough.
 #pragma once
 #include "tools/race/Sight.h"
 
 namespace race
 {
+// What to do in a tick.
+struct Manoeuvre
+{
+    bool Backs = false;
+    double Aside = 0; // radians to the left of where the driver wants to go
+};
+
 class Recovery
 {
 public:
-    // Whether the car is to back in this tick. onward: the driver wants to go on, not to stand. Asked once a tick.
-    bool Backs(const Seen& seen, bool onward);
+    // How often a driver was stuck before one tries to get round; 0: as one who does not know what is in the way.
+    explicit Recovery(int patience) : Patience(patience) {}
+
+    // acceleration: what the car is capable of now. onward: the driver wants to go on, not to stand. Asked once a tick.
+    Manoeuvre Next(const Seen& seen, double acceleration, bool onward);
 
 private:
-    static constexpr double Crawl = 0.25;
-    static constexpr int StuckTicks = 30, BackTicks = 45, LongestBack = 120;
+    bool IsStuck(const Seen& seen, double acceleration, bool onward);
 
-    int Stuck = 0, Back = 0; // ticks
-    int Tries = 0;           // each backs for longer, until the car has got away
-    int Free = 0;            // ticks without trouble
+    int Patience;
+    int Stuck = 0, Back = 0, Round = 0; // ticks
+    int Tries = 0;                      // each backs for longer, until the car has got away
+    Spot Where;                         // the last time
+    double Aside = 0;                   // of the way round
 };
-
-inline bool Recovery::Backs(const Seen& seen, bool onward)
-{
-    if (Back > 0)
-        return --Back > 0;
-    const bool crawls = seen.Speed < Crawl && seen.Speed > -Crawl;
-    Stuck = onward && crawls ? Stuck + 1 : 0;
-    Free = crawls ? 0 : Free + 1;
-    if (Free > 4 * TicksASecond)
-        Tries = 0;
-    if (Stuck < StuckTicks)
-        return false;
-    Stuck = 0;
-    Back = BackTicks + 25 * Tries < LongestBack ? BackTicks + 25 * Tries : LongestBack;
-    ++Tries;
-    return true;
-}
 }

@@ -151,22 +151,61 @@ TEST(Wandering, StaysAboutItsSpread)
     EXPECT_LT(most, 12);
 }
 
+int CountBacks(race::Recovery& recovery, const race::Seen& seen, double acceleration, int ticks)
+{
+    int count = 0;
+    for (int i = 0; i < ticks; ++i)
+        count += recovery.Next(seen, acceleration, true).Backs ? 1 : 0;
+    return count;
+}
+
 TEST(Recovery, BacksAfterAWhileAndLongerEachTime)
 {
-    race::Recovery recovery;
+    race::Recovery recovery(9);
     const race::Seen stuck;
-    const auto backs = [&](int ticks)
-    {
-        int count = 0;
-        for (int i = 0; i < ticks; ++i)
-            count += recovery.Backs(stuck, true) ? 1 : 0;
-        return count;
-    };
-    EXPECT_EQ(backs(29), 0);
-    EXPECT_EQ(backs(45), 45);
-    EXPECT_EQ(backs(30), 0);
-    EXPECT_EQ(backs(70), 70);
-    race::Recovery waits;
+    EXPECT_EQ(CountBacks(recovery, stuck, 0.04, 29), 0);
+    EXPECT_EQ(CountBacks(recovery, stuck, 0.04, 45), 45);
+    EXPECT_EQ(CountBacks(recovery, stuck, 0.04, 30), 0);
+    EXPECT_EQ(CountBacks(recovery, stuck, 0.04, 70), 70);
+    race::Recovery waits(9);
     for (int i = 0; i < 100; ++i)
-        EXPECT_FALSE(waits.Backs(stuck, false));
+        EXPECT_FALSE(waits.Next(stuck, 0.04, false).Backs);
+}
+
+TEST(Recovery, KnowsThatADamagedCarIsSlow)
+{
+    race::Recovery recovery(9);
+    race::Seen crawling;
+    crawling.Speed = 0.03;
+    EXPECT_EQ(CountBacks(recovery, crawling, 0.0025, 200), 0);
+    crawling.Speed = 0;
+    EXPECT_EQ(CountBacks(recovery, crawling, 0.0025, 29), 0);
+    EXPECT_EQ(CountBacks(recovery, crawling, 0.0025, 180), 180) << "four times as long";
+}
+
+TEST(Recovery, GoesRoundWhatIsInTheWayOnEitherSideUntilTheCarGotAway)
+{
+    race::Recovery recovery(1);
+    race::Seen seen;
+    const auto asideAfterStuck = [&]
+    {
+        race::Manoeuvre way;
+        for (int i = 0; i < 30; ++i)
+            recovery.Next(seen, 0.04, true);
+        do
+            way = recovery.Next(seen, 0.04, true);
+        while (way.Backs);
+        return recovery.Next(seen, 0.04, true).Aside;
+    };
+    EXPECT_EQ(asideAfterStuck(), 0) << "at first as if nothing were in the way";
+    const double left = asideAfterStuck(), right = asideAfterStuck();
+    EXPECT_GT(left, 0.5);
+    EXPECT_LT(right, -0.5);
+    seen.Place = {100, 0};
+    seen.Speed = 1;
+    for (int i = 0; i < 20 * race::TicksASecond; ++i)
+        recovery.Next(seen, 0.04, true);
+    EXPECT_EQ(recovery.Next(seen, 0.04, true).Aside, 0) << "a way round ends";
+    seen.Speed = 0;
+    EXPECT_EQ(asideAfterStuck(), 0) << "elsewhere it begins anew";
 }
