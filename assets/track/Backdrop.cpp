@@ -88,6 +88,16 @@ double HillTop(double turn, int cells, std::uint32_t seed)
     return sum;
 }
 
+struct Ridges
+{
+    double Front, Back; // units
+};
+
+Ridges RidgesAt(double turn)
+{
+    return {11 + 9 * HillTop(turn, 30, 667), 21 + 11 * HillTop(turn, 22, 661)};
+}
+
 Rgb HillColour(double turn, double height, double top, bool front)
 {
     // Woods, clearings and terraces; warm where the sun looks at them, blue where it stands behind.
@@ -107,7 +117,7 @@ Canvas PaintHills()
     for (int x = 0; x < HillsWidth; ++x)
     {
         const double turn = 1.0 * x / (HillsWidth - 1);
-        const double back = 21 + 11 * HillTop(turn, 22, 661), front = 11 + 9 * HillTop(turn, 30, 667);
+        const auto [front, back] = RidgesAt(turn);
         for (int y = 0; y < HillsHeight; ++y)
         {
             const double height = (y + 0.5) * HillsTall / HillsHeight;
@@ -137,6 +147,19 @@ ModelMesh RingMesh()
     return mesh;
 }
 
+// How much of the hills' picture a column of the ring's needs up to here: what is above the ridges is not drawn.
+double HillsShare(int column)
+{
+    constexpr int Steps = 64;
+    double highest = 0;
+    for (int i = -Steps; i <= Steps; ++i)
+    {
+        const auto [front, back] = RidgesAt(std::fmod((column + 1.0 * i / Steps) / RingColumns + 1, 1));
+        highest = std::max({highest, front, back});
+    }
+    return std::min(highest / HillsTall + 2.0 / HillsHeight, 1.0);
+}
+
 ModelMesh HillsMesh()
 {
     ModelMesh mesh(2, RingColumns + 1);
@@ -145,8 +168,9 @@ ModelMesh HillsMesh()
         for (int j = 0; j <= RingColumns; ++j)
         {
             const Point p = OnCircle(j, HillsRadius);
-            mesh.At(i, j) = {p.X - WorldMiddle, i * HillsTall, p.Y - WorldMiddle,
-                             TexelOf(1.0 * j / RingColumns, HillsWidth), TexelOf(i, HillsHeight)};
+            const int texel = i * TexelOf(HillsShare(j), HillsHeight);
+            mesh.At(i, j) = {p.X - WorldMiddle, texel * HillsTall / (HillsHeight - 1), p.Y - WorldMiddle,
+                             TexelOf(1.0 * j / RingColumns, HillsWidth), texel};
         }
     return mesh;
 }

@@ -140,7 +140,7 @@ void PutBorder(Plan& plan)
             };
             const Point begin = at(t);
             const bool hedge = RoadDistance(plan, begin.X, begin.Y) < HedgeReach;
-            const std::string name = hedge ? "hedge_long" : "stonewall";
+            const std::string name = hedge ? "hedge_rim" : "stonewall_rim";
             const double half = KindOf(name).HalfX;
             const Point p = at(t + half);
             if (t + 2 * half <= length + 2 && !InsideOutline(plan.Lake, p.X, p.Y))

@@ -71,38 +71,43 @@ Canvas HedgePicture()
     return sheet;
 }
 
-// `pieces` of it end to end.
-Model HedgeModel(int pieces)
+// `pieces` of it end to end, in `across` cells each; the first `points` of the contour.
+Model HedgeModel(int pieces, int across, int points)
 {
-    constexpr int Across = 2;
     Model model;
     model.Mass = HeavyMass;
     for (int piece = 0; piece < pieces; ++piece)
     {
         const double middle = HalfHedge * (2 * piece + 1 - pieces);
-        ModelMesh coat(static_cast<int>(HedgeContour.size()), Across + 1);
+        ModelMesh coat(points, across + 1);
         coat.Texture = ModelFolder::PathOf("hedge");
         for (int i = 0; i < coat.Rows; ++i)
-            for (int j = 0; j <= Across; ++j)
+            for (int j = 0; j <= across; ++j)
             {
                 const Contour& c = HedgeContour[static_cast<std::size_t>(i)];
-                const double share = 1.0 * j / Across;
+                const double share = 1.0 * j / across;
                 coat.At(i, j) = {middle + HalfHedge * (2 * share - 1), c.Y, c.Z,
                                  base::RoundEven(share * (Coat.Width - 1)), base::RoundEven(c.Way * (Coat.Height - 1))};
             }
         model.Meshes.push_back(coat);
         model.Meshes.push_back(Upright("hedge", Fringe, middle - HalfHedge, 0, middle + HalfHedge, 0, 2.2, 2.72));
     }
-    for (const double x : {-HalfHedge * pieces, HalfHedge * pieces})
-        model.Meshes.push_back(Face("hedge", HedgeEnd, {x, 0, -0.66}, {x, 0, 0.66}, {x, 2.3, 0.5}, {x, 2.3, -0.5}));
     return model;
+}
+
+void AddHedgeEnds(Model& model)
+{
+    for (const double x : {-HalfHedge, HalfHedge})
+        model.Meshes.push_back(Face("hedge", HedgeEnd, {x, 0, -0.66}, {x, 0, 0.66}, {x, 2.3, 0.5}, {x, 2.3, -0.5}));
 }
 }
 
 void WriteHedge(const ModelFolder& folder)
 {
     folder.Texture("hedge", HedgePicture(), Black::Key);
-    folder.Write("hedge", HedgeModel(1));
-    folder.Write("hedge_long", HedgeModel(2));
+    Model hedge = HedgeModel(1, 2, static_cast<int>(HedgeContour.size()));
+    AddHedgeEnds(hedge);
+    folder.Write("hedge", hedge);
+    folder.Write("hedge_rim", HedgeModel(2, 1, 4)); // its back looks out of the world
 }
 }

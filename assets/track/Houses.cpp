@@ -95,20 +95,18 @@ Canvas HouseSheet(const House& house)
 
 void AddWalls(Model& model, const std::string& texture, double hx, double hz, double high)
 {
-    model.Meshes.push_back(Upright(texture, WallRegion(0), -hx, -hz, hx, -hz, 0, high, 2, 2));
-    model.Meshes.push_back(Upright(texture, WallRegion(1), hx, -hz, hx, hz, 0, high, 2, 2));
-    model.Meshes.push_back(Upright(texture, WallRegion(2), hx, hz, -hx, hz, 0, high, 2, 2));
-    model.Meshes.push_back(Upright(texture, WallRegion(3), -hx, hz, -hx, -hz, 0, high, 2, 2));
+    model.Meshes.push_back(Upright(texture, WallRegion(0), -hx, -hz, hx, -hz, 0, high, 2));
+    model.Meshes.push_back(Upright(texture, WallRegion(1), hx, -hz, hx, hz, 0, high, 2));
+    model.Meshes.push_back(Upright(texture, WallRegion(2), hx, hz, -hx, hz, 0, high, 2));
+    model.Meshes.push_back(Upright(texture, WallRegion(3), -hx, hz, -hx, -hz, 0, high, 2));
 }
 
 // Ridge along x; the roof reaches over the walls.
 void AddRoof(Model& model, const std::string& texture, double hx, double hz, double eaves, double ridge)
 {
     const double over = 0.55, low = eaves - 0.25, x = hx + 0.35, z = hz + over;
-    model.Meshes.push_back(
-        Face(texture, RoofRegion(0), {-x, low, -z}, {x, low, -z}, {x, ridge, 0}, {-x, ridge, 0}, 3, 2));
-    model.Meshes.push_back(
-        Face(texture, RoofRegion(1), {x, low, z}, {-x, low, z}, {-x, ridge, 0}, {x, ridge, 0}, 3, 2));
+    model.Meshes.push_back(Face(texture, RoofRegion(0), {-x, low, -z}, {x, low, -z}, {x, ridge, 0}, {-x, ridge, 0}, 2));
+    model.Meshes.push_back(Face(texture, RoofRegion(1), {x, low, z}, {-x, low, z}, {-x, ridge, 0}, {x, ridge, 0}, 2));
     const Region east{2 * RoofWidth, 0, 64, RoofHeight - 14}, west{2 * RoofWidth + 64, 0, 64, RoofHeight - 14};
     model.Meshes.push_back(
         Face(texture, east, {hx, eaves, -hz}, {hx, eaves, hz}, {hx, ridge - 0.1, 0}, {hx, ridge - 0.1, 0}));

@@ -32,7 +32,7 @@ std::vector<Kind> Plants()
         {"pine", 4.2, 4.2, 11.5, Shadow::Crown, false},   {"pine_r", 4.2, 4.2, 11.5, Shadow::Crown, true},
         {"plane", 6.2, 6.2, 16.0, Shadow::Crown, false},  {"oak", 3.4, 3.4, 7.5, Shadow::Crown, false},
         {"olive", 2.2, 2.2, 4.4, Shadow::Crown, false},   {"bush", 1.5, 1.5, 1.8, Shadow::Crown, false},
-        {"hedge", 3.0, 0.7, 2.4, Shadow::Block, false},   {"hedge_long", 6.0, 0.7, 2.4, Shadow::Block, false},
+        {"hedge", 3.0, 0.7, 2.4, Shadow::Block, false},   {"hedge_rim", 6.0, 0.7, 2.4, Shadow::Block, false},
     };
     for (const Kind& tree : std::vector<Kind>(kinds))
         if (HasFarModel(tree.Name))
@@ -43,15 +43,25 @@ std::vector<Kind> Plants()
 std::vector<Kind> Furniture()
 {
     std::vector<Kind> kinds{
-        {"stonewall", 6.0, 0.35, 1.3, Shadow::Block, false}, {"pitwall", 6.0, 0.25, 1.0, Shadow::Block, false},
-        {"fence", 6.0, 0.1, 2.6, Shadow::None, false},       {"tyres", 0.75, 0.75, 1.1, Shadow::Block, true},
-        {"cone", 0.3, 0.3, 0.75, Shadow::Block, false},      {"bollard", 0.2, 0.2, 1.0, Shadow::Block, false},
-        {"bale", 1.0, 0.8, 1.9, Shadow::Block, false},       {"sign_100", 0.9, 0.1, 2.2, Shadow::None, false},
-        {"sign_50", 0.9, 0.1, 2.2, Shadow::None, false},     {"arrows", 3.0, 0.1, 1.8, Shadow::Block, false},
-        {"arrows_r", 3.0, 0.1, 1.8, Shadow::Block, false},   {"pier", 1.5, 12.0, 1.2, Shadow::None, false},
-        {"sailboat", 1.3, 3.2, 9.0, Shadow::None, false},    {"rowboat", 0.8, 2.0, 0.8, Shadow::None, false},
-        {"parasol", 1.5, 1.5, 2.4, Shadow::Roof, false},     {"flag", 0.2, 0.2, 8.0, Shadow::None, false},
-        {"wallend", 0.55, 0.55, 1.6, Shadow::Block, false},  {"backdrop", 0, 0, 0, Shadow::None, false},
+        {"stonewall", 6.0, 0.35, 1.3, Shadow::Block, false},
+        {"pitwall", 6.0, 0.25, 1.0, Shadow::Block, false},
+        {"fence", 6.0, 0.1, 2.6, Shadow::None, false},
+        {"tyres", 0.75, 0.75, 1.1, Shadow::Block, true},
+        {"cone", 0.3, 0.3, 0.75, Shadow::Block, false},
+        {"bollard", 0.2, 0.2, 1.0, Shadow::Block, false},
+        {"bale", 1.0, 0.8, 1.9, Shadow::Block, false},
+        {"sign_100", 0.9, 0.1, 2.2, Shadow::None, false},
+        {"sign_50", 0.9, 0.1, 2.2, Shadow::None, false},
+        {"arrows", 3.0, 0.1, 1.8, Shadow::Block, false},
+        {"arrows_r", 3.0, 0.1, 1.8, Shadow::Block, false},
+        {"pier", 1.5, 12.0, 1.2, Shadow::None, false},
+        {"sailboat", 1.3, 3.2, 9.0, Shadow::None, false},
+        {"rowboat", 0.8, 2.0, 0.8, Shadow::None, false},
+        {"parasol", 1.5, 1.5, 2.4, Shadow::Roof, false},
+        {"flag", 0.2, 0.2, 8.0, Shadow::None, false},
+        {"stonewall_rim", 6.0, 0.35, 1.3, Shadow::Block, false},
+        {"wallend", 0.55, 0.55, 1.6, Shadow::Block, false},
+        {"backdrop", 0, 0, 0, Shadow::None, false},
     };
     for (int i = 1; i <= 6; ++i)
         kinds.push_back({"board_" + std::to_string(i), 4.0, 0.1, 1.6, Shadow::Block, false});

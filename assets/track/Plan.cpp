@@ -257,6 +257,17 @@ void PutLayBys(Builder& put, const Plan& plan)
         }
     }
 }
+
+// Objects are drawn in the order of the map, and what is hidden already costs least: the backdrop comes last.
+int DrawingTurn(const std::string& name)
+{
+    const Shadow cast = KindOf(name).Cast;
+    if (name == "backdrop")
+        return 3;
+    if (name.ends_with(Far))
+        return 2;
+    return cast == Shadow::Crown || cast == Shadow::Cone ? 1 : 0;
+}
 }
 
 Plan MakePlan()
@@ -308,7 +319,8 @@ Plan MakePlan()
     ThinFarTrees(plan);
     PutGuards(plan);
     std::stable_sort(plan.Items.begin(), plan.Items.end(),
-                     [](const Standing& a, const Standing& b) { return a.Name < b.Name; });
+                     [](const Standing& a, const Standing& b)
+                     { return std::pair(DrawingTurn(a.Name), a.Name) < std::pair(DrawingTurn(b.Name), b.Name); });
     return plan;
 }
 }

@@ -144,9 +144,9 @@ const std::vector<Driver>& Drivers()
     constexpr double Rolling = 0.0005; // so little that a car with any damage still moves
     // The user's; three that race for the first place; four for whoever is learning.
     static const std::vector<Driver> drivers{
-        {0.0640, 5.35, 1.3, 0.0410, 0.045, Rolling}, {0.0640, 5.54, 1.2, 0.0416, 0.042, Rolling},
-        {0.0640, 5.58, 1.2, 0.0425, 0.042, Rolling}, {0.0640, 5.62, 1.2, 0.0433, 0.042, Rolling},
-        {0.0640, 5.24, 1.2, 0.0340, 0.042, Rolling}, {0.0640, 5.20, 1.2, 0.0315, 0.042, Rolling},
+        {0.0640, 5.35, 1.3, 0.0410, 0.045, Rolling}, {0.0640, 5.59, 1.2, 0.0434, 0.042, Rolling},
+        {0.0640, 5.63, 1.2, 0.0443, 0.042, Rolling}, {0.0640, 5.67, 1.2, 0.0451, 0.042, Rolling},
+        {0.0640, 5.22, 1.2, 0.0335, 0.042, Rolling}, {0.0640, 5.18, 1.2, 0.0310, 0.042, Rolling},
         {0.0640, 5.16, 1.2, 0.0290, 0.042, Rolling}, {0.0640, 5.12, 1.2, 0.0270, 0.042, Rolling},
     };
     return drivers;

@@ -50,7 +50,10 @@ void WriteStoneWall(const ModelFolder& folder)
             picture.Set(x, y, c * (y < 22 ? 0.8 + 0.14 * y / 22 : y < 25 ? 0.98 : 1.06));
         }
     folder.Texture("stonewall", picture);
-    folder.Write("stonewall", WallModel("stonewall", Width, 34, 25, 0.35, 1.3));
+    Model wall = WallModel("stonewall", Width, 34, 25, 0.35, 1.3);
+    folder.Write("stonewall", wall);
+    wall.Meshes = {Upright("stonewall", {0, 0, Width, 25}, -6, -0.35, 6, -0.35, 0, 1.3), wall.Meshes[2]};
+    folder.Write("stonewall_rim", wall); // seen from afar, and its back looks out of the world
 }
 
 void WritePitWall(const ModelFolder& folder)

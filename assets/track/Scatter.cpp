@@ -174,7 +174,7 @@ void ScatterTrees(Plan& plan)
 
 void ThinFarTrees(Plan& plan)
 {
-    constexpr double Beside = 32;    // from the middle of the road: cars come no nearer than what has guards
+    constexpr double Beside = 24;    // from the middle of the road
     constexpr double BushesEnd = 60; // a bush farther away is lost in the grass
     const auto away = [&](const Standing& item)
     {

@@ -32,7 +32,7 @@ const std::map<std::string, std::vector<Stop>>& AllStops()
         {"olive", {{0, 0, 0.4}}},
         {"cypress", {{0, 0, 0.5}}},
         {"hedge", StopRow(3, 2.0, 0, 0.9)},
-        {"hedge_long", StopRow(6, 2.0, 0, 0.9)},
+        {"hedge_rim", StopRow(6, 2.0, 0, 0.9)},
         {"gallery", {{-3, -1.6, 0.5}, {3, -1.6, 0.5}}},
         {"arch", {{-11.5, 0, 1.9}, {11.5, 0, 1.9}}},
         {"rowhouse_a", BehindFront(6)},

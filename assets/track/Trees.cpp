@@ -1,4 +1,4 @@
-// Trees: a trunk, a low round crown that is closed all about, and three upright cuts through it whose ragged rims stand
+// Trees: a trunk, a low round crown that is closed all about, and upright cuts through it whose ragged rims stand
 // out of it. They are lit for AngleA = 0.
 #include "assets/track/Leaves.h"
 #include "assets/track/Light.h"
@@ -19,8 +19,9 @@ struct Tree
     double TuftRadius;            // world units
     double Scale;                 // texels a unit
     int Sides;                    // of the round crown
-    int Cells;                    // of a cut, one above the other
-    bool BesideRoad;              // comes in a second form, with a trunk that is hit
+    int Cuts;
+    int Cells;       // of a cut, one above the other
+    bool BesideRoad; // comes in a second form, with a trunk that is hit
     Leafage Leaves;
 };
 
@@ -35,6 +36,7 @@ const std::vector<Tree>& Trees()
          .TuftRadius = 0.42,
          .Scale = 12,
          .Sides = 4,
+         .Cuts = 2,
          .Cells = 1,
          .BesideRoad = true,
          .Leaves = {Hex(0x96A64C), Hex(0x557637), Hex(0x34512F), 21}},
@@ -46,6 +48,7 @@ const std::vector<Tree>& Trees()
          .TuftRadius = 0.85,
          .Scale = 11,
          .Sides = 5,
+         .Cuts = 3,
          .Cells = 1,
          .BesideRoad = true,
          .Leaves = {Hex(0xA9BA52), Hex(0x66883C), Hex(0x3B5930), 31}},
@@ -57,6 +60,7 @@ const std::vector<Tree>& Trees()
          .TuftRadius = 0.8,
          .Scale = 12,
          .Sides = 5,
+         .Cuts = 3,
          .Cells = 1,
          .BesideRoad = false,
          .Leaves = {Hex(0xBCBC58), Hex(0x708A40), Hex(0x435E33), 41}},
@@ -68,6 +72,7 @@ const std::vector<Tree>& Trees()
          .TuftRadius = 0.6,
          .Scale = 13,
          .Sides = 4,
+         .Cuts = 3,
          .Cells = 1,
          .BesideRoad = false,
          .Leaves = {Hex(0xC8CCA2), Hex(0x8A9A6E), Hex(0x5A6A4E), 51}},
@@ -79,6 +84,7 @@ const std::vector<Tree>& Trees()
          .TuftRadius = 0.45,
          .Scale = 14,
          .Sides = 4,
+         .Cuts = 3,
          .Cells = 1,
          .BesideRoad = false,
          .Leaves = {Hex(0xB2B85A), Hex(0x68843E), Hex(0x43603A), 61}},
@@ -90,6 +96,7 @@ const std::vector<Tree>& Trees()
          .TuftRadius = 1.15,
          .Scale = 10,
          .Sides = 7,
+         .Cuts = 3,
          .Cells = 2,
          .BesideRoad = false,
          .Leaves = {Hex(0xCCC968), Hex(0x83994A), Hex(0x4C683C), 71}},
@@ -102,7 +109,7 @@ std::vector<Ring>::const_iterator Widest(const std::vector<Ring>& crown)
     return std::max_element(crown.begin(), crown.end(), [](const Ring& a, const Ring& b) { return a.R < b.R; });
 }
 
-// Where the parts of a tree's sheet lie: the cut that runs toward the sun, the one for the two others, skin and bark.
+// Where the parts of a tree's sheet lie: the cut that runs toward the sun, the one for the others, skin and bark.
 struct Sheet
 {
     Region ToSun, Askew, Skin, Bark;
@@ -162,9 +169,9 @@ void AddTrunk(Model& model, const Tree& tree, const Sheet& sheet)
 void AddCuts(Model& model, const Tree& tree, const Sheet& sheet)
 {
     const double half = Widest(tree.Crown)->R, low = tree.Crown.front().Y, high = tree.Crown.back().Y;
-    for (int cut = 0; cut < 3; ++cut)
+    for (int cut = 0; cut < tree.Cuts; ++cut)
     {
-        const double turn = (cut - 1) * Pi / 3, c = std::cos(turn) * half, s = std::sin(turn) * half;
+        const double turn = (cut - 1) * Pi / tree.Cuts, c = std::cos(turn) * half, s = std::sin(turn) * half;
         const double x = SunX * c - SunZ * s, z = SunX * s + SunZ * c;
         model.Meshes.push_back(
             Upright(tree.Name, cut == 1 ? sheet.ToSun : sheet.Askew, x, z, -x, -z, low, high, 1, tree.Cells));

@@ -24,7 +24,7 @@ std::vector<WallEnd> EndsOfWalls(const Plan& plan)
     std::vector<WallEnd> ends;
     for (const Standing& item : plan.Items)
     {
-        if (item.Name != "stonewall")
+        if (item.Name != "stonewall" && item.Name != "stonewall_rim")
             continue;
         const double c = std::cos(item.Angle), s = std::sin(item.Angle), half = KindOf(item.Name).HalfX;
         for (const double side : {-1.0, 1.0})
