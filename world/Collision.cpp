@@ -264,28 +264,51 @@ void Collide(Simulation& sim)
     ListBodies(sim);
     const std::vector<std::int16_t>& bodies = sim.Scratch.Bodies;
     std::vector<Footprint>& footprints = sim.Scratch.Footprints;
+    std::vector<std::uint8_t>& rows = sim.Scratch.Rows;
     NearStrips& strips = sim.Scratch.Strips;
+    Settled& rest = sim.Scratch.Rest;
     const auto object = [&](std::size_t body) { return static_cast<std::size_t>(bodies[body]); };
     const auto place = [&](std::size_t body)
     {
         const render::Obj& placed = sim.Scene.Objects.Items[object(body)];
+        strips.Remove(body, footprints[body]);
         footprints[body] = FootprintOf(placed.X, placed.Z, placed.Radius);
         strips.Add(body, footprints[body]);
     };
+    const auto markRows = [&](std::size_t stirred)
+    {
+        strips.Look(footprints[stirred], NearStrips::BeforeAll);
+        for (std::size_t row = strips.Next(NearStrips::BeforeAll); row <= stirred; row = strips.Next(row))
+            rows[row] = 1;
+    };
 
-    strips.Reset(bodies.size());
-    footprints.resize(bodies.size());
+    rest.Compare(sim.Scene.Objects.Items, bodies, sim.Scratch.CarOf);
+    rows.assign(bodies.size(), 0);
+    if (rest.IsOtherList())
+    {
+        strips.Reset(bodies.size());
+        footprints.assign(bodies.size(), {});
+    }
     for (std::size_t body = 0; body < bodies.size(); ++body)
-        place(body);
+        if (rest.IsStirred(body))
+            place(body);
+    for (std::size_t body = 0; body < bodies.size(); ++body)
+        if (rest.IsStirred(body))
+            markRows(body);
     for (std::size_t a = 0; a < bodies.size(); ++a)
     {
+        if (rows[a] == 0)
+            continue;
         strips.Look(footprints[a], a);
         for (std::size_t b = strips.Next(a); b < bodies.size(); b = strips.Next(b))
-            if (CollidePair(sim, object(a), object(b)))
+            if ((rest.IsStirred(a) || rest.IsStirred(b)) && CollidePair(sim, object(a), object(b)))
             {
-                // Both have moved: a meets the rest of its row from where it is now, b its own row later.
+                // Both have moved: a meets the rest of its row from where it is now, b the rows after it and its own.
+                rest.Stir(a);
+                rest.Stir(b);
                 place(a);
                 place(b);
+                markRows(b);
                 strips.Look(footprints[a], b);
             }
     }

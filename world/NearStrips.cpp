@@ -63,6 +63,15 @@ void NearStrips::Add(std::size_t body, const Footprint& at)
         AlongZ[StripNumber(at.FirstZ + n) * Words + body / 64] |= bit;
 }
 
+void NearStrips::Remove(std::size_t body, const Footprint& at)
+{
+    const Bits others = ~(Bits{1} << (body % 64));
+    for (int n = 0; n < at.CountX; ++n)
+        AlongX[StripNumber(at.FirstX + n) * Words + body / 64] &= others;
+    for (int n = 0; n < at.CountZ; ++n)
+        AlongZ[StripNumber(at.FirstZ + n) * Words + body / 64] &= others;
+}
+
 // Whole strips are joined word by word: long runs of the same simple step, whatever the bodies are.
 void NearStrips::Gather(const std::vector<Bits>& strips, int first, int count, std::size_t from,
                         std::vector<Bits>& into) const

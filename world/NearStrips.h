@@ -24,9 +24,11 @@ public:
 
     // Takes away all bodies and makes room. No allocation for a number had before.
     void Reset(std::size_t bodies);
-    // Also after a move: a body stays where it was as well, which only gives candidates more.
     void Add(std::size_t body, const Footprint& at);
-    // Looks for the bodies above `after` that share strips with the footprint; Next names them.
+    // at: where it was added.
+    void Remove(std::size_t body, const Footprint& at);
+    // Looks for the bodies above `after` that share strips with the footprint, itself among them; Next names them.
+    static constexpr std::size_t BeforeAll = static_cast<std::size_t>(-1); // one below 0
     void Look(const Footprint& at, std::size_t after);
     // The first body above `after` that the last Look found; the number of bodies when there is none.
     std::size_t Next(std::size_t after) const;

@@ -7,6 +7,7 @@
 #include "render/Scene.h"
 #include "world/NearStrips.h"
 #include "world/Race.h"
+#include "world/Settled.h"
 
 #include <cstdint>
 #include <vector>
@@ -38,6 +39,8 @@ struct TickScratch
     std::vector<std::int16_t> Bodies;     // the objects that can touch, by index
     std::vector<Footprint> Footprints;    // by body, as it stands
     NearStrips Strips;
+    Settled Rest;                        // the same bodies: what is known of those that have not moved
+    std::vector<std::uint8_t> Rows;      // by body: whether a pair that begins with it may touch
     std::vector<render::Point3> Centres; // of the spheres of the second of a pair
 };
 

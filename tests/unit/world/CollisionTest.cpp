@@ -484,6 +484,41 @@ TEST_P(Collision, WhatIsNoNumberCollidesWithNothing)
         }
 }
 
+TEST_P(Collision, WhatAScriptPutsBackMeetsItsNeighbours)
+{
+    World.AddBall(1, 1, 1, 1);
+    World.AddBall(0, 0, 1, 1);
+    World.AddBall(1.9f, 0, 1, 1);
+    const render::Obj second = World.Object(1), third = World.Object(2);
+    Collide(); // the first pushes the second away from the third
+    EXPECT_LT(World.Object(1).Z, 0.0f);
+    World.Object(0).X = 50;
+    World.Object(1) = second;
+    World.Object(2) = third;
+    Collide();
+    EXPECT_NEAR(World.Object(1).X, -0.1, 1e-6);
+    EXPECT_NEAR(World.Object(2).X, 2.0, 1e-6);
+}
+
+TEST_P(Collision, WhoStandsStillIsHitOnceItsSpeedIsANumber)
+{
+    for (const bool getsOut : {false, true})
+    {
+        World.Scene.Objects = {};
+        World.Race = {};
+        World.AddCar(0, 0);
+        World.AddBall(1, 0, 1, 1);
+        World.Player(0).Speed = std::numeric_limits<float>::quiet_NaN();
+        Collide();
+        EXPECT_EQ(World.Object(1).X, 1.0f);
+        World.Player(0).Speed = 1;
+        if (getsOut)
+            World.Player(0).Obj = -1;
+        Collide();
+        EXPECT_GT(World.Object(1).X, 1.0f);
+    }
+}
+
 TEST_P(Collision, PlayersOfNoObjectOrOfTheSameOneAreHarmless)
 {
     World.AddCar(0, 0);
