@@ -34,7 +34,7 @@ run 1000
 checksum
 frame driver.bmp
 S
-# Each in a folder of its own, all at once: one without optimisation takes as long as the others together.
+# Each in a folder of its own, all at once: those with sanitizers take as long as the others together.
 numbers=() pids=()
 end_drives() { kill "${pids[@]}" 2>/dev/null || true; }
 trap end_drives EXIT
