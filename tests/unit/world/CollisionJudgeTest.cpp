@@ -93,6 +93,17 @@ std::vector<std::uint64_t> Bits(const support::World& world)
     return bits;
 }
 
+// A walk in both worlds, the fast and the plain one. Whether anything touched.
+bool CollideBoth(support::World& fast, support::World& plain)
+{
+    const std::vector<std::uint64_t> before = Bits(plain);
+    world::Simulation fastSim = fast.Sim();
+    world::Simulation plainSim = plain.Sim();
+    world::Collide(fastSim);
+    world::CollidePlain(plainSim);
+    return Bits(plain) != before;
+}
+
 struct CollisionJudge : testing::TestWithParam<Recipe>
 {
 };
@@ -118,18 +129,15 @@ TEST_P(CollisionJudge, EveryTickGivesTheSameBits)
         support::World plain = fast;
         for (int tick = 0; tick < 12; ++tick)
         {
-            const std::vector<std::uint64_t> before = Bits(plain);
-            world::Simulation fastSim = fast.Sim();
-            world::Simulation plainSim = plain.Sim();
-            world::Collide(fastSim);
-            world::CollidePlain(plainSim);
+            touched += CollideBoth(fast, plain) ? 1 : 0;
             ASSERT_EQ(Bits(fast), Bits(plain)) << "seed " << seed << ", tick " << tick;
-            touched += Bits(plain) != before ? 1 : 0;
             // A car that is moved by a script or drives on between the ticks.
-            for (world::Player& player : fast.Race.Players)
-                world::MoveCar(fastSim, player);
-            for (world::Player& player : plain.Race.Players)
-                world::MoveCar(plainSim, player);
+            for (support::World* world : {&fast, &plain})
+            {
+                world::Simulation sim = world->Sim();
+                for (world::Player& player : world->Race.Players)
+                    world::MoveCar(sim, player);
+            }
         }
     }
     EXPECT_GE(touched, 12); // otherwise nothing was compared
@@ -187,13 +195,8 @@ TEST(CollisionJudgeMeddled, GiveTheSameBits)
         plainHand.Seed(seed + 500);
         for (int tick = 0; tick < 40; ++tick)
         {
-            const std::vector<std::uint64_t> before = Bits(plain);
-            world::Simulation fastSim = fast.Sim();
-            world::Simulation plainSim = plain.Sim();
-            world::Collide(fastSim);
-            world::CollidePlain(plainSim);
+            touched += CollideBoth(fast, plain) ? 1 : 0;
             ASSERT_EQ(Bits(fast), Bits(plain)) << "seed " << seed << ", tick " << tick;
-            touched += Bits(plain) != before ? 1 : 0;
             if (tick % 3 != 0)
                 continue;
             Meddle(fast, fastHand);
@@ -230,10 +233,7 @@ TEST(CollisionJudgeOddNumbers, GiveTheSameBits)
         support::World plain = fast;
         for (int tick = 0; tick < 5; ++tick)
         {
-            world::Simulation fastSim = fast.Sim();
-            world::Simulation plainSim = plain.Sim();
-            world::Collide(fastSim);
-            world::CollidePlain(plainSim);
+            CollideBoth(fast, plain);
             ASSERT_EQ(Bits(fast), Bits(plain)) << "seed " << seed << ", tick " << tick;
         }
     }
