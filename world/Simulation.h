@@ -29,8 +29,9 @@ struct KnownRotation
     render::Rotation Rotation;    // of the angles above
 };
 
-// What the procedures of a step derive, kept so that no step allocates. Each of them fills what it reads: nothing here
-// is a part of the game's state, needs to be reset or saved. Owned beside the Race.
+// What the procedures of a step derive, kept so that no step allocates. Each of them fills what it reads, or compares
+// it with the scene before it trusts it (Rest, and with it Footprints and Strips): nothing here is a part of the game's
+// state, needs to be reset or saved. Owned beside the Race.
 struct TickScratch
 {
     std::vector<Standing> Standings;      // ComputePlaces: all players, the first first
