@@ -1,9 +1,12 @@
 // render/Blend.h: two pixels mixed, channel by channel, in double precision.
 #pragma once
 #include "base/Numbers.h"
-#include "render/Double2.h"
 
 #include <cstdint>
+#if defined(__SSE2__) || defined(_M_X64)
+#include <emmintrin.h>
+#define VELKAR_SSE2 1
+#endif
 
 namespace render
 {

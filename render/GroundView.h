@@ -28,7 +28,7 @@ struct GroundView
     // The screen's tables.
     const float *RowAngle = nullptr, *RowSlant = nullptr, *RowDist = nullptr; // by row
     const float *BlurWeight = nullptr, *TapCount = nullptr;                   // by row
-    const double* ColumnSlope = nullptr;                                      // by column, and one more
+    const double* ColumnSlope = nullptr;                                      // by column, and three more
 
     // What is written.
     ColumnTaps* Taps = nullptr; // by column

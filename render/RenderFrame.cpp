@@ -2,13 +2,13 @@
 
 #include "base/Numbers.h"
 #include "render/Draw2D.h"
-#include "render/Ground.h"
 #include "render/GroundThreads.h"
+#include "render/GroundView.h"
 #include "render/Lines.h"
+#include "render/Meshes.h"
 #include "render/RowTables.h"
 #include "render/Sprites.h"
 #include "render/Text.h"
-#include "render/Triangles.h"
 
 #include <algorithm>
 
@@ -37,63 +37,13 @@ bool IsInView(const Camera& camera, const Screen& screen, const Obj& object)
     return s.X + r >= 0.0 && s.X - r <= screen.ScreenW && s.Y + r >= 0.0 && s.Y - r < screen.ScreenH;
 }
 
-// Calls draw(triangle) for the two triangles of every cell, (i, j), (i + 1, j), (i, j + 1) and (i + 1, j + 1),
-// (i + 1, j), (i, j + 1). transform(point) gives a point's vertex; neighbouring cells share it.
-template <class Transform, class Draw> void ForEachTriangle(const PointGrid& grid, Transform&& transform, Draw&& draw)
-{
-    if (grid.Cols < 2)
-        return;
-    for (std::int32_t i = 0; i + 1 < grid.Rows; ++i)
-    {
-        Vertex a = transform(grid.At(i, 0)), b = transform(grid.At(i + 1, 0));
-        for (std::int32_t j = 0; j + 1 < grid.Cols; ++j)
-        {
-            const Vertex c = transform(grid.At(i, j + 1)), d = transform(grid.At(i + 1, j + 1));
-            draw(Triangle{a, b, c});
-            draw(Triangle{d, b, c});
-            a = c;
-            b = d;
-        }
-    }
-}
-
-base::ConstSurface TextureOf(const Scene& scene, std::int16_t slot)
-{
-    if (!scene.Textures.Has(slot) || scene.Textures.At(slot).Free != 0)
-        return {};
-    const Texture& texture = scene.Textures.At(slot);
-    return MakeSurface(texture.Pic);
-}
-
-void DrawMesh(const Scene& scene, const Camera& camera, Screen& screen, const Obj& object, const Rotation& rotation,
-              const ObjMesh& mesh)
-{
-    const auto transform = [&](const MeshPt& point)
-    {
-        return TransformVertex(camera, screen,
-                               RotatePoint(rotation, {object.X, object.Y, object.Z}, {point.X, point.Y, point.Z}),
-                               point.U, point.V);
-    };
-    if (mesh.Colour < 0)
-        ForEachTriangle(mesh.Pts, transform,
-                        [&, texture = TextureOf(scene, mesh.TexIndex)](const Triangle& triangle)
-                        { DrawTriTex(camera, screen, triangle, texture); });
-    else
-        ForEachTriangle(mesh.Pts, transform,
-                        [&, colour = mesh.Col](const Triangle& triangle)
-                        { DrawTriFlat(scene, camera, screen, triangle, colour); });
-}
-
+// World meshes are always flat-coloured.
 void DrawWorldMeshes(const Scene& scene, const Camera& camera, Screen& screen)
 {
-    const auto transform = [&](const MeshPt& point) {
-        return TransformVertex(camera, screen, {point.X, point.Y, point.Z});
-    };
+    VertexRoom room;
     for (const ObjMesh& mesh : scene.WorldMeshes)
         if (IsDrawn(mesh))
-            ForEachTriangle(mesh.Pts, transform,
-                            [&, colour = mesh.Col](const Triangle& triangle)
-                            { DrawTriFlat(scene, camera, screen, triangle, colour); });
+            DrawFlatMesh(scene, camera, screen, mesh, {}, room);
 }
 
 void DrawPolys(const Scene& scene, const Camera& camera, Screen& screen)
@@ -119,23 +69,25 @@ void DrawGround(const Scene& scene, const Camera& camera, Screen& screen, Ground
     {
         std::atomic<bool> never{false};
         StopCheck check(never);
-        return DrawGroundBand(view, screen.Bands.front(), check);
+        return screen.Kernels->DrawGroundBand(view, screen.Bands.front(), check);
     }
     threads.Resize(HelpersFor(screen.Bands.size()));
-    threads.Run([&view](const Band& band, StopCheck& check) { DrawGroundBand(view, band, check); }, screen.Bands,
-                std::chrono::milliseconds(screen.GroundLimit));
+    threads.Run([&view, draw = screen.Kernels->DrawGroundBand](const Band& band, StopCheck& check)
+                { draw(view, band, check); },
+                screen.Bands, std::chrono::milliseconds(screen.GroundLimit));
 }
 
 void DrawObjects(const Scene& scene, const Camera& camera, Screen& screen)
 {
+    VertexRoom room;
     for (const Obj& object : scene.Objects.Items)
     {
         if (!IsDrawn(object) || !IsInView(camera, screen, object))
             continue;
-        const Rotation rotation = MakeRotation(object.AngleA, object.AngleB);
+        const MeshPlace place{true, {object.X, object.Y, object.Z}, MakeRotation(object.AngleA, object.AngleB)};
         for (const ObjMesh& mesh : object.Mesh)
             if (mesh.Free == 0)
-                DrawMesh(scene, camera, screen, object, rotation, mesh);
+                DrawMesh(scene, camera, screen, mesh, place, room);
     }
 }
 

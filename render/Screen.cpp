@@ -24,7 +24,7 @@ void MakeTables(Screen& screen)
     for (std::vector<float>* table :
          {&screen.RowAngle, &screen.RowSlant, &screen.RowDist, &screen.BlurWeight, &screen.TapCount})
         table->assign(rows, 0.0f);
-    screen.ColumnSlope.assign(columns + 1, 0.0);
+    screen.ColumnSlope.assign(columns + 3, 0.0);
     screen.Taps.assign(columns, ColumnTaps{});
     screen.Bands = MakeBands(screen.ScreenW, screen.ThreadCount);
 }

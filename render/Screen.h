@@ -8,6 +8,7 @@
 #include "render/Bands.h"
 #include "render/Camera.h"
 #include "render/PicArray.h"
+#include "render/wide/Kernels.h"
 
 #include <cstdint>
 #include <vector>
@@ -29,6 +30,7 @@ inline constexpr std::int32_t MostTaps = 14; // on each side
 struct ColumnTaps
 {
     std::int32_t Offset[MostTaps] = {}; // bytes from the texel to its k-th neighbour along the ray, k from 1
+    std::int32_t Shared = 0;            // the first so many offsets are those of the column before, in the same band
     bool HasTies = false;               // a step ends between two texels, and the offsets do not hold
 };
 
@@ -54,8 +56,10 @@ struct Screen
     std::vector<float> TapCount;   // texels on each side, with a fraction, 0 to MostTaps; kept while it is Anisotropic
 
     // One entry a screen column.
-    std::vector<double> ColumnSlope; // pixels from CenterX per pixel of zoom; one entry more, for reading in pairs
+    std::vector<double> ColumnSlope; // pixels from CenterX per pixel of zoom; three entries more, for reading in fours
     std::vector<ColumnTaps> Taps;    // written by the pass itself while the filter is Anisotropic
+
+    const render::Kernels* Kernels = &FastestKernels(); // the pixel loops that draw; all draw the same
 
     std::vector<Band> Bands;       // the columns, split as ThreadCount said when the resolution was applied
     std::int32_t GroundLimit = 60; // milliseconds the ground pass may take before it is cut off

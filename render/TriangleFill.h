@@ -4,8 +4,8 @@
 #pragma once
 #include "base/Pixels.h"
 #include "render/Screen.h"
+#include "render/wide/Kernels.h"
 
-#include <algorithm>
 #include <cstdint>
 
 namespace render
@@ -17,16 +17,23 @@ struct ScreenVertex
     double U = 0, V = 0;       // texels, fractions included; not used by flat triangles
 };
 
-// Whether every vertex lies on the same outer side of the screen, or all in one row: nothing to fill.
-inline bool IsRejected(const Screen& screen, const ScreenVertex& a, const ScreenVertex& b, const ScreenVertex& c)
-{
-    return std::max({a.X, b.X, c.X}) < 0 || std::min({a.X, b.X, c.X}) >= screen.ScreenW ||
-           std::max({a.Y, b.Y, c.Y}) < 0 || std::min({a.Y, b.Y, c.Y}) >= screen.ScreenH || (a.Y == b.Y && b.Y == c.Y);
-}
-
 // A pixel is written where its depth is strictly less than the depth cell, which then takes it. Vertices in any order.
-void FillTriFlat(Screen& screen, const ScreenVertex& a, const ScreenVertex& b, const ScreenVertex& c, base::Rgb colour);
+// Nothing is drawn where all lie on the same outer side of the screen, or in one row.
+inline void FillTriFlat(Screen& screen, const ScreenVertex& a, const ScreenVertex& b, const ScreenVertex& c,
+                        base::Rgb colour)
+{
+    screen.Kernels->FillTriFlat(screen, a, b, c, colour);
+}
 // Texels of three zero bytes, and texels outside the texture, leave pixel and depth untouched.
-void FillTriTex(Screen& screen, const ScreenVertex& a, const ScreenVertex& b, const ScreenVertex& c,
-                const base::ConstSurface& texture);
+inline void FillTriTex(Screen& screen, const ScreenVertex& a, const ScreenVertex& b, const ScreenVertex& c,
+                       const base::ConstSurface& texture)
+{
+    screen.Kernels->FillTriTex(screen, a, b, c, texture);
+}
+// False only where the triangle writes no pixel: beside the screen, or hidden by what was drawn before. Finds that out
+// in less time than drawing takes, but not always.
+inline bool MayShow(const Screen& screen, const ScreenVertex& a, const ScreenVertex& b, const ScreenVertex& c)
+{
+    return screen.Kernels->MayShow(screen, a, b, c);
+}
 }

@@ -17,6 +17,13 @@ struct SpanEnd
     std::int32_t U = 0, V = 0;
 };
 
+// Whether every vertex lies on the same outer side of the screen, or all in one row: nothing to fill.
+bool IsRejected(const Screen& screen, const ScreenVertex& a, const ScreenVertex& b, const ScreenVertex& c)
+{
+    return std::max({a.X, b.X, c.X}) < 0 || std::min({a.X, b.X, c.X}) >= screen.ScreenW ||
+           std::max({a.Y, b.Y, c.Y}) < 0 || std::min({a.Y, b.Y, c.Y}) >= screen.ScreenH || (a.Y == b.Y && b.Y == c.Y);
+}
+
 double Between(double a, double b, double n, double d)
 {
     return a + (b - a) * n / d;

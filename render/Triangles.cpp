@@ -73,7 +73,6 @@ ScreenVertex ProjectVertex(const Camera& camera, const Screen& screen, const Cli
     return {at.X, at.Y, from.Z, from.U, from.V};
 }
 
-// False where the projection is not a number, or farther than 32 bits of pixels.
 bool IsPlace(const ScreenVertex& vertex)
 {
     return vertex.X != base::OutOfRange && vertex.Y != base::OutOfRange;
@@ -85,19 +84,24 @@ template <class Fill>
 void ForEachPiece(const Camera& camera, const Screen& screen, const Triangle& triangle, Fill&& fill)
 {
     const auto& [a, b, c] = triangle;
-    const auto fillPiece = [&](const ScreenVertex& p, const ScreenVertex& q, const ScreenVertex& r)
+    const std::uint32_t some = a.Outside | b.Outside | c.Outside;
+    if (IsOutside(triangle))
+        return;
+    if ((some & BeforeNear) == 0)
     {
-        if (IsPlace(p) && IsPlace(q) && IsPlace(r) && !IsRejected(screen, p, q, r))
-            fill(p, q, r);
-    };
-    const float nearZ = screen.NearZ;
-    if (!(a.View.Z < nearZ || b.View.Z < nearZ || c.View.Z < nearZ))
-        return fillPiece(a.Screen, b.Screen, c.Screen);
-    const Pieces pieces = ClipNear(ToClip(a), ToClip(b), ToClip(c), nearZ);
+        if ((some & NoPlace) == 0)
+            fill(a.Screen, b.Screen, c.Screen);
+        return;
+    }
+    const Pieces pieces = ClipNear(ToClip(a), ToClip(b), ToClip(c), screen.NearZ);
     for (std::size_t i = 0; i < pieces.Count; ++i)
-        fillPiece(ProjectVertex(camera, screen, pieces.Triangle[i][0]),
-                  ProjectVertex(camera, screen, pieces.Triangle[i][1]),
-                  ProjectVertex(camera, screen, pieces.Triangle[i][2]));
+    {
+        const auto project = [&](std::size_t vertex)
+        { return ProjectVertex(camera, screen, pieces.Triangle[i][vertex]); };
+        const ScreenVertex p = project(0), q = project(1), r = project(2);
+        if (IsPlace(p) && IsPlace(q) && IsPlace(r))
+            fill(p, q, r);
+    }
 }
 
 // Angle whose tangent is a / b, for a, b of 0 and above.
@@ -107,13 +111,6 @@ double Steepness(double a, double b)
         return HalfPi;
     return a > b ? HalfPi - base::Atan(b / a) : base::Atan(a / b);
 }
-}
-
-Vertex TransformVertex(const Camera& camera, const Screen& screen, const Point3& world, std::int32_t u, std::int32_t v)
-{
-    const Point3 view = WorldToCamera(camera, world.X, world.Y, world.Z);
-    const ClipVertex clip{view.X, view.Y, view.Z, static_cast<double>(u), static_cast<double>(v)};
-    return {world, view, ProjectVertex(camera, screen, clip)};
 }
 
 double Extent(double a, double b, double c)
@@ -141,11 +138,13 @@ double FaceShade(const Point3& a, const Point3& b, const Point3& c)
 
 void DrawTriFlat(const Scene& scene, const Camera& camera, Screen& screen, const Triangle& triangle, base::Rgb colour)
 {
-    bool shaded = false; // the arctangents are left until something shows
+    bool shaded = false; // the arctangents are left until something may show
     double shade = 1.0;
     ForEachPiece(camera, screen, triangle,
                  [&](const ScreenVertex& p, const ScreenVertex& q, const ScreenVertex& r)
                  {
+                     if (!MayShow(screen, p, q, r))
+                         return;
                      if (!shaded)
                      {
                          shade = FaceShade(triangle.A.World, triangle.B.World, triangle.C.World);

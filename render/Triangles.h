@@ -4,28 +4,21 @@
 #include "base/Pixels.h"
 #include "render/Scene.h"
 #include "render/Screen.h"
-#include "render/TriangleFill.h"
-
-#include <cstdint>
+#include "render/Vertices.h"
 
 namespace render
 {
-// A triangle's corner in the three spaces that it passes through, found once for all the triangles that share it.
-struct Vertex
-{
-    Point3 World;        // world units
-    Point3 View;         // camera space: Z is the depth
-    ScreenVertex Screen; // holds in front of the near plane only
-};
-// u, v: texels.
-Vertex TransformVertex(const Camera& camera, const Screen& screen, const Point3& world, std::int32_t u = 0,
-                       std::int32_t v = 0);
-
 // Three vertices for the length of a call.
 struct Triangle
 {
     const Vertex &A, &B, &C;
 };
+
+// Whether the triangle lies wholly beyond one side of the screen, or before the near plane.
+inline bool IsOutside(const Triangle& triangle)
+{
+    return (triangle.A.Outside & triangle.B.Outside & triangle.C.Outside) != 0;
+}
 
 // Largest minus smallest of three coordinates.
 double Extent(double a, double b, double c);

@@ -26,7 +26,7 @@ declare -A may=(
 # folder: its namespace; a folder below it has the same unless it stands here too. What of a system is no device of a
 # back end (platform/StandardStreams.h and the like) belongs to the platform itself.
 declare -A called=(
-    [base]=base [typeface]=typeface [render]=render [world]=world [console]=console [audio]=audio [webcam]=webcam
+    [base]=base [typeface]=typeface [render]=render [render/wide]="render::VELKAR_WIDE render" [world]=world [console]=console [audio]=audio [webcam]=webcam
     [platform]=platform [platform/headless]=headless [platform/sdl]=sdl [platform/win32]="win32 platform"
     [shell]=shell [shell/forms]=forms [shell/panels]=panels [program]=program [tools/drive]=drive [tools/race]=race
     [tools/preview]=preview
@@ -36,7 +36,7 @@ declare -A called=(
 # Where system headers belong: the back ends, and the encoders of music and of pictures.
 system='^(platform/(sdl|win32)/|assets/sound/Mp3\.cpp|tools/preview/Png\.cpp)'
 # The compiler's own, the same on every system; and the library of the benchmarks.
-everywhere='<(emmintrin\.h|benchmark/benchmark\.h)>'
+everywhere='<([ei]mmintrin\.h|benchmark/benchmark\.h)>'
 
 wrong=0
 wrong() { # FILE:LINE MESSAGE

@@ -6,6 +6,7 @@
 #include "render/RowTables.h"
 #include "render/Sprites.h"
 #include "render/Triangles.h"
+#include "tests/support/PlainKernels.h"
 #include "tests/support/Scenes.h"
 
 #include <gtest/gtest.h>
@@ -471,6 +472,9 @@ TEST(RenderFrame, IsThePlainFrameForRandomWorlds)
             { return static_cast<float>(support::Draw(place, least, most)); };
             view->Look(draw(0, 120), draw(0.5, 12), draw(0, 90), draw(-4, 4), draw(-0.9, 0.3));
         }
+        const auto sets = render::RunnableKernels();
+        fast.Screen.Kernels = &sets[sets.size() - 1 - static_cast<std::size_t>(round) % sets.size()];
+        plain.Screen.Kernels = &support::PlainKernels;
         RenderFrame(scene, fast.Camera, fast.Screen, fast.Threads);
         DrawPlain(scene, plain.Camera, plain.Screen);
         ASSERT_EQ(fast.Screen.Frame.Bytes, plain.Screen.Frame.Bytes) << round;

@@ -215,34 +215,45 @@ TEST(FillTri, ATexelOutsideItsTextureDrawsNothing)
     EXPECT_EQ(view.Depth(6, 0), render::FarDepth); // u 16
 }
 
-TEST(FillTri, FastIsPlainForRandomTriangles)
+namespace
+{
+// Triangles over one another, of all sizes, on a screen of that width, by the plain routines and by a set of fast ones.
+void CompareRandom(const render::Kernels& kernels, int width, int rounds)
 {
     base::Random random;
     random.Seed(21);
     const render::Picture picture = support::Noise(random, 40, 30, 0.1);
     const base::ConstSurface texture = render::MakeSurface(picture.Pixels, 40, 30);
-    support::View plain(241, 203), fast(241, 203);
+    support::View plain(width, 203), fast(width, 203);
+    fast.Screen.Kernels = &kernels;
     const double reach[] = {3, 30, 300, 5e3, 1e6, 2.1e9};
-    std::size_t drawn = 0;
-    for (int round = 0; round < 6000; ++round)
+    std::size_t drawn = 0, hidden = 0;
+    for (int round = 0; round < rounds; ++round)
     {
         if (round % 500 == 0)
             for (support::View* view : {&plain, &fast})
                 std::fill(view->Screen.Depth.Cells.begin(), view->Screen.Depth.Cells.end(), render::FarDepth);
         ScreenVertex corner[3];
         const double size = reach[round % 6];
-        const double x = support::Draw(random, 0, 241), y = support::Draw(random, 0, 203);
+        const double x = support::Draw(random, 0, width), y = support::Draw(random, 0, 203);
         const double ending = round % 2 == 0 ? 40.0 : 4.0;
+        // A texture's own texels only, or beyond its sides too.
+        const double beyond = round % 4 < 2 ? 5.0 : 0.0;
         for (ScreenVertex& c : corner)
             c = At(base::RoundEven(std::clamp(x + support::Draw(random, -size, size), -2.1e9, 2.1e9)),
                    base::RoundEven(std::clamp(y + support::Draw(random, -size, size), -2.1e9, 2.1e9)),
-                   static_cast<float>(support::Draw(random, 0.01, ending)), support::Draw(random, -5, 45),
-                   support::Draw(random, -5, 35));
+                   static_cast<float>(support::Draw(random, 0.01, ending)),
+                   base::RoundEven(support::Draw(random, -beyond, 39 + beyond)),
+                   base::RoundEven(support::Draw(random, -beyond, 29 + beyond)));
         if (round % 7 == 0)
             corner[1].Y = corner[0].Y; // flat bottoms and tops
         if (round % 11 == 0)
             corner[2].X = corner[0].X;
+        if (round % 13 == 0)
+            corner[0].U += 0.5; // cut at the near plane
         const base::Rgb colour{static_cast<std::uint8_t>(round), 2, 3};
+        const std::vector<float> before = plain.Screen.Depth.Cells;
+        const bool mayShow = render::MayShow(fast.Screen, corner[0], corner[1], corner[2]);
         if (round % 3 == 0)
         {
             FillTriFlatPlain(plain.Screen, corner[0], corner[1], corner[2], colour);
@@ -255,12 +266,58 @@ TEST(FillTri, FastIsPlainForRandomTriangles)
         }
         ASSERT_EQ(plain.Screen.Frame.Bytes, fast.Screen.Frame.Bytes) << round;
         ASSERT_EQ(plain.Screen.Depth.Cells, fast.Screen.Depth.Cells) << round;
+        ASSERT_TRUE(mayShow || before == plain.Screen.Depth.Cells) << round;
+        hidden += mayShow ? 0 : 1;
         if (round % 500 == 499)
             drawn +=
                 static_cast<std::size_t>(std::count_if(fast.Screen.Depth.Cells.begin(), fast.Screen.Depth.Cells.end(),
                                                        [](float z) { return z != render::FarDepth; }));
     }
-    EXPECT_GT(drawn, 100000u);
+    EXPECT_GT(drawn, static_cast<std::size_t>(width) * 100u);
+    const std::size_t leastHidden = width < 4 ? 0 : static_cast<std::size_t>(rounds) / 10;
+    EXPECT_GE(hidden, leastHidden);
+}
+}
+
+TEST(FillTri, FastIsPlainForRandomTriangles)
+{
+    for (const render::Kernels& kernels : render::RunnableKernels())
+    {
+        SCOPED_TRACE(kernels.Name);
+        ASSERT_NO_FATAL_FAILURE(CompareRandom(kernels, 241, 4000));
+        for (const int width : {1, 2, 3, 4, 5, 7})
+            ASSERT_NO_FATAL_FAILURE(CompareRandom(kernels, width, 1000));
+    }
+}
+
+// Depths that are no numbers, texels that are none, and pictures of one texel.
+TEST(FillTri, FastIsPlainForOddNumbers)
+{
+    const float nan = std::numeric_limits<float>::quiet_NaN(), inf = std::numeric_limits<float>::infinity();
+    const float depths[] = {1.0f, 2.0f, nan, inf, -inf, -1.0f, 0.0f, 3e38f};
+    const double texels[] = {0.0, 15.0, static_cast<double>(nan), static_cast<double>(inf), -1e300, 2e9, 3.5, 16.0};
+    const render::Picture numbered = Numbered(), one = support::Blank(1, 1);
+    for (const render::Kernels& kernels : render::RunnableKernels())
+    {
+        support::View plain(12, 8), fast(12, 8);
+        fast.Screen.Kernels = &kernels;
+        for (int round = 0; round < 4096; ++round)
+        {
+            const auto depth = [&](int corner) { return depths[round >> 3 * corner & 7]; };
+            const auto texel = [&](int corner) { return texels[(round >> 3 * corner) % 7]; };
+            const ScreenVertex a = At(1, 0, depth(0), texel(1), texel(2)), b = At(9, 3, depth(1), texel(0), texel(3)),
+                               c = At(round % 12, 7, depth(2), texel(3), texel(0));
+            const render::Picture& picture = round % 5 == 0 ? one : numbered;
+            const base::ConstSurface texture = render::MakeSurface(picture);
+            if (round % 64 == 0)
+                for (support::View* view : {&plain, &fast})
+                    std::fill(view->Screen.Depth.Cells.begin(), view->Screen.Depth.Cells.end(), render::FarDepth);
+            FillTriTexPlain(plain.Screen, a, b, c, texture);
+            FillTriTex(fast.Screen, a, b, c, texture);
+            ASSERT_EQ(plain.Screen.Frame.Bytes, fast.Screen.Frame.Bytes) << kernels.Name << " " << round;
+            ASSERT_EQ(plain.Screen.Depth.Cells, fast.Screen.Depth.Cells) << kernels.Name << " " << round;
+        }
+    }
 }
 
 // However far the corners, only the screen's rows and columns are walked.

@@ -1,0 +1,45 @@
+// render/wide/Kernels.h: the pixel loops, once for every instruction set that they are compiled for. The sources in
+// this folder are compiled once a set, in a namespace of its own (VELKAR_WIDE); which set runs is chosen at run time.
+// All write the same bytes.
+#pragma once
+#include "base/Pixels.h"
+#include "render/Bands.h"
+
+#include <cstddef>
+#include <cstdint>
+#include <span>
+
+namespace render
+{
+struct Camera;
+struct GroundView;
+struct MeshPt;
+struct MeshPlace;
+struct Screen;
+struct ScreenVertex;
+struct Vertex;
+class StopCheck;
+
+struct Kernels
+{
+    const char* Name; // of the instruction set
+    // See render/Ground.h.
+    void (*DrawGroundBand)(const GroundView& view, const Band& band, StopCheck& check);
+    // See render/TriangleFill.h.
+    bool (*MayShow)(const Screen& screen, const ScreenVertex& a, const ScreenVertex& b, const ScreenVertex& c);
+    void (*FillTriFlat)(Screen& screen, const ScreenVertex& a, const ScreenVertex& b, const ScreenVertex& c,
+                        base::Rgb colour);
+    void (*FillTriTex)(Screen& screen, const ScreenVertex& a, const ScreenVertex& b, const ScreenVertex& c,
+                       const base::ConstSurface& texture);
+    // See render/Vertices.h.
+    void (*TransformPoints)(const Camera& camera, const Screen& screen, const MeshPlace& place, const MeshPt* points,
+                            std::size_t count, Vertex* vertices);
+};
+
+// Those that this processor can run, the fastest last; at least one.
+std::span<const Kernels> RunnableKernels();
+inline const Kernels& FastestKernels()
+{
+    return RunnableKernels().back();
+}
+}

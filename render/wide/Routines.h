@@ -1,0 +1,14 @@
+// render/wide/Routines.h: what a set of pixel loops consists of; see render/wide/Kernels.h. To be included once for
+// every set, with VELKAR_WIDE its namespace: for that reason without a guard.
+#include "render/wide/Kernels.h"
+
+namespace render::VELKAR_WIDE
+{
+void DrawGroundBand(const GroundView& view, const Band& band, StopCheck& check);
+bool MayShow(const Screen& screen, const ScreenVertex& a, const ScreenVertex& b, const ScreenVertex& c);
+void FillTriFlat(Screen& screen, const ScreenVertex& a, const ScreenVertex& b, const ScreenVertex& c, base::Rgb colour);
+void FillTriTex(Screen& screen, const ScreenVertex& a, const ScreenVertex& b, const ScreenVertex& c,
+                const base::ConstSurface& texture);
+void TransformPoints(const Camera& camera, const Screen& screen, const MeshPlace& place, const MeshPt* points,
+                     std::size_t count, Vertex* vertices);
+}
