@@ -41,6 +41,7 @@ std::vector<Tap> MakeTaps(std::int32_t from, std::int32_t to)
 {
     const double step = static_cast<double>(from) / to;
     std::vector<Tap> taps;
+    taps.reserve(static_cast<std::size_t>(to));
     for (std::int32_t i = 0; i < to; ++i)
         taps.push_back(MakeTap((i + 0.5) * step - 0.5, std::max(step, 1.0), from));
     return taps;
