@@ -50,8 +50,8 @@ fs::path Files::Resolve(std::string_view path) const
     fs::path wanted = FromUtf8(text);
     fs::path result = wanted.is_absolute() ? fs::path() : Root;
     std::error_code error;
-    if (fs::exists(result / wanted, error))
-        return result / wanted;
+    if (fs::path whole = result / wanted; fs::exists(whole, error))
+        return whole;
     for (const fs::path& step : wanted)
     {
         fs::path next = result / step;
