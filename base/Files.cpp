@@ -4,8 +4,6 @@
 #include "base/Text.h"
 
 #include <algorithm>
-#include <cstdint>
-#include <fstream>
 
 namespace base
 {
@@ -13,7 +11,7 @@ namespace
 {
 namespace fs = std::filesystem;
 
-constexpr std::uintmax_t LargestFile = 512u << 20;
+constexpr std::uint64_t LargestFile = 512u << 20;
 
 fs::path FromUtf8(std::string_view text)
 {
@@ -52,8 +50,8 @@ fs::path Files::Resolve(std::string_view path) const
     fs::path wanted = FromUtf8(text);
     fs::path result = wanted.is_absolute() ? fs::path() : Root;
     std::error_code error;
-    if (fs::exists(result / wanted, error))
-        return result / wanted;
+    if (fs::path whole = result / wanted; fs::exists(whole, error))
+        return whole;
     for (const fs::path& step : wanted)
     {
         fs::path next = result / step;
@@ -74,9 +72,8 @@ bool Files::Exists(std::string_view path) const
     return fs::is_regular_file(Resolve(path), error);
 }
 
-std::string Files::Read(std::string_view path) const
+OpenFile::OpenFile(const fs::path& name)
 {
-    const fs::path name = Resolve(path);
     std::error_code error;
     const fs::file_status status = fs::status(name, error);
     if (!fs::exists(status))
@@ -84,15 +81,32 @@ std::string Files::Read(std::string_view path) const
                                                                                                   : ErrorFileNotFound);
     if (!fs::is_regular_file(status))
         throw RuntimeError(ErrorAccess);
-    const std::uintmax_t size = fs::file_size(name, error);
+    Bytes = fs::file_size(name, error);
     if (error)
         throw RuntimeError(ErrorAccess);
-    if (size > LargestFile)
+    if (Bytes > LargestFile)
         throw RuntimeError(ErrorMemory);
-    std::ifstream in(name, std::ios::binary);
-    std::string bytes(static_cast<std::size_t>(size), '\0');
-    if (!in || (size > 0 && !in.read(bytes.data(), static_cast<std::streamsize>(size))))
+    In.open(name, std::ios::binary);
+    if (!In)
         throw RuntimeError(ErrorAccess);
+}
+
+void OpenFile::Read(std::span<char> room)
+{
+    if (!room.empty() && !In.read(room.data(), static_cast<std::streamsize>(room.size())))
+        throw RuntimeError(ErrorAccess);
+}
+
+OpenFile Files::Open(std::string_view path) const
+{
+    return OpenFile(Resolve(path));
+}
+
+std::string Files::Read(std::string_view path) const
+{
+    OpenFile file = Open(path);
+    std::string bytes(static_cast<std::size_t>(file.Size()), '\0');
+    file.Read(bytes);
     return bytes;
 }
 

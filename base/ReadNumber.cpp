@@ -1,6 +1,7 @@
 #include "base/ReadNumber.h"
 
 #include <algorithm>
+#include <array>
 #include <charconv>
 #include <cstdint>
 #include <limits>
@@ -33,6 +34,35 @@ bool IsTooLarge(std::string_view number)
             exponent = exponent * 10 + (c - '0');
     return static_cast<std::int64_t>(point) - static_cast<std::int64_t>(first) + (negative ? -exponent : exponent) > 0;
 }
+
+// Digits with one separator or none, as nearly every number is written: nothing for all others. The digits as a whole
+// number and the power of ten below it are both exact in a double, so that their quotient is the nearest one.
+std::optional<double> ReadShort(std::string_view text, std::string_view separators)
+{
+    constexpr std::size_t Most = 15; // digits: below 2^53
+    constexpr std::array<double, Most + 1> Powers = {1,   1e1, 1e2,  1e3,  1e4,  1e5,  1e6,  1e7,
+                                                     1e8, 1e9, 1e10, 1e11, 1e12, 1e13, 1e14, 1e15};
+    if (text.size() > Most + 1)
+        return std::nullopt;
+    std::int64_t whole = 0;
+    std::size_t digits = 0;
+    std::optional<std::size_t> point; // how many digits stand before it
+    for (const char c : text)
+    {
+        if (IsDigit(c))
+        {
+            whole = whole * 10 + (c - '0');
+            ++digits;
+        }
+        else if (!point && separators.find(c) != std::string_view::npos)
+            point = digits;
+        else
+            return std::nullopt;
+    }
+    if (digits < 1 || digits > Most)
+        return std::nullopt;
+    return static_cast<double>(whole) / Powers[point ? digits - *point : 0];
+}
 }
 
 std::optional<double> ReadNumber(std::string_view text, std::string_view separators)
@@ -43,6 +73,8 @@ std::optional<double> ReadNumber(std::string_view text, std::string_view separat
         text.remove_prefix(1);
     if (text.empty() || !(IsDigit(text.front()) || separators.find(text.front()) != std::string_view::npos))
         return std::nullopt;
+    if (const std::optional<double> value = ReadShort(text, separators))
+        return negative ? -*value : *value;
     std::string digits(text);
     for (char& c : digits)
         if (c == '.' || separators.find(c) != std::string_view::npos)

@@ -1,5 +1,6 @@
 #include "base/Text.h"
 
+#include <algorithm>
 #include <array>
 
 namespace base
@@ -57,6 +58,12 @@ void AppendCode(std::string& text, std::uint8_t code)
 std::string FromCodePage(std::string_view bytes)
 {
     std::string text;
+    const auto isPlain = [](char c) { return static_cast<unsigned char>(c) < 0x80; };
+    if (std::all_of(bytes.begin(), bytes.end(), isPlain))
+    {
+        text.assign(bytes); // the same in both, as nearly every text of the files is
+        return text;
+    }
     text.reserve(bytes.size());
     for (const char c : bytes)
         AppendCode(text, static_cast<std::uint8_t>(c));

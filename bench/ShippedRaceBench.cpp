@@ -1,8 +1,12 @@
-// Game ticks of the shipped race with every car driven by the computer, and the way from program start to the menu.
+// Game ticks of the shipped race with every car driven by the computer, the way from program start to the menu, and
+// the loading alone.
 #include "bench/Phases.h"
 #include "tests/support/ShippedRace.h"
 
 #include <benchmark/benchmark.h>
+
+#include <chrono>
+#include <memory>
 
 namespace
 {
@@ -36,4 +40,18 @@ void StartToMenu(benchmark::State& state)
         support::ShippedRace race;
 }
 BENCHMARK(StartToMenu)->Unit(benchmark::kMillisecond)->Repetitions(5)->ReportAggregatesOnly();
+
+// Form_Load alone: neither the splash before nor the first painting of the menu behind, nor what ending frees.
+void FormLoad(benchmark::State& state)
+{
+    for (auto _ : state)
+    {
+        headless::Machine machine{base::Files(VELKAR_ROOT)};
+        const auto form = std::make_unique<shell::Form1>(machine);
+        const auto start = std::chrono::steady_clock::now();
+        form->Form_Load();
+        state.SetIterationTime(std::chrono::duration<double>(std::chrono::steady_clock::now() - start).count());
+    }
+}
+BENCHMARK(FormLoad)->Unit(benchmark::kMillisecond)->UseManualTime()->Repetitions(5)->ReportAggregatesOnly();
 }

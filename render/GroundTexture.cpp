@@ -11,6 +11,38 @@ std::int32_t Neighbour(std::int32_t place, std::int32_t step, std::int32_t size)
         return place + step;
     return place - step >= 0 && place - step < size ? place - step : place;
 }
+
+// A row of texels and the two beside it.
+struct Rows
+{
+    const std::uint8_t *Below, *Same, *Above;
+};
+
+// One channel's mean, from the bytes of the left and of the right texel. Deliberate: the texel itself is left out.
+std::uint8_t MeanAt(const Rows& rows, std::int32_t left, std::int32_t middle, std::int32_t right)
+{
+    return static_cast<std::uint8_t>((rows.Below[left] + rows.Below[middle] + rows.Below[right] + rows.Same[left] +
+                                      rows.Same[right] + rows.Above[left] + rows.Above[middle] + rows.Above[right]) >>
+                                     3);
+}
+
+void BlurTexel(const Rows& rows, std::int32_t u, std::int32_t width, std::uint8_t* to)
+{
+    for (std::int32_t c = 0; c < base::PixelBytes; ++c)
+    {
+        const std::int32_t middle = u * base::PixelBytes + c;
+        to[middle] = MeanAt(rows, Neighbour(u, -1, width) * base::PixelBytes + c, middle,
+                            Neighbour(u, 1, width) * base::PixelBytes + c);
+    }
+}
+
+// Every texel that has one on both sides: a byte's neighbours stand at the same distance all along the row, so that the
+// compiler takes many at a time.
+void BlurInside(Rows rows, std::int32_t width, std::uint8_t* to)
+{
+    for (std::int32_t at = base::PixelBytes; at < (width - 1) * base::PixelBytes; ++at)
+        to[at] = MeanAt(rows, at - base::PixelBytes, at, at + base::PixelBytes);
+}
 }
 
 void LoadGround(base::MessageSink& messages, const base::Files& files, const std::string& path, float scale,
@@ -34,25 +66,16 @@ void BlurGround(Ground& ground)
 {
     const PicArray2D& sharp = ground.Sharp.Pixels;
     PicArray2D& blur = ground.GroundBlur;
-    blur.Allocate(sharp.Rows, sharp.RowBytes);
-    for (std::int32_t v = 0; v < ground.Height; ++v)
+    const std::int32_t last = ground.Width - 1;
+    blur.Reserve(sharp.Rows, sharp.RowBytes);
+    for (std::int32_t v = 0; v < sharp.Rows; ++v)
     {
-        const std::uint8_t* below = sharp.Row(Neighbour(v, -1, ground.Height));
-        const std::uint8_t* same = sharp.Row(v);
-        const std::uint8_t* above = sharp.Row(Neighbour(v, 1, ground.Height));
-        std::uint8_t* texel = blur.Row(v);
-        for (std::int32_t u = 0; u < ground.Width; ++u)
-        {
-            const std::int32_t left = Neighbour(u, -1, ground.Width) * base::PixelBytes,
-                               right = Neighbour(u, 1, ground.Width) * base::PixelBytes;
-            const std::int32_t middle = u * base::PixelBytes;
-            // Deliberate: the texel itself is left out.
-            for (std::int32_t c = 0; c < base::PixelBytes; ++c)
-                *texel++ = static_cast<std::uint8_t>((below[left + c] + below[middle + c] + below[right + c] +
-                                                      same[left + c] + same[right + c] + above[left + c] +
-                                                      above[middle + c] + above[right + c]) >>
-                                                     3);
-        }
+        const Rows rows = {sharp.Row(Neighbour(v, -1, ground.Height)), sharp.Row(v),
+                           sharp.Row(Neighbour(v, 1, ground.Height))};
+        std::uint8_t* to = blur.AddRows(1).data();
+        BlurTexel(rows, 0, ground.Width, to);
+        BlurInside(rows, ground.Width, to);
+        BlurTexel(rows, last, ground.Width, to);
     }
 }
 }

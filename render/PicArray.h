@@ -8,6 +8,7 @@
 
 #include <cstdint>
 #include <memory>
+#include <span>
 #include <string>
 #include <vector>
 
@@ -62,6 +63,10 @@ struct PicArray2D
     bool Empty() const { return Bytes.empty(); }
     // All bytes 0, in place of what there was. RuntimeError 9 for a size below 1, 7 for one above the largest picture.
     void Allocate(std::int32_t rows, std::int32_t rowBytes);
+    // The same in steps, for a picture that is larger than the processor's caches: takes the memory and has no rows
+    // yet; then rows are added, all 0 and each to be written before the next comes, as many as were reserved.
+    void Reserve(std::int32_t rows, std::int32_t rowBytes);
+    std::span<std::uint8_t> AddRows(std::int32_t rows);
     void Clear(); // gives the storage back
 };
 

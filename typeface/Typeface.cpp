@@ -84,12 +84,6 @@ void FitLevels(const Metrics& metrics, AxisMap& up)
     up.Fit([&](double unit) { return metrics.Slot / 2 + Whole(Level(unit) * metrics.Scale); });
 }
 
-struct Shaped
-{
-    Segments Strokes;
-    double Advance = 0;
-};
-
 // Digits keep their common advance; other fitted letters are as wide as their fitted stems ask for.
 double FittedAdvance(const Glyph& glyph, const Metrics& metrics, const AxisMap& across)
 {
@@ -101,33 +95,51 @@ double FittedAdvance(const Glyph& glyph, const Metrics& metrics, const AxisMap& 
     return std::max(1.0, across.LastPixel() + metrics.Slot / 2 + Whole(bearing + FittedAir));
 }
 
-void Shape(const Glyph& glyph, const Style& style, const Metrics& metrics, Shaped& shaped)
+// A letter of a style. How wide it is shows before its strokes are made, which measuring can do without.
+class Shaped
 {
-    const Pieces pieces = ReadPieces(glyph);
-    AxisMap across(metrics.Scale);
-    AxisMap up(metrics.Scale);
-    shaped.Advance = glyph.Advance * metrics.Scale + metrics.Stroke - 2 * metrics.Bearing;
-    if (metrics.Fitted)
+public:
+    Shaped(const Glyph& glyph, const Style& style, const Metrics& metrics)
+        : TheStyle(style), TheMetrics(metrics), Parts(ReadPieces(glyph)), Across(metrics.Scale), Up(metrics.Scale),
+          Width(glyph.Advance * metrics.Scale + metrics.Stroke - 2 * metrics.Bearing)
     {
-        CollectAnchors(pieces, across, up);
-        FitStems(metrics, across);
-        FitLevels(metrics, up);
-        shaped.Advance = FittedAdvance(glyph, metrics, across);
+        if (!metrics.Fitted)
+            return;
+        CollectAnchors(Parts, Across, Up);
+        FitStems(metrics, Across);
+        FitLevels(metrics, Up);
+        Width = FittedAdvance(glyph, metrics, Across);
     }
-    const double lift = metrics.Fitted ? 0 : metrics.Bearing;
-    const double shift = metrics.Fitted ? 0 : metrics.Stroke / 2 - metrics.Bearing; // bold grows to both sides
-    const auto place = [&](Point p)
+
+    double Advance() const { return Width; }
+
+    Segments Strokes() const
     {
-        const double y = up(p.Y) + lift;
-        return Point{across(p.X) + shift + y * style.Slant, y};
-    };
-    const int steps = base::RoundEven(Limited(style.Size / 6, 5, 10));
-    for (Piece piece : pieces.Items())
-    {
-        piece = {piece.Shape, place(piece.A), place(piece.B), place(piece.C), place(piece.D)};
-        Flatten(piece, metrics.Stroke / 2, steps, shaped.Strokes);
+        const double lift = TheMetrics.Fitted ? 0 : TheMetrics.Bearing;
+        // Bold grows to both sides.
+        const double shift = TheMetrics.Fitted ? 0 : TheMetrics.Stroke / 2 - TheMetrics.Bearing;
+        const auto place = [&](Point p)
+        {
+            const double y = Up(p.Y) + lift;
+            return Point{Across(p.X) + shift + y * TheStyle.Slant, y};
+        };
+        const int steps = base::RoundEven(Limited(TheStyle.Size / 6, 5, 10));
+        Segments strokes;
+        for (Piece piece : Parts.Items())
+        {
+            piece = {piece.Shape, place(piece.A), place(piece.B), place(piece.C), place(piece.D)};
+            Flatten(piece, TheMetrics.Stroke / 2, steps, strokes);
+        }
+        return strokes;
     }
-}
+
+private:
+    const Style& TheStyle;
+    const Metrics& TheMetrics;
+    Pieces Parts;
+    AxisMap Across, Up;
+    double Width;
+};
 
 // Calls use(glyph, pen, behind) for each letter, pen being the x where its box begins, behind the byte behind it;
 // returns the x behind the text.
@@ -139,12 +151,11 @@ template <class Use> double Walk(std::string_view text, const Style& style, doub
     while (!text.empty())
     {
         const char32_t code = NextCode(text);
-        Shaped shaped;
-        Shape(FindGlyph(code), style, metrics, shaped);
+        const Shaped shaped(FindGlyph(code), style, metrics);
         const double kern = Kerning(last, code) * metrics.Scale;
         pen += metrics.Fitted ? std::trunc(kern + 0.2) : kern;
         use(shaped, pen, size - text.size());
-        pen += shaped.Advance;
+        pen += shaped.Advance();
         last = code;
     }
     return pen;
@@ -189,7 +200,8 @@ void Blend(std::uint8_t* pixel, base::Rgb ink, int weight)
 void Paint(const base::Surface& surface, const Shaped& shaped, double x, double baseline, base::Rgb colour,
            const Clip& clip)
 {
-    const auto strokes = shaped.Strokes.Items();
+    const Segments all = shaped.Strokes();
+    const auto strokes = all.Items();
     if (strokes.empty())
         return;
     const Extent extent = ExtentOf(strokes);
@@ -230,7 +242,7 @@ std::size_t GapAt(std::string_view utf8, const Style& style, double x)
     Walk(utf8, style, 0,
          [&](const Shaped& shaped, double pen, std::size_t behind)
          {
-             if (x >= pen + shaped.Advance / 2)
+             if (x >= pen + shaped.Advance() / 2)
                  gap = behind;
          });
     return gap;
@@ -253,7 +265,8 @@ std::vector<Segment> Outline(std::string_view utf8, const Style& style)
     Walk(utf8, style, 0,
          [&](const Shaped& shaped, double pen, std::size_t)
          {
-             for (Segment s : shaped.Strokes.Items())
+             const Segments strokes = shaped.Strokes();
+             for (Segment s : strokes.Items())
              {
                  s.X1 += pen;
                  s.X2 += pen;

@@ -13,8 +13,17 @@ namespace
 {
 using base::RuntimeError;
 
-constexpr std::string_view Blanks = " \t";
 constexpr std::string_view PathMark = "<path>";
+
+bool IsBlank(char c)
+{
+    return c == ' ' || c == '\t';
+}
+
+bool Separates(char c)
+{
+    return c == ',' || c == '\r' || c == '\n';
+}
 }
 
 std::string FieldReader::Text()
@@ -62,7 +71,8 @@ double FieldReader::Number()
 {
     Begin();
     std::string_view field = Unquoted();
-    field.remove_suffix(field.size() - (field.find_last_not_of(Blanks) + 1));
+    while (!field.empty() && IsBlank(field.back()))
+        field.remove_suffix(1);
     const std::optional<double> value = base::ReadNumber(field, base::DataSeparator);
     if (!value)
         throw RuntimeError(base::ErrorType);
@@ -78,7 +88,8 @@ void FieldReader::Begin()
 
 void FieldReader::SkipBlanks()
 {
-    At = std::min(Bytes.find_first_not_of(Blanks, At), Bytes.size());
+    while (At < Bytes.size() && IsBlank(Bytes[At]))
+        ++At;
 }
 
 // A comma, a line end of any system, or nothing at the end of the file.
@@ -94,7 +105,8 @@ void FieldReader::SkipSeparator()
 std::string_view FieldReader::Unquoted()
 {
     const std::size_t begin = At;
-    At = std::min(Bytes.find_first_of(",\r\n", begin), Bytes.size());
+    while (At < Bytes.size() && !Separates(Bytes[At]))
+        ++At;
     const std::string_view field = std::string_view(Bytes).substr(begin, At - begin);
     SkipSeparator();
     return field;
@@ -107,7 +119,7 @@ std::string_view FieldReader::Quoted()
     const std::size_t end = std::min(Bytes.find('"', begin), Bytes.size());
     At = std::min(end + 1, Bytes.size());
     SkipBlanks();
-    if (!AtEnd() && Bytes[At] != ',' && Bytes[At] != '\r' && Bytes[At] != '\n')
+    if (!AtEnd() && !Separates(Bytes[At]))
         throw RuntimeError(base::ErrorType);
     SkipSeparator();
     return std::string_view(Bytes).substr(begin, end - begin);

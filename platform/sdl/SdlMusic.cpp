@@ -10,8 +10,10 @@ namespace sdl
 {
 namespace
 {
-constexpr std::uint16_t BlockFrames = 1024;                                          // requested from the device
-constexpr std::size_t RingBytes = MusicDecoder::Rate * MusicDecoder::FrameBytes / 2; // half a second ahead
+constexpr std::uint16_t BlockFrames = 2048;                                      // requested from the device: 46 ms
+constexpr std::size_t RingBytes = MusicDecoder::Rate * MusicDecoder::FrameBytes; // a second ahead
+// The decoder sleeps until so little is left, and then decodes half a second in one go.
+constexpr std::size_t LittleBytes = RingBytes / 2;
 }
 
 SdlMusic::SdlMusic(PostedEvents& posted, platform::MusicEvents& events)
@@ -136,11 +138,13 @@ void SdlMusic::Fill(void* self, std::uint8_t* bytes, int count)
     static_cast<SdlMusic*>(self)->Fill(bytes, static_cast<std::size_t>(count));
 }
 
-// Silence where nothing is decoded yet.
+// Silence where nothing is decoded yet. The decoder is told of room only once little is left: it would wake for every
+// block and decode hardly anything.
 void SdlMusic::Fill(std::uint8_t* bytes, std::size_t count)
 {
     const auto copy = [&]
     {
+        const bool plays = Count > 0;
         while (count > 0 && Count > 0)
         {
             const std::size_t now = std::min({count, Count, Ring.size() - First});
@@ -150,8 +154,10 @@ void SdlMusic::Fill(std::uint8_t* bytes, std::size_t count)
             bytes += now;
             count -= now;
         }
+        return plays && Count <= LittleBytes;
     };
-    Decoding.Notify(copy);
+    if (Decoding.Locked(copy))
+        Decoding.Notify([] {});
     std::memset(bytes, 0, count);
 }
 }

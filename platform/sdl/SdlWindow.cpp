@@ -6,7 +6,10 @@
 #include "platform/sdl/SdlKeys.h"
 
 #include <algorithm>
+#include <array>
+#include <bit>
 #include <cstdio>
+#include <cstring>
 #include <utility>
 
 namespace sdl
@@ -58,6 +61,48 @@ bool HasSurface(SDL_Window* window)
         return true;
     SDL_SetHint(SDL_HINT_FRAMEBUFFER_ACCELERATION, "1");
     return SDL_GetWindowSurface(window) != nullptr;
+}
+
+constexpr std::uint32_t PictureFormat = SDL_PIXELFORMAT_RGB888; // 32 bits: nothing, red, green, blue
+
+// Whether the picture is copied into the window's own surface as it is, pixel by pixel.
+bool Takes(const SDL_Surface& surface, const base::ConstSurface& picture)
+{
+    return surface.format->format == PictureFormat && surface.w == picture.Width && surface.h == picture.Height &&
+           !SDL_MUSTLOCK(&surface);
+}
+
+std::uint32_t Pixel(const std::uint8_t* from)
+{
+    return static_cast<std::uint32_t>(from[2]) << 16 | static_cast<std::uint32_t>(from[1]) << 8 | from[0];
+}
+
+// Four pixels are three words of the picture, where a word's first byte is its lowest.
+void SpreadRow(const std::uint8_t* from, std::int32_t width, std::uint32_t* to)
+{
+    std::int32_t x = 0;
+    if constexpr (std::endian::native == std::endian::little)
+        for (; x + 4 <= width; x += 4, from += 4 * base::PixelBytes)
+        {
+            std::array<std::uint32_t, 3> words;
+            std::memcpy(words.data(), from, sizeof words);
+            to[x] = words[0] & 0xFFFFFFu;
+            to[x + 1] = words[0] >> 24 | (words[1] & 0xFFFFu) << 8;
+            to[x + 2] = words[1] >> 16 | (words[2] & 0xFFu) << 16;
+            to[x + 3] = words[2] >> 8;
+        }
+    for (; x < width; ++x, from += base::PixelBytes)
+        to[x] = Pixel(from);
+}
+
+// Into a surface of PictureFormat and of the same size. The picture stands on its bottom row, the surface hangs from
+// its top row.
+void CopyUpright(const base::ConstSurface& picture, const SDL_Surface& surface)
+{
+    for (std::int32_t y = 0; y < picture.Height; ++y)
+        SpreadRow(picture.Row(picture.Height - 1 - y), picture.Width,
+                  reinterpret_cast<std::uint32_t*>(static_cast<std::uint8_t*>(surface.pixels) +
+                                                   static_cast<std::ptrdiff_t>(surface.pitch) * y));
 }
 }
 
@@ -250,7 +295,7 @@ bool SdlWindow::MakePicture(int width, int height)
 {
     if (Picture && Picture->w == width && Picture->h == height)
         return true;
-    Picture.reset(SDL_CreateRGBSurfaceWithFormat(0, width, height, 32, SDL_PIXELFORMAT_RGB888));
+    Picture.reset(SDL_CreateRGBSurfaceWithFormat(0, width, height, 32, PictureFormat));
     return Picture != nullptr;
 }
 
@@ -259,18 +304,17 @@ void SdlWindow::Present(const base::ConstSurface& picture)
     if (!platform::IsPresentable(picture))
         return;
     SDL_Surface* const surface = SDL_GetWindowSurface(TheWindow.get());
-    if (surface == nullptr || !MakePicture(picture.Width, picture.Height))
+    if (surface == nullptr)
         return;
-    for (std::int32_t y = 0; y < picture.Height; ++y)
+    if (Takes(*surface, picture))
+        CopyUpright(picture, *surface);
+    else
     {
-        // The picture stands on its bottom row, the surface hangs from its top row.
-        const std::uint8_t* from = picture.Row(picture.Height - 1 - y);
-        auto* to = reinterpret_cast<std::uint32_t*>(static_cast<std::uint8_t*>(Picture->pixels) +
-                                                    static_cast<std::ptrdiff_t>(Picture->pitch) * y);
-        for (std::int32_t x = 0; x < picture.Width; ++x, from += base::PixelBytes)
-            to[x] = static_cast<std::uint32_t>(from[2]) << 16 | static_cast<std::uint32_t>(from[1]) << 8 | from[0];
+        if (!MakePicture(picture.Width, picture.Height))
+            return;
+        CopyUpright(picture, *Picture);
+        SDL_BlitScaled(Picture.get(), nullptr, surface, nullptr);
     }
-    SDL_BlitScaled(Picture.get(), nullptr, surface, nullptr);
     SDL_UpdateWindowSurface(TheWindow.get());
 }
 

@@ -7,6 +7,7 @@
 #include "typeface/Typeface.h"
 
 #include <algorithm>
+#include <cstring>
 
 namespace forms
 {
@@ -149,7 +150,10 @@ void Draw(Canvas& canvas, const Image& image, std::int32_t x, std::int32_t y, in
         const ImagePixel* from = image.Row(row - y) + (inside.X - x);
         std::uint8_t* to = canvas.At(inside.X, row);
         for (std::int32_t column = 0; column < inside.W; ++column, ++from, to += base::PixelBytes)
-            Blend(to, from->Colour, from->Alpha * alpha / Opaque);
+            if (const int share = from->Alpha * alpha / Opaque; share == Opaque)
+                base::Put(to, from->Colour); // all that blending would do, as nearly everywhere
+            else if (share != 0)
+                Blend(to, from->Colour, share);
     }
 }
 
@@ -165,6 +169,12 @@ void Stretch(Canvas& canvas, const Rect& rect, const base::ConstSurface& picture
     {
         const std::uint8_t* from = picture.Row(picture.Height - 1 - under(y - rect.Y, rect.H, picture.Height));
         std::uint8_t* to = canvas.At(inside.X, y);
+        if (rect.W == picture.Width)
+        {
+            std::memcpy(to, from + base::PixelBytes * (inside.X - rect.X),
+                        static_cast<std::size_t>(inside.W) * base::PixelBytes);
+            continue;
+        }
         for (std::int32_t x = inside.X; x < inside.X + inside.W; ++x, to += base::PixelBytes)
             base::CopyPixel(to, from + base::PixelBytes * under(x - rect.X, rect.W, picture.Width));
     }

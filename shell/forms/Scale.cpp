@@ -1,8 +1,10 @@
 #include "shell/forms/Scale.h"
 
 #include "base/Numbers.h"
+#include "shell/forms/Float4.h"
 
 #include <algorithm>
+#include <array>
 #include <cmath>
 #include <vector>
 
@@ -39,72 +41,96 @@ std::vector<Tap> MakeTaps(std::int32_t from, std::int32_t to)
 {
     const double step = static_cast<double>(from) / to;
     std::vector<Tap> taps;
+    taps.reserve(static_cast<std::size_t>(to));
     for (std::int32_t i = 0; i < to; ++i)
         taps.push_back(MakeTap((i + 0.5) * step - 0.5, std::max(step, 1.0), from));
     return taps;
 }
 
-struct Sum
-{
-    float B = 0, G = 0, R = 0, A = 0; // colour times coverage, coverage
-};
+// Colour times coverage, and coverage: blue, green, red, coverage.
+using Sum = std::array<float, 4>;
 
-// What a row of the picture gives at a tap.
-Sum SumAcross(const std::uint8_t* row, const Tap& tap, bool seeThrough)
+// The pixels of a source row, of which a black one covers nothing where it can be seen through.
+void TakeRow(const std::uint8_t* pixel, bool seeThrough, std::vector<Sum>& pixels)
 {
-    Sum sum;
-    const std::uint8_t* pixel = row + std::ptrdiff_t{tap.First} * base::PixelBytes;
-    for (const float weight : tap.Weights)
+    for (Sum& sum : pixels)
     {
-        if (!seeThrough || !base::IsBlack(pixel))
-        {
-            sum.B += weight * pixel[0];
-            sum.G += weight * pixel[1];
-            sum.R += weight * pixel[2];
-            sum.A += weight;
-        }
+        sum = seeThrough && base::IsBlack(pixel)
+                  ? Sum{}
+                  : Sum{static_cast<float>(pixel[0]), static_cast<float>(pixel[1]), static_cast<float>(pixel[2]), 1};
         pixel += base::PixelBytes;
     }
+}
+
+// What they give at a tap.
+Float4 SumAcross(const std::vector<Sum>& pixels, const Tap& tap)
+{
+    Float4 sum = Float4::Of(0);
+    const Sum* pixel = pixels.data() + tap.First;
+    for (const float weight : tap.Weights)
+        sum = sum + Float4::Of(weight) * Float4::Load((pixel++)->data());
     return sum;
 }
 
-// The same down a column of those sums.
-Sum SumDown(const base::Grid<Sum>& rows, std::int32_t x, const Tap& tap)
+// Source rows from the top, each as wide as the destination: as many as one tap reaches, so that they stay in the
+// caches.
+class Rows
 {
-    Sum sum;
-    std::int32_t row = tap.First;
+public:
+    Rows(const render::Picture& picture, std::int32_t width, std::int32_t reach, bool seeThrough)
+        : From(picture), SeeThrough(seeThrough), Across(MakeTaps(picture.Info.Width, width)),
+          Pixels(static_cast<std::size_t>(picture.Info.Width))
+    {
+        Kept.Reset(width, reach);
+    }
+
+    // The row y. Of those before the last one made only the latest are kept.
+    const Sum* Row(std::int32_t y)
+    {
+        while (Made <= y)
+            Make(Made++);
+        return Kept.Row(y % Kept.Height);
+    }
+
+private:
+    void Make(std::int32_t y)
+    {
+        TakeRow(From.Pixels.Row(From.Info.Height - 1 - y), SeeThrough, Pixels);
+        Sum* to = Kept.Row(y % Kept.Height);
+        for (const Tap& tap : Across)
+            SumAcross(Pixels, tap).Store((to++)->data());
+    }
+
+    const render::Picture& From;
+    bool SeeThrough;
+    std::vector<Tap> Across;
+    std::vector<Sum> Pixels; // of the row that is made
+    base::Grid<Sum> Kept;    // row y in the row y % Height
+    std::int32_t Made = 0;
+};
+
+// What columns of those sums give at a tap, all of a row.
+void SumDown(Rows& rows, const Tap& tap, std::vector<Sum>& sums)
+{
+    std::fill(sums.begin(), sums.end(), Sum{});
+    std::int32_t y = tap.First;
     for (const float weight : tap.Weights)
     {
-        const Sum& part = rows.At(x, row++);
-        sum.B += weight * part.B;
-        sum.G += weight * part.G;
-        sum.R += weight * part.R;
-        sum.A += weight * part.A;
+        const Sum* part = rows.Row(y++);
+        for (Sum& sum : sums)
+            (Float4::Load(sum.data()) + Float4::Of(weight) * Float4::Load((part++)->data())).Store(sum.data());
     }
-    return sum;
-}
-
-// The source rows from the top, each as wide as the destination.
-base::Grid<Sum> ScaleAcross(const render::Picture& picture, std::int32_t width, bool seeThrough)
-{
-    const std::vector<Tap> across = MakeTaps(picture.Info.Width, width);
-    base::Grid<Sum> rows;
-    rows.Reset(width, picture.Info.Height);
-    for (std::int32_t y = 0; y < rows.Height; ++y)
-    {
-        const std::uint8_t* row = picture.Pixels.Row(rows.Height - 1 - y);
-        std::transform(across.begin(), across.end(), rows.Row(y),
-                       [&](const Tap& tap) { return SumAcross(row, tap, seeThrough); });
-    }
-    return rows;
 }
 
 ImagePixel Finish(const Sum& sum)
 {
-    if (!(sum.A > 0))
+    const float coverage = sum[3];
+    if (!(coverage > 0))
         return {};
-    return {{base::RoundByte(sum.R / sum.A), base::RoundByte(sum.G / sum.A), base::RoundByte(sum.B / sum.A)},
-            base::RoundByte(sum.A * 255)};
+    std::array<std::uint8_t, 4> bytes;
+    (Float4::Load(sum.data()) / Float4::Of(coverage, coverage, coverage, 1) * Float4::Of(1, 1, 1, 255))
+        .StoreBytes(bytes.data());
+    return {{bytes[2], bytes[1], bytes[0]}, bytes[3]};
 }
 }
 
@@ -115,10 +141,16 @@ Image Scale(const render::Picture& picture, std::int32_t width, std::int32_t hei
         return image;
     image.Reset(width, height);
     const std::vector<Tap> down = MakeTaps(picture.Info.Height, height);
-    const base::Grid<Sum> rows = ScaleAcross(picture, width, seeThrough);
+    std::size_t reach = 0;
+    for (const Tap& tap : down)
+        reach = std::max(reach, tap.Weights.size());
+    Rows rows(picture, width, static_cast<std::int32_t>(reach), seeThrough);
+    std::vector<Sum> sums(static_cast<std::size_t>(width));
     for (std::int32_t y = 0; y < height; ++y)
-        for (std::int32_t x = 0; x < width; ++x)
-            image.At(x, y) = Finish(SumDown(rows, x, down[static_cast<std::size_t>(y)]));
+    {
+        SumDown(rows, down[static_cast<std::size_t>(y)], sums);
+        std::transform(sums.begin(), sums.end(), image.Row(y), Finish);
+    }
     return image;
 }
 }

@@ -10,8 +10,14 @@
 #include <array>
 #include <chrono>
 #include <cstdlib>
+#include <filesystem>
+#include <fstream>
 #include <functional>
+#include <string>
+#include <string_view>
 #include <thread>
+
+#include <unistd.h>
 
 namespace
 {
@@ -145,6 +151,40 @@ TEST_F(SdlSound, MusicEndsWhenItHasBeenHeard)
     Music->Play(6); // once more from its beginning
     ASSERT_TRUE(Await([this] { return Heard.Media.size() == 2; }));
     EXPECT_EQ(Heard.Media[1], std::pair(6u, 1));
+}
+
+// How often the threads of that name have gone to sleep so far, all together; those of no other name.
+long Sleeps(std::string_view name)
+{
+    long sleeps = 0;
+    for (const auto& thread : std::filesystem::directory_iterator("/proc/self/task"))
+    {
+        std::string line, called;
+        std::getline(std::ifstream(thread.path() / "comm"), called);
+        if (!called.starts_with(name) || thread.path().filename() == std::to_string(getpid()))
+            continue;
+        std::ifstream status(thread.path() / "status");
+        while (std::getline(status, line))
+            if (line.starts_with("voluntary_ctxt_switches:"))
+                sleeps += std::stol(line.substr(line.find(':') + 1));
+    }
+    return sleeps;
+}
+
+// The device asks for a block and another; what decodes them works for a dozen blocks at a time and sleeps meanwhile.
+TEST_F(SdlSound, TheDecoderSleepsWhileMusicIsAhead)
+{
+    ASSERT_TRUE(support::WriteTone(Folder.Path / "long.mp3", {440, 30}));
+    std::string own;
+    std::getline(std::ifstream("/proc/self/comm"), own);
+    Music->Open(Folder.Path / "long.mp3");
+    Music->Play(1);
+    ASSERT_TRUE(Await([] { return Sleeps("SDLAudio") >= 20; }));
+    const long blocks = Sleeps("SDLAudio"), decoded = Sleeps(own);
+    ASSERT_TRUE(Await([blocks] { return Sleeps("SDLAudio") >= blocks + 60; }));
+    EXPECT_GT(Sleeps(own) - decoded, 0);
+    EXPECT_LT(Sleeps(own) - decoded, 45); // a sanitizer's own thread among them
+    EXPECT_TRUE(Heard.Media.empty());
 }
 
 TEST_F(SdlSound, AFileThatIsNoMusicIsUnplayable)

@@ -63,6 +63,35 @@ TEST_F(FilesTest, ErrorsByNumber)
     EXPECT_EQ(ErrorOf(files, ""), 75);
 }
 
+TEST_F(FilesTest, AnOpenFileIsReadPieceByPiece)
+{
+    base::OpenFile file = base::Files(Folder).Open("data\\models\\cup.3dm");
+    EXPECT_EQ(file.Size(), 4u);
+    std::string first(3, '?'), none, second(1, '?'), beyond(1, '?');
+    file.Read(first);
+    EXPECT_EQ(first, "tex");
+    file.Read(none);
+    file.Read(second);
+    EXPECT_EQ(second, "t");
+    EXPECT_THROW(file.Read(beyond), base::RuntimeError);
+}
+
+TEST_F(FilesTest, AFileThatShrinksWhileItIsReadIsError75)
+{
+    base::OpenFile file = base::Files(Folder).Open("data\\models\\cup.3dm");
+    std::filesystem::resize_file(Folder / "data" / "Models" / "Cup.3dm", 2);
+    std::string bytes(4, '?');
+    try
+    {
+        file.Read(bytes);
+        FAIL() << "two of four bytes are there";
+    }
+    catch (const base::RuntimeError& error)
+    {
+        EXPECT_EQ(error.Number, 75);
+    }
+}
+
 TEST_F(FilesTest, FolderKeepsItsLastSeparator)
 {
     EXPECT_EQ(base::FolderOf("data\\obj\\car.3dm"), "data\\obj\\");

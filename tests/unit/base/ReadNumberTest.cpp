@@ -1,8 +1,10 @@
 #include "base/ReadNumber.h"
+#include "base/Random.h"
 
 #include <gtest/gtest.h>
 
 #include <cmath>
+#include <string>
 
 namespace
 {
@@ -27,6 +29,32 @@ TEST(ReadNumber, TakesSignsSeparatorsAndExponents)
     EXPECT_EQ(Typed("2E-3"), 0.002);
     EXPECT_EQ(Typed("2e+3"), 2000);
     EXPECT_EQ(FromFile("2.5e1"), 25);
+}
+
+// What is written shortly is read by a quicker way: the same number to the last bit.
+TEST(ReadNumber, ShortOrLongTheNearestDoubleIsRead)
+{
+    base::Random random;
+    random.Seed(3);
+    for (int round = 0; round < 20'000; ++round)
+    {
+        const int before = static_cast<int>(random.Next() * 12), behind = static_cast<int>(random.Next() * 12);
+        std::string digits;
+        for (int i = 0; i < before + behind; ++i)
+            digits += static_cast<char>('0' + static_cast<int>(random.Next() * 10));
+        if (digits.empty())
+            continue;
+        const std::string text =
+            digits.substr(0, static_cast<std::size_t>(before)) + "." + digits.substr(static_cast<std::size_t>(before));
+        const double expected = std::stod(text);
+        ASSERT_EQ(FromFile(text), expected) << text;
+        ASSERT_EQ(FromFile("-" + text), -expected) << text;
+        ASSERT_EQ(FromFile(text + "e0"), expected) << text;
+        ASSERT_EQ(FromFile(digits), std::stod(digits)) << digits;
+    }
+    EXPECT_TRUE(std::signbit(FromFile("-0").value()));
+    EXPECT_EQ(FromFile("999999999999999"), 999999999999999.0);
+    EXPECT_EQ(FromFile("9007199254740993"), 9007199254740992.0); // a whole number that no double holds
 }
 
 TEST(ReadNumber, ACommaSeparatesNothingInAFile)

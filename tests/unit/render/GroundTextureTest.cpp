@@ -6,6 +6,8 @@
 
 #include <gtest/gtest.h>
 
+#include <utility>
+
 using render::Ground;
 
 namespace
@@ -26,6 +28,26 @@ Ground MakeGround(const std::vector<std::vector<int>>& rows)
         }
     render::BlurGround(ground);
     return ground;
+}
+
+// Where the neighbour of a texel stands, by the definition.
+int Mirrored(int place, int step, int size)
+{
+    if (size == 1)
+        return 0;
+    return place + step < 0 || place + step >= size ? place - step : place + step;
+}
+
+// A byte of the copy, straight from its definition.
+int PlainBlur(const render::Picture& sharp, int u, int v, int channel)
+{
+    int sum = 0;
+    for (int dv = -1; dv <= 1; ++dv)
+        for (int du = -1; du <= 1; ++du)
+            if (du != 0 || dv != 0)
+                sum += sharp.Pixels.Row(
+                    Mirrored(v, dv, sharp.Info.Height))[Mirrored(u, du, sharp.Info.Width) * 3 + channel];
+    return sum >> 3;
 }
 
 int BlurAt(const Ground& ground, int u, int v)
@@ -64,6 +86,30 @@ TEST(BlurGround, PicturesOfOneTexelOrOneRowStand)
     EXPECT_EQ(BlurAt(MakeGround({{77}}), 0, 0), 77);
     // One row: above and below are the row itself.
     EXPECT_EQ(BlurAt(MakeGround({{8, 16, 24}}), 1, 0), (8 + 16 + 24 + 8 + 24 + 8 + 16 + 24) / 8);
+}
+
+TEST(BlurGround, EveryByteIsThatOfTheDefinition)
+{
+    base::Random random;
+    random.Seed(5);
+    for (const auto& [width, height] : {std::pair{1, 1}, {1, 6}, {2, 2}, {2, 5}, {3, 1}, {5, 3}, {16, 4}, {67, 9}})
+    {
+        Ground ground;
+        ground.Width = width;
+        ground.Height = height;
+        ground.Sharp = support::Noise(random, width, height);
+        render::BlurGround(ground);
+        ASSERT_EQ(ground.GroundBlur.Rows, height);
+        ASSERT_EQ(ground.GroundBlur.Bytes.size(), ground.Sharp.Pixels.Bytes.size());
+        for (int v = 0; v < height; ++v)
+        {
+            const std::uint8_t* row = ground.GroundBlur.Row(v);
+            for (int at = 0; at < width * 3; ++at)
+                ASSERT_EQ(row[at], PlainBlur(ground.Sharp, at / 3, v, at % 3)) << width << " " << at << "," << v;
+            for (int at = width * 3; at < ground.GroundBlur.RowBytes; ++at)
+                ASSERT_EQ(row[at], 0); // the padding
+        }
+    }
 }
 
 TEST(LoadGround, TakesPictureScaleAndBlur)

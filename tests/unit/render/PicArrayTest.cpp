@@ -5,7 +5,9 @@
 
 #include <gtest/gtest.h>
 
+#include <algorithm>
 #include <limits>
+#include <utility>
 
 using render::PicArray2D;
 using render::PicInfo;
@@ -141,6 +143,48 @@ TEST_F(LoadPic, PlanesAndBitsAreTakenAsTheyStand)
     ASSERT_TRUE(Load(bytes + TwoRows));
     EXPECT_EQ(Info.Planes, 2);
     EXPECT_EQ(Info.BitCount, 264);
+}
+
+// More rows than are read at a time.
+TEST_F(LoadPic, EveryByteOfALargeFileStandsInItsPlace)
+{
+    constexpr int Width = 501, Height = 333, RowBytes = 1504;
+    std::string rows(static_cast<std::size_t>(RowBytes) * Height, '\0');
+    for (std::size_t i = 0; i < rows.size(); ++i)
+        rows[i] = static_cast<char>(i * 7 + i / 251);
+    ASSERT_TRUE(Load(BitmapHeader(Width, Height) + rows + "behind"));
+    ASSERT_EQ(Pixels.Rows, Height);
+    ASSERT_EQ(Pixels.RowBytes, RowBytes);
+    EXPECT_TRUE(std::equal(rows.begin(), rows.end(), Pixels.Bytes.begin(), Pixels.Bytes.end(),
+                           [](char a, std::uint8_t b) { return static_cast<std::uint8_t>(a) == b; }));
+
+    const std::size_t present = rows.size() - 100'000; // the end is missing, in the middle of a row
+    EXPECT_FALSE(Load(BitmapHeader(Width, Height) + rows.substr(0, present)));
+    ExpectError(62, "Input oltre la fine del file");
+    ASSERT_EQ(Pixels.Bytes.size(), rows.size());
+    for (std::size_t i = 0; i < rows.size(); ++i)
+        ASSERT_EQ(Pixels.Bytes[i], i < present ? static_cast<std::uint8_t>(rows[i]) : 0) << i;
+}
+
+TEST(PicArray2D, RowsAreAddedToWhatWasReserved)
+{
+    PicArray2D pixels;
+    pixels.Allocate(2, 4);
+    pixels.Reserve(3, 8);
+    EXPECT_TRUE(pixels.Empty());
+    EXPECT_EQ(pixels.Rows, 0);
+    const std::uint8_t* const first = pixels.AddRows(1).data();
+    EXPECT_EQ(first, pixels.Row(0));
+    pixels.Row(0)[7] = 9;
+    const std::span<std::uint8_t> more = pixels.AddRows(2);
+    EXPECT_EQ(more.size(), 16u);
+    EXPECT_EQ(more.data(), pixels.Row(1));
+    EXPECT_EQ(first, pixels.Row(0)); // nothing was moved
+    EXPECT_EQ(pixels.Rows, 3);
+    EXPECT_EQ(pixels.Row(0)[7], 9);
+    EXPECT_EQ(more[15], 0);
+    for (const auto& [rows, rowBytes] : {std::pair{0, 4}, {4, 0}, {16384, 100000}})
+        EXPECT_THROW(pixels.Reserve(rows, rowBytes), base::RuntimeError);
 }
 
 TEST_F(LoadPic, AMissingFileIsError53)
