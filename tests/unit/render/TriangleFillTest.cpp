@@ -290,6 +290,24 @@ TEST(FillTri, FastIsPlainForRandomTriangles)
     }
 }
 
+// The least step nearer than what was drawn before is enough, and at no depth it is hidden by itself.
+TEST(FillTri, TheLeastStepNearerShows)
+{
+    for (const render::Kernels& kernels : render::RunnableKernels())
+        for (const float depth : {0.01f, 1.0f, 7.3f, 399.9f, 1e20f})
+        {
+            support::View view(12, 8);
+            view.Screen.Kernels = &kernels;
+            std::fill(view.Screen.Depth.Cells.begin(), view.Screen.Depth.Cells.end(), depth);
+            FillTriFlat(view.Screen, At(0, 0, depth), At(4, 0, depth), At(0, 4, depth), Ink);
+            EXPECT_EQ(support::Bytes(view.Pixel(1, 1)), 0u) << kernels.Name << " " << depth;
+            const float nearer = std::nextafter(depth, 0.0f);
+            EXPECT_TRUE(MayShow(view.Screen, At(0, 0, nearer), At(4, 0, nearer), At(0, 4, nearer)));
+            FillTriFlat(view.Screen, At(0, 0, nearer), At(4, 0, nearer), At(0, 4, nearer), Ink);
+            EXPECT_EQ(support::Bytes(view.Pixel(1, 1)), 0x030201u) << kernels.Name << " " << depth;
+        }
+}
+
 // Depths that are no numbers, texels that are none, and pictures of one texel.
 TEST(FillTri, FastIsPlainForOddNumbers)
 {
