@@ -1,0 +1,79 @@
+// world/NearGrid.h: which bodies may touch, without asking every pair. The ground is cut into square cells; a body lies
+// in the one cell that holds its middle, on the level whose cells are at least as wide as it is: 4, 8, 16 … units.
+// Whoever looks walks, level by level, the cells that a body may reach out of, or all bodies of the level where these
+// are fewer. Room is taken in proportion to the bodies, whatever their sizes and places.
+#pragma once
+#include <array>
+#include <cstddef>
+#include <cstdint>
+#include <limits>
+#include <vector>
+
+namespace world
+{
+// What a body covers on the ground at most. Any numbers: what is none touches nothing.
+struct Disc
+{
+    float X = 0, Z = 0, Radius = 0; // world units; two touch only below the sum of their radii, which may be negative
+};
+
+// Bodies by number, from First to Last.
+struct BodyRange
+{
+    std::int32_t First = 0, Last = 0;
+};
+
+class NearGrid
+{
+public:
+    // Takes away all bodies and makes room for those from 0 to bodies - 1. No allocation for a number had before.
+    void Reset(std::size_t bodies);
+    // The body is there now, and nowhere else.
+    void Put(std::size_t body, const Disc& at);
+    void Remove(std::size_t body); // nothing for a body that is not there
+    // Writes every body of the range whose disc overlaps that one, perhaps with some that miss it by a hair, in no
+    // order.
+    void Look(const Disc& at, const BodyRange& range, std::vector<std::int32_t>& found) const;
+
+private:
+    static constexpr std::int32_t None = -1;
+    static constexpr int LevelCount = 21;
+
+    // Neighbours in a chain of bodies.
+    struct Link
+    {
+        std::int32_t Next = None, Before = None;
+    };
+    struct Entry
+    {
+        double X = 0, Z = 0, Radius = 0; // as in its disc
+        std::uint64_t Key = 0;           // of its cell
+        std::uint32_t Chain = 0;         // of its cell
+        std::int32_t Level = None;       // None: the body is not there
+        Link InCell, OnLevel;
+    };
+    struct Level
+    {
+        std::int32_t First = None; // of the chain of its bodies
+        std::int32_t Count = 0;
+        BodyRange Range = {std::numeric_limits<std::int32_t>::max(), None}; // all that have been there lie within
+    };
+
+    // What Look is asked, prepared once for all levels.
+    struct Question
+    {
+        double X, Z, Radius;          // as in the disc
+        double PlaceX, PlaceZ, Reach; // within the grid's numbers
+        BodyRange Range;
+    };
+
+    std::vector<Entry> Entries;                // by body
+    std::vector<std::int32_t> Chains = {None}; // the first body of cells that share a chain; a power of two of them
+    std::uint32_t Mask = 0;                    // of their numbers
+    std::array<Level, LevelCount> Levels;
+
+    void Join(std::int32_t& first, Link Entry::*link, std::int32_t body);
+    void Leave(std::int32_t& first, Link Entry::*link, std::int32_t body);
+    void LookOnLevel(const Question& asked, std::int32_t number, std::vector<std::int32_t>& found) const;
+};
+}
