@@ -60,7 +60,7 @@ struct PairWalk
         Scratch.MarkedAround[body] = disc;
         Scratch.Rows[body] = 1;
         Scratch.Grid.Look(Widened(disc), {0, static_cast<std::int32_t>(body) - 1}, Scratch.Found);
-        for (const std::int32_t found : Scratch.Found)
+        for (const std::int32_t found : Scratch.Found.Bodies())
             Scratch.Rows[static_cast<std::size_t>(found)] = 1;
     }
 
@@ -76,14 +76,14 @@ struct PairWalk
     // Who of the row may touch its body, in order: those above `after`, and none with whom it has stood apart.
     void ListRow(std::size_t body, std::int32_t after)
     {
-        std::vector<std::int32_t>& row = Scratch.Row;
-        Scratch.Grid.Look(Widened(DiscOf(body)), {after + 1, static_cast<std::int32_t>(Objects.size()) - 1}, row);
-        if (!Scratch.Rest.IsStirred(body))
-            row.erase(std::remove_if(row.begin(), row.end(),
-                                     [&](std::int32_t other)
-                                     { return !Scratch.Rest.IsStirred(static_cast<std::size_t>(other)); }),
-                      row.end());
-        std::sort(row.begin(), row.end());
+        Scratch.Grid.Look(Widened(DiscOf(body)), {after + 1, static_cast<std::int32_t>(Objects.size()) - 1},
+                          Scratch.Found);
+        const bool isStirred = Scratch.Rest.IsStirred(body);
+        Scratch.Row.Clear();
+        for (const std::int32_t other : Scratch.Found.Bodies())
+            if (isStirred || Scratch.Rest.IsStirred(static_cast<std::size_t>(other)))
+                Scratch.Row.Add(other);
+        Scratch.Row.Sort();
     }
 
     // True where the two touched, and so have moved.
@@ -113,9 +113,9 @@ struct PairWalk
     {
         Disc listed = DiscOf(body);
         ListRow(body, static_cast<std::int32_t>(body));
-        for (std::size_t n = 0; n < Scratch.Row.size();)
+        for (std::size_t n = 0; n < Scratch.Row.Bodies().size();)
         {
-            const std::int32_t other = Scratch.Row[n++];
+            const std::int32_t other = Scratch.Row.Bodies()[n++];
             if (!CollidePair(body, static_cast<std::size_t>(other)))
                 continue;
             const bool isWhole = Scratch.Rest.IsStirred(body); // otherwise those that are not stirred were left out
@@ -137,14 +137,14 @@ struct PairWalk
         Scratch.Shapes.resize(Objects.size());
         Scratch.MarkedAround.resize(Objects.size());
         Scratch.Rows.assign(Objects.size(), 0);
-        Scratch.Row.reserve(Objects.size());
-        Scratch.Found.reserve(Objects.size());
+        Scratch.Row.Reserve(Objects.size());
+        Scratch.Found.Reserve(Objects.size());
     }
 
     void Walk()
     {
         ListCars(Sim);
-        Scratch.Rest.Compare(Objects, Scratch.CarOf);
+        Scratch.Rest.Compare(Objects, Scratch.Cars);
         if (Scratch.Rest.IsOtherList())
             MakeRoom();
         for (const std::int32_t body : Scratch.Rest.StirredAtFirst())

@@ -143,13 +143,17 @@ Body BodyOf(Simulation& sim, std::size_t object)
 
 void ListCars(Simulation& sim)
 {
-    std::vector<std::int16_t>& cars = sim.Scratch.CarOf;
-    cars.assign(sim.Scene.Objects.Items.size(), -1);
-    for (std::int16_t index = sim.Race.NumPlayers(); index-- > 0;)
+    std::vector<std::int16_t>& carOf = sim.Scratch.CarOf;
+    std::vector<std::int32_t>& cars = sim.Scratch.Cars;
+    carOf.assign(sim.Scene.Objects.Items.size(), -1);
+    cars.clear();
+    for (std::int16_t index = 0; index < sim.Race.NumPlayers(); ++index)
     {
         const std::int16_t object = FindPlayer(sim.Race, index)->Obj;
-        if (sim.Scene.Objects.Has(object))
-            cars[static_cast<std::size_t>(object)] = index;
+        if (!sim.Scene.Objects.Has(object) || carOf[static_cast<std::size_t>(object)] >= 0)
+            continue;
+        carOf[static_cast<std::size_t>(object)] = index;
+        cars.push_back(object);
     }
 }
 

@@ -5,7 +5,7 @@
 
 namespace world
 {
-// Fills CarOf: which player drives each object, the first one where several say so. Call once before the pairs.
+// Fills CarOf and Cars: which player drives each object, the first one where several say so. Once before the pairs.
 void ListCars(Simulation& sim);
 // The bodies of these two objects touch, the first with sphere A, the second with sphere B of the contact. Writes both
 // objects' places, angles and dents, their players' speed and damage, and Shake. False, and nothing is written, where

@@ -14,7 +14,7 @@ namespace
 constexpr double Farthest = 1 << 20;
 constexpr double MostReach = 2 * Farthest; // reaches everywhere from anywhere
 constexpr double Slack = 1e-3;             // more than the rounding of such places
-constexpr double Hair = 1 + 1e-9;          // more than the rounding of a distance and of a sum of radii
+constexpr float Hair = 1 + 1e-6f;          // more than the rounding of a distance and of a sum of radii
 
 // Width of a level's cells and its inverse: powers of two, so that places are scaled without rounding.
 struct Measure
@@ -64,11 +64,11 @@ std::uint32_t BitsOf(std::int32_t number)
     return static_cast<std::uint32_t>(number);
 }
 
-// Another number for every cell. Lines lie within 24 bits: the farthest place and the farthest reach.
-std::uint64_t KeyOf(std::int32_t level, std::int32_t column, std::int32_t row)
+// In single precision: squares that are too large for it, or too small, are the same for both.
+bool Overlap(const Disc& a, const Disc& b)
 {
-    constexpr std::uint32_t line = 0xFFFFFF;
-    return std::uint64_t{BitsOf(level)} << 48 | std::uint64_t{BitsOf(row) & line} << 24 | (BitsOf(column) & line);
+    const float reach = a.Radius + b.Radius, x = a.X - b.X, z = a.Z - b.Z;
+    return x * x + z * z <= reach * reach * Hair && reach > 0.0f;
 }
 
 // Of a row of cells, which lie side by side from here on.
@@ -79,97 +79,116 @@ std::uint32_t HashOf(std::int32_t level, std::int32_t row)
 }
 }
 
+void BodyList::Sort()
+{
+    const auto first = Room.begin(), last = first + static_cast<std::ptrdiff_t>(Count);
+    std::sort(first, last);
+    Count = static_cast<std::size_t>(std::unique(first, last) - first);
+}
+
 void NearGrid::Reset(std::size_t bodies)
 {
     Entries.assign(bodies, {});
+    Places.assign(bodies, {});
     static_assert(Measures.size() == LevelCount);
     Chains.assign(std::bit_ceil(bodies + 1), None);
     Mask = static_cast<std::uint32_t>(Chains.size() - 1);
     Levels.fill({});
 }
 
-void NearGrid::Join(std::int32_t& first, Link Entry::*link, std::int32_t body)
+void NearGrid::Join(std::int32_t body)
 {
-    Entries[static_cast<std::size_t>(body)].*link = {first, None};
+    const auto index = static_cast<std::size_t>(body);
+    Place& place = Places[index];
+    std::int32_t& first = Chains[place.Chain];
+    Entries[index].Next = first;
+    place.Before = None;
     if (first != None)
-        (Entries[static_cast<std::size_t>(first)].*link).Before = body;
+        Places[static_cast<std::size_t>(first)].Before = body;
     first = body;
+
+    Level& level = Levels[static_cast<std::size_t>(place.Level)];
+    place.NextOnLevel = level.First;
+    place.BeforeOnLevel = None;
+    if (level.First != None)
+        Places[static_cast<std::size_t>(level.First)].BeforeOnLevel = body;
+    level.First = body;
+    ++level.Count;
+    level.Range = {std::min(level.Range.First, body), std::max(level.Range.Last, body)};
 }
 
-void NearGrid::Leave(std::int32_t& first, Link Entry::*link, std::int32_t body)
+void NearGrid::Leave(std::int32_t body)
 {
-    const Link left = Entries[static_cast<std::size_t>(body)].*link;
-    if (left.Before == None)
-        first = left.Next;
+    const auto index = static_cast<std::size_t>(body);
+    const Place& place = Places[index];
+    const std::int32_t next = Entries[index].Next;
+    if (place.Before == None)
+        Chains[place.Chain] = next;
     else
-        (Entries[static_cast<std::size_t>(left.Before)].*link).Next = left.Next;
-    if (left.Next != None)
-        (Entries[static_cast<std::size_t>(left.Next)].*link).Before = left.Before;
+        Entries[static_cast<std::size_t>(place.Before)].Next = next;
+    if (next != None)
+        Places[static_cast<std::size_t>(next)].Before = place.Before;
+
+    Level& level = Levels[static_cast<std::size_t>(place.Level)];
+    if (place.BeforeOnLevel == None)
+        level.First = place.NextOnLevel;
+    else
+        Places[static_cast<std::size_t>(place.BeforeOnLevel)].NextOnLevel = place.NextOnLevel;
+    if (place.NextOnLevel != None)
+        Places[static_cast<std::size_t>(place.NextOnLevel)].BeforeOnLevel = place.BeforeOnLevel;
+    --level.Count;
 }
 
 void NearGrid::Put(std::size_t body, const Disc& at)
 {
-    Entry& entry = Entries[body];
-    entry.X = at.X;
-    entry.Z = at.Z;
-    entry.Radius = at.Radius;
+    Entries[body].At = at;
     if (!CanTouch(at))
     {
         Remove(body);
         return;
     }
-    const std::int32_t number = LevelOf(at);
-    const double scale = Measures[static_cast<std::size_t>(number)].Scale;
-    const std::int32_t column = base::Floor(PlaceOf(at.X) * scale);
-    const std::int32_t row = base::Floor(PlaceOf(at.Z) * scale);
-    const std::uint64_t key = KeyOf(number, column, row);
-    if (entry.Level == number && entry.Key == key)
+    const std::int32_t level = LevelOf(at);
+    const double scale = Measures[static_cast<std::size_t>(level)].Scale;
+    const std::int32_t column = base::Floor(PlaceOf(at.X) * scale), row = base::Floor(PlaceOf(at.Z) * scale);
+    const std::uint32_t chain = (HashOf(level, row) + BitsOf(column)) & Mask;
+    double& most = Levels[static_cast<std::size_t>(level)].Reach;
+    most = std::max(most, ReachOf(at));
+    Place& place = Places[body];
+    if (place.Level == level && place.Chain == chain)
         return;
     Remove(body);
-    entry.Key = key;
-    entry.Level = number;
-    entry.Chain = (HashOf(number, row) + BitsOf(column)) & Mask;
-    Level& level = Levels[static_cast<std::size_t>(number)];
-    const auto index = static_cast<std::int32_t>(body);
-    Join(Chains[entry.Chain], &Entry::InCell, index);
-    Join(level.First, &Entry::OnLevel, index);
-    ++level.Count;
-    level.Range = {std::min(level.Range.First, index), std::max(level.Range.Last, index)};
+    place.Level = level;
+    place.Chain = chain;
+    Join(static_cast<std::int32_t>(body));
 }
 
 void NearGrid::Remove(std::size_t body)
 {
-    Entry& entry = Entries[body];
-    if (entry.Level == None)
+    if (Places[body].Level == None)
         return;
-    Level& level = Levels[static_cast<std::size_t>(entry.Level)];
-    Leave(Chains[entry.Chain], &Entry::InCell, static_cast<std::int32_t>(body));
-    Leave(level.First, &Entry::OnLevel, static_cast<std::int32_t>(body));
-    --level.Count;
-    entry.Level = None;
+    Leave(static_cast<std::int32_t>(body));
+    Places[body].Level = None;
 }
 
-void NearGrid::LookOnLevel(const Question& asked, std::int32_t number, std::vector<std::int32_t>& found) const
+void NearGrid::LookOnLevel(const Question& asked, std::int32_t number, BodyList& found) const
 {
     const Level& level = Levels[static_cast<std::size_t>(number)];
-    const Measure& measure = Measures[static_cast<std::size_t>(number)];
-    const double reach = asked.Reach + measure.Width / 2;
-    const std::int32_t firstColumn = base::Floor((asked.PlaceX - reach) * measure.Scale);
-    const std::int32_t lastColumn = base::Floor((asked.PlaceX + reach) * measure.Scale);
-    const std::int32_t firstRow = base::Floor((asked.PlaceZ - reach) * measure.Scale);
-    const std::int32_t lastRow = base::Floor((asked.PlaceZ + reach) * measure.Scale);
+    const double scale = Measures[static_cast<std::size_t>(number)].Scale;
+    const double reach = asked.Reach + level.Reach;
+    const std::int32_t firstColumn = base::Floor((asked.PlaceX - reach) * scale);
+    const std::int32_t lastColumn = base::Floor((asked.PlaceX + reach) * scale);
+    const std::int32_t firstRow = base::Floor((asked.PlaceZ - reach) * scale);
+    const std::int32_t lastRow = base::Floor((asked.PlaceZ + reach) * scale);
     const Entry* const entries = Entries.data();
-    const auto take = [&, x = asked.X, z = asked.Z, radius = asked.Radius](std::int32_t body)
+    const auto take = [&, at = asked.At, range = asked.Range](std::int32_t body)
     {
-        const Entry& entry = entries[body];
-        const double sum = radius + entry.Radius, dx = x - entry.X, dz = z - entry.Z;
-        if (dx * dx + dz * dz <= sum * sum * Hair && sum > 0.0 && body >= asked.Range.First && body <= asked.Range.Last)
-            found.push_back(body);
+        if (Overlap(at, entries[body].At) && body >= range.First && body <= range.Last)
+            found.Add(body);
     };
 
     if ((std::int64_t{lastColumn} - firstColumn + 1) * (std::int64_t{lastRow} - firstRow + 1) > level.Count)
     {
-        for (std::int32_t body = level.First; body != None; body = entries[body].OnLevel.Next)
+        for (std::int32_t body = level.First; body != None; body = Places[static_cast<std::size_t>(body)].NextOnLevel)
             take(body);
         return;
     }
@@ -179,19 +198,17 @@ void NearGrid::LookOnLevel(const Question& asked, std::int32_t number, std::vect
     {
         const std::uint32_t hash = HashOf(number, row);
         for (std::int32_t column = firstColumn; column <= lastColumn; ++column)
-            for (std::int32_t body = chains[(hash + BitsOf(column)) & mask]; body != None;
-                 body = entries[body].InCell.Next)
-                if (entries[body].Key == KeyOf(number, column, row))
-                    take(body);
+            for (std::int32_t body = chains[(hash + BitsOf(column)) & mask]; body != None; body = entries[body].Next)
+                take(body);
     }
 }
 
-void NearGrid::Look(const Disc& at, const BodyRange& range, std::vector<std::int32_t>& found) const
+void NearGrid::Look(const Disc& at, const BodyRange& range, BodyList& found) const
 {
-    found.clear();
+    found.Clear();
     if (!CanTouch(at))
         return;
-    const Question asked = {at.X, at.Z, at.Radius, PlaceOf(at.X), PlaceOf(at.Z), ReachOf(at) + Slack, range};
+    const Question asked = {at, PlaceOf(at.X), PlaceOf(at.Z), ReachOf(at) + Slack, range};
     for (std::int32_t number = 0; number < LevelCount; ++number)
     {
         const Level& level = Levels[static_cast<std::size_t>(number)];

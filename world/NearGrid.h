@@ -3,10 +3,12 @@
 // Whoever looks walks, level by level, the cells that a body may reach out of, or all bodies of the level where these
 // are fewer. Room is taken in proportion to the bodies, whatever their sizes and places.
 #pragma once
+#include <algorithm>
 #include <array>
 #include <cstddef>
 #include <cstdint>
 #include <limits>
+#include <span>
 #include <vector>
 
 namespace world
@@ -23,6 +25,27 @@ struct BodyRange
     std::int32_t First = 0, Last = 0;
 };
 
+// Bodies that were found. Its room only grows.
+class BodyList
+{
+public:
+    void Clear() { Count = 0; }
+    void Reserve(std::size_t bodies) { Room.resize(std::max(Room.size(), bodies)); }
+    void Add(std::int32_t body)
+    {
+        if (Count == Room.size())
+            Room.resize(2 * Count + 16);
+        Room[Count++] = body;
+    }
+    // In ascending order, each once.
+    void Sort();
+    std::span<const std::int32_t> Bodies() const { return {Room.data(), Count}; }
+
+private:
+    std::vector<std::int32_t> Room;
+    std::size_t Count = 0;
+};
+
 class NearGrid
 {
 public:
@@ -31,49 +54,52 @@ public:
     // The body is there now, and nowhere else.
     void Put(std::size_t body, const Disc& at);
     void Remove(std::size_t body); // nothing for a body that is not there
-    // Writes every body of the range whose disc overlaps that one, perhaps with some that miss it by a hair, in no
-    // order.
-    void Look(const Disc& at, const BodyRange& range, std::vector<std::int32_t>& found) const;
+    // Writes every body of the range whose disc overlaps that one, in no order; now and then one that misses it by a
+    // hair, or one twice.
+    void Look(const Disc& at, const BodyRange& range, BodyList& found) const;
 
 private:
     static constexpr std::int32_t None = -1;
     static constexpr int LevelCount = 21;
 
-    // Neighbours in a chain of bodies.
-    struct Link
-    {
-        std::int32_t Next = None, Before = None;
-    };
     struct Entry
     {
-        double X = 0, Z = 0, Radius = 0; // as in its disc
-        std::uint64_t Key = 0;           // of its cell
-        std::uint32_t Chain = 0;         // of its cell
-        std::int32_t Level = None;       // None: the body is not there
-        Link InCell, OnLevel;
+        Disc At;
+        std::int32_t Next = None; // in the chain of its cell
+    };
+    // The rest of what is known of a body, which nobody asks for who only looks.
+    struct Place
+    {
+        std::int32_t Level = None;  // None: the body is not there
+        std::uint32_t Chain = 0;    // of its cell
+        std::int32_t Before = None; // in the chain
+        std::int32_t NextOnLevel = None, BeforeOnLevel = None;
     };
     struct Level
     {
-        std::int32_t First = None; // of the chain of its bodies
+        std::int32_t First = None; // of its bodies
         std::int32_t Count = 0;
-        BodyRange Range = {std::numeric_limits<std::int32_t>::max(), None}; // all that have been there lie within
+        // All that have been there lie within these.
+        BodyRange Range = {std::numeric_limits<std::int32_t>::max(), None};
+        double Reach = 0;
     };
 
     // What Look is asked, prepared once for all levels.
     struct Question
     {
-        double X, Z, Radius;          // as in the disc
+        Disc At;
         double PlaceX, PlaceZ, Reach; // within the grid's numbers
         BodyRange Range;
     };
 
     std::vector<Entry> Entries;                // by body
+    std::vector<Place> Places;                 // by body
     std::vector<std::int32_t> Chains = {None}; // the first body of cells that share a chain; a power of two of them
     std::uint32_t Mask = 0;                    // of their numbers
     std::array<Level, LevelCount> Levels;
 
-    void Join(std::int32_t& first, Link Entry::*link, std::int32_t body);
-    void Leave(std::int32_t& first, Link Entry::*link, std::int32_t body);
-    void LookOnLevel(const Question& asked, std::int32_t number, std::vector<std::int32_t>& found) const;
+    void Join(std::int32_t body);
+    void Leave(std::int32_t body);
+    void LookOnLevel(const Question& asked, std::int32_t number, BodyList& found) const;
 };
 }

@@ -1,18 +1,13 @@
 #include "world/Settled.h"
 
 #include <algorithm>
-#include <cstddef>
 #include <cstring>
+#include <memory>
 
 namespace world
 {
 namespace
 {
-std::uint32_t SpheresOf(const render::Obj& object)
-{
-    return object.Free == 0 ? static_cast<std::uint32_t>(object.Sfere.size()) : 0;
-}
-
 // The bytes of a record from one of its members on.
 const std::byte* BytesAt(const void* record, std::size_t offset)
 {
@@ -20,102 +15,133 @@ const std::byte* BytesAt(const void* record, std::size_t offset)
 }
 }
 
-// Numbers are compared by their bits, several at a time: what is no number is itself, and -0 is not 0. The numbers of a
+Settled::Stance Settled::StanceOf(const render::Obj& object, std::int32_t index)
+{
+    return {object.X, object.Y, object.Z, object.AngleA, object.AngleB, object.Radius, index};
+}
+
+// Numbers are compared by their bits, several at a time: what is no number is itself, and -0 is not 0. Those of a
 // stance and of a ball lie in their records as they lie here.
 bool Settled::IsAsKnown(const Stance& known, const render::Obj& object)
 {
     using render::Obj;
-    static_assert(offsetof(Obj, Radius) - offsetof(Obj, X) == offsetof(Stance, Radius) &&
-                  offsetof(Obj, AngleB) - offsetof(Obj, X) == offsetof(Stance, AngleB) &&
-                  offsetof(Obj, AngleA) - offsetof(Obj, X) == offsetof(Stance, AngleA) &&
-                  offsetof(Obj, Z) - offsetof(Obj, X) == offsetof(Stance, Z) &&
-                  offsetof(Obj, Y) - offsetof(Obj, X) == offsetof(Stance, Y));
-    return std::memcmp(BytesAt(&object, offsetof(Obj, X)), &known, sizeof known) == 0;
+    static_assert(offsetof(Stance, X) == 0 && offsetof(Stance, Radius) == 5 * sizeof(float));
+    static_assert(offsetof(Obj, Y) == offsetof(Obj, X) + offsetof(Stance, Y) &&
+                  offsetof(Obj, Z) == offsetof(Obj, X) + offsetof(Stance, Z) &&
+                  offsetof(Obj, AngleA) == offsetof(Obj, X) + offsetof(Stance, AngleA) &&
+                  offsetof(Obj, AngleB) == offsetof(Obj, X) + offsetof(Stance, AngleB) &&
+                  offsetof(Obj, Radius) == offsetof(Obj, X) + offsetof(Stance, Radius));
+    return std::memcmp(BytesAt(&object, offsetof(Obj, X)), BytesAt(&known, 0), 6 * sizeof(float)) == 0;
 }
 
-// known: as many as there are spheres.
-bool Settled::AreAsKnown(const Ball* known, const std::vector<render::Sfera>& spheres)
+bool Settled::IsAsKnown(const Ball& known)
 {
     using render::Sfera;
     static_assert(offsetof(Sfera, X) == offsetof(Ball, X) && offsetof(Sfera, Y) == offsetof(Ball, Y) &&
                   offsetof(Sfera, Z) == offsetof(Ball, Z) && offsetof(Sfera, R) == offsetof(Ball, R));
-    for (const Sfera& sphere : spheres)
-        if (std::memcmp(BytesAt(&sphere, 0), known++, sizeof *known) != 0)
-            return false;
-    return true;
+    return std::memcmp(BytesAt(known.Sphere, 0), BytesAt(&known, 0), 4 * sizeof(float)) == 0;
 }
 
 void Settled::MakeRoom(std::size_t objects)
 {
-    Stances.resize(objects);
-    Counts.assign(objects, 0); // no body is one that was known
-    Starts.resize(objects);
-    Stirred.resize(objects);
-    Moved.assign(objects, 0);
+    Kept.assign(objects, {});
+    Stirred.assign(objects, 0);
+    Moves.assign(objects, 0);
     List.reserve(objects);
+    Moving.clear();
+    Moving.reserve(objects);
 }
 
-// Copies and plain pointers: this walk over all objects is most of a quiet tick.
-bool Settled::ListStirred(const std::vector<render::Obj>& objects)
+void Settled::KeepMoving(std::size_t object)
 {
-    List.clear();
-    bool otherCounts = false;
-    const std::uint32_t *const counts = Counts.data(), *const starts = Starts.data();
-    const std::uint8_t* const moved = Moved.data();
-    const Stance* const stances = Stances.data();
-    const Ball* const balls = Balls.data();
-    for (std::size_t index = 0; index < objects.size(); ++index)
+    if (Moves[object] != 0)
+        return;
+    Moves[object] = 1;
+    Moving.push_back(static_cast<std::int32_t>(object));
+}
+
+void Settled::Enlist(std::int32_t object)
+{
+    std::uint8_t& stirred = Stirred[static_cast<std::size_t>(object)];
+    if (stirred == 0)
+        List.push_back(object);
+    stirred = 1;
+}
+
+// Without a branch: this is asked of every object in every step. A vector that lies where it lay and ends where it
+// ended may still hold other numbers, but can be looked into by what is known of it.
+bool Settled::AreSpheresKept(const std::vector<render::Obj>& objects) const
+{
+    bool others = false;
+    const Spheres* kept = Kept.data();
+    for (const render::Obj& object : objects)
     {
-        const render::Obj& object = objects[index];
-        const std::uint32_t count = SpheresOf(object);
-        const bool sameCount = count == counts[index];
-        if (sameCount && (count == 0 || (moved[index] == 0 && IsAsKnown(stances[index], object) &&
-                                         AreAsKnown(balls + starts[index], object.Sfere))))
-            continue;
-        otherCounts |= !sameCount;
-        List.push_back(static_cast<std::int32_t>(index));
+        others |= (object.Sfere.data() != kept->First) | (std::to_address(object.Sfere.end()) != kept->End) |
+                  (object.Free != kept->Free);
+        ++kept;
     }
-    return otherCounts;
-}
-
-void Settled::Learn(const render::Obj& object, std::size_t index)
-{
-    Stances[index] = {object.X, object.Y, object.Z, object.AngleA, object.AngleB, object.Radius};
-    Ball* ball = Balls.data() + Starts[index];
-    if (IsBody(index))
-        for (const render::Sfera& sphere : object.Sfere)
-            *ball++ = {sphere.X, sphere.Y, sphere.Z, sphere.R};
+    return !others;
 }
 
 void Settled::LearnAll(const std::vector<render::Obj>& objects)
 {
-    std::uint32_t end = 0;
+    Stances.clear();
+    Balls.clear();
     for (std::size_t index = 0; index < objects.size(); ++index)
     {
-        Starts[index] = end;
-        Counts[index] = SpheresOf(objects[index]);
-        end += Counts[index];
+        const render::Obj& object = objects[index];
+        const auto number = static_cast<std::int32_t>(index);
+        const bool wasBody = IsBody(index);
+        Kept[index] = {object.Sfere.data(), std::to_address(object.Sfere.end()), object.Free};
+        if (wasBody || IsBody(index))
+            Enlist(number);
+        if (!IsBody(index))
+            continue;
+        Stances.push_back(StanceOf(object, number));
+        for (const render::Sfera& sphere : object.Sfere)
+            Balls.push_back({sphere.X, sphere.Y, sphere.Z, sphere.R, number, &sphere});
     }
-    Balls.resize(end);
-    for (std::size_t index = 0; index < objects.size(); ++index)
-        Learn(objects[index], index);
 }
 
-void Settled::Compare(const std::vector<render::Obj>& objects, const std::vector<std::int16_t>& carOf)
+// Stances and spheres by themselves: two walks straight through memory.
+void Settled::CompareBodies(const std::vector<render::Obj>& objects)
 {
-    OtherList = objects.size() != Counts.size();
+    for (Stance& stance : Stances)
+    {
+        const render::Obj& object = objects[static_cast<std::size_t>(stance.Object)];
+        if (IsAsKnown(stance, object))
+            continue;
+        stance = StanceOf(object, stance.Object);
+        Enlist(stance.Object);
+    }
+    for (Ball& ball : Balls)
+    {
+        if (IsAsKnown(ball))
+            continue;
+        const render::Sfera& sphere = *ball.Sphere;
+        ball = {sphere.X, sphere.Y, sphere.Z, sphere.R, ball.Object, &sphere};
+        Enlist(ball.Object);
+    }
+}
+
+void Settled::Compare(const std::vector<render::Obj>& objects, const std::vector<std::int32_t>& cars)
+{
+    OtherList = objects.size() != Kept.size();
     if (OtherList)
         MakeRoom(objects.size());
-    const bool otherCounts = ListStirred(objects);
-    if (otherCounts)
-        LearnAll(objects);
-    else
-        for (const std::int32_t index : List)
-            Learn(objects[static_cast<std::size_t>(index)], static_cast<std::size_t>(index));
     std::fill(Stirred.begin(), Stirred.end(), std::uint8_t{0});
-    for (const std::int32_t index : List)
-        Stirred[static_cast<std::size_t>(index)] = 1;
-    std::transform(carOf.begin(), carOf.end(), Moved.begin(),
-                   [](std::int16_t car) { return static_cast<std::uint8_t>(car >= 0); });
+    List.clear();
+    if (AreSpheresKept(objects))
+        CompareBodies(objects);
+    else
+        LearnAll(objects);
+    for (const std::int32_t object : Moving)
+    {
+        Enlist(object);
+        Moves[static_cast<std::size_t>(object)] = 0;
+    }
+    Moving.clear();
+    for (const std::int32_t car : cars)
+        KeepMoving(static_cast<std::size_t>(car));
 }
 }

@@ -1,7 +1,6 @@
 // world/Shape.h: where a body's spheres are, kept as long as it stands, and whether two bodies' spheres touch.
 #pragma once
 #include "render/Scene.h"
-#include "world/Settled.h"
 
 #include <array>
 #include <cstddef>
@@ -9,6 +8,12 @@
 
 namespace world
 {
+// A collision sphere in the world.
+struct Ball
+{
+    float X = 0, Y = 0, Z = 0, R = 0; // its centre and its radius, world units
+};
+
 // The first pair of spheres that touch: by the first body's spheres, then by the second's.
 struct Contact
 {

@@ -31,14 +31,15 @@ struct TickScratch
 {
     std::vector<Standing> Standings; // ComputePlaces: all players, the first first
     std::vector<std::int16_t> CarOf; // by object: the player that drives it, -1 for none
+    std::vector<std::int32_t> Cars;  // the objects of which CarOf knows a player
     ZoneGrid Boxes, Grass, Water;    // of the map
     Settled Rest;                    // what is known of the bodies that have not moved
     NearGrid Grid;                   // of the bodies, as they stand
     std::vector<Shape> Shapes;       // by object
     std::vector<std::uint8_t> Rows;  // by object: 1 where a pair that begins with it may touch
     std::vector<Disc> MarkedAround;  // by object: where it stood when those rows were marked for it
-    std::vector<std::int32_t> Row;   // whom the body of the present row may touch
-    std::vector<std::int32_t> Found; // around another body
+    BodyList Row;                    // whom the body of the present row may touch
+    BodyList Found;                  // around another body
 };
 
 // Borrowed for the length of a step; the caller owns every record.

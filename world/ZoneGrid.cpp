@@ -14,7 +14,7 @@ void ZoneGrid::Learn(std::span<const Target> zones)
     {
         Zones.assign(zones.size(), {});
         Grid.Reset(zones.size());
-        Found.reserve(zones.size());
+        Found.Reserve(zones.size());
     }
     else if (zones.empty() || std::memcmp(&zones.front().X, &Zones.front().X, zones.size_bytes()) == 0)
         return;
@@ -29,7 +29,8 @@ bool ZoneGrid::Holds(const render::Obj& object)
 {
     const auto last = static_cast<std::int32_t>(Zones.size()) - 1;
     Grid.Look({object.X, object.Z, 0}, {0, last}, Found);
-    return std::any_of(Found.begin(), Found.end(),
+    const std::span<const std::int32_t> found = Found.Bodies();
+    return std::any_of(found.begin(), found.end(),
                        [&](std::int32_t zone) { return IsInside(object, Zones[static_cast<std::size_t>(zone)]); });
 }
 }

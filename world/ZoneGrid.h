@@ -22,6 +22,6 @@ public:
 private:
     std::vector<Target> Zones;
     NearGrid Grid; // of the zones by number
-    std::vector<std::int32_t> Found;
+    BodyList Found;
 };
 }
