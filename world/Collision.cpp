@@ -42,6 +42,8 @@ struct PairWalk
     TickScratch& Scratch = Sim.Scratch;
     const std::vector<render::Obj>& Objects = Sim.Scene.Objects.Items;
 
+    std::int32_t FirstRow = 0; // of those that are still to be walked
+
     Disc DiscOf(std::size_t body) const { return {Objects[body].X, Objects[body].Z, Objects[body].Radius}; }
 
     // The body stands where it did not stand before.
@@ -59,7 +61,7 @@ struct PairWalk
         const Disc disc = DiscOf(body);
         Scratch.MarkedAround[body] = disc;
         Scratch.Rows[body] = 1;
-        Scratch.Grid.Look(Widened(disc), {0, static_cast<std::int32_t>(body) - 1}, Scratch.Found);
+        Scratch.Grid.Look(Widened(disc), {FirstRow, static_cast<std::int32_t>(body) - 1}, Scratch.Found);
         for (const std::int32_t found : Scratch.Found.Bodies())
             Scratch.Rows[static_cast<std::size_t>(found)] = 1;
     }
@@ -155,6 +157,7 @@ struct PairWalk
         for (std::size_t row = NextRow(0); row < Objects.size(); row = NextRow(row + 1))
         {
             Scratch.Rows[row] = 0;
+            FirstRow = static_cast<std::int32_t>(row) + 1;
             WalkRow(row);
         }
     }

@@ -15,6 +15,7 @@ constexpr double Farthest = 1 << 20;
 constexpr double MostReach = 2 * Farthest; // reaches everywhere from anywhere
 constexpr double Slack = 1e-3;             // more than the rounding of such places
 constexpr float Hair = 1 + 1e-6f;          // more than the rounding of a distance and of a sum of radii
+constexpr float Speck = 1e-30f;            // more than the rounding of squares that are almost nothing
 
 // Width of a level's cells and its inverse: powers of two, so that places are scaled without rounding.
 struct Measure
@@ -64,11 +65,11 @@ std::uint32_t BitsOf(std::int32_t number)
     return static_cast<std::uint32_t>(number);
 }
 
-// In single precision: squares that are too large for it, or too small, are the same for both.
+// In single precision: squares that are too large for it are the same for both.
 bool Overlap(const Disc& a, const Disc& b)
 {
     const float reach = a.Radius + b.Radius, x = a.X - b.X, z = a.Z - b.Z;
-    return x * x + z * z <= reach * reach * Hair && reach > 0.0f;
+    return x * x + z * z <= reach * reach * Hair + Speck && reach > 0.0f;
 }
 
 // Of a row of cells, which lie side by side from here on.
