@@ -4,7 +4,6 @@
 
 #include <algorithm>
 #include <cmath>
-#include <cstring>
 
 namespace world
 {
@@ -59,32 +58,25 @@ struct PairWalk
     void MarkRows(std::size_t body)
     {
         const Disc disc = DiscOf(body);
+        const auto number = static_cast<std::int32_t>(body);
         Scratch.MarkedAround[body] = disc;
-        Scratch.Rows[body] = 1;
-        Scratch.Grid.Look(Widened(disc), {FirstRow, static_cast<std::int32_t>(body) - 1}, Scratch.Found);
+        Scratch.Marks.Mark(body);
+        Scratch.Grid.Look(Widened(disc), {FirstRow, number - 1}, Scratch.Found);
         for (const std::int32_t found : Scratch.Found.Bodies())
-            Scratch.Rows[static_cast<std::size_t>(found)] = 1;
+        {
+            const auto row = static_cast<std::size_t>(found);
+            if (Scratch.Rest.IsStirred(row)) // will look for itself
+                Scratch.Marks.Mark(row);
+            else
+                Scratch.Marks.MarkFor(row, number);
+        }
     }
 
-    // The first marked row from that one on; the number of objects when there is none.
-    std::size_t NextRow(std::size_t from) const
-    {
-        const std::size_t count = Objects.size() - from;
-        const void* const row = count != 0 ? std::memchr(&Scratch.Rows[from], 1, count) : nullptr;
-        return row != nullptr ? static_cast<std::size_t>(static_cast<const std::uint8_t*>(row) - Scratch.Rows.data())
-                              : Objects.size();
-    }
-
-    // Who of the row may touch its body, in order: those above `after`, and none with whom it has stood apart.
+    // Lists who of the row may touch its body: those above `after`.
     void ListRow(std::size_t body, std::int32_t after)
     {
         Scratch.Grid.Look(Widened(DiscOf(body)), {after + 1, static_cast<std::int32_t>(Objects.size()) - 1},
-                          Scratch.Found);
-        const bool isStirred = Scratch.Rest.IsStirred(body);
-        Scratch.Row.Clear();
-        for (const std::int32_t other : Scratch.Found.Bodies())
-            if (isStirred || Scratch.Rest.IsStirred(static_cast<std::size_t>(other)))
-                Scratch.Row.Add(other);
+                          Scratch.Row);
         Scratch.Row.Sort();
     }
 
@@ -114,7 +106,9 @@ struct PairWalk
     void WalkRow(std::size_t body)
     {
         Disc listed = DiscOf(body);
-        ListRow(body, static_cast<std::int32_t>(body));
+        // One that has not stirred stands apart from all others that have not.
+        if (!Scratch.Marks.Take(body, Scratch.Row) || Scratch.Rest.IsStirred(body))
+            ListRow(body, static_cast<std::int32_t>(body));
         for (std::size_t n = 0; n < Scratch.Row.Bodies().size();)
         {
             const std::int32_t other = Scratch.Row.Bodies()[n++];
@@ -138,7 +132,7 @@ struct PairWalk
         Scratch.Grid.Reset(Objects.size());
         Scratch.Shapes.resize(Objects.size());
         Scratch.MarkedAround.resize(Objects.size());
-        Scratch.Rows.assign(Objects.size(), 0);
+        Scratch.Marks.Reset(Objects.size());
         Scratch.Row.Reserve(Objects.size());
         Scratch.Found.Reserve(Objects.size());
     }
@@ -149,14 +143,14 @@ struct PairWalk
         Scratch.Rest.Compare(Objects, Scratch.Cars);
         if (Scratch.Rest.IsOtherList())
             MakeRoom();
+        Scratch.Marks.Begin();
         for (const std::int32_t body : Scratch.Rest.StirredAtFirst())
             Place(static_cast<std::size_t>(body));
         for (const std::int32_t body : Scratch.Rest.StirredAtFirst())
             if (Scratch.Rest.IsBody(static_cast<std::size_t>(body)))
                 MarkRows(static_cast<std::size_t>(body));
-        for (std::size_t row = NextRow(0); row < Objects.size(); row = NextRow(row + 1))
+        for (std::size_t row = Scratch.Marks.Next(0); row < Objects.size(); row = Scratch.Marks.Next(row + 1))
         {
-            Scratch.Rows[row] = 0;
             FirstRow = static_cast<std::int32_t>(row) + 1;
             WalkRow(row);
         }

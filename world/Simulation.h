@@ -7,6 +7,7 @@
 #include "render/Scene.h"
 #include "world/NearGrid.h"
 #include "world/Race.h"
+#include "world/RowMarks.h"
 #include "world/Settled.h"
 #include "world/Shape.h"
 #include "world/ZoneGrid.h"
@@ -36,7 +37,7 @@ struct TickScratch
     Settled Rest;                    // what is known of the bodies that have not moved
     NearGrid Grid;                   // of the bodies, as they stand
     std::vector<Shape> Shapes;       // by object
-    std::vector<std::uint8_t> Rows;  // by object: 1 where a pair that begins with it may touch
+    RowMarks Marks;                  // by object: which rows of pairs are walked
     std::vector<Disc> MarkedAround;  // by object: where it stood when those rows were marked for it
     BodyList Row;                    // whom the body of the present row may touch
     BodyList Found;                  // around another body
