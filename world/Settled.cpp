@@ -76,8 +76,10 @@ bool Settled::AreSpheresKept(const std::vector<render::Obj>& objects) const
     const Spheres* kept = Kept.data();
     for (const render::Obj& object : objects)
     {
-        others |= (object.Sfere.data() != kept->First) | (std::to_address(object.Sfere.end()) != kept->End) |
-                  (object.Free != kept->Free);
+        const bool otherFirst = object.Sfere.data() != kept->First;
+        const bool otherEnd = std::to_address(object.Sfere.end()) != kept->End;
+        const bool otherLife = object.Free != kept->Free;
+        others |= otherFirst | otherEnd | otherLife;
         ++kept;
     }
     return !others;

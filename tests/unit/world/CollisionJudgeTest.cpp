@@ -121,6 +121,7 @@ const Recipe Recipes[] = {
     {90, 9, 100, 60, 1e30},  // thrown off every scale
     {250, 125, 22, 2, 3},    // everybody pushes everybody, many times a tick
     {120, 12, 300, 3000, 9}, // everybody is near everybody
+    {160, 40, 900, 9000, 2}, // and many of them drive
     {400, 5, 40, 0.4, 8},    // small ones, close together
 };
 }

@@ -1,5 +1,6 @@
 #include "world/NearGrid.h"
 
+#include "base/Numbers.h"
 #include "base/Random.h"
 
 #include <gtest/gtest.h>
