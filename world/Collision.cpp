@@ -18,7 +18,7 @@ bool AreNear(const render::Obj& a, const render::Obj& b)
 // How far a body may go before its neighbours are looked up again: they are looked up around it with twice as much.
 float Leeway(const Disc& disc)
 {
-    return 0.25f + std::fabs(disc.Radius) / 16.0f;
+    return 0.125f + std::fabs(disc.Radius) / 64.0f;
 }
 
 Disc Widened(const Disc& disc)

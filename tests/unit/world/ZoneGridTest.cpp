@@ -73,3 +73,21 @@ TEST(ZoneGrid, TheEdgeIsOutside)
     grid.Learn({});
     EXPECT_FALSE(grid.Holds(At(10, 9.999f)));
 }
+
+TEST(ZoneGrid, EveryNumberThatIsWrittenCounts)
+{
+    world::ZoneGrid grid;
+    std::vector<world::Target> zones = {{100, 0, 100, 4}, {10, 0, 6, 4}};
+    grid.Learn(zones);
+    EXPECT_TRUE(grid.Holds(At(10, 8)));
+    for (float* const number : {&zones[1].X, &zones[1].Z, &zones[1].R})
+    {
+        const float before = *number;
+        *number = 1;
+        grid.Learn(zones);
+        EXPECT_FALSE(grid.Holds(At(10, 8)));
+        *number = before;
+        grid.Learn(zones);
+        EXPECT_TRUE(grid.Holds(At(10, 8)));
+    }
+}
