@@ -8,18 +8,18 @@ namespace world
 {
 namespace
 {
-bool Collides(const render::Obj& object)
+bool CollidesPlain(const render::Obj& object)
 {
     return object.Free == 0 && !object.Sfere.empty();
 }
 
-bool AreNear(const render::Obj& a, const render::Obj& b)
+bool AreNearPlain(const render::Obj& a, const render::Obj& b)
 {
     const double reach = static_cast<double>(a.Radius) + b.Radius;
     return render::Dist3D(a.X, a.Y, a.Z, b.X, b.Y, b.Z) < reach && std::isfinite(reach);
 }
 
-render::Point3 Centre(const render::Obj& object, const render::Rotation& rotation, const render::Sfera& sphere)
+render::Point3 CentrePlain(const render::Obj& object, const render::Rotation& rotation, const render::Sfera& sphere)
 {
     return render::RotatePoint(rotation, {object.X, object.Y, object.Z}, {sphere.X, sphere.Y, sphere.Z});
 }
@@ -31,8 +31,8 @@ bool FindContactPlain(const render::Obj& i, const render::Obj& j, Contact& conta
     for (std::size_t a = 0; a < i.Sfere.size(); ++a)
         for (std::size_t b = 0; b < j.Sfere.size(); ++b)
         {
-            const render::Point3 p = Centre(i, turnI, i.Sfere[a]);
-            const render::Point3 q = Centre(j, turnJ, j.Sfere[b]);
+            const render::Point3 p = CentrePlain(i, turnI, i.Sfere[a]);
+            const render::Point3 q = CentrePlain(j, turnJ, j.Sfere[b]);
             const double distance = render::Dist3D(p.X, p.Y, p.Z, q.X, q.Y, q.Z);
             const double reach = static_cast<double>(i.Sfere[a].R) + j.Sfere[b].R;
             if (distance < reach && std::isfinite(reach))
@@ -53,7 +53,7 @@ void CollidePlain(Simulation& sim)
         for (std::size_t b = a + 1; b < objects.size(); ++b)
         {
             Contact contact;
-            if (Collides(objects[a]) && Collides(objects[b]) && AreNear(objects[a], objects[b]) &&
+            if (CollidesPlain(objects[a]) && CollidesPlain(objects[b]) && AreNearPlain(objects[a], objects[b]) &&
                 FindContactPlain(objects[a], objects[b], contact))
                 Strike(sim, a, b, contact);
         }
