@@ -10,7 +10,8 @@
 
 namespace
 {
-constexpr float WorldSize = 700.0f;
+constexpr float UsualSize = 700.0f; // of the world
+constexpr int UsualObjects = 2000;  // in a world of that size
 constexpr int GateCount = 24;
 constexpr int CarSpheres = 10;
 
@@ -21,14 +22,15 @@ float Between(base::Random& random, double low, double high)
     return static_cast<float>(low + (high - low) * random.Next());
 }
 
-void AddObject(World& world)
+// The world is a square of that size.
+void AddObject(World& world, float size)
 {
     base::Random& random = world.Random;
     const float radius = Between(random, 1, 6);
     const auto spheres = static_cast<std::int16_t>(1 + base::Floor(random.Next() * 4));
-    const std::int16_t object = render::MakeObj(
-        world.Scene, {Between(random, 0, WorldSize), 0, Between(random, 0, WorldSize), Between(random, -3, 3), 0}, 0,
-        spheres, 1, 20);
+    const std::int16_t object =
+        render::MakeObj(world.Scene, {Between(random, 0, size), 0, Between(random, 0, size), Between(random, -3, 3), 0},
+                        0, spheres, 1, 20);
     render::SetObjR(world.Scene, object, radius);
     for (std::int16_t sphere = 0; sphere < spheres; ++sphere)
         render::EditObjSfere(world.Scene, object, sphere,
@@ -36,15 +38,14 @@ void AddObject(World& world)
                              radius / 3);
 }
 
-// On the course, in rows of four.
-void AddCar(World& world, int number)
+// On the course round the middle, in rows of four.
+void AddCar(World& world, float middle, int number)
 {
     const int row = number / 4;
     const float angle = static_cast<float>(row) * 0.03f;
     const float distance = 250.0f + static_cast<float>(number % 4) * 4.0f;
     const std::int16_t object = render::MakeObj(
-        world.Scene,
-        {WorldSize / 2 - std::cos(angle) * distance, 0, WorldSize / 2 + std::sin(angle) * distance, -angle, 0}, 21,
+        world.Scene, {middle - std::cos(angle) * distance, 0, middle + std::sin(angle) * distance, -angle, 0}, 21,
         CarSpheres, 1, 1);
     render::SetObjR(world.Scene, object, 2.6f);
     for (std::int16_t mesh = 0; mesh < 21; ++mesh)
@@ -72,8 +73,9 @@ void AddCar(World& world, int number)
     world.Race.Players.push_back(player);
 }
 
-std::unique_ptr<World> MakeWorld(int cars, int objects)
+std::unique_ptr<World> MakeWorld(int cars, int objects, float size = UsualSize)
 {
+    const float middle = size / 2;
     auto made = std::make_unique<World>();
     World& world = *made;
     world.Random.Script.clear();
@@ -81,15 +83,15 @@ std::unique_ptr<World> MakeWorld(int cars, int objects)
     world.WebcamOn = true;
     world.Race.GameTime = world::ReleaseTime; // every car drives
     for (int n = 0; n < cars; ++n)
-        AddCar(world, n);
+        AddCar(world, middle, n);
     for (int n = 0; n < objects; ++n)
-        AddObject(world);
+        AddObject(world, size);
     for (int gate = 1; gate <= GateCount; ++gate)
     {
         const float angle = static_cast<float>(gate) * 6.2831853f / GateCount;
         world.Race.Map.Checkpoints.Items.push_back(
-            {WorldSize / 2 - std::cos(angle) * 256, 0, WorldSize / 2 + std::sin(angle) * 256, 16});
-        world.Race.Map.Grass.Items.push_back({WorldSize / 2, 0, WorldSize / 2, 10.0f * static_cast<float>(gate)});
+            {middle - std::cos(angle) * 256, 0, middle + std::sin(angle) * 256, 16});
+        world.Race.Map.Grass.Items.push_back({middle, 0, middle, 10.0f * static_cast<float>(gate)});
     }
     world.Race.Map.ACheckpoints = world.Race.Map.Checkpoints;
     world.MakePictures();
@@ -97,8 +99,14 @@ std::unique_ptr<World> MakeWorld(int cars, int objects)
     return made;
 }
 
-// Cars, objects. The race goes on from tick to tick, and begins anew after a minute.
-void GameTick(benchmark::State& state)
+// Of a world with as many objects to the square unit as the usual one.
+float SizeOf(int objects)
+{
+    return UsualSize * std::sqrt(static_cast<float>(objects) / UsualObjects);
+}
+
+// The race goes on from tick to tick, and begins anew after a minute.
+void TimeTicks(benchmark::State& state, int cars, int objects, float size)
 {
     constexpr int minute = 2400;
     std::unique_ptr<World> world;
@@ -108,11 +116,24 @@ void GameTick(benchmark::State& state)
         if (tick++ % minute == 0)
         {
             state.PauseTiming();
-            world = MakeWorld(static_cast<int>(state.range(0)), static_cast<int>(state.range(1)));
+            world = MakeWorld(cars, objects, size);
             state.ResumeTiming();
         }
         world->Tick();
     }
+}
+
+// Cars, objects, in a world that is the fuller the more there are.
+void GameTick(benchmark::State& state)
+{
+    TimeTicks(state, static_cast<int>(state.range(0)), static_cast<int>(state.range(1)), UsualSize);
+}
+
+// Cars, objects, in a world that is the wider the more there are.
+void GameTickWide(benchmark::State& state)
+{
+    const int objects = static_cast<int>(state.range(1));
+    TimeTicks(state, static_cast<int>(state.range(0)), objects, SizeOf(objects));
 }
 
 template <void (*Walk)(world::Simulation&)> void Collisions(benchmark::State& state)
@@ -125,7 +146,15 @@ template <void (*Walk)(world::Simulation&)> void Collisions(benchmark::State& st
         Walk(sim);
 }
 
-BENCHMARK(GameTick)->Args({8, 0})->Args({8, 250})->Args({64, 2000})->Unit(benchmark::kMicrosecond);
+BENCHMARK(GameTick)
+    ->Args({8, 0})
+    ->Args({8, 250})
+    ->Args({64, 2000})
+    ->Args({64, 10000})
+    ->Args({64, 20000})
+    ->Args({64, 30000})
+    ->Unit(benchmark::kMicrosecond);
+BENCHMARK(GameTickWide)->Args({64, 10000})->Args({64, 20000})->Args({64, 30000})->Unit(benchmark::kMicrosecond);
 BENCHMARK(Collisions<world::Collide>)->Args({8, 250})->Args({64, 2000})->Unit(benchmark::kMicrosecond);
 BENCHMARK(Collisions<world::CollidePlain>)->Args({8, 250})->Args({64, 2000})->Unit(benchmark::kMicrosecond);
 }

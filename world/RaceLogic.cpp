@@ -127,6 +127,7 @@ void RaceStep(Simulation& sim, FinishSink& finish)
 {
     Race& race = sim.Race;
     sim.InBox = false;
+    LearnZones(sim);
     for (std::int16_t index = 0; index < race.NumPlayers(); ++index)
     {
         Player& player = *FindPlayer(race, index);

@@ -9,35 +9,63 @@
 
 namespace world
 {
+// Bodies are the objects that can touch: live ones with spheres. Each goes by the index of its object.
 class Settled
 {
 public:
-    // Compares every body with how it stood at the last call: all that a test of a pair reads. bodies: indices of
-    // objects. carOf: by object, -1 for none; a car is stirred at the next call too, because whether it is hit depends
-    // on its speed.
-    void Compare(const std::vector<render::Obj>& objects, const std::vector<std::int16_t>& bodies,
-                 const std::vector<std::int16_t>& carOf);
-    // Whether the last Compare was given another list: all bodies are stirred then.
+    // Compares every object with how it stood at the last call: all that a test of a pair reads, whoever wrote it.
+    // cars: the objects that somebody drives; they are stirred at the next call too, because whether they are hit
+    // depends on their speed.
+    void Compare(const std::vector<render::Obj>& objects, const std::vector<std::int32_t>& cars);
+    // Whether the last Compare was given another number of objects: all bodies are stirred then.
     bool IsOtherList() const { return OtherList; }
-    bool IsStirred(std::size_t body) const { return Stirred[body] != 0; }
+    // Who was stirred at the last Compare, in no order; also who has ceased to be a body.
+    const std::vector<std::int32_t>& StirredAtFirst() const { return List; }
+    bool IsBody(std::size_t object) const { return Kept[object].Free == 0 && Kept[object].First != Kept[object].End; }
+    bool IsStirred(std::size_t object) const { return Stirred[object] != 0; }
     // The body was moved: stirred from now on, and at the next Compare too.
-    void Stir(std::size_t body) { Stirred[body] = Moved[body] = 1; }
+    void Stir(std::size_t object)
+    {
+        Stirred[object] = 1;
+        KeepMoving(object);
+    }
 
 private:
-    // Of all bodies in turn: place, angles, radius, then each sphere's centre and radius.
-    struct Stances
+    // Where an object's spheres lie; compared, and not followed before.
+    struct Spheres
     {
-        std::vector<float> Numbers;
-        std::vector<std::size_t> Starts; // by body, and the end
-
-        void Take(const std::vector<render::Obj>& objects, const std::vector<std::int16_t>& bodies);
-        // By their bits: what is no number is itself.
-        bool SameAs(const Stances& other, std::size_t body) const;
+        const render::Sfera *First = nullptr, *End = nullptr;
+        std::uint8_t Free = 0; // of the object
+    };
+    struct Stance
+    {
+        float X = 0, Y = 0, Z = 0, AngleA = 0, AngleB = 0, Radius = 0; // as in the object, in its order
+        std::int32_t Object = 0;
+    };
+    struct Ball
+    {
+        float X = 0, Y = 0, Z = 0, R = 0; // as in the sphere, in its order
+        std::int32_t Object = 0;
+        const render::Sfera* Sphere = nullptr;
     };
 
-    std::vector<std::int16_t> Bodies;
-    Stances Now, Before;
-    std::vector<std::uint8_t> Stirred, Moved; // by body
+    // As at the last Compare.
+    std::vector<Spheres> Kept;   // by object
+    std::vector<Stance> Stances; // of all bodies
+    std::vector<Ball> Balls;     // of all bodies
+
+    std::vector<std::uint8_t> Stirred, Moves; // by object; Moves: it is in Moving
+    std::vector<std::int32_t> List, Moving;   // StirredAtFirst; who will be there at the next Compare in any case
     bool OtherList = true;
+
+    static Stance StanceOf(const render::Obj& object, std::int32_t index);
+    static bool IsAsKnown(const Stance& known, const render::Obj& object);
+    static bool IsAsKnown(const Ball& known);
+    void MakeRoom(std::size_t objects);
+    void KeepMoving(std::size_t object);
+    void Enlist(std::int32_t object);
+    bool AreSpheresKept(const std::vector<render::Obj>& objects) const;
+    void LearnAll(const std::vector<render::Obj>& objects);
+    void CompareBodies(const std::vector<render::Obj>& objects);
 };
 }

@@ -5,9 +5,12 @@
 #include "base/Random.h"
 #include "render/Camera.h"
 #include "render/Scene.h"
-#include "world/NearStrips.h"
+#include "world/NearGrid.h"
 #include "world/Race.h"
+#include "world/RowMarks.h"
 #include "world/Settled.h"
+#include "world/Shape.h"
+#include "world/ZoneGrid.h"
 
 #include <cstdint>
 #include <vector>
@@ -22,27 +25,22 @@ struct Standing
     double ToGo = 0;         // ground distance to the next checkpoint, NaN where there is none
 };
 
-// The rotation of two angles, computed anew only when they have changed.
-struct KnownRotation
-{
-    float AngleA = 0, AngleB = 0; // radians
-    render::Rotation Rotation;    // of the angles above
-};
-
 // What the procedures of a step derive, kept so that no step allocates. Each of them fills what it reads, or compares
-// it with the scene before it trusts it (Rest, and with it Footprints and Strips): nothing here is a part of the game's
-// state, needs to be reset or saved. Owned beside the Race.
+// it with the scene before it trusts it (the zones; Rest, and with it Grid and Shapes): nothing here is a part of the
+// game's state, needs to be reset or saved. Owned beside the Race.
 struct TickScratch
 {
-    std::vector<Standing> Standings;      // ComputePlaces: all players, the first first
-    std::vector<std::int16_t> CarOf;      // by object: the player that drives it, -1 for none
-    std::vector<KnownRotation> Rotations; // by object
-    std::vector<std::int16_t> Bodies;     // the objects that can touch, by index
-    std::vector<Footprint> Footprints;    // by body, as it stands
-    NearStrips Strips;
-    Settled Rest;                        // the same bodies: what is known of those that have not moved
-    std::vector<std::uint8_t> Rows;      // by body: whether a pair that begins with it may touch
-    std::vector<render::Point3> Centres; // of the spheres of the second of a pair
+    std::vector<Standing> Standings; // ComputePlaces: all players, the first first
+    std::vector<std::int16_t> CarOf; // by object: the player that drives it, -1 for none
+    std::vector<std::int32_t> Cars;  // the objects of which CarOf knows a player
+    ZoneGrid Boxes, Grass, Water;    // of the map
+    Settled Rest;                    // what is known of the bodies that have not moved
+    NearGrid Grid;                   // of the bodies, as they stand
+    std::vector<Shape> Shapes;       // by object
+    RowMarks Marks;                  // by object: which rows of pairs are walked
+    std::vector<Disc> MarkedAround;  // by object: where it stood when those rows were marked for it
+    BodyList Row;                    // whom the body of the present row may touch
+    BodyList Found;                  // around another body
 };
 
 // Borrowed for the length of a step; the caller owns every record.

@@ -12,12 +12,6 @@ namespace world
 {
 namespace
 {
-bool IsInsideAny(const render::Obj& car, const TargetList& zones)
-{
-    const std::span<const Target> targets = zones.Targets();
-    return std::any_of(targets.begin(), targets.end(), [&](const Target& zone) { return IsInside(car, zone); });
-}
-
 // One puff beside the car.
 void Splash(Simulation& sim, const Player& player, const render::Obj& car)
 {
@@ -33,15 +27,23 @@ void Splash(Simulation& sim, const Player& player, const render::Obj& car)
 }
 }
 
+void LearnZones(Simulation& sim)
+{
+    const Map& map = sim.Race.Map;
+    sim.Scratch.Boxes.Learn(map.Boxes.Targets());
+    sim.Scratch.Grass.Learn(map.Grass.Targets());
+    sim.Scratch.Water.Learn(map.Water.Targets());
+}
+
 void ApplyZones(Simulation& sim, std::int16_t index)
 {
     Player* player = FindPlayer(sim.Race, index);
     const render::Obj* car = player != nullptr ? ObjectAt(sim.Scene, player->Obj) : nullptr;
     if (car == nullptr)
         return;
-    const Map& map = sim.Race.Map;
+    TickScratch& known = sim.Scratch;
 
-    const bool repairs = player->Speed == 0.0f && IsInsideAny(*car, map.Boxes);
+    const bool repairs = player->Speed == 0.0f && known.Boxes.Holds(*car);
     if (index == sim.Camera.ViewPlayer)
         sim.InBox = repairs;
     if (repairs)
@@ -51,10 +53,10 @@ void ApplyZones(Simulation& sim, std::int16_t index)
     }
 
     // Deliberate: a car in reverse is slowed by neither grass nor water.
-    if (player->Speed > 1.0f && IsInsideAny(*car, map.Grass))
+    if (player->Speed > 1.0f && known.Grass.Holds(*car))
         player->Speed = Single(player->Speed * 0.98);
 
-    if (IsInsideAny(*car, map.Water))
+    if (known.Water.Holds(*car))
     {
         if (player->Speed > 0.2)
             player->Speed = Single(player->Speed * 0.94);

@@ -7,7 +7,7 @@
 
 namespace
 {
-std::atomic<std::size_t> Count{0};
+std::atomic<std::size_t> Count{0}, Bytes{0};
 }
 
 std::size_t support::Allocations()
@@ -15,9 +15,15 @@ std::size_t support::Allocations()
     return Count;
 }
 
+std::size_t support::AllocatedBytes()
+{
+    return Bytes;
+}
+
 void* operator new(std::size_t size)
 {
     ++Count;
+    Bytes += size;
     if (void* memory = std::malloc(size == 0 ? 1 : size))
         return memory;
     throw std::bad_alloc();
@@ -25,6 +31,7 @@ void* operator new(std::size_t size)
 void* operator new(std::size_t size, const std::nothrow_t&) noexcept
 {
     ++Count;
+    Bytes += size;
     return std::malloc(size == 0 ? 1 : size);
 }
 void operator delete(void* memory) noexcept

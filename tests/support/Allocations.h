@@ -4,5 +4,6 @@
 
 namespace support
 {
-std::size_t Allocations(); // calls of operator new since the program began, on every thread
+std::size_t Allocations();    // calls of operator new since the program began, on every thread
+std::size_t AllocatedBytes(); // what they asked for; what was given back counts as well
 }

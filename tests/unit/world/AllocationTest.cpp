@@ -1,6 +1,7 @@
 // A tick of the simulation takes no memory once its lists have grown.
 #include "tests/support/Allocations.h"
 #include "tests/support/World.h"
+#include "world/Collision.h"
 
 #include <gtest/gtest.h>
 
@@ -44,4 +45,36 @@ TEST(Allocation, NoneInATickOnceTheListsHaveGrown)
         world.Tick();
     EXPECT_EQ(support::Allocations() - before, 0u);
     EXPECT_GT(before, 0u); // the counter counts
+}
+
+namespace
+{
+// What the first collisions of so many bodies ask for. reach: of the bounding radii, which makes neighbours, not
+// contacts.
+std::size_t BytesOfCollisions(int bodies, float reach)
+{
+    support::World world;
+    for (int n = 0; n < bodies; ++n)
+    {
+        world.AddBall(static_cast<float>(n % 100), std::floor(static_cast<float>(n) / 100), 0.25f, 1);
+        world.Object(n).Radius = reach;
+    }
+    world::Simulation sim = world.Sim();
+    const std::size_t before = support::AllocatedBytes();
+    world::Collide(sim);
+    world.Object(0).X += 0.1f;
+    world::Collide(sim);
+    return support::AllocatedBytes() - before;
+}
+}
+
+TEST(Allocation, CollisionsTakeMemoryInProportionToTheBodies)
+{
+    for (const float reach : {0.25f, 5.0f, 1e6f})
+        for (const int bodies : {100, 1000, 3000})
+        {
+            const std::size_t bytes = BytesOfCollisions(bodies, reach);
+            EXPECT_LT(bytes, static_cast<std::size_t>(bodies) * 1000) << bodies << " bodies of " << reach;
+            EXPECT_GT(bytes, static_cast<std::size_t>(bodies) * 50) << bodies << " bodies of " << reach;
+        }
 }

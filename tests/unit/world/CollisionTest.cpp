@@ -268,6 +268,26 @@ TEST_P(Collision, TheMovedFirstMeetsTheRestOfItsRowWhereItIsNow)
     EXPECT_LT(World.Object(2).X, -44.6f);
 }
 
+TEST_P(Collision, WhoeverIsDeletedIsNotHitByWhatWasThrownBesideIt)
+{
+    World.AddBall(45.5f, 0, 1, 1);
+    World.AddBall(0, 0, 1, 5);
+    World.AddBall(1.5f, 0, 1, 1);
+    World.AddCar(-100, -100);
+    World.Player(0).Obj = 1;
+    World.Player(0).Speed = 16.2f;
+    Collide(); // 2 lies in 0 now, and meets it in the next step
+    EXPECT_FLOAT_EQ(World.Object(2).X, 44.5f);
+    EXPECT_EQ(World.Object(0).X, 45.5f);
+    World.Object(0).Free = 1;
+    Collide();
+    EXPECT_FLOAT_EQ(World.Object(2).X, 44.5f);
+    EXPECT_EQ(World.Object(0).X, 45.5f);
+    World.Object(0).Free = 0;
+    Collide();
+    EXPECT_GT(World.Object(0).X, 45.5f);
+}
+
 TEST_P(Collision, DentsAreMadeFromTheUndamagedPoints)
 {
     World.AddCar(0, 0, 0.5f);

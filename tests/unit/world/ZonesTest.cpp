@@ -24,6 +24,7 @@ struct Zones : testing::Test
     void Apply(std::int16_t player = 0)
     {
         world::Simulation sim = World.Sim();
+        world::LearnZones(sim);
         world::ApplyZones(sim, player);
     }
 };
