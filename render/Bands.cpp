@@ -16,4 +16,15 @@ std::vector<Band> MakeBands(std::int32_t width, std::int16_t count)
         bands[static_cast<std::size_t>(i)] = {first(i), first(i + 1) - 1};
     return bands;
 }
+
+std::vector<Band> Halved(const std::vector<Band>& bands)
+{
+    std::vector<Band> halves;
+    for (const Band& band : bands)
+    {
+        const std::int32_t columns = band.Last - band.First + 1, middle = band.First + (columns + 1) / 2 - 1;
+        halves.insert(halves.end(), {{band.First, middle}, {middle + 1, band.Last}});
+    }
+    return halves;
+}
 }

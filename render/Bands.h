@@ -15,4 +15,7 @@ struct Band
 // precision, band i runs from round(b i) to round(b (i + 1) - 1). Where both are rounded from a half (even counts only)
 // the last column is the one before the next band, so none is left out or twice.
 std::vector<Band> MakeBands(std::int32_t width, std::int16_t count);
+
+// Every band in two, the first half the wider one; of a band of one column, or of none, the second is empty.
+std::vector<Band> Halved(const std::vector<Band>& bands);
 }

@@ -74,7 +74,7 @@ void DrawGround(const Scene& scene, const Camera& camera, Screen& screen, Ground
     threads.Resize(HelpersFor(screen.Bands.size()));
     threads.Run([&view, draw = screen.Kernels->DrawGroundBand](const Band& band, StopCheck& check)
                 { draw(view, band, check); },
-                screen.Bands, std::chrono::milliseconds(screen.GroundLimit));
+                screen.HalfBands, std::chrono::milliseconds(screen.GroundLimit));
 }
 
 void DrawObjects(const Scene& scene, const Camera& camera, Screen& screen)

@@ -27,6 +27,7 @@ void MakeTables(Screen& screen)
     screen.ColumnSlope.assign(columns + 3, 0.0);
     screen.Taps.assign(columns, ColumnTaps{});
     screen.Bands = MakeBands(screen.ScreenW, screen.ThreadCount);
+    screen.HalfBands = Halved(screen.Bands);
 }
 }
 

@@ -62,6 +62,7 @@ struct Screen
     const render::Kernels* Kernels = &FastestKernels(); // the pixel loops that draw; all draw the same
 
     std::vector<Band> Bands;       // the columns, split as ThreadCount said when the resolution was applied
+    std::vector<Band> HalfBands;   // the same in halves: an odd number of bands is no even share for two threads
     std::int32_t GroundLimit = 60; // milliseconds the ground pass may take before it is cut off
 };
 

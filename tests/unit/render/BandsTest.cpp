@@ -49,3 +49,23 @@ TEST(Bands, CoverEveryColumnOnceAtAnyCount)
             ASSERT_EQ(next, width) << width << " " << count;
         }
 }
+
+TEST(Bands, HalvesCoverThemToo)
+{
+    for (const int width : {1, 2, 3, 7, 240, 1200})
+        for (const int count : {1, 3, 5, 48, 1999})
+        {
+            const std::vector<Band> bands = render::MakeBands(width, static_cast<std::int16_t>(count));
+            const std::vector<Band> halves = render::Halved(bands);
+            ASSERT_EQ(halves.size(), 2 * bands.size());
+            for (std::size_t i = 0; i < bands.size(); ++i)
+            {
+                const Band &first = halves[2 * i], &second = halves[2 * i + 1];
+                ASSERT_EQ(first.First, bands[i].First) << width << " " << count;
+                ASSERT_EQ(second.First, first.Last + 1) << width << " " << count;
+                ASSERT_EQ(second.Last, bands[i].Last) << width << " " << count;
+                const int difference = (first.Last - first.First) - (second.Last - second.First);
+                ASSERT_TRUE(difference == 0 || difference == 1) << width << " " << count;
+            }
+        }
+}
