@@ -22,7 +22,7 @@ struct TexelRun
 };
 
 // Each line is one of TexelPlain. CamX - SinYaw x RowDist and its like are the row's own. Up to three columns more are
-// found than asked for.
+// found than asked for; at least one is.
 void FindTexels(const GroundView& view, std::int32_t y, std::int32_t first, std::int32_t count, TexelRun& run)
 {
     const Double4 slant = Double4::Of(view.RowSlant[y]);
@@ -31,7 +31,8 @@ void FindTexels(const GroundView& view, std::int32_t y, std::int32_t first, std:
     const Double4 cosYaw = Double4::Of(view.CosYaw), sinYaw = Double4::Of(view.SinYaw);
     const Double4 scale = Double4::Of(view.GroundScale);
     const Int4 rowBytes = Int4::Of(static_cast<std::int32_t>(view.Sharp.RowBytes));
-    for (std::int32_t i = 0; i < count; i += 4)
+    std::int32_t i = 0;
+    do
     {
         const Double4 lateral = Double4::Of((Double4::Load(view.ColumnSlope + first + i) * slant).Single());
         const Int4 u = ((startX + cosYaw * lateral) * scale).Rounded();
@@ -39,7 +40,8 @@ void FindTexels(const GroundView& view, std::int32_t y, std::int32_t first, std:
         u.Store(run.U + i);
         v.Store(run.V + i);
         (v * rowBytes + (u + u + u)).Store(run.Offset + i);
-    }
+        i += 4;
+    } while (i < count);
 }
 
 // The texels that are at least `margin` from every side of the picture. One comparison an axis, as negative numbers are

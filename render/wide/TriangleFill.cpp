@@ -215,15 +215,17 @@ void FillFrom(Screen& screen, const ScreenVertex& a, const ScreenVertex& b, cons
               const Paint& paint)
 {
     const ScreenVertex *first = &a, *middle = &b, *last = &c;
-    // Equal rows keep the order of the vertices.
-    if (middle->Y < first->Y)
-        std::swap(first, middle);
-    if (last->Y < middle->Y)
+    // Equal rows keep the order of the vertices. Without branches: which way they go is anybody's guess.
+    const auto order = [](const ScreenVertex*& low, const ScreenVertex*& high)
     {
-        std::swap(middle, last);
-        if (middle->Y < first->Y)
-            std::swap(first, middle);
-    }
+        const ScreenVertex *p = low, *q = high;
+        const bool swaps = q->Y < p->Y;
+        low = swaps ? q : p;
+        high = swaps ? p : q;
+    };
+    order(first, middle);
+    order(middle, last);
+    order(first, middle);
     const std::int32_t end = std::min(last->Y, screen.ScreenH - 1);
     Painter<Paint> painter(screen, paint);
     while (y <= end)
