@@ -5,7 +5,7 @@
 #include "render/wide/Reach.h"
 #include "render/wide/Routines.h"
 
-#include <utility>
+#include <algorithm>
 
 namespace render::VELKAR_WIDE
 {
