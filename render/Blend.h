@@ -23,17 +23,9 @@ inline void Store3(std::uint8_t* to, std::uint32_t bytes)
         to[c] = static_cast<std::uint8_t>(bytes >> 8 * c);
 }
 
-// How a mixed channel becomes a byte.
-enum class Rounding
-{
-    Down,
-    Nearest
-};
-
 // Each channel a x weightA + b x weightB, for weights of 0 and above whose sum is 1 (as far as doubles go), rounded
-// down or to the nearest whole number, ties to even. Three bytes are read and written; pixel may be a or b.
-template <Rounding How>
-void Blend(const std::uint8_t* a, double weightA, const std::uint8_t* b, double weightB, std::uint8_t* pixel)
+// to the nearest whole number, ties to even. Three bytes are read and written; pixel may be a or b.
+inline void Blend(const std::uint8_t* a, double weightA, const std::uint8_t* b, double weightB, std::uint8_t* pixel)
 {
 #ifdef VELKAR_SSE2
     const __m128i zero = _mm_setzero_si128();
@@ -47,8 +39,7 @@ void Blend(const std::uint8_t* a, double weightA, const std::uint8_t* b, double 
     const auto mixed = [wa, wb](__m128i two, __m128i other)
     {
         const __m128d sum = _mm_add_pd(_mm_mul_pd(_mm_cvtepi32_pd(two), wa), _mm_mul_pd(_mm_cvtepi32_pd(other), wb));
-        // No channel is negative, so cutting the fraction off is rounding down.
-        return How == Rounding::Down ? _mm_cvttpd_epi32(sum) : _mm_cvtpd_epi32(sum);
+        return _mm_cvtpd_epi32(sum);
     };
     const __m128i low = mixed(channelsA, channelsB);
     const __m128i high = mixed(_mm_unpackhi_epi64(channelsA, channelsA), _mm_unpackhi_epi64(channelsB, channelsB));
@@ -56,10 +47,7 @@ void Blend(const std::uint8_t* a, double weightA, const std::uint8_t* b, double 
     Store3(pixel, static_cast<std::uint32_t>(_mm_cvtsi128_si32(_mm_packus_epi16(words, zero))));
 #else
     for (int c = 0; c < 3; ++c)
-    {
-        const double sum = a[c] * weightA + b[c] * weightB;
-        pixel[c] = static_cast<std::uint8_t>(How == Rounding::Down ? base::Floor(sum) : base::RoundEven(sum));
-    }
+        pixel[c] = static_cast<std::uint8_t>(base::RoundEven(a[c] * weightA + b[c] * weightB));
 #endif
 }
 }

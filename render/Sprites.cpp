@@ -118,7 +118,7 @@ void DrawSprite3D(const Camera& camera, Screen& screen, const Sprite3D& sprite)
             if (copies)
                 base::CopyPixel(pixel, texel);
             else
-                Blend<Rounding::Nearest>(pixel, rest, texel, placed.Alpha, pixel);
+                Blend(pixel, rest, texel, placed.Alpha, pixel);
         }
     }
 }

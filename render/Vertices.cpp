@@ -2,6 +2,9 @@
 
 namespace render
 {
+namespace
+{
+// The bits of a vertex whose View and Screen are known.
 std::uint32_t OutsideOf(const Screen& screen, const Vertex& vertex)
 {
     if (vertex.View.Z < screen.NearZ)
@@ -10,6 +13,7 @@ std::uint32_t OutsideOf(const Screen& screen, const Vertex& vertex)
     return (at.X < 0 ? OutsideLeft : 0u) | (at.X >= screen.ScreenW ? OutsideRight : 0u) |
            (at.Y < 0 ? OutsideBelow : 0u) | (at.Y >= screen.ScreenH ? OutsideAbove : 0u) |
            (at.X == base::OutOfRange || at.Y == base::OutOfRange ? NoPlace : 0u);
+}
 }
 
 Vertex TransformVertex(const Camera& camera, const Screen& screen, const Point3& world, std::int32_t u, std::int32_t v)

@@ -46,6 +46,4 @@ Vertex TransformVertex(const Camera& camera, const Screen& screen, const Point3&
 // Those of a mesh, at most MostPoints, straight from the definition. The judge of the screen's TransformPoints.
 void TransformPointsPlain(const Camera& camera, const Screen& screen, const MeshPlace& place, const MeshPt* points,
                           std::size_t count, Vertex* vertices);
-// The bits of a vertex whose View and Screen are known.
-std::uint32_t OutsideOf(const Screen& screen, const Vertex& vertex);
 }
