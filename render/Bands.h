@@ -8,7 +8,7 @@ namespace render
 {
 struct Band
 {
-    std::int32_t First = 0, Last = 0; // columns, both included; empty where Last < First
+    std::int32_t First = 0, Last = 0; // columns, or rows; both included; empty where Last < First
 };
 
 // `count` bands, at least one, that hold every column of a frame of that width once. With b = width / count in single

@@ -1,27 +1,10 @@
 #include "render/GroundThreads.h"
 
 #include <system_error>
+#include <utility>
 
 namespace render
 {
-// One call of Run: its bands are taken one by one by whoever is free.
-struct GroundThreads::Pass
-{
-    const BandJob& Job;
-    std::span<const Band> Bands;
-    StopCheck::Clock::time_point Deadline;
-    std::atomic<std::size_t> NextBand{0};
-    std::atomic<bool> Stop{false};
-
-    void DrawBands()
-    {
-        StopCheck check(Stop, Deadline);
-        for (std::size_t i = NextBand.fetch_add(1, std::memory_order_relaxed); i < Bands.size();
-             i = NextBand.fetch_add(1, std::memory_order_relaxed))
-            Job(Bands[i], check);
-    }
-};
-
 void GroundThreads::Resize(int helpers)
 {
     if (helpers == Wanted)
@@ -52,22 +35,47 @@ void GroundThreads::End()
     Quit = false;
 }
 
-bool GroundThreads::Run(const BandJob& job, std::span<const Band> bands, std::chrono::milliseconds limit)
+GroundThreads::Pass::Pass(GroundThreads& threads, BandJob job, std::span<const Band> bands)
+    : Threads(threads), Job(std::move(job)), Bands(bands)
 {
-    Pass pass{job, bands, StopCheck::Clock::now() + limit};
+    if (Threads.Helpers.empty())
+        return;
     {
-        const std::lock_guard lock(Mutex);
-        Current = &pass;
-        ++Passes;
+        const std::lock_guard lock(Threads.Mutex);
+        Threads.Current = this;
+        ++Threads.Passes;
     }
-    if (!Helpers.empty())
-        PassBegan.notify_all();
-    pass.DrawBands();
+    Threads.PassBegan.notify_all();
+}
 
-    std::unique_lock lock(Mutex);
-    Current = nullptr; // a helper that has not woken by now is not needed
-    HelperLeft.wait(lock, [this] { return Active == 0; });
-    return !pass.Stop.load(std::memory_order_relaxed);
+void GroundThreads::Pass::DrawBands(StopCheck check)
+{
+    for (std::size_t i = NextBand.fetch_add(1, std::memory_order_relaxed); i < Bands.size();
+         i = NextBand.fetch_add(1, std::memory_order_relaxed))
+        Job(Bands[i], check);
+}
+
+bool GroundThreads::Pass::Finish(std::chrono::milliseconds limit)
+{
+    if (std::exchange(IsOpen, false))
+    {
+        const StopCheck::Clock::time_point deadline = StopCheck::Clock::now() + limit;
+        DrawBands(StopCheck(Stop, deadline));
+        std::unique_lock lock(Threads.Mutex);
+        Threads.Current = nullptr; // a helper that has not woken by now is not needed
+        const auto haveLeft = [this] { return Threads.Active == 0; };
+        if (!Threads.HelperLeft.wait_until(lock, deadline, haveLeft))
+        {
+            Stop.store(true, std::memory_order_relaxed);
+            Threads.HelperLeft.wait(lock, haveLeft);
+        }
+    }
+    return !Stop.load(std::memory_order_relaxed);
+}
+
+bool GroundThreads::Run(BandJob job, std::span<const Band> bands, std::chrono::milliseconds limit)
+{
+    return Pass(*this, std::move(job), bands).Finish(limit);
 }
 
 void GroundThreads::Help()
@@ -83,7 +91,7 @@ void GroundThreads::Help()
         Pass& pass = *Current;
         ++Active;
         lock.unlock();
-        pass.DrawBands();
+        pass.DrawBands(StopCheck(pass.Stop));
         lock.lock();
         if (--Active == 0)
             HelperLeft.notify_one();

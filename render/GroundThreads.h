@@ -1,11 +1,12 @@
 // render/GroundThreads.h: the threads of the ground pass. They sleep between frames; the calling thread draws bands
-// with them. The picture is the same for any number of them.
+// with them, at once or when it is done with something else. The picture is the same for any number of them.
 #pragma once
 #include "render/Bands.h"
 
 #include <atomic>
 #include <chrono>
 #include <condition_variable>
+#include <cstddef>
 #include <cstdint>
 #include <functional>
 #include <mutex>
@@ -45,6 +46,9 @@ private:
 // band. What it captures must fit a std::function without memory of its own: one pointer or two.
 using BandJob = std::function<void(const Band& band, StopCheck& check)>;
 
+// Milliseconds that nothing takes.
+inline constexpr std::chrono::milliseconds NoLimit = std::chrono::hours(24);
+
 class GroundThreads
 {
 public:
@@ -57,12 +61,40 @@ public:
     // happens where that many were asked for before.
     void Resize(int helpers);
 
-    // Does the job for every band and returns when nobody draws any more. After the limit (milliseconds from now) the
-    // check of every thread says stop, what is drawn stays, and false is returned.
-    bool Run(const BandJob& job, std::span<const Band> bands, std::chrono::milliseconds limit);
+    // Threads beside the calling one.
+    std::size_t HelperCount() const { return Helpers.size(); }
+
+    // A job that the helpers are at from now on; the calling thread goes its own way until it finishes it. One at a
+    // time. Borrows the bands.
+    class Pass
+    {
+    public:
+        Pass(GroundThreads& threads, BandJob job, std::span<const Band> bands);
+        ~Pass() { Finish({}); }
+        Pass(const Pass&) = delete;
+        Pass& operator=(const Pass&) = delete;
+
+        // Draws the bands that are left with the helpers, and returns when nobody draws any more. After the limit
+        // (from now) the check of every thread says stop, what is drawn stays, and false is returned. Once only; one
+        // that nobody finishes has no time left.
+        bool Finish(std::chrono::milliseconds limit);
+
+    private:
+        friend GroundThreads;
+        void DrawBands(StopCheck check);
+
+        GroundThreads& Threads;
+        BandJob Job;
+        std::span<const Band> Bands;
+        bool IsOpen = true;
+        std::atomic<std::size_t> NextBand{0}; // bands are taken one by one by whoever is free
+        std::atomic<bool> Stop{false};
+    };
+
+    // Both at once.
+    bool Run(BandJob job, std::span<const Band> bands, std::chrono::milliseconds limit);
 
 private:
-    struct Pass;
     void Help();
     void End();
 

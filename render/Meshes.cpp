@@ -64,20 +64,20 @@ base::ConstSurface TextureOf(const Scene& scene, std::int16_t slot)
 }
 }
 
-void DrawFlatMesh(const Scene& scene, const Camera& camera, Screen& screen, const ObjMesh& mesh, const MeshPlace& place,
-                  VertexRoom& room)
+void DrawFlatMesh(const Scene& scene, const Camera& camera, const Canvas& canvas, const ObjMesh& mesh,
+                  const MeshPlace& place, VertexRoom& room)
 {
-    ForEachTriangle(camera, screen, mesh.Pts, place, room,
-                    [&](const Triangle& triangle) { DrawTriFlat(scene, camera, screen, triangle, mesh.Col); });
+    ForEachTriangle(camera, canvas.Screen, mesh.Pts, place, room,
+                    [&](const Triangle& triangle) { DrawTriFlat(scene, camera, canvas, triangle, mesh.Col); });
 }
 
-void DrawMesh(const Scene& scene, const Camera& camera, Screen& screen, const ObjMesh& mesh, const MeshPlace& place,
-              VertexRoom& room)
+void DrawMesh(const Scene& scene, const Camera& camera, const Canvas& canvas, const ObjMesh& mesh,
+              const MeshPlace& place, VertexRoom& room)
 {
     if (mesh.Colour >= 0)
-        return DrawFlatMesh(scene, camera, screen, mesh, place, room);
-    ForEachTriangle(camera, screen, mesh.Pts, place, room,
+        return DrawFlatMesh(scene, camera, canvas, mesh, place, room);
+    ForEachTriangle(camera, canvas.Screen, mesh.Pts, place, room,
                     [&, texture = TextureOf(scene, mesh.TexIndex)](const Triangle& triangle)
-                    { DrawTriTex(camera, screen, triangle, texture); });
+                    { DrawTriTex(camera, canvas, triangle, texture); });
 }
 }

@@ -11,6 +11,7 @@
 #include "render/Text.h"
 
 #include <algorithm>
+#include <utility>
 
 namespace render
 {
@@ -38,12 +39,12 @@ bool IsInView(const Camera& camera, const Screen& screen, const Obj& object)
 }
 
 // World meshes are always flat-coloured.
-void DrawWorldMeshes(const Scene& scene, const Camera& camera, Screen& screen)
+void DrawWorldMeshes(const Scene& scene, const Camera& camera, const Canvas& canvas)
 {
     VertexRoom room;
     for (const ObjMesh& mesh : scene.WorldMeshes)
         if (IsDrawn(mesh))
-            DrawFlatMesh(scene, camera, screen, mesh, {}, room);
+            DrawFlatMesh(scene, camera, canvas, mesh, {}, room);
 }
 
 void DrawPolys(const Scene& scene, const Camera& camera, Screen& screen)
@@ -60,6 +61,53 @@ void DrawPolys(const Scene& scene, const Camera& camera, Screen& screen)
         }
     }
 }
+
+BandJob GroundJob(const Screen& screen, const GroundView& view)
+{
+    return [&view, draw = screen.Kernels->DrawGroundBand](const Band& band, StopCheck& check)
+    { draw(view, band, check); };
+}
+
+void DrawSolids(const Scene& scene, const Camera& camera, const Canvas& canvas)
+{
+    DrawObjects(scene, camera, canvas);
+    DrawWorldMeshes(scene, camera, canvas);
+}
+
+// The ground and what stands on it, one after the other.
+void DrawInTurn(const Scene& scene, const Camera& camera, Screen& screen, GroundThreads& threads,
+                base::PhaseClock* clock)
+{
+    base::EnterPhase(clock, "ground");
+    DrawGround(scene, camera, screen, threads);
+    base::EnterPhase(clock, "objects");
+    DrawSolids(scene, camera, screen);
+}
+
+// The same picture: the calling thread draws what stands on the ground ahead of it while others draw the ground, and
+// lays it over the ground then.
+void DrawSideBySide(const Scene& scene, const Camera& camera, Screen& screen, GroundThreads& threads,
+                    base::PhaseClock* clock)
+{
+    const GroundView view = MakeGroundView(scene, camera, screen);
+    GroundThreads::Pass ground(threads, GroundJob(screen, view), screen.HalfBands);
+    base::EnterPhase(clock, "objects");
+    Layer& ahead = screen.Ahead;
+    if (!std::exchange(ahead.IsEmpty, false)) // left so by a frame that was cut off
+    {
+        ahead.Drawn.Clear();
+        std::fill(ahead.Depth.Cells.begin(), ahead.Depth.Cells.end(), FarDepth);
+    }
+    DrawSolids(scene, camera, {screen, ahead});
+    base::EnterPhase(clock, "ground");
+    // Where the ground is cut off, the frame keeps depths of the frame before, which may hide what stands there.
+    if (!ground.Finish(std::chrono::milliseconds(screen.GroundLimit)))
+        return DrawSolids(scene, camera, screen);
+    threads.Run([&screen](const Band& rows, StopCheck&) { screen.Kernels->LayOver(screen, screen.Ahead, rows); },
+                screen.RowBands, NoLimit);
+    ahead.Drawn.Clear();
+    ahead.IsEmpty = true;
+}
 }
 
 void DrawGround(const Scene& scene, const Camera& camera, Screen& screen, GroundThreads& threads)
@@ -72,22 +120,20 @@ void DrawGround(const Scene& scene, const Camera& camera, Screen& screen, Ground
         return screen.Kernels->DrawGroundBand(view, screen.Bands.front(), check);
     }
     threads.Resize(HelpersFor(screen.Bands.size()));
-    threads.Run([&view, draw = screen.Kernels->DrawGroundBand](const Band& band, StopCheck& check)
-                { draw(view, band, check); },
-                screen.HalfBands, std::chrono::milliseconds(screen.GroundLimit));
+    threads.Run(GroundJob(screen, view), screen.HalfBands, std::chrono::milliseconds(screen.GroundLimit));
 }
 
-void DrawObjects(const Scene& scene, const Camera& camera, Screen& screen)
+void DrawObjects(const Scene& scene, const Camera& camera, const Canvas& canvas)
 {
     VertexRoom room;
     for (const Obj& object : scene.Objects.Items)
     {
-        if (!IsDrawn(object) || !IsInView(camera, screen, object))
+        if (!IsDrawn(object) || !IsInView(camera, canvas.Screen, object))
             continue;
         const MeshPlace place{true, {object.X, object.Y, object.Z}, MakeRotation(object.AngleA, object.AngleB)};
         for (const ObjMesh& mesh : object.Mesh)
             if (mesh.Free == 0)
-                DrawMesh(scene, camera, screen, mesh, place, room);
+                DrawMesh(scene, camera, canvas, mesh, place, room);
     }
 }
 
@@ -114,13 +160,11 @@ void RenderFrame(const Scene& scene, const Camera& camera, Screen& screen, Groun
     UpdateSkyOffset(camera, screen);
     UpdateRowTables(camera, screen);
     UpdateColumnSlopes(camera, screen);
-    base::EnterPhase(clock, "ground");
-    DrawGround(scene, camera, screen, threads);
-    base::EnterPhase(clock, "objects");
-    DrawObjects(scene, camera, screen);
-    DrawWorldMeshes(scene, camera, screen);
-    DrawPolys(scene, camera, screen);
+    threads.Resize(HelpersFor(screen.Bands.size()));
+    const bool isAlone = screen.SingleThread || threads.HelperCount() == 0;
+    (isAlone ? DrawInTurn : DrawSideBySide)(scene, camera, screen, threads, clock);
     base::EnterPhase(clock, "sprites");
+    DrawPolys(scene, camera, screen);
     for (const Sprite3D& sprite : scene.Sprites.Items)
         if (IsDrawn(sprite))
             DrawSprite3D(camera, screen, sprite);

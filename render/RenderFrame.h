@@ -2,6 +2,7 @@
 // sprites, screen pictures, rectangles, texts. No allocation.
 #pragma once
 #include "base/PhaseClock.h"
+#include "render/Canvas.h"
 #include "render/Scene.h"
 #include "render/Screen.h"
 
@@ -11,7 +12,8 @@ class GroundThreads;
 
 // Draws into screen.Frame and screen.Depth; nothing before a resolution was applied. The threads are made as many as
 // the screen's bands are meant for, and rest when it returns. clock, where there is one, is given the time of the
-// phases "tables", "ground", "objects" (world meshes and polylines too), "sprites" and "display".
+// phases "tables", "objects" (world meshes too), "ground" (without what was drawn beside the objects), "sprites"
+// (polylines too) and "display".
 void RenderFrame(const Scene& scene, const Camera& camera, Screen& screen, GroundThreads& threads,
                  base::PhaseClock* clock = nullptr);
 
@@ -19,7 +21,7 @@ void RenderFrame(const Scene& scene, const Camera& camera, Screen& screen, Groun
 // Fills frame and depth buffer. The screen's tables must be those of the camera: see render/RowTables.h.
 void DrawGround(const Scene& scene, const Camera& camera, Screen& screen, GroundThreads& threads);
 // All objects whose bounding sphere reaches into the view, in the order of their list.
-void DrawObjects(const Scene& scene, const Camera& camera, Screen& screen);
+void DrawObjects(const Scene& scene, const Camera& camera, const Canvas& canvas);
 // Pictures, rectangles and texts over everything; the depth buffer has no part in it.
 void DrawHud(const Scene& scene, Screen& screen);
 }

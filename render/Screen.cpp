@@ -21,6 +21,9 @@ void MakeTables(Screen& screen)
 {
     const auto columns = static_cast<std::size_t>(screen.ScreenW), rows = static_cast<std::size_t>(screen.ScreenH);
     screen.Depth.Reset(screen.ScreenW, screen.ScreenH, FarDepth);
+    screen.Ahead.Depth = screen.Depth;
+    screen.Ahead.Drawn.Reset(screen.ScreenW, screen.ScreenH);
+    screen.Ahead.IsEmpty = true;
     for (std::vector<float>* table :
          {&screen.RowAngle, &screen.RowSlant, &screen.RowDist, &screen.BlurWeight, &screen.TapCount})
         table->assign(rows, 0.0f);
@@ -28,6 +31,7 @@ void MakeTables(Screen& screen)
     screen.Taps.assign(columns, ColumnTaps{});
     screen.Bands = MakeBands(screen.ScreenW, screen.ThreadCount);
     screen.HalfBands = Halved(screen.Bands);
+    screen.RowBands = MakeBands(screen.ScreenH, screen.ThreadCount);
 }
 }
 
@@ -37,7 +41,9 @@ void ApplyResolution(base::MessageSink& messages, Screen& screen, Camera& camera
     screen.Header.biWidth = width;
     screen.Header.biHeight = height;
     MakePicArray2D(messages, screen.Header, screen.Frame);
-    const bool made = !screen.Frame.Empty();
+    if (!screen.Frame.Empty())
+        MakePicArray2D(messages, screen.Header, screen.Ahead.Pixels);
+    const bool made = !screen.Frame.Empty() && !screen.Ahead.Pixels.Empty();
     TakeSize(screen, made ? width : 0, made ? height : 0);
     camera.MinZoom = std::min(screen.CenterX, screen.CenterY);
     camera.Zoom = 2.0f * camera.MinZoom;

@@ -1,12 +1,13 @@
 // render/Screen.h: what depends on the resolution: the frame with its depth cells, and the tables of the ground pass.
 // Plain data, filled on the window's thread; while the ground pass runs its threads read it and write the frame's, the
-// depth buffer's and the taps' columns of their own bands.
+// depth buffer's and the taps' columns of their own bands; the window's thread writes the layer meanwhile.
 #pragma once
 #include "base/Fields.h"
 #include "base/Pixels.h"
 #include "base/Trapped.h"
 #include "render/Bands.h"
 #include "render/Camera.h"
+#include "render/Marks.h"
 #include "render/PicArray.h"
 #include "render/wide/Kernels.h"
 
@@ -34,6 +35,15 @@ struct ColumnTaps
     bool HasTies = false;               // a step ends between two texels, and the offsets do not hold
 };
 
+// Pixels of the frame's size that lie before it where they have a depth.
+struct Layer
+{
+    PicArray2D Pixels;
+    base::Grid<float> Depth; // FarDepth where nothing is drawn
+    Marks Drawn;             // there, if anywhere; not kept by the plain fills
+    bool IsEmpty = true;     // nothing is drawn anywhere
+};
+
 struct Screen
 {
     std::int32_t ScreenW = 0, ScreenH = 0;       // pixels; 0 before a resolution was applied
@@ -47,6 +57,7 @@ struct Screen
     PicHeader Header;                     // of the frame
     PicArray2D Frame;                     // ScreenH rows of ScreenW pixels, padded
     base::Grid<float> Depth;              // depth of each pixel, world units; FarDepth where only ground or sky is
+    Layer Ahead;                          // what is drawn while the ground is not ready; empty between frames
 
     // One entry a screen row, see render/RowTables.h.
     std::vector<float> RowAngle;   // radians
@@ -63,11 +74,13 @@ struct Screen
 
     std::vector<Band> Bands;       // the columns, split as ThreadCount said when the resolution was applied
     std::vector<Band> HalfBands;   // the same in halves: an odd number of bands is no even share for two threads
+    std::vector<Band> RowBands;    // the rows, as many as bands
     std::int32_t GroundLimit = 60; // milliseconds the ground pass may take before it is cut off
 };
 
-// Takes a resolution in pixels: writes the derived fields, MinZoom and Zoom (2 x MinZoom), frame, depth buffer, tables
-// and bands, all empty. A size that cannot be is reported and leaves a screen of 0 x 0, on which nothing is drawn.
+// Takes a resolution in pixels: writes the derived fields, MinZoom and Zoom (2 x MinZoom), frame, depth buffer, layer,
+// tables and bands, all empty. A size that cannot be is reported and leaves a screen of 0 x 0, on which nothing is
+// drawn.
 void ApplyResolution(base::MessageSink& messages, Screen& screen, Camera& camera, std::int32_t width,
                      std::int32_t height);
 

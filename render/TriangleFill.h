@@ -3,7 +3,7 @@
 // along the edges and then along the row, without perspective.
 #pragma once
 #include "base/Pixels.h"
-#include "render/Screen.h"
+#include "render/Canvas.h"
 #include "render/wide/Kernels.h"
 
 #include <cstdint>
@@ -19,21 +19,21 @@ struct ScreenVertex
 
 // A pixel is written where its depth is strictly less than the depth cell, which then takes it. Vertices in any order.
 // Nothing is drawn where all lie on the same outer side of the screen, or in one row.
-inline void FillTriFlat(Screen& screen, const ScreenVertex& a, const ScreenVertex& b, const ScreenVertex& c,
+inline void FillTriFlat(const Canvas& canvas, const ScreenVertex& a, const ScreenVertex& b, const ScreenVertex& c,
                         base::Rgb colour)
 {
-    screen.Kernels->FillTriFlat(screen, a, b, c, colour);
+    canvas.Screen.Kernels->FillTriFlat(canvas, a, b, c, colour);
 }
 // Texels of three zero bytes, and texels outside the texture, leave pixel and depth untouched.
-inline void FillTriTex(Screen& screen, const ScreenVertex& a, const ScreenVertex& b, const ScreenVertex& c,
+inline void FillTriTex(const Canvas& canvas, const ScreenVertex& a, const ScreenVertex& b, const ScreenVertex& c,
                        const base::ConstSurface& texture)
 {
-    screen.Kernels->FillTriTex(screen, a, b, c, texture);
+    canvas.Screen.Kernels->FillTriTex(canvas, a, b, c, texture);
 }
 // False only where the triangle writes no pixel: beside the screen, or hidden by what was drawn before. Finds that out
 // in less time than drawing takes, but not always.
-inline bool MayShow(const Screen& screen, const ScreenVertex& a, const ScreenVertex& b, const ScreenVertex& c)
+inline bool MayShow(const Canvas& canvas, const ScreenVertex& a, const ScreenVertex& b, const ScreenVertex& c)
 {
-    return screen.Kernels->MayShow(screen, a, b, c);
+    return canvas.Screen.Kernels->MayShow(canvas, a, b, c);
 }
 }

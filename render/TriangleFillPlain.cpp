@@ -72,32 +72,32 @@ void ForEachPixel(const Screen& screen, const ScreenVertex& a, const ScreenVerte
 }
 }
 
-void FillTriFlatPlain(Screen& screen, const ScreenVertex& a, const ScreenVertex& b, const ScreenVertex& c,
+void FillTriFlatPlain(const Canvas& canvas, const ScreenVertex& a, const ScreenVertex& b, const ScreenVertex& c,
                       base::Rgb colour)
 {
-    ForEachPixel(screen, a, b, c,
+    ForEachPixel(canvas.Screen, a, b, c,
                  [&](std::int32_t x, std::int32_t y, float z, std::int32_t, std::int32_t)
                  {
-                     if (!(z < screen.Depth.At(x, y)))
+                     if (!(z < canvas.Depth.At(x, y)))
                          return;
-                     screen.Depth.At(x, y) = z;
-                     base::Put(FrameSurface(screen).At(x, y), colour);
+                     canvas.Depth.At(x, y) = z;
+                     base::Put(canvas.Pixels.Row(y) + x * base::PixelBytes, colour);
                  });
 }
 
-void FillTriTexPlain(Screen& screen, const ScreenVertex& a, const ScreenVertex& b, const ScreenVertex& c,
+void FillTriTexPlain(const Canvas& canvas, const ScreenVertex& a, const ScreenVertex& b, const ScreenVertex& c,
                      const base::ConstSurface& texture)
 {
-    ForEachPixel(screen, a, b, c,
+    ForEachPixel(canvas.Screen, a, b, c,
                  [&](std::int32_t x, std::int32_t y, float z, std::int32_t u, std::int32_t v)
                  {
-                     if (!texture.Has(u, v) || !(z < screen.Depth.At(x, y)))
+                     if (!texture.Has(u, v) || !(z < canvas.Depth.At(x, y)))
                          return;
                      const std::uint8_t* texel = texture.At(u, v);
                      if (base::IsBlack(texel))
                          return;
-                     screen.Depth.At(x, y) = z;
-                     base::CopyPixel(FrameSurface(screen).At(x, y), texel);
+                     canvas.Depth.At(x, y) = z;
+                     base::CopyPixel(canvas.Pixels.Row(y) + x * base::PixelBytes, texel);
                  });
 }
 }

@@ -5,8 +5,8 @@
 
 namespace render
 {
-void FillTriFlatPlain(Screen& screen, const ScreenVertex& a, const ScreenVertex& b, const ScreenVertex& c,
+void FillTriFlatPlain(const Canvas& canvas, const ScreenVertex& a, const ScreenVertex& b, const ScreenVertex& c,
                       base::Rgb colour);
-void FillTriTexPlain(Screen& screen, const ScreenVertex& a, const ScreenVertex& b, const ScreenVertex& c,
+void FillTriTexPlain(const Canvas& canvas, const ScreenVertex& a, const ScreenVertex& b, const ScreenVertex& c,
                      const base::ConstSurface& texture);
 }

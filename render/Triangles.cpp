@@ -136,14 +136,15 @@ double FaceShade(const Point3& a, const Point3& b, const Point3& c)
     return 1.0 - (ey * Steepness(ez, ex) + ex * Steepness(ey, ez) + ez * Steepness(ey, ex)) / ShadeDivisor;
 }
 
-void DrawTriFlat(const Scene& scene, const Camera& camera, Screen& screen, const Triangle& triangle, base::Rgb colour)
+void DrawTriFlat(const Scene& scene, const Camera& camera, const Canvas& canvas, const Triangle& triangle,
+                 base::Rgb colour)
 {
     bool shaded = false; // the arctangents are left until something may show
     double shade = 1.0;
-    ForEachPiece(camera, screen, triangle,
+    ForEachPiece(camera, canvas.Screen, triangle,
                  [&](const ScreenVertex& p, const ScreenVertex& q, const ScreenVertex& r)
                  {
-                     if (!MayShow(screen, p, q, r))
+                     if (!MayShow(canvas, p, q, r))
                          return;
                      if (!shaded)
                      {
@@ -152,19 +153,19 @@ void DrawTriFlat(const Scene& scene, const Camera& camera, Screen& screen, const
                      }
                      if (!(shade == shade))
                          return;
-                     FillTriFlat(screen, p, q, r,
+                     FillTriFlat(canvas, p, q, r,
                                  {base::RoundByte(colour.R * shade * scene.LightR),
                                   base::RoundByte(colour.G * shade * scene.LightG),
                                   base::RoundByte(colour.B * shade * scene.LightB)});
                  });
 }
 
-void DrawTriTex(const Camera& camera, Screen& screen, const Triangle& triangle, const base::ConstSurface& texture)
+void DrawTriTex(const Camera& camera, const Canvas& canvas, const Triangle& triangle, const base::ConstSurface& texture)
 {
     if (texture.Width < 1 || texture.Height < 1)
         return;
-    ForEachPiece(camera, screen, triangle,
+    ForEachPiece(camera, canvas.Screen, triangle,
                  [&](const ScreenVertex& a, const ScreenVertex& b, const ScreenVertex& c)
-                 { FillTriTex(screen, a, b, c, texture); });
+                 { FillTriTex(canvas, a, b, c, texture); });
 }
 }

@@ -26,9 +26,11 @@ double Extent(double a, double b, double c);
 // Deliberate: the extents stand for the face's normal.
 double FaceShade(const Point3& a, const Point3& b, const Point3& c);
 
-// What lies nearer than NearZ is cut off; what is left is drawn into frame and depth buffer.
+// What lies nearer than NearZ is cut off; what is left is drawn on the canvas.
 // Flat-shaded, in the colour times shade times the scene's light.
-void DrawTriFlat(const Scene& scene, const Camera& camera, Screen& screen, const Triangle& triangle, base::Rgb colour);
+void DrawTriFlat(const Scene& scene, const Camera& camera, const Canvas& canvas, const Triangle& triangle,
+                 base::Rgb colour);
 // Textured; an empty texture draws nothing.
-void DrawTriTex(const Camera& camera, Screen& screen, const Triangle& triangle, const base::ConstSurface& texture);
+void DrawTriTex(const Camera& camera, const Canvas& canvas, const Triangle& triangle,
+                const base::ConstSurface& texture);
 }

@@ -16,7 +16,7 @@ namespace
 {
 #define VELKAR_KERNELS(name, set)                                                                                      \
     {                                                                                                                  \
-        name, set::DrawGroundBand, set::MayShow, set::FillTriFlat, set::FillTriTex, set::TransformPoints               \
+        name, set::DrawGroundBand, set::MayShow, set::FillTriFlat, set::FillTriTex, set::LayOver, set::TransformPoints \
     }
 constexpr Kernels All[] = {
     VELKAR_KERNELS("portable", portable),

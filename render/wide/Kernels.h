@@ -12,7 +12,9 @@
 namespace render
 {
 struct Camera;
+struct Canvas;
 struct GroundView;
+struct Layer;
 struct MeshPt;
 struct MeshPlace;
 struct Screen;
@@ -26,11 +28,13 @@ struct Kernels
     // See render/Ground.h.
     void (*DrawGroundBand)(const GroundView& view, const Band& band, StopCheck& check);
     // See render/TriangleFill.h.
-    bool (*MayShow)(const Screen& screen, const ScreenVertex& a, const ScreenVertex& b, const ScreenVertex& c);
-    void (*FillTriFlat)(Screen& screen, const ScreenVertex& a, const ScreenVertex& b, const ScreenVertex& c,
+    bool (*MayShow)(const Canvas& canvas, const ScreenVertex& a, const ScreenVertex& b, const ScreenVertex& c);
+    void (*FillTriFlat)(const Canvas& canvas, const ScreenVertex& a, const ScreenVertex& b, const ScreenVertex& c,
                         base::Rgb colour);
-    void (*FillTriTex)(Screen& screen, const ScreenVertex& a, const ScreenVertex& b, const ScreenVertex& c,
+    void (*FillTriTex)(const Canvas& canvas, const ScreenVertex& a, const ScreenVertex& b, const ScreenVertex& c,
                        const base::ConstSurface& texture);
+    // Moves what the layer shows in those rows, pixels and depths, to the frame. The layer's rows are empty then.
+    void (*LayOver)(Screen& screen, Layer& layer, const Band& rows);
     // See render/Vertices.h.
     void (*TransformPoints)(const Camera& camera, const Screen& screen, const MeshPlace& place, const MeshPt* points,
                             std::size_t count, Vertex* vertices);

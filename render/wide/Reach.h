@@ -69,13 +69,13 @@ struct Reach
 
 // The first row of the reach with a cell that something this near may be written to; one above its last where there is
 // none. Most triangles are hidden behind what was drawn before: this finds it out without their edges.
-inline std::int32_t FirstShowingRow(const Screen& screen, const Reach& reach)
+inline std::int32_t FirstShowingRow(const Canvas& canvas, const Reach& reach)
 {
     const Float4 depth = Float4::Of(reach.Depth);
-    const Fours fours(reach.FirstX, reach.LastX, screen.ScreenW);
+    const Fours fours(reach.FirstX, reach.LastX, canvas.Screen.ScreenW);
     const unsigned lanes = fours.Lanes.Bits();
-    const float* cells = screen.Depth.Row(reach.FirstY);
-    for (std::int32_t y = reach.FirstY; y <= reach.LastY; ++y, cells += screen.ScreenW)
+    const float* cells = canvas.Depth.Row(reach.FirstY);
+    for (std::int32_t y = reach.FirstY; y <= reach.LastY; ++y, cells += canvas.Screen.ScreenW)
         for (std::int32_t x = fours.First;; x = fours.Next(x))
         {
             if ((lanes & ~(Float4::Load(cells + x) <= depth).Bits()) != 0)
@@ -86,14 +86,13 @@ inline std::int32_t FirstShowingRow(const Screen& screen, const Reach& reach)
     return reach.LastY + 1;
 }
 
-// The row to draw a triangle from; one that is not the screen's where nothing of it can be seen.
-inline std::int32_t RowToDrawFrom(const Screen& screen, const ScreenVertex& a, const ScreenVertex& b,
-                                  const ScreenVertex& c)
+// Whether anything of a triangle may be seen; the rows below that cannot are taken from its reach.
+inline bool Shows(const Canvas& canvas, const ScreenVertex& a, const ScreenVertex& b, const ScreenVertex& c,
+                  Reach& reach)
 {
-    const Reach reach(screen, a, b, c);
     if (reach.LastX < reach.FirstX || reach.LastY < reach.FirstY || (a.Y == b.Y && b.Y == c.Y))
-        return screen.ScreenH;
-    const std::int32_t row = FirstShowingRow(screen, reach);
-    return row <= reach.LastY ? row : screen.ScreenH;
+        return false;
+    reach.FirstY = FirstShowingRow(canvas, reach);
+    return reach.FirstY <= reach.LastY;
 }
 }

@@ -5,10 +5,12 @@
 namespace render::VELKAR_WIDE
 {
 void DrawGroundBand(const GroundView& view, const Band& band, StopCheck& check);
-bool MayShow(const Screen& screen, const ScreenVertex& a, const ScreenVertex& b, const ScreenVertex& c);
-void FillTriFlat(Screen& screen, const ScreenVertex& a, const ScreenVertex& b, const ScreenVertex& c, base::Rgb colour);
-void FillTriTex(Screen& screen, const ScreenVertex& a, const ScreenVertex& b, const ScreenVertex& c,
+bool MayShow(const Canvas& canvas, const ScreenVertex& a, const ScreenVertex& b, const ScreenVertex& c);
+void FillTriFlat(const Canvas& canvas, const ScreenVertex& a, const ScreenVertex& b, const ScreenVertex& c,
+                 base::Rgb colour);
+void FillTriTex(const Canvas& canvas, const ScreenVertex& a, const ScreenVertex& b, const ScreenVertex& c,
                 const base::ConstSurface& texture);
+void LayOver(Screen& screen, Layer& layer, const Band& rows);
 void TransformPoints(const Camera& camera, const Screen& screen, const MeshPlace& place, const MeshPt* points,
                      std::size_t count, Vertex* vertices);
 }

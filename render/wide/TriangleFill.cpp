@@ -137,7 +137,7 @@ private:
 template <class Paint> class Painter
 {
 public:
-    Painter(Screen& screen, const Paint& paint) : To(screen), With(paint) {}
+    Painter(const Canvas& canvas, const Paint& paint) : To(canvas), With(paint) {}
 
     // Rows from y on, as many as there is room for at most.
     void Draw(const Edges& edges, std::int32_t y, std::int32_t count)
@@ -146,7 +146,7 @@ public:
         for (std::int32_t i = 0; i < count; ++i)
         {
             Spans[i].Depth = To.Depth.Row(y + i);
-            Spans[i].Pixels = To.Frame.Row(y + i);
+            Spans[i].Pixels = To.Pixels.Row(y + i);
             Test(Spans[i]);
         }
         PaintFound();
@@ -160,7 +160,7 @@ private:
         const int left = span.Columns[0] <= span.Columns[2] ? 0 : 2, right = 2 - left;
         span.Left = left;
         const std::int32_t first = std::max(span.Columns[left], 0);
-        const std::int32_t last = std::min(span.Columns[right], To.ScreenW - 1);
+        const std::int32_t last = std::min(span.Columns[right], To.Screen.ScreenW - 1);
         const double leftX = span.Columns[left], columns = span.Columns[right] - leftX;
         const Double4 wide = Double4::Of(columns == 0.0 ? 1.0 : columns); // one column takes the long edge's values
         const Double4 leftZ = Double4::Of(span.Place[left + 1]), stepZ = Double4::Of(span.Place[right + 1]) - leftZ;
@@ -179,7 +179,7 @@ private:
             four.X = x;
             Count += mask.Bits() != 0;
         };
-        const std::int32_t border = To.ScreenW - Lanes; // from here on, four columns do not lie in the row
+        const std::int32_t border = To.Screen.ScreenW - Lanes; // from here on, four columns do not lie in the row
         std::int32_t x = first;
         for (; x <= std::min(last, border); x += Lanes)
             test(x, FirstLanes(last - x + 1));
@@ -202,7 +202,7 @@ private:
 
     static constexpr std::size_t Room = 64;
 
-    Screen& To;
+    const Canvas& To;
     const Paint& With;
     Span Spans[MostRows];
     std::size_t Count = 0;
@@ -211,7 +211,7 @@ private:
 
 // Draws the rows of the triangle from y on.
 template <class Paint>
-void FillFrom(Screen& screen, const ScreenVertex& a, const ScreenVertex& b, const ScreenVertex& c, std::int32_t y,
+void FillFrom(const Canvas& canvas, const ScreenVertex& a, const ScreenVertex& b, const ScreenVertex& c, std::int32_t y,
               const Paint& paint)
 {
     const ScreenVertex *first = &a, *middle = &b, *last = &c;
@@ -226,8 +226,8 @@ void FillFrom(Screen& screen, const ScreenVertex& a, const ScreenVertex& b, cons
     order(first, middle);
     order(middle, last);
     order(first, middle);
-    const std::int32_t end = std::min(last->Y, screen.ScreenH - 1);
-    Painter<Paint> painter(screen, paint);
+    const std::int32_t end = std::min(last->Y, canvas.Screen.ScreenH - 1);
+    Painter<Paint> painter(canvas, paint);
     while (y <= end)
     {
         // The middle vertex's row belongs to the upper part, where there is one.
@@ -240,29 +240,42 @@ void FillFrom(Screen& screen, const ScreenVertex& a, const ScreenVertex& b, cons
         y = stop + 1;
     }
 }
-}
 
-bool MayShow(const Screen& screen, const ScreenVertex& a, const ScreenVertex& b, const ScreenVertex& c)
+// makePaint() gives what it is painted with, if it may show at all.
+template <class MakePaint>
+void Fill(const Canvas& canvas, const ScreenVertex& a, const ScreenVertex& b, const ScreenVertex& c,
+          const MakePaint& makePaint)
 {
-    return screen.ScreenW < Lanes || RowToDrawFrom(screen, a, b, c) < screen.ScreenH;
+    Reach reach(canvas.Screen, a, b, c);
+    if (!Shows(canvas, a, b, c, reach))
+        return;
+    if (canvas.Drawn != nullptr)
+        canvas.Drawn->Add(reach.FirstX, reach.LastX, reach.FirstY, reach.LastY);
+    FillFrom(canvas, a, b, c, reach.FirstY, makePaint());
+}
 }
 
-void FillTriFlat(Screen& screen, const ScreenVertex& a, const ScreenVertex& b, const ScreenVertex& c, base::Rgb colour)
+bool MayShow(const Canvas& canvas, const ScreenVertex& a, const ScreenVertex& b, const ScreenVertex& c)
 {
-    if (screen.ScreenW < Lanes)
-        return FillTriFlatPlain(screen, a, b, c, colour);
-    const std::int32_t row = RowToDrawFrom(screen, a, b, c);
-    if (row < screen.ScreenH)
-        FillFrom(screen, a, b, c, row, FlatPaint{Int4::Of(colour.B | colour.G << 8 | colour.R << 16)});
+    if (canvas.Screen.ScreenW < Lanes)
+        return true;
+    Reach reach(canvas.Screen, a, b, c);
+    return Shows(canvas, a, b, c, reach);
 }
 
-void FillTriTex(Screen& screen, const ScreenVertex& a, const ScreenVertex& b, const ScreenVertex& c,
+void FillTriFlat(const Canvas& canvas, const ScreenVertex& a, const ScreenVertex& b, const ScreenVertex& c,
+                 base::Rgb colour)
+{
+    if (canvas.Screen.ScreenW < Lanes)
+        return FillTriFlatPlain(canvas, a, b, c, colour);
+    Fill(canvas, a, b, c, [&] { return FlatPaint{Int4::Of(colour.B | colour.G << 8 | colour.R << 16)}; });
+}
+
+void FillTriTex(const Canvas& canvas, const ScreenVertex& a, const ScreenVertex& b, const ScreenVertex& c,
                 const base::ConstSurface& texture)
 {
-    if (screen.ScreenW < Lanes)
-        return FillTriTexPlain(screen, a, b, c, texture);
-    const std::int32_t row = RowToDrawFrom(screen, a, b, c);
-    if (row < screen.ScreenH)
-        FillFrom(screen, a, b, c, row, TexelPaint(texture, a, b, c));
+    if (canvas.Screen.ScreenW < Lanes)
+        return FillTriTexPlain(canvas, a, b, c, texture);
+    Fill(canvas, a, b, c, [&] { return TexelPaint(texture, a, b, c); });
 }
 }

@@ -1,6 +1,7 @@
 // tests/support/PlainKernels.h: the plain pixel loops as a set, for screens that judge others.
 #pragma once
 #include "render/GroundPlain.h"
+#include "render/Layers.h"
 #include "render/TriangleFillPlain.h"
 #include "render/Vertices.h"
 #include "render/wide/Kernels.h"
@@ -10,9 +11,10 @@ namespace support
 inline constexpr render::Kernels PlainKernels = {
     "plain",
     [](const render::GroundView& view, const render::Band& band, render::StopCheck&) { GroundPlain(view, band); },
-    [](const render::Screen&, const render::ScreenVertex&, const render::ScreenVertex&, const render::ScreenVertex&)
+    [](const render::Canvas&, const render::ScreenVertex&, const render::ScreenVertex&, const render::ScreenVertex&)
     { return true; },
     render::FillTriFlatPlain,
     render::FillTriTexPlain,
+    render::LayOverPlain,
     render::TransformPointsPlain};
 }

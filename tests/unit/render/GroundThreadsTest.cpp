@@ -106,6 +106,40 @@ TEST(GroundThreads, APassThatOverrunsItsLimitIsCutOff)
         }
 }
 
+// The calling thread may do something else first, and what it leaves is drawn when it comes.
+TEST(GroundThreads, HelpersBeginBeforeTheCallingThreadComes)
+{
+    GroundThreads threads(1);
+    const std::vector<Band> bands = BandsOf(3);
+    for (int frame = 1; frame <= 50; ++frame)
+    {
+        const CountingJob job(bands.size());
+        GroundThreads::Pass pass(threads, std::ref(job), bands);
+        while (job.Visits[2] == 0)
+            std::this_thread::yield();
+        EXPECT_TRUE(pass.Finish(Long));
+        for (const std::atomic<int>& visits : job.Visits)
+            ASSERT_EQ(visits, 1);
+    }
+}
+
+TEST(GroundThreads, APassThatNobodyFinishesEnds)
+{
+    for (const int helpers : {0, 1, 3})
+    {
+        GroundThreads threads(helpers);
+        const std::vector<Band> bands = BandsOf(5);
+        const StuckJob job(0);
+        {
+            const GroundThreads::Pass pass(threads, std::ref(job), bands);
+        }
+        EXPECT_EQ(job.Drawing, 0);
+        EXPECT_EQ(job.Ended, 0);
+        const CountingJob next(bands.size());
+        EXPECT_TRUE(threads.Run(std::ref(next), bands, Long));
+    }
+}
+
 TEST(GroundThreads, WithoutTimeTheCheckSaysStopFromTheStart)
 {
     GroundThreads threads(2);
