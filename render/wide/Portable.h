@@ -72,6 +72,12 @@ struct Int4 : LaneArray<std::int32_t, 4>
         return Each<Int4>([&](int i) { return std::max(a.Lane[i], b.Lane[i]); });
     }
     std::int32_t First() const { return Lane[0]; }
+    Int4 AllFirst() const { return Of(Lane[0]); }
+    Int4 HalvesSwapped() const { return Of(Lane[2], Lane[3], Lane[0], Lane[1]); }
+    friend Int4 Choose(Int4 mask, Int4 a, Int4 b)
+    {
+        return Each<Int4>([&](int i) { return mask.Lane[i] != 0 ? a.Lane[i] : b.Lane[i]; });
+    }
     unsigned Bits() const
     {
         unsigned bits = 0;
@@ -147,6 +153,10 @@ struct Double4 : LaneArray<double, 4>
     Int4 Rounded() const
     {
         return Int4::Each<Int4>([&](int i) { return base::RoundEven(Lane[i]); });
+    }
+    Double4 HalvesSwapped(Int4 mask) const
+    {
+        return mask.Lane[0] != 0 ? Of(Lane[2], Lane[3], Lane[0], Lane[1]) : *this;
     }
     friend Double4 FirstHalves(Double4 a, Double4 b) { return Of(a.Lane[0], a.Lane[1], b.Lane[0], b.Lane[1]); }
     friend Double4 LastHalves(Double4 a, Double4 b) { return Of(a.Lane[2], a.Lane[3], b.Lane[2], b.Lane[3]); }

@@ -25,13 +25,12 @@ struct Slopes
     Double4 At(Double4 n, Double4 rows) const { return From + Step * n / rows; }
 };
 
-// Where a row of the screen meets the long edge and the short one.
+// Where a row of the screen meets the left edge, in the first half of each, and the right one, in the second.
 struct Span
 {
-    double Place[4];         // column and depth, twice
-    std::int32_t Columns[4]; // the columns rounded, at 0 and 2
-    double Texel[4];         // texel column and row, twice, rounded
-    std::int32_t Left;       // 0 where the long edge is the left one, else 2
+    double Place[4];         // column and depth
+    std::int32_t Columns[4]; // column, rounded, and nothing
+    double Texel[4];         // texel column and row, rounded
     float* Depth;            // of the row
     std::uint8_t* Pixels;
 };
@@ -56,10 +55,12 @@ public:
         for (Span* stop = spans + count; spans != stop; ++spans, n = n + Double4::Of(1.0))
         {
             const Double4 place = Place.At(n, Rows);
-            place.Store(spans->Place);
-            place.Rounded().Store(spans->Columns);
+            const Int4 columns = place.Rounded();
+            const Int4 longIsRight = (columns.HalvesSwapped() < columns).AllFirst();
+            place.HalvesSwapped(longIsRight).Store(spans->Place);
+            Choose(longIsRight, columns.HalvesSwapped(), columns).Store(spans->Columns);
             if constexpr (HasTexels)
-                Double4::Of(Texel.At(n, Rows).Rounded()).Store(spans->Texel);
+                Double4::Of(Texel.At(n, Rows).Rounded()).HalvesSwapped(longIsRight).Store(spans->Texel);
         }
     }
 
@@ -108,7 +109,7 @@ public:
 
     Int4 At(const NearerFour& four, Int4& mask) const
     {
-        const double *left = four.At->Texel + four.At->Left, *right = four.At->Texel + (2 - four.At->Left);
+        const double *left = four.At->Texel, *right = left + 2;
         const Double4 t = Double4::Load(four.T), rest = Double4::Of(1.0) - t;
         const Int4 u = (rest * Double4::Of(left[0]) + t * Double4::Of(right[0])).Rounded();
         const Int4 v = (rest * Double4::Of(left[1]) + t * Double4::Of(right[1])).Rounded();
@@ -143,11 +144,15 @@ public:
     void Draw(const Edges& edges, std::int32_t y, std::int32_t count)
     {
         edges.template Meet<Paint::HasTexels>(y, count, Spans);
-        for (std::int32_t i = 0; i < count; ++i)
+        float* depth = To.Depth.Row(y);
+        std::uint8_t* pixels = To.Pixels.Row(y);
+        for (Span *span = Spans, *stop = Spans + count; span != stop; ++span)
         {
-            Spans[i].Depth = To.Depth.Row(y + i);
-            Spans[i].Pixels = To.Pixels.Row(y + i);
-            Test(Spans[i]);
+            span->Depth = depth;
+            span->Pixels = pixels;
+            Test(*span);
+            depth += To.Depth.Width;
+            pixels += To.Pixels.RowBytes;
         }
         PaintFound();
     }
@@ -155,41 +160,45 @@ public:
     static constexpr std::int32_t MostRows = 32;
 
 private:
-    void Test(Span& span)
+    void Test(const Span& span)
     {
-        const int left = span.Columns[0] <= span.Columns[2] ? 0 : 2, right = 2 - left;
-        span.Left = left;
-        const std::int32_t first = std::max(span.Columns[left], 0);
-        const std::int32_t last = std::min(span.Columns[right], To.Screen.ScreenW - 1);
-        const double leftX = span.Columns[left], columns = span.Columns[right] - leftX;
-        const Double4 wide = Double4::Of(columns == 0.0 ? 1.0 : columns); // one column takes the long edge's values
-        const Double4 leftZ = Double4::Of(span.Place[left + 1]), stepZ = Double4::Of(span.Place[right + 1]) - leftZ;
-        const auto test = [&](std::int32_t x, Int4 lanes)
+        const std::int32_t first = std::max(span.Columns[0], 0);
+        const std::int32_t last = std::min(span.Columns[2], To.Screen.ScreenW - 1);
+        const double leftX = span.Columns[0];
+        const Double4 wide = Double4::Of(std::max(span.Columns[2] - leftX, 1.0)); // one column: the long edge's values
+        const Double4 leftZ = Double4::Of(span.Place[1]), stepZ = Double4::Of(span.Place[3]) - leftZ;
+        const auto test = [&](std::int32_t x, Double4 fromLeft, Int4 lanes)
         {
-            if (Count == Room)
+            if (End == Found + Room)
                 PaintFound();
-            NearerFour& four = Found[Count];
-            const Double4 t = (Double4::Of(x - leftX) + Double4::Of(0.0, 1.0, 2.0, 3.0)) / wide;
+            const Double4 t = fromLeft / wide;
             const Float4 z = (leftZ + stepZ * t).Single();
             const Int4 mask = (z < Float4::Load(span.Depth + x)) & lanes;
-            t.Store(four.T);
-            z.Store(four.Z);
-            mask.Store(four.Mask);
-            four.At = &span;
-            four.X = x;
-            Count += mask.Bits() != 0;
+            NearerFour* const four = End; // kept, if any of it is nearer
+            t.Store(four->T);
+            z.Store(four->Z);
+            mask.Store(four->Mask);
+            four->At = &span;
+            four->X = x;
+            End = mask.Bits() != 0 ? four + 1 : four;
         };
         const std::int32_t border = To.Screen.ScreenW - Lanes; // from here on, four columns do not lie in the row
         std::int32_t x = first;
-        for (; x <= std::min(last, border); x += Lanes)
-            test(x, FirstLanes(last - x + 1));
+        const Int4 each = Int4::Of(0, 1, 2, 3), end = Int4::Of(last + 1);
+        Double4 fromLeft = Double4::Of(first - leftX) + Double4::Of(each);
+        for (const std::int32_t stop = std::min(last, border); x <= stop; x += Lanes)
+        {
+            test(x, fromLeft, Int4::Of(x) + each < end);
+            fromLeft = fromLeft + Double4::Of(Lanes);
+        }
         if (x <= last)
-            test(border, LanesFrom(x - border) & FirstLanes(last - border + 1));
+            test(border, Double4::Of(border - leftX) + Double4::Of(each),
+                 LanesFrom(x - border) & FirstLanes(last - border + 1));
     }
 
     void PaintFound()
     {
-        for (const NearerFour *four = Found, *end = Found + Count; four != end; ++four)
+        for (const NearerFour* four = Found; four != End; ++four)
         {
             Int4 mask = Int4::Load(four->Mask);
             const Int4 pixels = With.At(*four, mask);
@@ -197,7 +206,7 @@ private:
             float* depth = four->At->Depth + four->X;
             Choose(mask, Float4::Load(four->Z), Float4::Load(depth)).Store(depth);
         }
-        Count = 0;
+        End = Found;
     }
 
     static constexpr std::size_t Room = 64;
@@ -205,8 +214,8 @@ private:
     const Canvas& To;
     const Paint& With;
     Span Spans[MostRows];
-    std::size_t Count = 0;
     NearerFour Found[Room];
+    NearerFour* End = Found;
 };
 
 // Draws the rows of the triangle from y on.

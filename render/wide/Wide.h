@@ -64,6 +64,25 @@ struct Int4
     {
         return _mm_cvtsi128_si32(All);
     }
+    // Every lane the first one.
+    Int4 AllFirst() const
+    {
+        return {_mm_shuffle_epi32(All, _MM_SHUFFLE(0, 0, 0, 0))};
+    }
+    // Lanes 2, 3, 0, 1.
+    Int4 HalvesSwapped() const
+    {
+        return {_mm_shuffle_epi32(All, _MM_SHUFFLE(1, 0, 3, 2))};
+    }
+    // A mask's lanes of a, the others of b.
+    friend Int4 Choose(Int4 mask, Int4 a, Int4 b)
+    {
+#ifdef __AVX__
+        return {_mm_blendv_epi8(b.All, a.All, mask.All)};
+#else
+        return (a & mask) | Without(b, mask);
+#endif
+    }
     // One bit a lane of a mask, the first lane's lowest.
     unsigned Bits() const
     {
@@ -121,6 +140,16 @@ struct Double4
     Int4 Rounded() const { return {_mm_unpacklo_epi64(_mm_cvtpd_epi32(Low), _mm_cvtpd_epi32(High))}; }
     friend Double4 FirstHalves(Double4 a, Double4 b) { return {a.Low, b.Low}; }
     friend Double4 LastHalves(Double4 a, Double4 b) { return {a.High, b.High}; }
+    // Lanes 2, 3, 0, 1 where all lanes of the mask are set, as they are where none is.
+    Double4 HalvesSwapped(Int4 mask) const
+    {
+        const auto choose = [&](__m128d a, __m128d b)
+        {
+            const Int4 chosen = Choose(mask, Int4{_mm_castpd_si128(a)}, Int4{_mm_castpd_si128(b)});
+            return _mm_castsi128_pd(chosen.All);
+        };
+        return {choose(High, Low), choose(Low, High)};
+    }
     friend Int4 operator==(Double4 a, Double4 b)
     {
         const __m128 low = _mm_castpd_ps(_mm_cmpeq_pd(a.Low, b.Low));
