@@ -1,19 +1,17 @@
 #include "render/Layers.h"
 
+#include <cstddef>
+
 namespace render
 {
-void LayOverPlain(Screen& screen, Layer& layer, const Band& rows)
+void LayOverPlain(PicArray2D& frame, const Layer& layer, const Band& rows)
 {
     for (std::int32_t y = rows.First; y <= rows.Last; ++y)
-        for (std::int32_t x = 0; x < screen.ScreenW; ++x)
-        {
-            float& ahead = layer.Depth.At(x, y);
-            if (!(ahead < FarDepth))
-                continue;
-            screen.Depth.At(x, y) = ahead;
-            ahead = FarDepth;
-            const std::ptrdiff_t at = static_cast<std::ptrdiff_t>(x) * base::PixelBytes;
-            base::CopyPixel(screen.Frame.Row(y) + at, layer.Pixels.Row(y) + at);
-        }
+        for (std::int32_t x = 0; x < layer.Depth.Width; ++x)
+            if (layer.Depth.At(x, y) < FarDepth)
+            {
+                const std::ptrdiff_t at = static_cast<std::ptrdiff_t>(x) * base::PixelBytes;
+                base::CopyPixel(frame.Row(y) + at, layer.Pixels.Row(y) + at);
+            }
 }
 }

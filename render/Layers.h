@@ -4,7 +4,7 @@
 
 namespace render
 {
-// Moves what the layer shows in those rows, pixels and depths, to the frame; the layer's rows are empty then. Straight
-// from the definition, the judge of the screen's LayOver.
-void LayOverPlain(Screen& screen, Layer& layer, const Band& rows);
+// Copies the pixels of those rows that have a depth in the layer to a frame of its size. Straight from the definition,
+// the judge of the screen's LayOver.
+void LayOverPlain(PicArray2D& frame, const Layer& layer, const Band& rows);
 }

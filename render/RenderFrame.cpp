@@ -103,8 +103,10 @@ void DrawSideBySide(const Scene& scene, const Camera& camera, Screen& screen, Gr
     // Where the ground is cut off, the frame keeps depths of the frame before, which may hide what stands there.
     if (!ground.Finish(std::chrono::milliseconds(screen.GroundLimit)))
         return DrawSolids(scene, camera, screen);
-    threads.Run([&screen](const Band& rows, StopCheck&) { screen.Kernels->LayOver(screen, screen.Ahead, rows); },
+    threads.Run([&screen](const Band& rows, StopCheck&) { screen.Kernels->LayOver(screen.Frame, screen.Ahead, rows); },
                 screen.RowBands, NoLimit);
+    // The layer's depths are the frame's; the ground has emptied those that were, for the next frame's layer.
+    std::swap(ahead.Depth, screen.Depth);
     ahead.Drawn.Clear();
     ahead.IsEmpty = true;
 }

@@ -17,6 +17,7 @@ struct GroundView;
 struct Layer;
 struct MeshPt;
 struct MeshPlace;
+struct PicArray2D;
 struct Screen;
 struct ScreenVertex;
 struct Vertex;
@@ -33,8 +34,8 @@ struct Kernels
                         base::Rgb colour);
     void (*FillTriTex)(const Canvas& canvas, const ScreenVertex& a, const ScreenVertex& b, const ScreenVertex& c,
                        const base::ConstSurface& texture);
-    // Moves what the layer shows in those rows, pixels and depths, to the frame. The layer's rows are empty then.
-    void (*LayOver)(Screen& screen, Layer& layer, const Band& rows);
+    // See render/Layers.h.
+    void (*LayOver)(PicArray2D& frame, const Layer& layer, const Band& rows);
     // See render/Vertices.h.
     void (*TransformPoints)(const Camera& camera, const Screen& screen, const MeshPlace& place, const MeshPt* points,
                             std::size_t count, Vertex* vertices);

@@ -15,48 +15,42 @@ namespace
 constexpr std::int32_t Lanes = 4;
 constexpr std::size_t FourPixels = Lanes * base::PixelBytes;
 
-// Four columns: those of the layer's that are not empty.
-void MoveFour(float* layerDepth, const std::uint8_t* layerPixels, float* depth, std::uint8_t* pixels)
+// Four columns: the pixels of those that have a depth.
+void CopyFour(const float* depth, const std::uint8_t* from, std::uint8_t* to)
 {
-    const Float4 far = Float4::Of(FarDepth), ahead = Float4::Load(layerDepth);
-    const Int4 shows = ahead < far;
+    const Int4 shows = Float4::Load(depth) < Float4::Of(FarDepth);
     const unsigned lanes = shows.Bits();
-    if (lanes == 0)
-        return;
-    Choose(shows, ahead, Float4::Load(depth)).Store(depth);
-    far.Store(layerDepth);
     if (lanes == 0b1111)
-        std::memcpy(pixels, layerPixels, FourPixels);
-    else
+        std::memcpy(to, from, FourPixels);
+    else if (lanes != 0)
         ForEachLane(shows,
                     [&](int lane)
                     {
                         const std::ptrdiff_t at = lane * base::PixelBytes;
-                        std::memcpy(pixels + at, layerPixels + at, base::PixelBytes);
+                        std::memcpy(to + at, from + at, base::PixelBytes);
                     });
 }
 }
 
-void LayOver(Screen& screen, Layer& layer, const Band& rows)
+void LayOver(PicArray2D& frame, const Layer& layer, const Band& rows)
 {
-    if (screen.ScreenW < Lanes)
-        return LayOverPlain(screen, layer, rows);
-    const std::int32_t border = screen.ScreenW - Lanes, columns = layer.Drawn.BlockColumns();
+    if (layer.Depth.Width < Lanes)
+        return LayOverPlain(frame, layer, rows);
+    const std::int32_t border = layer.Depth.Width - Lanes, columns = layer.Drawn.BlockColumns();
     for (std::int32_t y = rows.First; y <= rows.Last; ++y)
     {
-        float *layerDepth = layer.Depth.Row(y), *depth = screen.Depth.Row(y);
-        const std::uint8_t* layerPixels = layer.Pixels.Row(y);
-        std::uint8_t* pixels = screen.Frame.Row(y);
-        const auto move = [&](std::int32_t x)
-        {
-            const std::ptrdiff_t at = static_cast<std::ptrdiff_t>(x) * base::PixelBytes;
-            MoveFour(layerDepth + x, layerPixels + at, depth + x, pixels + at);
-        };
+        const float* depth = layer.Depth.Row(y);
+        const std::uint8_t* from = layer.Pixels.Row(y);
+        std::uint8_t* to = frame.Row(y);
         for (std::uint64_t blocks = layer.Drawn.BlocksOf(y); blocks != 0; blocks &= blocks - 1)
         {
             std::int32_t x = std::countr_zero(blocks) * columns;
             for (const std::int32_t end = x + columns; x < end; x += Lanes)
-                move(x < border ? x : border); // columns that were moved before are empty by now
+            {
+                const std::int32_t at = x < border ? x : border;
+                const std::ptrdiff_t byte = static_cast<std::ptrdiff_t>(at) * base::PixelBytes;
+                CopyFour(depth + at, from + byte, to + byte);
+            }
         }
     }
 }

@@ -10,7 +10,7 @@ void FillTriFlat(const Canvas& canvas, const ScreenVertex& a, const ScreenVertex
                  base::Rgb colour);
 void FillTriTex(const Canvas& canvas, const ScreenVertex& a, const ScreenVertex& b, const ScreenVertex& c,
                 const base::ConstSurface& texture);
-void LayOver(Screen& screen, Layer& layer, const Band& rows);
+void LayOver(PicArray2D& frame, const Layer& layer, const Band& rows);
 void TransformPoints(const Camera& camera, const Screen& screen, const MeshPlace& place, const MeshPt* points,
                      std::size_t count, Vertex* vertices);
 }
