@@ -76,8 +76,16 @@ void DrawMesh(const Scene& scene, const Camera& camera, const Canvas& canvas, co
 {
     if (mesh.Colour >= 0)
         return DrawFlatMesh(scene, camera, canvas, mesh, place, room);
+    const base::ConstSurface texture = TextureOf(scene, mesh.TexIndex);
+    if (texture.Width < 1 || texture.Height < 1)
+        return;
     ForEachTriangle(camera, canvas.Screen, mesh.Pts, place, room,
-                    [&, texture = TextureOf(scene, mesh.TexIndex)](const Triangle& triangle)
-                    { DrawTriTex(camera, canvas, triangle, texture); });
+                    [&](const Triangle& triangle)
+                    {
+                        if (IsWhole(triangle))
+                            FillTriTex(canvas, triangle.A.Screen, triangle.B.Screen, triangle.C.Screen, texture);
+                        else
+                            DrawTriTex(camera, canvas, triangle, texture);
+                    });
 }
 }

@@ -84,15 +84,12 @@ template <class Fill>
 void ForEachPiece(const Camera& camera, const Screen& screen, const Triangle& triangle, Fill&& fill)
 {
     const auto& [a, b, c] = triangle;
-    const std::uint32_t some = a.Outside | b.Outside | c.Outside;
     if (IsOutside(triangle))
         return;
-    if ((some & BeforeNear) == 0)
-    {
-        if ((some & NoPlace) == 0)
-            fill(a.Screen, b.Screen, c.Screen);
+    if (IsWhole(triangle))
+        return fill(a.Screen, b.Screen, c.Screen);
+    if (((a.Outside | b.Outside | c.Outside) & BeforeNear) == 0)
         return;
-    }
     const Pieces pieces = ClipNear(ToClip(a), ToClip(b), ToClip(c), screen.NearZ);
     for (std::size_t i = 0; i < pieces.Count; ++i)
     {

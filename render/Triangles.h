@@ -2,8 +2,9 @@
 // filling is in render/TriangleFill.h.
 #pragma once
 #include "base/Pixels.h"
+#include "render/Canvas.h"
 #include "render/Scene.h"
-#include "render/Screen.h"
+#include "render/TriangleFill.h"
 #include "render/Vertices.h"
 
 namespace render
@@ -18,6 +19,12 @@ struct Triangle
 inline bool IsOutside(const Triangle& triangle)
 {
     return (triangle.A.Outside & triangle.B.Outside & triangle.C.Outside) != 0;
+}
+
+// Whether the screen knows all three vertices: what nearly every triangle is that shows.
+inline bool IsWhole(const Triangle& triangle)
+{
+    return ((triangle.A.Outside | triangle.B.Outside | triangle.C.Outside) & (BeforeNear | NoPlace)) == 0;
 }
 
 // Largest minus smallest of three coordinates.
