@@ -1,4 +1,5 @@
 #!/usr/bin/env bash
+# SPDX-License-Identifier: Zlib
 # What the developers' pages name is there: every file and folder, and in the tour's walks every procedure in its file.
 #   check-tour.sh ROOT
 set -uo pipefail
