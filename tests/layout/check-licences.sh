@@ -1,7 +1,8 @@
 #!/usr/bin/env bash
 # SPDX-License-Identifier: Zlib
 # Every file has a licence, and one only: it names it in its first lines, or REUSE.toml does for it. The packages'
-# packaging/debian/copyright says the same, with the same texts; what is seen or heard is under CC BY 4.0.
+# packaging/debian/copyright says the same, with the same texts; what is seen or heard is under CC BY 4.0, and so is what
+# software catalogues show, who take no program's licence.
 #   check-licences.sh ROOT
 set -uo pipefail
 shopt -s extglob
@@ -72,7 +73,7 @@ for file in "${files[@]}"; do
     *) wrong "$file" "has not one of the two licences, once: $found"; continue ;;
     esac
     case $file in
-    data/* | soundtracks/* | *.png | *.bmp | *.svg | *.ico) [ "$found" = CC-BY-4.0 ] ;;
+    data/* | soundtracks/* | *.png | *.bmp | *.svg | *.ico | *.metainfo.xml) [ "$found" = CC-BY-4.0 ] ;;
     *) [ "$found" = Zlib ] ;;
     esac || wrong "$file" "should not be under $found"
     packaged=""
