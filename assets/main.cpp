@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: Zlib
 // velkar-assets ROOT [PART ...]: rebuilds data/ and soundtracks/ below ROOT. Parts: track, cars, hud, sound; all of
 // them when none is named.
 #include "assets/cars/Cars.h"

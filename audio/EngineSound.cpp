@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: Zlib
 #include "audio/EngineSound.h"
 
 #include "base/Numbers.h"

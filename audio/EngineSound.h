@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: Zlib
 // audio/EngineSound.h: the engine's sound, made from a short recorded loop: the step through the loop is the pitch, the
 // gain the loudness. Four buffers of 16-bit stereo at 11025 Hz go round between here and the wave device: WaveOut.h
 // hands them over, this fills them. Everything runs on the window's thread.

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: Zlib
 // audio/Soundtrack.h: the music: the files of a folder, played one after another and round again through the media
 // control. The player works on its own and reports the end of a track by a MediaDone event; what such an event means is
 // decided here. Loudness is the file's own. Paths are written as the game writes them, with backslashes, relative to

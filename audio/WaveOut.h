@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: Zlib
 // audio/WaveOut.h: the calls to the wave device, each reporting its own failure as a critical box "Errore CODE in
 // CALL", title "Errore"; those that go over the four buffers as "CALL(0)" to "CALL(3)". A call that fails stops
 // nothing: the loops go on with the next buffer. Codes are those of platform/Sound.h. Runs on the window's thread; a

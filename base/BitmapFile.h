@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: Zlib
 // base/BitmapFile.h: an uncompressed 24-bit bitmap file in memory.
 #pragma once
 #include <cstdint>

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: Zlib
 // base/Fields.h: the description of records, name by name, that the driver and the console read and write through.
 // A record states its fields once, beside itself:
 //     template <> struct base::FieldsOf<Sfera>

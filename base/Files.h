@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: Zlib
 // base/Files.h: the run-time tree. Paths are written the game's way ("data\models\cup.3dm", UTF-8) and stand under one
 // folder; "\" and "/" both separate; where the exact letter case is missing a name that differs only in case is taken.
 #pragma once

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: Zlib
 // base/Geometry.h: plane geometry that several rooms need. Sums in double; the same bits everywhere.
 #pragma once
 #include "base/Math.h"

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: Zlib
 #include "base/Math.h"
 
 #include <limits>

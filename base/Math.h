@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: Zlib
 // base/Math.h: sine, cosine, arctangent and square root, the same bits on every platform.
 // C libraries differ in the last bit; these use only additions, multiplications and divisions of doubles,
 // which do not. Errors stay within about one unit in the last place for the angles of a game.

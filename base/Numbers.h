@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: Zlib
 // base/Numbers.h: the one place where real numbers become whole numbers.
 // Every conversion of the game is "to nearest, ties to even" unless it says floor; none is a bare cast.
 #pragma once

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: Zlib
 // base/PhaseClock.h: how long the phases of a frame or of a tick take. Whoever does the work enters one phase after
 // another; whoever measures reads the sums. Of one thread. Nothing that the game does depends on it.
 #pragma once

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: Zlib
 // base/Pixels.h: what a pixel, a row of pixels and a table of cells are. A 24-bit pixel is three bytes: blue, green,
 // red. Rows are padded to 4 bytes; row 0 is where the owner of the picture says (the bottom one in bitmap files and
 // frames).

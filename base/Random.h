@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: Zlib
 // base/Random.h: the game's uniform draws. One generator, seeded from the clock at start and by scripts in tests.
 #pragma once
 #include <cstdint>

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: Zlib
 // base/ReadNumber.h: a written number as a double: an optional sign, digits with at most one decimal separator, an
 // optional exponent ("3", "+1.5", ".5", "1.", "2E-3"). No blanks, no words such as "inf".
 #pragma once

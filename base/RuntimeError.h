@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: Zlib
 // base/RuntimeError.h: what goes wrong at run time, by number, with the text an Italian system shows.
 #pragma once
 #include <cstdint>

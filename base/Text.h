@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: Zlib
 // base/Text.h: between the system code page of the data files and fonts (Windows-1252) and the UTF-8 of the program.
 // The five codes that the code page leaves open (129, 141, 143, 144, 157) stand for U+0081 and so on, so every one of
 // the 256 codes has a character and comes back as it went.

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: Zlib
 // base/Trapped.h: the one place where a run-time error becomes a message box.
 #pragma once
 #include "base/RuntimeError.h"

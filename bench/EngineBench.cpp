@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: Zlib
 // One buffer of the engine's sound, 46 ms of it.
 #include "audio/EngineSound.h"
 

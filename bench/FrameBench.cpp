@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: Zlib
 // Whole frames of a race-like scene: ground, sixteen cars' worth of triangles of which most lie off the screen, smoke,
 // and a head-up display.
 #include "render/Effects.h"

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: Zlib
 // frame_times: how long whole frames of the shipped map take on the system that it is built for. Needs no library, so
 // that the same measurement runs as a Windows program.
 //   frame_times [ROUNDS]    so often along the recorded camera path, 1 to 1000, by default 20

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: Zlib
 // The simulation of one game tick, and its collisions against the plain walk over all pairs. Scenes are made here:
 // cars on a round course, objects with spheres all over the world.
 #include "tests/support/World.h"

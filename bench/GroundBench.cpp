@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: Zlib
 // The ground pass alone: each filter, plain and fast, on one thread; and fast on all of them.
 #include "render/GroundPlain.h"
 #include "render/RenderFrame.h"

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: Zlib
 // bench/Phases.h: the phases of a frame or a tick as columns of a benchmark.
 #pragma once
 #include "base/PhaseClock.h"

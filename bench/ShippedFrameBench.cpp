@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: Zlib
 // Whole frames of the shipped map along a recorded camera path; one iteration is one frame, the path over and over.
 #include "bench/Phases.h"
 #include "bench/ShippedFrames.h"

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: Zlib
 #include "bench/ShippedFrames.h"
 
 #include "render/RenderFrame.h"

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: Zlib
 // bench/ShippedFrames.h: whole frames of the shipped map along a recorded camera path, to be timed.
 // VELKAR_ROOT is the folder that holds data/.
 #pragma once

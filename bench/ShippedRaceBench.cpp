@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: Zlib
 // Game ticks of the shipped race with every car driven by the computer, the way from program start to the menu, and
 // the loading alone.
 #include "bench/Phases.h"

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: Zlib
 // The triangle fill alone, plain and fast: many small triangles (cars), and few large ones (walls near the camera).
 #include "render/TriangleFillPlain.h"
 #include "tests/support/Scenes.h"

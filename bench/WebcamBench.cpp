@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: Zlib
 // A frame of the webcam from the device's buffer to the inset: taken, keyed, cropped.
 #include "platform/headless/Webcam.h"
 #include "webcam/Calibration.h"

@@ -1,3 +1,4 @@
+# SPDX-License-Identifier: Zlib
 # Compiler settings shared by every target of the project.
 find_package(Threads REQUIRED)
 

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: Zlib
 // Running a line, and the commands that touch no property.
 #include "console/Commands.h"
 

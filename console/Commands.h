@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: Zlib
 // console/Commands.h: the commands by name. Each throws a RuntimeError whose description is the answer (Words.h: Fail),
 // and has changed nothing then.
 #pragma once

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: Zlib
 // console/Console.h: the developer console: one line of text over the race, edited character by character, and the
 // commands that it runs on the cars, the camera and the clock. Line and answers are the text of one label of the
 // display. Texts are UTF-8, characters those of the system code page. Runs on the window's thread, between ticks.

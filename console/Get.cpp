@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: Zlib
 // "\get": one line of answer.
 #include "console/Commands.h"
 #include "console/Properties.h"

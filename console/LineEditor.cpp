@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: Zlib
 // The line: opening, closing, recall and editing.
 #include "base/Text.h"
 #include "console/Console.h"

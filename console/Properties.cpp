@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: Zlib
 #include "console/Properties.h"
 
 #include "base/Fields.h"

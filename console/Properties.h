@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: Zlib
 // console/Properties.h: what "\get" and "\set" can name: fields of the records, by their own tables (base/Fields.h).
 // The position of a car is none: it is two numbers of another record (Get.cpp, Set.cpp).
 #pragma once

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: Zlib
 // "\set": every check and conversion comes before the first assignment, so that what fails changes nothing.
 #include "base/Numbers.h"
 #include "console/Commands.h"

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: Zlib
 // console/ShowNumber.h: numbers as an Italian system writes them: a comma, no blanks, "-" in front. Zero is "0", also
 // where it is negative; what is no number is "Non un numero", the infinities "Infinito" and "-Infinito".
 #pragma once

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: Zlib
 #include "console/Texts.h"
 
 #include <algorithm>

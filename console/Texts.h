@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: Zlib
 // console/Texts.h: the texts of "\lst" and "\help", UTF-8, lines ended by "\r\n". Columns are parted by tabs.
 #pragma once
 #include <cstdint>

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: Zlib
 #include "console/Words.h"
 
 #include "base/ReadNumber.h"

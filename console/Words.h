@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: Zlib
 // console/Words.h: a command line taken apart, and the ways in which a command fails.
 #pragma once
 #include <cstdint>

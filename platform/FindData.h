@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: Zlib
 // platform/FindData.h: where the run-time tree is (the folder that holds data/ and soundtracks/).
 #pragma once
 #include <filesystem>

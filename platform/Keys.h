@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: Zlib
 // platform/Keys.h: the codes of the keys: the virtual-key codes of the Windows keyboard, in every back end. Letters and
 // the digits of the upper row are their ASCII capitals ('A' is 65, '1' is 49). Typed characters are no keys: they are
 // codes of the system code page, and what Ctrl makes of the letters is 1 to 26.

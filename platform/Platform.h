@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: Zlib
 // platform/Platform.h: everything the game needs from outside. Back ends: win32, sdl, headless. A back end never
 // decides anything about the game. Runs on the window's thread throughout.
 // Texts are UTF-8. Sizes and positions are pixels, screen positions with y downward from the top left corner.

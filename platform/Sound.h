@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: Zlib
 // platform/Sound.h: the sound devices, as the game uses them: a wave device that plays buffers one after another, and a
 // player of music files. All calls are made on the window's thread, and all events arrive there, in the order in which
 // they happened and only while the platform handles events: never from inside a call of the device.

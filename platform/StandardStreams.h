@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: Zlib
 // platform/StandardStreams.h: standard input and output as they are on every system.
 #pragma once
 

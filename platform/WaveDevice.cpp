@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: Zlib
 #include "platform/WaveDevice.h"
 
 namespace platform

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: Zlib
 // platform/WaveDevice.h: the rules of the wave calls, the same for every sound card: which handle is good, and which
 // buffer may be prepared, queued, unprepared. A back end adds the calls of its system, which only come in order.
 // Belongs to the window's thread.

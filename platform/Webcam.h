@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: Zlib
 // platform/Webcam.h: the webcam as the game uses it: one device, one frame at a time. All calls are made on the
 // window's thread; a back end that works elsewhere touches the target only between DoCapture and the IsCaptureDone that
 // says so.

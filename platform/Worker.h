@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: Zlib
 // platform/Worker.h: a thread of its own, with what it and its owner need to talk: a lock, a notification and a wish to
 // stop. The owner makes, starts, stops and destroys it on one thread; Notify, Locked and IsStopped may be called on
 // any; the two waits belong to the body.

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: Zlib
 // program/RunDesktop.h: one run of the game on the desktop, whichever back end it has.
 #pragma once
 #include "base/RuntimeError.h"

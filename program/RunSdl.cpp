@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: Zlib
 #include "program/RunSdl.h"
 
 #include "platform/FindData.h"

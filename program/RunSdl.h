@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: Zlib
 // program/RunSdl.h: one run of the game on the SDL back end.
 #pragma once
 #include "platform/sdl/FfmpegWebcam.h"

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: Zlib
 // The desktop program.
 #include "program/RunSdl.h"
 

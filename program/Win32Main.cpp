@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: Zlib
 // The desktop program of Windows: no console, so what goes wrong at the start is shown in a message box.
 #include "platform/FindData.h"
 #include "platform/win32/WinPlatform.h"

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: Zlib
 // render/Bands.h: the bands of the ground pass. A frame's columns are split between them, so that several threads draw
 // at once and none writes what another reads or writes.
 #pragma once

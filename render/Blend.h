@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: Zlib
 // render/Blend.h: two pixels mixed, channel by channel, in double precision.
 #pragma once
 #include "base/Numbers.h"

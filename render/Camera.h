@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: Zlib
 // render/Camera.h: the camera, the way from world to screen, and the angles that renderer and simulation share.
 // World: single-precision, y up, left-handed, ground at y = 0. Angles: radians. Screen: row 0 = bottom.
 #pragma once

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: Zlib
 #include "render/Draw2D.h"
 
 #include "base/Numbers.h"

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: Zlib
 // render/Draw2D.h: pictures and rectangles of the head-up display, over everything. Frame pixels, y upward.
 #pragma once
 #include "base/Pixels.h"

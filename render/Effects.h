@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: Zlib
 // render/Effects.h: particles: smoke, rising puffs and fire, each a world sprite with a life of its own.
 #pragma once
 #include "base/Random.h"

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: Zlib
 // render/Font.h: the bitmap font of the head-up display. What draws with it is in render/Text.h.
 #pragma once
 #include "base/Files.h"

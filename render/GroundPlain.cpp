@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: Zlib
 #include "render/GroundPlain.h"
 
 #include "base/Math.h"

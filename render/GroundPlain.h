@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: Zlib
 // render/GroundPlain.h: the ground and sky pass straight from its definition, pixel by pixel. The fast one of
 // render/Ground.h must give the same bytes, and leaves to it the columns whose steps end between two texels.
 #pragma once

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: Zlib
 // render/GroundTexture.h: loading the ground picture and its blurred copy, which the linear filter mixes in far away.
 #pragma once
 #include "render/Scene.h"

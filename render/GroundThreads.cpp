@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: Zlib
 #include "render/GroundThreads.h"
 
 #include <system_error>

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: Zlib
 // render/GroundThreads.h: the threads of the ground pass. They sleep between frames; the calling thread draws bands
 // with them, at once or when it is done with something else. The picture is the same for any number of them.
 #pragma once

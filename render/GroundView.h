@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: Zlib
 // render/GroundView.h: what the ground pass reads and where it writes, gathered once a frame, and the sky's share of
 // it. Borrows from the scene and the screen, which must stay as they are while it is in use. Any number of threads may
 // read one view; each writes the columns of its own bands only.

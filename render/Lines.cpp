@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: Zlib
 #include "render/Lines.h"
 
 #include "base/Numbers.h"

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: Zlib
 // render/Lines.h: lines in the world, depth-tested.
 #pragma once
 #include "render/Scene.h"

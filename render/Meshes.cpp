@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: Zlib
 #include "render/Meshes.h"
 
 #include "render/Triangles.h"

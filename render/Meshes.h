@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: Zlib
 // render/Meshes.h: the cells of a mesh's grid as triangles.
 #pragma once
 #include "render/Canvas.h"

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: Zlib
 // render/PicArray.h: pixel arrays: 24-bit pictures whose bytes lie exactly as in a bottom-up bitmap file, so that the
 // frame is shown without a copy. Row 0 is the bottom row; pixel (x, row) is bytes 3x (blue), 3x + 1 (green), 3x + 2
 // (red); rows are padded to 4 bytes.

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: Zlib
 // render/Primitives.h: the operations that fill and edit the scene lists. Every index is checked (RuntimeError 9),
 // every size before it is allocated (RuntimeError 7 above the limits of Scene.h), every slot before it is given away
 // (RuntimeError 6 beyond the 16-bit index); errors are thrown to the caller, and what failed has changed nothing.

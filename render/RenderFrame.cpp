@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: Zlib
 #include "render/RenderFrame.h"
 
 #include "base/Numbers.h"

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: Zlib
 // render/RenderFrame.h: composes one frame in its fixed order: ground and sky, objects, world meshes, polylines, world
 // sprites, screen pictures, rectangles, texts. No allocation.
 #pragma once

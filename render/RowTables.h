@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: Zlib
 // render/RowTables.h: what the ground pass knows of whole rows and columns, found once a frame. All pixels of a screen
 // row see the plane y = 0 under one angle, and so at one distance ahead:
 //

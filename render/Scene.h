@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: Zlib
 // render/Scene.h: the records of the world and the head-up display, and the lists that hold them.
 // Positions are world units, y up, the ground at y = 0; angles radians; the display's positions frame pixels, row 0 at
 // the bottom. A record is drawn when Visible is non-zero and Free is zero; both are bytes that scripts may set to

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: Zlib
 // render/SceneFields.h: the fields of the scene records by name (see base/Fields.h). The names are the driver's paths.
 #pragma once
 #include "base/Fields.h"

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: Zlib
 // render/Screen.h: what depends on the resolution: the frame with its depth cells, and the tables of the ground pass.
 // Plain data, filled on the window's thread; while the ground pass runs its threads read it and write the frame's, the
 // depth buffer's and the taps' columns of their own bands; the window's thread writes the layer meanwhile.

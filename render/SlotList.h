@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: Zlib
 // render/SlotList.h: a list of scene records. Indices never change; a freed record is used again, the first free one
 // first; the count of live records is 16 bits wide.
 #pragma once

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: Zlib
 #include "render/Spanner.h"
 
 #include "base/Math.h"

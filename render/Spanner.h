@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: Zlib
 // render/Spanner.h: the picture of the repair indicator, drawn at start-up instead of loaded: an open-ended spanner
 // from lower left to upper right on a dark, rounded tile.
 #pragma once

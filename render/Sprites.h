@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: Zlib
 // render/Sprites.h: pictures that stand in the world and face the camera: smoke, fire, splashes.
 #pragma once
 #include "render/Scene.h"

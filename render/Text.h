@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: Zlib
 // render/Text.h: texts of the head-up display. Coordinates are frame pixels, y upward; texts are UTF-8, lines end with
 // "\r\n". Characters that the font lacks are left out. Nothing is drawn outside the surface.
 #pragma once

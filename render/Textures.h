@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: Zlib
 // render/Textures.h: the list of textures, by path (exact, case-sensitive): a file is read once, however many meshes
 // name it.
 #pragma once

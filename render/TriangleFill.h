@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: Zlib
 // render/TriangleFill.h: filling a projected triangle: rows between its vertices, depth-tested pixels. Vertices may lie
 // anywhere in 32 bits; only rows and columns of the screen are visited. Values are interpolated in double precision,
 // along the edges and then along the row, without perspective.

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: Zlib
 // render/TriangleFillPlain.h: the fills of render/TriangleFill.h straight from their definition, pixel by pixel. The
 // fast ones must give the same bytes and depths.
 #pragma once

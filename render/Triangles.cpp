@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: Zlib
 #include "render/Triangles.h"
 
 #include "base/Math.h"

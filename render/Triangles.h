@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: Zlib
 // render/Triangles.h: triangles given in world coordinates: transformation, shading, near clipping, projection. The
 // filling is in render/TriangleFill.h.
 #pragma once

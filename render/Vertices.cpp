@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: Zlib
 #include "render/Vertices.h"
 
 namespace render

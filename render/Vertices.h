@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: Zlib
 // render/Vertices.h: a mesh's points on their way to the screen: the three spaces that each passes through, and on
 // which side of the screen it ends. Found once for all the triangles that share the point.
 #pragma once

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: Zlib
 #include "shell/Application.h"
 
 #include "base/Numbers.h"

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: Zlib
 // shell/Application.h: one run of the program: the splash window, then Form1.
 #pragma once
 #include "platform/Platform.h"

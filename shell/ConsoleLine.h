@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: Zlib
 // shell/ConsoleLine.h: the developer console's place in the program: which records it works on, the keys that reach it,
 // the clipboard and the clock it may set. Runs on the window's thread.
 #pragma once

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: Zlib
 #include "shell/Form1.h"
 
 #include "render/Font.h"

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: Zlib
 // shell/Form1.h: the main window, a switchboard: it owns the game and its parts, starts and ends them in their order,
 // and hands what the window reports to the part it is for: keys to the race, the console or the controls, the mouse to
 // the controls or to the dragging of the window. Everything runs on the window's thread.

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: Zlib
 #include "shell/FormView.h"
 
 #include <algorithm>

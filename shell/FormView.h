@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: Zlib
 // shell/FormView.h: the form over the race: its controls, what they do, what mouse and keys do to them, and how it is
 // painted onto the window's client area. Runs on the window's thread.
 #pragma once

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: Zlib
 // shell/Game.h: the whole state of one game. Form1 owns it and hands its records on by reference.
 #pragma once
 #include "audio/EngineSound.h"

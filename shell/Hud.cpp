@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: Zlib
 #include "shell/Hud.h"
 
 #include "base/Numbers.h"

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: Zlib
 // shell/Hud.h: the read-outs of the head-up display, refreshed once a frame. Nothing here allocates. An element or a
 // car that does not exist is RuntimeError 9.
 #pragma once

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: Zlib
 #include "shell/HudElements.h"
 
 #include "base/Numbers.h"

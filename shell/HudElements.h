@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: Zlib
 // shell/HudElements.h: the elements of the head-up display: made once, moved with every new resolution.
 #pragma once
 #include "render/Scene.h"

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: Zlib
 #include "shell/RaceKeys.h"
 
 #include "platform/Keys.h"

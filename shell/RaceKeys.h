@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: Zlib
 // shell/RaceKeys.h: keys during a race: held flags, the rebindable one-shot actions, the fixed keys, and the console's
 // line. The rebindable ones come first, in a fixed order: one that is bound to a fixed key takes that key over. While
 // the race does not show nothing happens.

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: Zlib
 #include "shell/RaceRun.h"
 
 #include "render/Primitives.h"

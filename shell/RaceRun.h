@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: Zlib
 // shell/RaceRun.h: the run of a race: started, suspended, paused and resumed; the simulation's tick and the frame's,
 // and the display's part in both. Runs on the window's thread.
 #pragma once

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: Zlib
 #include "shell/Sound.h"
 
 #include "base/Numbers.h"

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: Zlib
 // shell/Sound.h: what is heard: the engine of the followed car, as long as the race runs, and the music, from start-up
 // to the end. Owns the sound devices, whose events come to it on the window's thread.
 #pragma once

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: Zlib
 #include "shell/StartUp.h"
 
 #include "render/Font.h"

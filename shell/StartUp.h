@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: Zlib
 // shell/StartUp.h: what start-up makes of an empty game, step by step, and what shut-down frees. The order of the steps
 // is Form1's. Messages are shown as they arise.
 #pragma once

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: Zlib
 // shell/TickTimer.h: the periodic timer of the game. It follows a millisecond clock that is told to it; late ticks are
 // merged into one and the phase is kept.
 #pragma once

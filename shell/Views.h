@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: Zlib
 // shell/Views.h: the camera views. A placement never sets the camera: each value becomes value + (target - value) / f,
 // so that every switch glides. World units and radians; once a game tick.
 #pragma once

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: Zlib
 // shell/WebcamFeed.h: the webcam as the panel and the race use it: opened, one frame after another, closed; and the
 // player's picture in the race view. Runs on the window's thread.
 #pragma once

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: Zlib
 // shell/WinDrag.h: dragging the borderless window by any point of its client area. Screen pixels.
 #pragma once
 #include "platform/Platform.h"

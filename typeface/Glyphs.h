@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: Zlib
 // typeface/Glyphs.h: the letters of the typeface as strokes, and nothing about pixels.
 // Units: a hundredth or so of the size; y = 0 the baseline, 50 the small letters, 70 the capitals (centre of the
 // stroke).

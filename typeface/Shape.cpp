@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: Zlib
 #include "typeface/Shape.h"
 
 #include "base/Numbers.h"

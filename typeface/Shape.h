@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: Zlib
 // typeface/Shape.h: from a glyph's path to strokes in pixels, each axis by a map of its own. The steps in their order:
 //     ReadPieces      the path's lines, curves and dots, in glyph units
 //     CollectAnchors  where along each axis something stands that the eye holds on to: stems and levels

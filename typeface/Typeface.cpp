@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: Zlib
 #include "typeface/Typeface.h"
 
 #include "base/Geometry.h"

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: Zlib
 // typeface/Typeface.h: the typeface of the menus and panels, drawn from strokes at any size. A library on base/ alone:
 // the game paints its controls with it, the generator of the data its pictures and fonts.
 // Pixels: x to the right, y downward from the top row of the surface (its last: rows lie bottom-up). Text is UTF-8;

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: Zlib
 #include "webcam/Calibration.h"
 
 namespace webcam

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: Zlib
 // webcam/Calibration.h: learning the empty scene: the player asks for it, leaves the picture, and once it has been
 // still for a while it is taken as the background. Each state ends by the time or by what the frames show, one step a
 // captured frame at most; asking again begins anew from any of them. Runs on the window's thread.

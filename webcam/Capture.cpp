@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: Zlib
 #include "webcam/Capture.h"
 
 #include "base/Pixels.h"

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: Zlib
 // webcam/Capture.h: fetching frames from the webcam, one request outstanding at a time. Runs on the window's thread.
 #pragma once
 #include "base/Fields.h"

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: Zlib
 #include "webcam/Keying.h"
 
 #include <algorithm>

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: Zlib
 // webcam/Keying.h: the player cut out of the room: how much moves, the background as it is learnt, and its replacement.
 // Pictures are 24-bit pixel arrays, row 0 at the bottom; sizes and places are pixels. Differences are absolute ones of
 // bytes, 0 to 255 a colour. Runs on the window's thread, once a captured frame.

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: Zlib
 // world/Cars.h: small helpers of the simulation's procedures: records by index, rounding to a field, distances.
 #pragma once
 #include "base/Numbers.h"

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: Zlib
 // world/Collision.h: who touches whom, the damage, and how the two part.
 #pragma once
 #include "world/Simulation.h"

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: Zlib
 // CollidePlain of world/Collision.h: nothing is kept, left out or known from before.
 #include "world/Collision.h"
 #include "world/Impact.h"

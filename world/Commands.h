@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: Zlib
 // world/Commands.h: model files and map scripts are streams of commands: a keyword and its fields. Each reader has a
 // table of what it knows.
 #pragma once

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: Zlib
 // world/ComputerDrive.h: the computer drivers: each steers at its next checkpoint and brakes for the bend behind it.
 #pragma once
 #include "world/Simulation.h"

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: Zlib
 // world/Driving.h: how cars answer their controls: speed, steering, movement, gears, damage. Speeds are world units in
 // two ticks of 25 ms, positive forward; a tick moves a car by half of its speed. The speed shown is 36 times that.
 #pragma once

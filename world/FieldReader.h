@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: Zlib
 // world/FieldReader.h: the sequential text files of the game: a stream of fields, separated by commas or line ends.
 // A number is plain decimal, with a point; every kind of field says below what goes wrong with it. Any field behind
 // the end of the file is RuntimeError 62.

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: Zlib
 // world/Impact.h: what a contact of two bodies does to them: damage, dents, and how they part.
 #pragma once
 #include "world/Shape.h"

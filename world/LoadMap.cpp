@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: Zlib
 #include "world/LoadMap.h"
 
 #include "render/GroundTexture.h"

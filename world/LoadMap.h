@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: Zlib
 // world/LoadMap.h: map scripts (format: docs/formats.md).
 #pragma once
 #include "base/Files.h"

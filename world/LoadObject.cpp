@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: Zlib
 #include "world/LoadObject.h"
 
 #include "base/RuntimeError.h"

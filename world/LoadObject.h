@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: Zlib
 // world/LoadObject.h: 3DM model files (format: docs/formats.md).
 #pragma once
 #include "base/Files.h"

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: Zlib
 #include "world/NearGrid.h"
 
 #include "base/Numbers.h"

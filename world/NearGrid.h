@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: Zlib
 // world/NearGrid.h: which bodies may touch, without asking every pair. The ground is cut into square cells; a body lies
 // in the one cell that holds its middle, on the level whose cells are at least as wide as it is: 4, 8, 16 … units.
 // Whoever looks walks, level by level, the cells that a body may reach out of, or all bodies of the level where these

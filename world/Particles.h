@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: Zlib
 // world/Particles.h: what the simulation sends up: smoke, fire, water.
 #pragma once
 #include "render/Effects.h"

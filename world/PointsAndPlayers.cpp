@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: Zlib
 #include "world/PointsAndPlayers.h"
 
 #include "base/Numbers.h"

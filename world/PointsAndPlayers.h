@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: Zlib
 // world/PointsAndPlayers.h: point-list files and player files (formats: docs/formats.md). Each reports its own errors
 // in a message box.
 #pragma once

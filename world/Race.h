@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: Zlib
 // world/Race.h: the records of the race: cars, zones, the race itself. Positions are world units, angles radians, times
 // milliseconds of the race clock. A tick is 25 ms; a speed of 1 moves a car by half a unit in a tick, 20 in a second,
 // and is shown as 36. What a list's length tells is stored nowhere else.

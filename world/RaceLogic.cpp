@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: Zlib
 #include "world/RaceLogic.h"
 
 #include "world/Cars.h"

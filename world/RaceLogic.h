@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: Zlib
 // world/RaceLogic.h: running order, checkpoints and laps, the finish.
 #pragma once
 #include "world/Simulation.h"

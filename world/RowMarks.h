@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: Zlib
 // world/RowMarks.h: which rows of pairs are to be walked, a row being a body with all that come after it, and whom its
 // body may touch.
 #pragma once

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: Zlib
 #include "world/Settled.h"
 
 #include <algorithm>

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: Zlib
 // world/Settled.h: which bodies nothing has happened to. Two bodies that were found apart, and stand as they stood
 // then, are still apart: only pairs with a stirred body need be looked at.
 #pragma once

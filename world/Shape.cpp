@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: Zlib
 #include "world/Shape.h"
 
 #include "base/Math.h"

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: Zlib
 // world/Shape.h: where a body's spheres are, kept as long as it stands, and whether two bodies' spheres touch.
 #pragma once
 #include "render/Scene.h"

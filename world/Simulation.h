@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: Zlib
 // world/Simulation.h: what one step of the simulation reads and writes: the records of the game, lent for the step, and
 // the scratch that keeps a step from allocating.
 #pragma once

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: Zlib
 #include "world/Tick.h"
 
 #include "base/Math.h"

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: Zlib
 // world/Tick.h: one step of the simulation, 40 a second. The one place where its order is written.
 #pragma once
 #include "world/RaceLogic.h"

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: Zlib
 // world/ZoneGrid.h: whether an object stands in one of many zones, without asking every zone.
 #pragma once
 #include "render/Scene.h"

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: Zlib
 // world/Zones.h: where a car stands: repair boxes, grass and water.
 #pragma once
 #include "world/Simulation.h"

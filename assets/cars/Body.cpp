@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: Zlib
 #include "assets/cars/Body.h"
 
 #include "assets/cars/Fittings.h"

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: Zlib
 // assets/cars/Body.h: the outer skin of a car, as panels with their painters, and the whole car.
 // Metres; nose toward +z, left is -x, ground y = 0.
 #pragma once

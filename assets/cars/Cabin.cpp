@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: Zlib
 // The inside of a car, as Fittings.h promises it.
 #include "assets/cars/Fittings.h"
 

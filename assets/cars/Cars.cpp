@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: Zlib
 #include "assets/cars/Cars.h"
 
 #include "assets/cars/Body.h"

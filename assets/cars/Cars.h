@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: Zlib
 // assets/cars/Cars.h: the eight cars of the race.
 #pragma once
 #include <string>

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: Zlib
 // What stands before the driver, as Fittings.h promises it: all in flat colours, because a texel would be as large as a
 // finger here.
 #include "assets/cars/Fittings.h"

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: Zlib
 // assets/cars/Design.h: what makes one car different from another: shape, livery, lamps and fittings.
 #pragma once
 #include "assets/cars/Shape.h"

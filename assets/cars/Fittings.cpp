@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: Zlib
 #include "assets/cars/Fittings.h"
 
 #include "assets/cars/Paint.h"

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: Zlib
 // assets/cars/Fittings.h: what a car has besides its body: cabin, wheels, mirrors, wing and shadow. Metres, as in
 // Shape.h. The game knows some meshes by their number, so the order of the calls matters: body, cabin, dashboard,
 // windscreen, and then the rest.

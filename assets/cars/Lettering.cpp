@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: Zlib
 #include "assets/cars/Lettering.h"
 
 #include "assets/common/Vectors.h"

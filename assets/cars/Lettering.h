@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: Zlib
 // assets/cars/Lettering.h: words and numbers as areas, for painting on a body. Lengths are metres on the car.
 #pragma once
 #include "typeface/Typeface.h"

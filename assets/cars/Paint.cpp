@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: Zlib
 #include "assets/cars/Paint.h"
 
 #include "assets/cars/Lettering.h"

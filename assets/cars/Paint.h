@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: Zlib
 // assets/cars/Paint.h: the painters of a car's panels: livery, number, gaps, lamps, windows, and the light on all of
 // it, which is part of the paint: the game draws textures as they are.
 #pragma once

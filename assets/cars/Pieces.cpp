@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: Zlib
 #include "assets/cars/Pieces.h"
 
 #include "base/Numbers.h"

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: Zlib
 // assets/cars/Pieces.h: the simple meshes that fittings are made of. Metres, as in Shape.h.
 #pragma once
 #include "assets/cars/Shape.h"

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: Zlib
 // assets/cars/Shape.h: the outline of a car as a few curves along z, and the panels that follow from them.
 // Metres; nose toward +z, ground y = 0. The front half of the cabin is the same in all cars: the driver sits there.
 // The game's models are UnitsPerMetre as large: its roads are wider than real ones.

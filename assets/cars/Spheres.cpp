@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: Zlib
 #include "assets/cars/Spheres.h"
 
 #include "assets/cars/Fittings.h"

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: Zlib
 // assets/cars/Spheres.h: the spheres that collide, and the points that each of them dents. World units, as the game's
 // models.
 #pragma once

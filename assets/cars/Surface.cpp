@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: Zlib
 #include "assets/cars/Surface.h"
 
 #include "base/Numbers.h"

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: Zlib
 // assets/cars/Surface.h: curved body panels: each is a smooth surface over (a, b), cut into a grid and painted into a
 // texture. Texels are coloured from the smooth surface, so that a coarse grid still looks round.
 #pragma once

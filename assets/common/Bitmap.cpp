@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: Zlib
 #include "assets/common/Bitmap.h"
 
 #include "assets/common/Output.h"

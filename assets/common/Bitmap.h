@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: Zlib
 // assets/common/Bitmap.h: how a painted picture becomes one of the game's bitmap files: 24 bits a pixel, uncompressed,
 // bottom row first.
 #pragma once

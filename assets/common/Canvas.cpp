@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: Zlib
 #include "assets/common/Canvas.h"
 
 #include "base/Numbers.h"

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: Zlib
 // assets/common/Canvas.h: float pictures to paint on. Shapes are in Shapes.h, files in Bitmap.h.
 // Pixel (0, 0) is the bottom left one, as in the game's bitmaps; pixel (x, y) covers x .. x + 1, y .. y + 1.
 #pragma once

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: Zlib
 // assets/common/Colour.h: the colour that the generators calculate with. Channels are display values: 0 is dark, 1
 // full; light may raise them above 1 until they become bytes.
 #pragma once

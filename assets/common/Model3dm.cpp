@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: Zlib
 #include "assets/common/Model3dm.h"
 
 #include "assets/common/Output.h"

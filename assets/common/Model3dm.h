@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: Zlib
 // assets/common/Model3dm.h: a model as the generators build it, and its text form ("3DM - VER 1.0.0").
 // World units, y up, ground at y = 0; a car's nose points toward +z. Texels: column 0 left, row 0 at the picture's
 // bottom.

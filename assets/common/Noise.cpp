@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: Zlib
 #include "assets/common/Noise.h"
 
 #include "assets/common/Numbers.h"

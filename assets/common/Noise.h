@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: Zlib
 // assets/common/Noise.h: gradient noise that can tile. Coordinates are in lattice cells.
 #pragma once
 #include <cstdint>

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: Zlib
 // assets/common/Numbers.h: clamping, mixing and repeatable random numbers for the generators. Rounding is in
 // base/Numbers.h.
 // All randomness comes from hashes of positions, so a picture never depends on drawing order.

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: Zlib
 // assets/common/Output.h: how every generated file is written.
 #pragma once
 #include <cstdint>

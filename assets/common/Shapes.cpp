@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: Zlib
 #include "assets/common/Shapes.h"
 
 #include "base/Numbers.h"

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: Zlib
 // assets/common/Shapes.h: filled shapes and lines on a canvas or a mask. Units: pixels; edges are anti-aliased, and
 // what lies outside the picture is cut off.
 #pragma once

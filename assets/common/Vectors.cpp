@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: Zlib
 #include "assets/common/Vectors.h"
 
 #include "assets/common/Numbers.h"

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: Zlib
 // assets/common/Vectors.h: places and directions on a plane and in space. The owner of a place says its unit and axes.
 #pragma once
 

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: Zlib
 #include "assets/hud/Arrow.h"
 
 #include "assets/common/Model3dm.h"

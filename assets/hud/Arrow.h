@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: Zlib
 // assets/hud/Arrow.h: the arrow that points at the next checkpoint.
 #pragma once
 #include <string>

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: Zlib
 // assets/hud/Dots.h: half-covered pixels, which the game does not know, as dots whose density is the coverage.
 #pragma once
 

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: Zlib
 // assets/hud/Dusk.h: the lake after sunset, behind the menu and the splash picture.
 #pragma once
 #include "assets/common/Canvas.h"

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: Zlib
 #include "assets/hud/Dusk.h"
 
 #include "assets/common/Noise.h"

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: Zlib
 // Stems and levels stand where all the scales in use take the same share of them (Sampling.h), and corners are drawn
 // for that grid: the pixel in the corner falls out, its neighbours stay.
 #include "assets/hud/Font.h"

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: Zlib
 // assets/hud/Font.h: the bitmap font of the race display, one bitmap a code of the system code page. The glyphs
 // are those of typeface/, fitted to whole pixels.
 #pragma once

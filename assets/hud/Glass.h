@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: Zlib
 // assets/hud/Glass.h: the windscreen of all cars, whole and broken, as textures.
 #pragma once
 #include <string>

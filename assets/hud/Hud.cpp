@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: Zlib
 #include "assets/hud/Hud.h"
 
 #include "assets/hud/Arrow.h"

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: Zlib
 // assets/hud/Hud.h: the game font, trophy, arrow, glass, particle sprites, menu pictures and the program's icon.
 #pragma once
 #include <string>

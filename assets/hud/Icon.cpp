@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: Zlib
 #include "assets/hud/Icon.h"
 
 #include "assets/common/Output.h"

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: Zlib
 // assets/hud/Icon.h: the program's icon on the Windows desktop.
 #pragma once
 #include <string>

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: Zlib
 #include "assets/hud/Inside.h"
 
 #include "assets/common/Bitmap.h"

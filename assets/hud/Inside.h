@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: Zlib
 // assets/hud/Inside.h: what is seen behind the driver in the webcam's inset.
 #pragma once
 #include <string>

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: Zlib
 #include "assets/hud/MenuPictures.h"
 
 #include "assets/common/Bitmap.h"

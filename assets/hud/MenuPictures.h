@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: Zlib
 // assets/hud/MenuPictures.h: splash, menu background and the neon title.
 #pragma once
 #include <string>

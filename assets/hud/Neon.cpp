@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: Zlib
 #include "assets/hud/Neon.h"
 
 #include "typeface/Typeface.h"

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: Zlib
 // assets/hud/Neon.h: words bent from glass tubes, for the title and the icon. Lengths are pixels.
 #pragma once
 #include "assets/common/Canvas.h"

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: Zlib
 #include "assets/hud/Portrait.h"
 
 #include "assets/cars/Body.h"

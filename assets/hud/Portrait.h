@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: Zlib
 // assets/hud/Portrait.h: cars drawn finely for the menu's pictures, from the same surfaces as the game's models.
 #pragma once
 #include "assets/cars/Design.h"

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: Zlib
 #include "assets/hud/Sampling.h"
 
 #include "base/Numbers.h"

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: Zlib
 // assets/hud/Sampling.h: how the display shrinks its letters: by taking every so-manieth row and column, nothing
 // between them. A stroke three pixels wide comes out one or two wide, or off its middle, depending on where it stands.
 #pragma once

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: Zlib
 // assets/hud/Sprites.h: the puffs that particles are made of.
 #pragma once
 #include <string>

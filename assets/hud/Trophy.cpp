@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: Zlib
 // The game hangs the trophy five units before the camera, well to the left, before the car has moved on: the faster
 // the car, the nearer the picture's edge it stands. So the trophy is slender, and hangs below the point that it turns
 // about.

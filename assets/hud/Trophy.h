@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: Zlib
 // assets/hud/Trophy.h: the cup that turns before the camera after the race.
 #pragma once
 #include <string>

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: Zlib
 // assets/sound/Engine.h: the running engine, as one loop.
 #pragma once
 #include <cstdint>

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: Zlib
 #include "assets/sound/Mp3.h"
 
 #include "assets/common/Output.h"

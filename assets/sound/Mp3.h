@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: Zlib
 // assets/sound/Mp3.h: pieces as MP3 files. The only user of the encoder.
 #pragma once
 #include "assets/sound/synth/Stereo.h"

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: Zlib
 #include "assets/sound/Sound.h"
 
 #include "assets/common/Output.h"

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: Zlib
 // assets/sound/Sound.h: the engine sample and the music. The folders below share one namespace: every line of a score
 // names instruments, effects and notations together.
 #pragma once

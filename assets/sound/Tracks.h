@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: Zlib
 // assets/sound/Tracks.h: the pieces of music that ship. Each is its score and its recording in one file of tracks/; a
 // call plays the whole piece. Throws std::runtime_error where a score is wrong.
 #pragma once

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: Zlib
 // Road, pit lane, kerbs and gravel beds of the ground.
 #include "assets/track/Ground.h"
 

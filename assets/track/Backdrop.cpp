@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: Zlib
 // The ring of country around the ground, and the hills behind it.
 #include "assets/track/Backdrop.h"
 

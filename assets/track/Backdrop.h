@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: Zlib
 // assets/track/Backdrop.h: what stands around the ground.
 #pragma once
 #include "assets/track/Models.h"

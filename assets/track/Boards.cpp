@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: Zlib
 // Adverts, direction boards and braking signs beside the road. Fronts look along local -z.
 #include "assets/track/Models.h"
 

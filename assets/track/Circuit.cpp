@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: Zlib
 #include "assets/track/Circuit.h"
 
 #include "base/Numbers.h"

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: Zlib
 // assets/track/Circuit.h: the course of the road. x is east, z is north, world units; the lap runs anticlockwise.
 #pragma once
 #include "assets/common/Numbers.h"

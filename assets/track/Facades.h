@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: Zlib
 // assets/track/Facades.h: walls, windows, doors and roofs as they are painted into the textures of buildings. `light`
 // is what a surface colour is multiplied with (Light.h). Texels; row 0 is at the foot of a wall.
 #pragma once

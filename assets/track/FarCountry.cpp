@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: Zlib
 #include "assets/track/FarCountry.h"
 
 #include "assets/common/Noise.h"

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: Zlib
 // assets/track/FarCountry.h: the land and the lake beyond the ground's border, up to the hills around them. The
 // ground's rim and the backdrop both take their colours from here, so that the ground does not end in a line.
 #pragma once

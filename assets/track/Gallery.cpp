@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: Zlib
 // One bay of a column gallery along the shore, open to the road and to the lake. The sun stands behind it, over the
 // lake: what looks toward the road lies in warm shade, and the columns throw stripes over the floor.
 #include "assets/track/Facades.h"

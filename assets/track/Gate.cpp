@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: Zlib
 // A town gate of stone over the road, with swallow-tailed battlements. Its front (local -z) looks toward the oncoming
 // cars; local x runs across the road. Front and back are painted as one half each and mirrored.
 #include "assets/track/Gate.h"

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: Zlib
 // assets/track/Gate.h: the measures of the town gate that its shadow needs as well.
 #pragma once
 #include "assets/common/Vectors.h"

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: Zlib
 #include "assets/track/Ground.h"
 
 #include <thread>

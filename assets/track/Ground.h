@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: Zlib
 // assets/track/Ground.h: the ground bitmap, four texels a unit: row 0 is z = 0, column 0 is x = 0. Land.cpp,
 // Asphalt.cpp, Markings.cpp and Shadows.cpp each paint the layer they are named for.
 #pragma once

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: Zlib
 #include "assets/track/Guards.h"
 
 #include "assets/track/Stops.h"

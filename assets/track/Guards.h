@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: Zlib
 // assets/track/Guards.h: ground spheres without a picture: what cars run into. A car that hits one is turned half way
 // toward the guard's own heading, so those along the road look along it, and those at the rim look inward.
 #pragma once

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: Zlib
 // A clipped hedge of flowering shrubs along a road; pieces join end to end. It may stand either way to the sun, so its
 // top is lit and both its sides lie in open light.
 #include "assets/track/Leaves.h"

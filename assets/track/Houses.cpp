@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: Zlib
 // Village houses, villa, church and bell tower. Walls stand along the axes: each side has its own light.
 #include "assets/track/Facades.h"
 

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: Zlib
 // The table of the models that stand in the world.
 #include "assets/track/Plan.h"
 

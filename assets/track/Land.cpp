@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: Zlib
 // Grass, fields, tracks, streets, shore and water of the ground.
 #include "assets/track/Ground.h"
 

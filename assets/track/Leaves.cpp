@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: Zlib
 #include "assets/track/Leaves.h"
 
 #include "assets/common/Noise.h"

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: Zlib
 // assets/track/Leaves.h: how leaves are painted, and where light falls on them. A crown is lit as the round body that
 // it stands for: what is painted depends on the place in the crown alone, so pictures that cross agree where they meet.
 #pragma once

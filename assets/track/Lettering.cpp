@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: Zlib
 #include "assets/track/Lettering.h"
 
 #include "assets/common/Shapes.h"

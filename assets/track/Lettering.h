@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: Zlib
 // assets/track/Lettering.h: plain upright capitals made of strokes, for boards and paint on the road.
 #pragma once
 #include "assets/common/Canvas.h"

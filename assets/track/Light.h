@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: Zlib
 // assets/track/Light.h: the one sun that every shadow, facade and cloud of the world agrees on.
 #pragma once
 #include "assets/common/Colour.h"

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: Zlib
 #include "assets/track/MapScript.h"
 
 #include "assets/common/Output.h"

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: Zlib
 // assets/track/MapScript.h: map.loader and the lists and player files beside it, in world units.
 #pragma once
 #include "assets/track/Plan.h"

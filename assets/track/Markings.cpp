@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: Zlib
 // What is painted, worn or laid into the road.
 #include "assets/track/Ground.h"
 

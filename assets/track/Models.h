@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: Zlib
 // assets/track/Models.h: the models of the world and their textures, written into one folder. Each group has a .cpp of
 // its own. World units, y up; fronts look along local -z. Light is painted into the textures; walls are cut into grids,
 // because textures are mapped without perspective.

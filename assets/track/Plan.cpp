@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: Zlib
 #include "assets/track/Plan.h"
 
 #include "assets/track/Guards.h"

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: Zlib
 // assets/track/Plan.h: what stands where. The ground paints the shadows of it, the map script places it.
 // x is east, z is north, world units. A model's front is its local -z side.
 #pragma once

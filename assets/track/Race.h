@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: Zlib
 // assets/track/Race.h: what the race needs of the map: gates, zones and drivers.
 #pragma once
 #include "assets/track/Plan.h"

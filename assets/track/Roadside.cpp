@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: Zlib
 // Walls, fences, tyre stacks, and light things that a car passes through. Fronts look along local -z.
 #include "assets/track/Models.h"
 

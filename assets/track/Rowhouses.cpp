@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: Zlib
 // Terraced houses of a village street: narrow, wall to wall, their fronts along local -z. Each comes twice: with the
 // sun on its front, and ("_s") with its front in shade and the sun behind.
 #include "assets/track/Facades.h"

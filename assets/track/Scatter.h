@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: Zlib
 // assets/track/Scatter.h: the trees, bushes and bales of the plan, the same in every run.
 #pragma once
 #include "assets/track/Plan.h"

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: Zlib
 // The long shadows of a low sun.
 #include "assets/track/Ground.h"
 

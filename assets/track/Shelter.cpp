@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: Zlib
 // A lay-by shelter where a car is repaired: a timber shed, open in front, with a lean-to roof of tiles. Local x along
 // the road, open toward -z.
 #include "assets/track/Facades.h"

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: Zlib
 // assets/track/Sky.h: the panorama behind the world.
 #pragma once
 #include "assets/common/Colour.h"

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: Zlib
 // assets/track/Stops.h: what stops a car at each model. A thing with collision spheres of its own is pushed, turned and
 // tipped over when it is hit, whatever its mass, and pushes the car away from its own origin. So only what may fall
 // over has spheres in its model; for what stands firm the map puts invisible round guards where its Stops are.

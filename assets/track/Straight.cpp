@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: Zlib
 // Grandstand, pit building, start gantry and flags of the main straight. Fronts look along local -z.
 #include "assets/track/Models.h"
 

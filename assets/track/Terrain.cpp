@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: Zlib
 #include "assets/track/Terrain.h"
 
 #include "assets/common/Shapes.h"

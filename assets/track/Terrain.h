@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: Zlib
 // assets/track/Terrain.h: for every texel of the ground, where it lies relative to road, shore and paths.
 // Texel (x, z) covers a quarter unit; its middle is at ((x + 0.5) / 4, (z + 0.5) / 4).
 #pragma once

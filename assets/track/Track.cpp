@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: Zlib
 #include "assets/track/Track.h"
 
 #include "assets/common/Bitmap.h"

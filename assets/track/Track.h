@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: Zlib
 // assets/track/Track.h: the lakeside circuit: ground, sky, buildings, trees, the map script and its lists.
 #pragma once
 #include <string>

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: Zlib
 // Trees: a trunk, a low round crown that is closed all about, and upright cuts through it whose ragged rims stand
 // out of it. They are lit for AngleA = 0.
 #include "assets/track/Leaves.h"

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: Zlib
 // assets/track/WallEnds.h: what closes a stone wall where its pieces end.
 #pragma once
 #include "assets/track/Models.h"

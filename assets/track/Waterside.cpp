@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: Zlib
 // Pier, boats and parasols.
 #include "assets/track/Models.h"
 

@@ -1,3 +1,4 @@
+# SPDX-License-Identifier: Zlib
 # The Windows programs, made by Debian's MinGW-w64 with POSIX threads: of `bits`, by the tools whose names begin with
 # `triple`.
 set(CMAKE_SYSTEM_NAME Windows)

@@ -1,3 +1,4 @@
+# SPDX-License-Identifier: Zlib
 # The Windows program of 64 bits.
 set(CMAKE_SYSTEM_PROCESSOR AMD64)
 set(triple x86_64-w64-mingw32)

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: Zlib
 // platform/headless/Machine.h: the machine that no one looks at: a virtual clock, message boxes that are recorded and
 // answered with OK, windows that remember what they show. Tests, benchmarks and velkar-drive run on it; nothing here
 // reads a clock, a device or a screen, so the same script gives the same bytes.

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: Zlib
 // platform/headless/Sound.h: sound devices that a script plays the part of. The wave device finishes a buffer when
 // the script says so; the music player plays nothing and ends likewise.
 #pragma once

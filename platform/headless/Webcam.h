@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: Zlib
 // platform/headless/Webcam.h: a webcam that a script plays the part of.
 #pragma once
 #include "platform/Webcam.h"

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: Zlib
 #include "platform/FindData.h"
 
 #include <system_error>

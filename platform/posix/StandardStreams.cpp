@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: Zlib
 #include "platform/StandardStreams.h"
 
 namespace platform

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: Zlib
 // platform/sdl/AudioDevice.h: an open audio device of SDL's. Belongs to the window's thread; SDL calls back on a thread
 // of its own, never after Close.
 #pragma once

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: Zlib
 // platform/sdl/EventSource.h: events that devices post from threads of their own, on the way through SDL's queue to the
 // window's thread.
 #pragma once

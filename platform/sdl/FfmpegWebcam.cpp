@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: Zlib
 #include "platform/sdl/FfmpegWebcam.h"
 
 #include "platform/sdl/FramePicture.h"

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: Zlib
 // platform/sdl/FfmpegWebcam.h: the webcam on FFmpeg's libraries: any device, pixel format and size, cropped at its
 // middle to the shape of the target and scaled to it.
 #pragma once

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: Zlib
 // platform/sdl/FramePicture.h: a decoded video frame becomes a picture of the requested size.
 #pragma once
 #include "platform/Webcam.h"

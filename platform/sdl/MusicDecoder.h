@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: Zlib
 // platform/sdl/MusicDecoder.h: a music file as stereo samples, through FFmpeg's libraries. MP3 and Windows Media alone,
 // from a file alone, whatever a file says it is. Belongs to one thread.
 #pragma once

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: Zlib
 #include "platform/sdl/ScreenPointer.h"
 
 #include <SDL_syswm.h>

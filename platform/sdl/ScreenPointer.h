@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: Zlib
 // platform/sdl/ScreenPointer.h: what an X server reports of the pointer and SDL does not pass on: where on the screen
 // it was, and the motions that end at the same place of a window that has moved along.
 #pragma once

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: Zlib
 #include "platform/sdl/SdlKeys.h"
 
 #include "platform/Keys.h"

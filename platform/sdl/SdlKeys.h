@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: Zlib
 // platform/sdl/SdlKeys.h: from SDL's keys to the virtual-key codes that Windows would give.
 #pragma once
 #include <SDL.h>

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: Zlib
 #include "platform/sdl/SdlMusic.h"
 
 #include "platform/sdl/MusicDecoder.h"

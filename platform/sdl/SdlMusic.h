@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: Zlib
 // platform/sdl/SdlMusic.h: plays music files on an SDL audio device of its own. A thread of its own decodes ahead of
 // SDL's; the window's thread only says what is to be played and never waits for either.
 #pragma once

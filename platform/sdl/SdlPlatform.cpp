@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: Zlib
 #include "platform/sdl/SdlPlatform.h"
 
 #include "base/RuntimeError.h"

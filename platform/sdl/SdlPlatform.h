@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: Zlib
 // platform/sdl/SdlPlatform.h: the desktop back end on SDL2.
 #pragma once
 #include "platform/Platform.h"

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: Zlib
 #include "platform/sdl/SdlWaveOut.h"
 
 #include <algorithm>

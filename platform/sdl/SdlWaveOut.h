@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: Zlib
 // platform/sdl/SdlWaveOut.h: the wave device on an SDL audio device. SDL's thread plays what is queued; a buffer that
 // is done is posted to the window's thread.
 #pragma once

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: Zlib
 #include "platform/sdl/SdlWindow.h"
 
 #include "base/RuntimeError.h"

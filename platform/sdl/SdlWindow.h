@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: Zlib
 // platform/sdl/SdlWindow.h: one borderless window.
 #pragma once
 #include "platform/Platform.h"

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: Zlib
 #include "platform/win32/Clipboard.h"
 
 #include "platform/win32/WinText.h"

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: Zlib
 // platform/win32/Clipboard.h: the system's clipboard as UTF-8 text.
 #pragma once
 #include <windows.h>

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: Zlib
 // platform/win32/EscapiWebcam.h: the webcam through a capture library, escapivb.dll and escapi.dll, that is looked up
 // at run time: beside the program, then in the system's folder. A library or a function that is missing means no
 // device.

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: Zlib
 // platform/win32/EventQueue.h: events on their way to the game. The system calls a window procedure in the middle of
 // other calls too (a new size, a message box), so procedures only post here; the game is notified when those calls have
 // finished and the message loop delivers the queue. One queue for all windows and devices keeps the order among them.

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: Zlib
 // platform/win32/MessageWindow.h: a window that nobody sees: an address for messages to the thread that makes it, as
 // devices and timers of the system need one.
 #pragma once

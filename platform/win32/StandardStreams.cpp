@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: Zlib
 #include "platform/StandardStreams.h"
 
 #include <cstdio>

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: Zlib
 // Keys and mouse of a window: from the system's messages to the game's events.
 #include "platform/win32/WinKeys.h"
 #include "platform/win32/WinWindow.h"

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: Zlib
 // platform/win32/WinKeys.h: from the keyboard's messages to the codes the game knows.
 #pragma once
 #include <cstdint>

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: Zlib
 // platform/win32/WinMusic.h: plays music files through the system's media control (MCI). Opening a file can take long
 // and belongs to one thread from open to close, so a thread of its own does all of it; the window's thread only says
 // what is to be played. That thread posts what has ended as MM_MCINOTIFY.

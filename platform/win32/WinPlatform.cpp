@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: Zlib
 #include "platform/win32/WinPlatform.h"
 
 #include "base/RuntimeError.h"

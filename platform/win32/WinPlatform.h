@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: Zlib
 // platform/win32/WinPlatform.h: the back end of the Windows desktop, on the system's own calls. Its header leaves the
 // system's out: their macros rename what is called as in the game.
 #pragma once

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: Zlib
 // platform/win32/WinText.h: between the UTF-8 of the game and the UTF-16 of the system. What is malformed becomes
 // U+FFFD.
 #pragma once

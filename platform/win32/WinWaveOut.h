@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: Zlib
 // platform/win32/WinWaveOut.h: the wave device on the system's wave-out calls in window-callback mode: a buffer that is
 // done comes back as MM_WOM_DONE of a window, whose procedure is replaced to catch it.
 #pragma once

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: Zlib
 // platform/win32/WinWindow.h: one borderless window of the system. Its procedure only posts events (see EventQueue.h);
 // the platform's message loop delivers them.
 #pragma once

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: Zlib
 // render/wide/Channels8.h: eight 16-bit numbers: the channels of two pixels, blue, green, red and a fourth, with room
 // for sums and products. All arithmetic keeps the low 16 bits.
 #pragma once

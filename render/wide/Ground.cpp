@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: Zlib
 // Row by row, because rows lie together in memory, and texels four at a time. The same pixels from their definition are
 // in render/GroundPlain.cpp.
 #include "render/GroundPlain.h"

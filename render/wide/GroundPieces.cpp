@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: Zlib
 #include "render/wide/GroundPieces.h"
 
 #include "base/Math.h"

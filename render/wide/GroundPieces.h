@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: Zlib
 // render/wide/GroundPieces.h: the three filters over a piece of a ground row, and what each knows of the row.
 #pragma once
 #include "render/GroundView.h"

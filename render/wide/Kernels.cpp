@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: Zlib
 #include "render/wide/Kernels.h"
 
 #define VELKAR_WIDE portable

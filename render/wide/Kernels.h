@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: Zlib
 // render/wide/Kernels.h: the pixel loops, once for every instruction set that they are compiled for. The sources in
 // this folder are compiled once a set, in a namespace of its own (VELKAR_WIDE); which set runs is chosen at run time.
 // All write the same bytes.

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: Zlib
 // render/wide/Pixels4.h: four neighbouring pixels of 24 bits, each a lane whose low three bytes are blue, green and red
 // and whose fourth is 0.
 #pragma once

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: Zlib
 // render/wide/Portable.h: the types of render/wide/Wide.h and render/wide/Channels8.h in plain numbers, for every
 // processor and compiler.
 #pragma once

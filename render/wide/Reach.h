@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: Zlib
 // render/wide/Reach.h: how far a triangle reaches on the screen, and whether anything of it may show.
 #pragma once
 #include "render/TriangleFill.h"

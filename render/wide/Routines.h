@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: Zlib
 // render/wide/Routines.h: what a set of pixel loops consists of; see render/wide/Kernels.h. To be included once for
 // every set, with VELKAR_WIDE its namespace: for that reason without a guard.
 #include "render/wide/Kernels.h"

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: Zlib
 // Four pixels at a time. Rounding and order of every line are those of render/TriangleFillPlain.cpp.
 #include "render/TriangleFillPlain.h"
 

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: Zlib
 // Four points at a time. Rounding and order of every line are those of RotatePoint, WorldToCamera and Project.
 #include "render/Vertices.h"
 

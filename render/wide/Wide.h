@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: Zlib
 // render/wide/Wide.h: four numbers at a time for the pixel loops: doubles (two vectors of 128 bits), singles, 32-bit
 // whole numbers. Every lane is one IEEE operation, so the results are those of the plain loops. A mask is an Int4 of
 // lanes that are all ones or all zeros. Vectors of 256 bits were tried: what they save, the processor takes back, as it

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: Zlib
 // shell/forms/Boxes.h: where the parts of text boxes, combo boxes and check boxes stand, for those who paint them and
 // those who hit them. Pixels of the client area; `place` is the control's own.
 #pragma once

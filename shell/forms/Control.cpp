@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: Zlib
 #include "shell/forms/Control.h"
 
 #include "base/RuntimeError.h"

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: Zlib
 // shell/forms/Control.h: the controls a form is made of, as records; what mouse and keys do to them is in
 // Interaction.h, how they look in PaintForm.h. A control is shown when it and every frame around it is visible, and can
 // be used when it and every frame around it is enabled. Rectangles are pixels of the window's client area relative to

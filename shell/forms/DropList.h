@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: Zlib
 // shell/forms/DropList.h: the open list of a combo box: which of its items are seen and which one is highlighted. Its
 // state is the List of the marks, which those who paint read; the text of the box is nobody's business here.
 // Unless it says so, a call is for while the list is open.

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: Zlib
 // shell/forms/Float4.h: four singles at a time for the loops over pixels, one IEEE operation each, so that the results
 // are those of plain loops. SSE2 where the compiler has it, else four scalars.
 #pragma once

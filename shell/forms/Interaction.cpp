@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: Zlib
 #include "shell/forms/Interaction.h"
 
 #include "shell/forms/Boxes.h"

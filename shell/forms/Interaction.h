@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: Zlib
 // shell/forms/Interaction.h: what mouse and keys do to a form: which control is hot, pressed, has the focus, what is
 // selected in its text, which list is open. A frame over the whole window takes everything; nothing below it reacts.
 // Knows nothing of the game: the form's owner is notified of what was clicked. Runs on the window's thread.

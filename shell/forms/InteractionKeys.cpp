@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: Zlib
 // The keys and typed characters: Interaction's keyboard events. Characters are typed text and what goes by them
 // (Backspace, Ctrl+A, C, V, X); everything else goes by key codes.
 #include "platform/Keys.h"

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: Zlib
 // The left button and the pointer: Interaction's mouse events.
 #include "shell/forms/Boxes.h"
 #include "shell/forms/Interaction.h"

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: Zlib
 #include "shell/forms/LineEdit.h"
 
 #include "base/Text.h"

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: Zlib
 // shell/forms/LineEdit.h: editing one line of text: the caret, what is selected, and what keys and characters do. Knows
 // no control and no pixel. Texts are UTF-8; places in them are bytes at which a character begins, or the end. A byte
 // that is not UTF-8 counts as a character. Every call leaves a selection that fits its line, if it fitted before.

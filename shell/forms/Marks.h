@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: Zlib
 // shell/forms/Marks.h: what mouse and keys have marked on a form, for those who paint it. Controls by index in the
 // form; -1 none. Interaction writes them; whoever paints reads them after Interaction::Settle.
 #pragma once

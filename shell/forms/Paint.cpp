@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: Zlib
 #include "shell/forms/Paint.h"
 
 #include "base/Geometry.h"

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: Zlib
 // shell/forms/Paint.h: painting onto a canvas of the window's client size: fills, rounded boxes, strokes, pictures and
 // text. What controls are made of; the controls themselves are in PaintForm.h.
 // Pixels, y downward from the top row. Everything is clipped to the canvas; rectangles may lie anywhere, and one

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: Zlib
 #include "shell/forms/PaintBoxes.h"
 
 #include "base/Numbers.h"

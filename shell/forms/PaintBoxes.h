@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: Zlib
 // shell/forms/PaintBoxes.h: how text boxes, combo boxes with their list and check boxes look. Where their parts stand
 // is in Boxes.h. `place` is the control's own, in pixels of the canvas.
 #pragma once

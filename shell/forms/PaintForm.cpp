@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: Zlib
 #include "shell/forms/PaintForm.h"
 
 #include "base/Numbers.h"

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: Zlib
 // shell/forms/PaintForm.h: painting a form: every control in its looks, over whatever the canvas shows already.
 #pragma once
 #include "shell/forms/Control.h"

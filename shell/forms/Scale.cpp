@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: Zlib
 #include "shell/forms/Scale.h"
 
 #include "base/Numbers.h"

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: Zlib
 // shell/forms/Scale.h: the scaling of pictures for a form.
 #pragma once
 #include "render/PicArray.h"

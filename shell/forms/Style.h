@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: Zlib
 // shell/forms/Style.h: the colours and measures that all controls share: dark translucent cards, pale text, one warm
 // accent.
 #pragma once

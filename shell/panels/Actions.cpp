@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: Zlib
 #include "shell/panels/Actions.h"
 
 #include <algorithm>

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: Zlib
 // shell/panels/Actions.h: what the controls of the window do, by control: when clicked, when the pointer is held on
 // them, when they are to be painted. Panels enter what their controls do as they make them; nothing is taken out again.
 #pragma once

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: Zlib
 // shell/panels/AudioOptions.h: the panel of the audio options: music on and off, and how loud the engine is. The level
 // of the music is shown and fixed.
 #pragma once

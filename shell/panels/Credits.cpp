@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: Zlib
 #include "shell/panels/Credits.h"
 
 namespace panels

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: Zlib
 // shell/panels/Credits.h: the panel that says who made the game.
 #pragma once
 #include "shell/panels/Panel.h"

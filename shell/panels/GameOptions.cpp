@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: Zlib
 #include "shell/panels/GameOptions.h"
 
 #include "base/Numbers.h"

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: Zlib
 // shell/panels/GameOptions.h: the panel of the game's options: how many laps a race has.
 #pragma once
 #include "shell/panels/Panel.h"

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: Zlib
 // shell/panels/KeyNames.h: the Italian display names of the keys.
 #pragma once
 #include <cstdint>

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: Zlib
 #include "shell/panels/Keys.h"
 
 #include "base/Numbers.h"

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: Zlib
 // shell/panels/Keys.h: the panel of the keys: three sub-frames in one place, chosen by the buttons above them, each
 // with lines of an action and its key. A click on a key that can be changed gives the focus to a box that takes the
 // next key, whichever it is; pressing anything else gives up.

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: Zlib
 // shell/panels/Layout.h: the measures that every panel's layout is made of, for one size of the client area, from
 // 240 x 200 to a whole screen. Pixels, y downward. Controls by index; -1 is no control and is passed over.
 #pragma once

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: Zlib
 // shell/panels/Menu.h: the menu: the title, which flickers, and four entries, each with a dark twin underneath that
 // follows it. It has no frame: its controls stand on the form itself.
 #pragma once

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: Zlib
 // shell/panels/MenuPictures.h: the pictures of the menu, scaled once for a size of the window.
 #pragma once
 #include "base/Files.h"

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: Zlib
 #include "shell/panels/Options.h"
 
 namespace panels

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: Zlib
 // shell/panels/Options.h: the panel from which the option panels are opened.
 #pragma once
 #include "shell/panels/Panel.h"

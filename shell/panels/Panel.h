@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: Zlib
 // shell/panels/Panel.h: what every panel is made of: controls that it adds to the window's form, keeps by index, places
 // for a size of the client area, and knows the handlers of. A panel touches the records that its constructor is given,
 // and asks for everything else through the functions it is given. All run on the window's thread.

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: Zlib
 // shell/panels/Panels.h: the menu and all panels of the window, made in the order in which they are painted, and what
 // opens what.
 #pragma once

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: Zlib
 // shell/panels/TypedNumber.h: numbers as a person types them into a box.
 #pragma once
 #include "base/ReadNumber.h"

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: Zlib
 #include "shell/panels/VideoOptions.h"
 
 #include "base/Numbers.h"

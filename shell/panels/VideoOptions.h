@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: Zlib
 // shell/panels/VideoOptions.h: the panel of the video options: frame rate, resolution, texture filter, quality of the
 // effects, full screen, webcam. The OK checks what was typed in a fixed order; the first text that is wrong is named in
 // a message and stays in its box, and what was right before it is in force already.

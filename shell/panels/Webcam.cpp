@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: Zlib
 #include "shell/panels/Webcam.h"
 
 #include "shell/forms/Style.h"

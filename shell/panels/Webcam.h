@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: Zlib
 // shell/panels/Webcam.h: the panel of the webcam: its preview, and the calibration that learns the empty scene.
 #pragma once
 #include "render/PicArray.h"

@@ -1,4 +1,5 @@
 #!/usr/bin/env bash
+# SPDX-License-Identifier: Zlib
 # The same script gives the same answers and the same frames in every kind of build.
 #   same-bytes.sh ROOT WORK VELKAR-DRIVE…
 set -euo pipefail

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: Zlib
 // The webcam back end on sources that every machine has: FFmpeg's synthetic ones.
 #include "platform/sdl/FfmpegWebcam.h"
 

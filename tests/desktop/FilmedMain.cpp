@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: Zlib
 // velkar-filmed FORMAT URL: the desktop program with another source in place of its webcam: a film, or "lavfi" and the
 // description of a synthetic one.
 #include "program/RunSdl.h"

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: Zlib
 // Music files as the desktop back end decodes them, and files that only say they were music.
 #include "platform/sdl/MusicDecoder.h"
 #include "tests/support/MusicFile.h"

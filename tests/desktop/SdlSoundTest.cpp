@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: Zlib
 // The sound of the desktop back end on SDL's own dummy device, which keeps time and plays nothing.
 #include "platform/sdl/SdlPlatform.h"
 #include "tests/support/FourBuffers.h"

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: Zlib
 // The window of the desktop back end on SDL's dummy display, which shows nothing but keeps every pixel.
 #include "base/Random.h"
 #include "platform/sdl/SdlPlatform.h"

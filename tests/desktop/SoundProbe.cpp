@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: Zlib
 // sound_probe: listens to a recording (signed 16-bit little-endian stereo at 44100 Hz without a header).
 //   sound_probe engine RECORDING SAMPLE STEPS   the engine goes through the steps in their order, two falls at least
 //   sound_probe gap RECORDING MS                no silence longer than that between the first sound and the last

@@ -1,4 +1,5 @@
 #!/usr/bin/env bash
+# SPDX-License-Identifier: Zlib
 # The webcam panel and the player's picture in the race, with a synthetic source in place of a camera; then no camera.
 #   camera.sh VELKAR VELKAR-DRIVE ROOT WORK VELKAR-FILMED
 filmed=$(realpath "$5") desktop=$(realpath "$(dirname "$0")")

@@ -1,3 +1,4 @@
+# SPDX-License-Identifier: Zlib
 # What the desktop tests share: a virtual display with a window manager, the game in its window, a hand on mouse and
 # keys, and pictures of what the window shows. Sourced with the arguments VELKAR VELKAR-DRIVE ROOT WORK.
 # Nothing here counts on the machine's pace: each step waits for what it expects.

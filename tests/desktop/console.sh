@@ -1,4 +1,5 @@
 #!/usr/bin/env bash
+# SPDX-License-Identifier: Zlib
 # The console of the real program: real keys type real characters, and the answers are read back from the picture.
 #   console.sh VELKAR VELKAR-DRIVE ROOT WORK
 . "$(dirname "$0")/common.sh"

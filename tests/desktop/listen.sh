@@ -1,3 +1,4 @@
+# SPDX-License-Identifier: Zlib
 # What tests of sound share: a sound server, recordings of it, and what the game has to be heard doing. Sourced after
 # common.sh, with `probe`, the ear (SoundProbe.cpp).
 for tool in pulseaudio parec pactl; do

@@ -1,4 +1,5 @@
 #!/usr/bin/env bash
+# SPDX-License-Identifier: Zlib
 # From the menu to another resolution and back, with mouse and keys: every step is what the game shows without a window.
 #   options.sh VELKAR VELKAR-DRIVE ROOT WORK
 . "$(dirname "$0")/common.sh"

@@ -1,4 +1,5 @@
 #!/usr/bin/env bash
+# SPDX-License-Identifier: Zlib
 # A test that needs the machine's real time, given two more chances: somebody else's load is not the game's fault.
 #   patiently.sh SCRIPT ARGUMENT…
 for try in 1 2 3; do

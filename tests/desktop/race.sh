@@ -1,4 +1,5 @@
 #!/usr/bin/env bash
+# SPDX-License-Identifier: Zlib
 # Plays the real program under a virtual display with a real mouse and real keys, and reads its picture back.
 #   race.sh VELKAR VELKAR-DRIVE ROOT WORK
 . "$(dirname "$0")/common.sh"

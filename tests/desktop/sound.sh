@@ -1,4 +1,5 @@
 #!/usr/bin/env bash
+# SPDX-License-Identifier: Zlib
 # Listens to the real program on a sound server of its own: the engine, the music, what becomes of a server that goes
 # away, and what a machine without sound is told.
 #   sound.sh VELKAR VELKAR-DRIVE ROOT WORK VELKAR-FILMED SOUND-PROBE

@@ -1,3 +1,4 @@
+# SPDX-License-Identifier: Zlib
 # What the tests of the webcam share: the way through its panel into the race and out, and the game without a camera.
 # Sourced after common.sh, on a display. Each test says what its camera shows: shows_room PICTURE in the preview,
 # is_keyed PICTURE once the room is known, shows_player PICTURE in the race, shows_no_inset PICTURE.

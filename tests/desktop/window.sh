@@ -1,4 +1,5 @@
 #!/usr/bin/env bash
+# SPDX-License-Identifier: Zlib
 # What becomes of the real window: moved, covered, minimised, stretched, out of focus, closed by the window manager.
 #   window.sh VELKAR VELKAR-DRIVE ROOT WORK
 . "$(dirname "$0")/common.sh"

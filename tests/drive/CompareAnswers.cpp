@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: Zlib
 // compare_answers [--accept] SCRIPT EXPECTED ANSWERS: judges what velkar-drive answered to a script. The expected file
 // runs parallel to the script: its line n is the answer to the script's line n, or "*" where any answer will do; where
 // the script has a comment or an empty line it may say anything. --accept writes the expected file from the answers.

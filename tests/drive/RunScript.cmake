@@ -1,3 +1,4 @@
+# SPDX-License-Identifier: Zlib
 # Plays one driver script and judges the answers and the exit status.
 # cmake -DDRIVE=… -DCOMPARE=… -DROOT=… -DSCRIPT=… -DFOLDER=… [-DACCEPT=ON] -P RunScript.cmake
 get_filename_component(name "${SCRIPT}" NAME_WE)

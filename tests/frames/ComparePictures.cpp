@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: Zlib
 // Compares two 24-bit bitmap files byte by byte.
 //   compare-pictures EXPECTED ACTUAL DIFFERENCE [TOLERANCE]
 // TOLERANCE: how far a channel may be off (default 0). On a difference says how many pixels differ, the first of them

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: Zlib
 // splash-picture --root DIR FILE: what the window shows while the program starts, as a bitmap file.
 #include "base/BitmapFile.h"
 #include "platform/headless/Machine.h"

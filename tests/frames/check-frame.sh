@@ -1,4 +1,5 @@
 #!/usr/bin/env bash
+# SPDX-License-Identifier: Zlib
 # Runs a driver script that writes bitmaps and compares them with the stored pictures.
 #   check-frame.sh VELKAR-DRIVE COMPARE ROOT SCRIPT EXPECTED WORK [TOLERANCE]
 # EXPECTED is the picture of the one bitmap that the script writes, or a folder with a picture of every one of them.

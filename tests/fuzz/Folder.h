@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: Zlib
 // tests/fuzz/Folder.h: where a fuzzer puts its input, for the readers read files.
 #pragma once
 #include "base/Files.h"

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: Zlib
 // Any bytes as a bitmap: as a picture, as the ground with its blurred copy, as a texture.
 #include "fuzz/Folder.h"
 #include "render/GroundTexture.h"

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: Zlib
 // Any bytes as hands on the console of a small race. 10 enters the line, 1 opens, 2 closes, 4 recalls, every other byte
 // is typed; the clipboard holds the whole input. After each line the race goes on for a tick with what was set, and
 // the view and the answer are drawn.

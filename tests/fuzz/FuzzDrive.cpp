@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: Zlib
 // Any bytes as a driver script on the small world. Whatever is asked or set, every line is answered with one line of
 // JSON in UTF-8, and the game goes on or has ended.
 #include "fuzz/Folder.h"

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: Zlib
 // Any bytes as a map script, beside files that it may name. What stands on the map then races for a few ticks, which
 // must end as those with the plain walk over the collisions do.
 #include "fuzz/Folder.h"

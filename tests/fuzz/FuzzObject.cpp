@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: Zlib
 // Any bytes as a 3DM model file. The objects that stay in the scene are drawn once, without ground and sky.
 #include "fuzz/Folder.h"
 #include "render/RenderFrame.h"

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: Zlib
 // Runs every file of the given folders through one fuzz target, in any build. Fails where a folder holds none.
 #include "fuzz/Folder.h"
 

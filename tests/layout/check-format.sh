@@ -1,4 +1,5 @@
 #!/usr/bin/env bash
+# SPDX-License-Identifier: Zlib
 # The sources stand as the formatter would write them.
 #   check-format.sh ROOT
 set -uo pipefail

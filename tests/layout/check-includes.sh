@@ -1,4 +1,5 @@
 #!/usr/bin/env bash
+# SPDX-License-Identifier: Zlib
 # The folders keep to their places: every #include points down the folder table, no system header stands outside a back
 # end, a namespace is named for its folder, and what tests share is for tests and benchmarks.
 #   check-includes.sh ROOT

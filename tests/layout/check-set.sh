@@ -1,4 +1,5 @@
 #!/usr/bin/env bash
+# SPDX-License-Identifier: Zlib
 # What the objects of a set of pixel loops share with the rest of the program is compiled elsewhere: an inline function
 # that they held would be one of many, and the linker might take theirs for a processor that cannot run it.
 #   check-set.sh NM SET OBJECT…

@@ -1,4 +1,5 @@
 #!/usr/bin/env perl
+# SPDX-License-Identifier: Zlib
 # The product has no variable outside its records: whatever its objects keep in memory that can be written is declared
 # const or constexpr in the sources. And nothing is declared extern.
 #   check-state.pl ROOT NM LIBRARY-OR-OBJECT…

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: Zlib
 // race_replay ROOT SETUP TICKS [THREADS…]: plays the driver script SETUP, then a game tick a line of the file TICKS,
 // and compares the checksum after each with the line. The first wrong tick is named. Every fortieth sum, one a second,
 // also takes the ground's tyre marks in. With THREADS the race is played as many times side by side, each with that

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: Zlib
 // The same script draws the same pictures whoever walks the ground.
 #include "render/RenderFrame.h"
 #include "tools/drive/Driver.h"

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: Zlib
 // What the shipped map promises: it loads in silence, and eight computer drivers race it cleanly, whatever the draws.
 #include "tests/support/ShippedRace.h"
 

@@ -1,4 +1,5 @@
 #!/usr/bin/env bash
+# SPDX-License-Identifier: Zlib
 # What scripts/play does where there is no display: a whole race, its pictures and its standings.
 #   headless.sh ROOT VELKAR-DRIVE WORK
 set -euo pipefail

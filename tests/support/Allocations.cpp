@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: Zlib
 // Stands in a file of its own: where the compiler sees both halves at once it takes malloc and delete for a wrong pair.
 #include "tests/support/Allocations.h"
 

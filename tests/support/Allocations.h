@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: Zlib
 // tests/support/Allocations.h: counts the memory that a test program asks for. Link Allocations.cpp into the program.
 #pragma once
 #include <cstddef>

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: Zlib
 // tests/support/Desk.h: a console over the records of a small world, with a clipboard and a timer that only remember,
 // and hands that use it.
 #pragma once

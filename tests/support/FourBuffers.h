@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: Zlib
 // tests/support/FourBuffers.h: a wave device's four buffers of 512 stereo frames, as the game queues them.
 #pragma once
 #include "platform/Sound.h"

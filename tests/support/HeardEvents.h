@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: Zlib
 // tests/support/HeardEvents.h: a listener of a window and its devices that keeps count.
 #pragma once
 #include "platform/Platform.h"

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: Zlib
 // tests/support/LoadedForm.h: the main window over a small world, on a machine whose clock moves only when told.
 #pragma once
 #include "platform/headless/Machine.h"

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: Zlib
 // tests/support/Messages.h: a message sink that remembers what it was shown.
 #pragma once
 #include "base/Trapped.h"

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: Zlib
 // tests/support/MusicFile.h: music to test with, made on the spot by FFmpeg's encoders.
 #pragma once
 #include <filesystem>

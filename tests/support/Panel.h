@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: Zlib
 // tests/support/Panel.h: a panel of 300 x 200 with one control of each kind, hands that use it, and what its owner was
 // told. The controls stand apart from each other and from the edges.
 #pragma once

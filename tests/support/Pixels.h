@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: Zlib
 // tests/support/Pixels.h: pixels of a form's canvas, and a picture to paint there.
 #pragma once
 #include "render/PicArray.h"

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: Zlib
 // tests/support/PlainKernels.h: the plain pixel loops as a set, for screens that judge others.
 #pragma once
 #include "render/GroundPlain.h"

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: Zlib
 // tests/support/Scenes.h: small worlds for the tests of the renderer: pictures of noise, cameras, whole scenes.
 #pragma once
 #include "base/Random.h"

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: Zlib
 // tests/support/ShippedRace.h: the shipped race on a machine without a window, and the camera's path through it.
 // VELKAR_ROOT is the folder that holds data/.
 #pragma once

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: Zlib
 // tests/support/TempFolder.h: a folder of a test's own, gone with it, and bitmap files to put in it.
 #pragma once
 #include "base/Files.h"

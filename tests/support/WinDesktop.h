@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: Zlib
 // tests/support/WinDesktop.h: a real window with a message loop, and the sound devices whose events that delivers.
 #pragma once
 #include "platform/win32/WinMusic.h"

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: Zlib
 // A small world for tests, benchmarks and fuzzers of the simulation: everything a tick reads and writes, and cars to
 // put into it.
 #pragma once

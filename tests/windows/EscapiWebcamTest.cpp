@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: Zlib
 // The webcam through the capture library of the tests (webcam/Camera.h).
 #include "platform/win32/EscapiWebcam.h"
 #include "tests/support/TempFolder.h"

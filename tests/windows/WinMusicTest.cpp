@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: Zlib
 // Music through the system's media control. Needs a sound device and a decoder of MP3.
 #include "tests/support/TempFolder.h"
 #include "tests/support/WinDesktop.h"

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: Zlib
 // The wave device on real wave-out calls and a real window. Needs a sound device that keeps time.
 #include "tests/support/FourBuffers.h"
 #include "tests/support/WinDesktop.h"

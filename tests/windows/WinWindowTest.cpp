@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: Zlib
 // A real window of the back end that gets messages as the system sends them.
 #include "platform/win32/WinWindow.h"
 #include "platform/win32/MessageWindow.h"

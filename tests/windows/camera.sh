@@ -1,4 +1,5 @@
 #!/usr/bin/env bash
+# SPDX-License-Identifier: Zlib
 # The webcam panel and the player's picture in the race of the Windows program in Wine, with the tests' webcam libraries
 # beside it; then without them.
 #   camera.sh 32|64 VELKAR VELKAR-DRIVE ROOT WORK ESCAPI.DLL ESCAPIVB.DLL

@@ -1,3 +1,4 @@
+# SPDX-License-Identifier: Zlib
 # What the tests of Windows programs on the display share: Wine with settings that one test at a time has. Sourced after
 # common.sh and before listen.sh, with `windows`, the folder of this file.
 source "$windows/wine.sh"

@@ -1,4 +1,5 @@
 #!/usr/bin/env bash
+# SPDX-License-Identifier: Zlib
 # Plays the Windows program in Wine by the same hand, and looks at it with the same eyes, as the desktop program of this
 # system: NAME is that of a test in ../desktop.
 #   desktop.sh 32|64 NAME VELKAR VELKAR-DRIVE ROOT WORK

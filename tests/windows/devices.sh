@@ -1,4 +1,5 @@
 #!/usr/bin/env bash
+# SPDX-License-Identifier: Zlib
 # Runs the tests of the Windows back end's devices in Wine: with a sound server, then without.
 #   devices.sh 32|64 TEST-PROGRAM VELKAR-DRIVE ROOT WORK
 width=$1

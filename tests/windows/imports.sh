@@ -1,4 +1,5 @@
 #!/usr/bin/env bash
+# SPDX-License-Identifier: Zlib
 # Fails where a Windows program imports a library that is not every Windows' own, by name or delayed.
 #   imports.sh OBJDUMP PROGRAM
 set -euo pipefail

@@ -1,4 +1,5 @@
 #!/usr/bin/env bash
+# SPDX-License-Identifier: Zlib
 # Becomes a Windows program on the display, for tests that have made Wine ready:
 #   play.sh 32|64 PROGRAM
 set -euo pipefail

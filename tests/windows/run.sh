@@ -1,4 +1,5 @@
 #!/usr/bin/env bash
+# SPDX-License-Identifier: Zlib
 # Runs a Windows program under Wine:
 #   run.sh 32|64 PROGRAM ARGUMENT…
 # Ends with the program's status, or with 77 and the reason where Wine cannot be had: see wine.sh.

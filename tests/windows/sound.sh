@@ -1,4 +1,5 @@
 #!/usr/bin/env bash
+# SPDX-License-Identifier: Zlib
 # Listens to the Windows program in Wine: the engine, the music, and what a machine without sound is told.
 #   sound.sh 32|64 VELKAR VELKAR-DRIVE ROOT WORK SOUND-PROBE
 # VELKAR-DRIVE and SOUND-PROBE are programs of this system.

@@ -1,3 +1,4 @@
+# SPDX-License-Identifier: Zlib
 # Wine for Windows programs of either width. Sourced; then:
 #   use_wine 32|64     says which, and makes what it needs where that is missing; ends with 77 and the reason where Wine
 #                      cannot be had

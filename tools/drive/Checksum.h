@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: Zlib
 // tools/drive/Checksum.h: one number for all that the simulation reads and writes, field by field through the field
 // tables: cars, objects, particles with their sprites, zones, race, camera, held keys, generator, ground texels. Two
 // runs that differ in one of them by one bit have different sums for all practical purposes.

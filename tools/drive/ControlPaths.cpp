@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: Zlib
 #include "tools/drive/Values.h"
 
 #include <algorithm>

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: Zlib
 #include "tools/drive/Driver.h"
 
 #include "base/RuntimeError.h"

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: Zlib
 // tools/drive/Driver.h: the scripted game: one line in, one line of JSON out. The language is told in docs/drive.md.
 #pragma once
 #include "tools/drive/Session.h"

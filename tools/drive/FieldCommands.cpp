@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: Zlib
 // Reading and writing the state of the game by name, and the sum over it.
 #include "tools/drive/Checksum.h"
 #include "tools/drive/Paths.h"

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: Zlib
 // What is seen, as files.
 #include "base/BitmapFile.h"
 #include "tools/drive/Session.h"

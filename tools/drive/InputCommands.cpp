@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: Zlib
 // What the player's hands do: controls, keys, typed characters.
 #include "base/Text.h"
 #include "tools/drive/Session.h"

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: Zlib
 // tools/drive/Json.h: the few pieces of JSON that answers are made of.
 #pragma once
 #include <charconv>

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: Zlib
 // Set-up, start and end of the game.
 #include "tools/drive/Session.h"
 

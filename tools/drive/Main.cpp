@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: Zlib
 // velkar-drive [--root DIR] [SCRIPT]: plays a script, or standard input, and answers every line with one of JSON.
 #include "platform/FindData.h"
 #include "platform/StandardStreams.h"

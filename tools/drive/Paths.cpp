@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: Zlib
 #include "tools/drive/Paths.h"
 
 #include "tools/drive/Session.h"

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: Zlib
 // tools/drive/Paths.h: the roots of all paths: the state of the running game by name.
 #pragma once
 #include "platform/headless/Machine.h"

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: Zlib
 // tools/drive/Session.h: what the commands of a script act on: the headless machine and the game that runs on it.
 #pragma once
 #include "platform/headless/Machine.h"

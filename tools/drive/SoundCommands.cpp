@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: Zlib
 // The part of the sound devices: buffers that are finished, calls that fail, music that ends.
 #include "tools/drive/Session.h"
 

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: Zlib
 // Ticks, the clock, and what both cost.
 #include "base/PhaseClock.h"
 #include "tools/drive/Session.h"

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: Zlib
 // tools/drive/Values.h: any value of the game as a thing that can be shown, set and entered by name or index, by way of
 // the field tables (base/Fields.h). A field added to a table is reachable here without another line.
 #pragma once

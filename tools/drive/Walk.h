@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: Zlib
 // tools/drive/Walk.h: peek and poke: following a path through values.
 #pragma once
 #include "tools/drive/Values.h"

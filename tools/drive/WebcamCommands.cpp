@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: Zlib
 // The script plays the part of the webcam.
 #include "tools/drive/Session.h"
 #include "webcam/Capture.h"

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: Zlib
 // tools/drive/Words.h: a line of a script, taken apart word by word, and the numbers in it.
 #pragma once
 #include <charconv>

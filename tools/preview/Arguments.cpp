@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: Zlib
 #include "tools/preview/Arguments.h"
 
 #include "base/ReadNumber.h"

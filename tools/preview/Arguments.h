@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: Zlib
 // tools/preview/Arguments.h: the command line, understood and checked before anything is read or loaded.
 #pragma once
 #include "platform/Platform.h"

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: Zlib
 #include "tools/preview/Canvas.h"
 
 #include "base/Geometry.h"

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: Zlib
 // tools/preview/Canvas.h: a picture to draw on, with smooth edges. Pixels, x to the right, y downward from the top; the
 // pixel (x, y) covers x to x + 1 and y to y + 1. What lies outside is left out.
 #pragma once

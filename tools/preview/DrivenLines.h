@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: Zlib
 // tools/preview/DrivenLines.h: where cars were driven, as a table of comma-separated values tells it.
 #pragma once
 #include "tools/preview/Canvas.h"

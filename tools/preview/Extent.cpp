@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: Zlib
 #include "tools/preview/Extent.h"
 
 #include <algorithm>

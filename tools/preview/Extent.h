@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: Zlib
 // tools/preview/Extent.h: how far objects reach.
 #pragma once
 #include "render/Scene.h"

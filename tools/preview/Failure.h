@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: Zlib
 // tools/preview/Failure.h: the two ways in which no picture comes about. Nothing has been written then.
 #pragma once
 #include <string>

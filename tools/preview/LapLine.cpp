@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: Zlib
 #include "tools/preview/LapLine.h"
 
 #include "render/Camera.h"

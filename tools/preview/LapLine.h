@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: Zlib
 // tools/preview/LapLine.h: a lap as the map gives it: straight from checkpoint to checkpoint and back to the first.
 #pragma once
 #include "world/Race.h"

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: Zlib
 // tools/preview/LapSheet.h: the game along a lap, in all its views.
 #pragma once
 #include "tools/preview/Arguments.h"

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: Zlib
 // tools/preview/Legend.h: what the colours of a picture mean.
 #pragma once
 #include "tools/preview/Canvas.h"

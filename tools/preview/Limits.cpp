@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: Zlib
 #include "tools/preview/Limits.h"
 
 #include "tools/preview/Failure.h"

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: Zlib
 // tools/preview/Limits.h: how large pictures may be, and how long one may take.
 #pragma once
 #include <cstdint>

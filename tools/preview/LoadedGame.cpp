@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: Zlib
 #include "tools/preview/LoadedGame.h"
 
 #include "tools/preview/Failure.h"

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: Zlib
 // tools/preview/LoadedGame.h: the game of a folder, loaded without a window and looked at.
 #pragma once
 #include "platform/headless/Machine.h"

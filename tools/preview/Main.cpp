@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: Zlib
 // velkar-preview PICTURE ... --out FILE.png: shows map authors what a model, a map or a lap looks like. docs/preview.md
 #include "platform/FindData.h"
 #include "tools/preview/Preview.h"

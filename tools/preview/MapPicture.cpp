@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: Zlib
 #include "tools/preview/MapPicture.h"
 
 #include "base/Numbers.h"

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: Zlib
 // tools/preview/MapPicture.h: a map from above, x to the right and z upward, with all that stands in it marked.
 #pragma once
 #include "shell/Game.h"

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: Zlib
 #include "tools/preview/Png.h"
 
 #include "tools/preview/Failure.h"

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: Zlib
 // tools/preview/Png.h: PNG files.
 #pragma once
 #include "base/Pixels.h"

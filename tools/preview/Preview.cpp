@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: Zlib
 #include "tools/preview/Preview.h"
 
 #include "base/RuntimeError.h"

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: Zlib
 // tools/preview/Preview.h: the program, apart from the process that it is: a command line in, a picture in a file.
 #pragma once
 #include <filesystem>

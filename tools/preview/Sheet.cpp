@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: Zlib
 #include "tools/preview/Sheet.h"
 
 #include "tools/preview/Limits.h"

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: Zlib
 // tools/preview/Sheet.h: many pictures in one: tiles in rows and columns, each with a line below it that says what it
 // is.
 #pragma once

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: Zlib
 // tools/preview/Stage.h: where a model is shown: a plain ground with lines, a plain sky.
 #pragma once
 #include "render/Scene.h"

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: Zlib
 #include "tools/preview/Turntable.h"
 
 #include "base/Math.h"

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: Zlib
 // tools/preview/Turntable.h: a model from all sides.
 #pragma once
 #include "tools/preview/Arguments.h"

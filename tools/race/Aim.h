@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: Zlib
 // tools/race/Aim.h: where a driver wants to go in the next moment.
 #pragma once
 #include "tools/race/Line.h"

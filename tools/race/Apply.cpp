@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: Zlib
 #include "tools/race/Apply.h"
 
 #include "tools/drive/Paths.h"

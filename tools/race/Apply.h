@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: Zlib
 // tools/race/Apply.h: carries settings out on a loaded game.
 #pragma once
 #include "tools/drive/Session.h"

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: Zlib
 #include "tools/race/Arguments.h"
 
 #include "tools/drive/Words.h"

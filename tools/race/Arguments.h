@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: Zlib
 // tools/race/Arguments.h: the command line of velkar-race.
 #pragma once
 #include "tools/race/Skill.h"

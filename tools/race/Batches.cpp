@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: Zlib
 #include "tools/race/Batches.h"
 
 #include "tools/race/Run.h"

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: Zlib
 // tools/race/Batches.h: the races of a command line, side by side.
 #pragma once
 #include "tools/race/Arguments.h"

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: Zlib
 // tools/race/Course.h: the way round the lap: where on the line the car is, which point of it to steer at, and how fast
 // the bends ahead may be approached. A driver who has missed a checkpoint or left the road turns back to it.
 #pragma once

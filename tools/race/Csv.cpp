@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: Zlib
 #include "tools/race/Format.h"
 #include "tools/race/Report.h"
 

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: Zlib
 // tools/race/Escape.h: whether a stubborn driver can leave the map: from places round the lap and all over the ground
 // the user's car, alone, is driven at the nearest border, round what is in the way; then an average human-like driver
 // takes it back to the road, if it is still on the map.

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: Zlib
 #include "tools/drive/Json.h"
 #include "tools/race/Escape.h"
 #include "tools/race/Format.h"

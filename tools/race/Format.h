@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: Zlib
 // tools/race/Format.h: numbers as the reports write them, the same on every system.
 #pragma once
 #include <charconv>

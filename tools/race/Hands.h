@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: Zlib
 // tools/race/Hands.h: what hands do: keys go down and up, no quicker than fingers move, and attention wanders.
 #pragma once
 #include "base/Random.h"

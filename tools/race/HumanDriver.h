@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: Zlib
 // tools/race/HumanDriver.h: drives the user's car as a player might, by the same held keys. The driver sees everything
 // late, knows what the hands have done since, follows the line with wandering errors, and makes way for others. It
 // draws from a generator of its own, so that a seed always gives the same driver.

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: Zlib
 // tools/race/Line.h: the line round the lap that the human-like driver follows: a closed way of points about two units
 // apart. Directions are game angles: 0 looks along +z, a positive turn is to the left, toward -x.
 #pragma once

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: Zlib
 // velkar-race [OPTION VALUE]…: races over seeds and variations, without a window, and what they show.
 #include "platform/FindData.h"
 #include "platform/StandardStreams.h"

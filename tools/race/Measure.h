@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: Zlib
 // tools/race/Measure.h: what is measured of one race, tick by tick. Times are seconds since the countdown ended.
 #pragma once
 #include "tools/race/Passes.h"

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: Zlib
 // tools/race/Passes.h: who passes whom. Cars side by side change places many times; a pass counts once the new order
 // has held for a while.
 #pragma once

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: Zlib
 #include "tools/race/Recovery.h"
 
 #include "base/Math.h"

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: Zlib
 // tools/race/Recovery.h: what a driver does who is stuck: back for a moment, then on; round what is in the way, where
 // that was not enough.
 #pragma once

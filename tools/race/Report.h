@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: Zlib
 // tools/race/Report.h: the results as a table for the eye, as CSV and as JSON.
 #pragma once
 #include "tools/race/Summary.h"

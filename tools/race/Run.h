@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: Zlib
 // tools/race/Run.h: one race from the start to the last car's finish.
 #pragma once
 #include "tools/race/Measure.h"

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: Zlib
 #include "tools/race/Scout.h"
 
 #include "tools/race/HumanDriver.h"

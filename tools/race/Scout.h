@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: Zlib
 // tools/race/Scout.h: the track by itself: its line, and how quick a human-like driver is alone on it.
 #pragma once
 #include "tools/race/Line.h"

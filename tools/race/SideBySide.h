@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: Zlib
 // tools/race/SideBySide.h: a piece of work for each number of a row, several at a time.
 #pragma once
 #include <algorithm>

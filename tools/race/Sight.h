@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: Zlib
 // tools/race/Sight.h: what a driver sees at one moment.
 #pragma once
 #include "tools/race/Line.h"

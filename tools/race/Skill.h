@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: Zlib
 // tools/race/Skill.h: how well the human-like driver drives.
 #pragma once
 #include <array>

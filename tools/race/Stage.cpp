@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: Zlib
 #include "tools/race/Stage.h"
 
 #include "tools/race/Apply.h"

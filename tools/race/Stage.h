@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: Zlib
 // tools/race/Stage.h: one game on a machine of its own, its race about to start. Games share nothing: each thread may
 // have its own.
 #pragma once

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: Zlib
 // tools/race/Summary.h: the races of one variation taken together. Shares are from 0 to 1; a mean is nothing where
 // there was nothing to measure.
 #pragma once

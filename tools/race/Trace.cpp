@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: Zlib
 #include "tools/race/Trace.h"
 
 #include "tools/race/Format.h"

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: Zlib
 // tools/race/Trace.h: where cars were at every tick, as a table: tick, car, x, z, speed, heading, damage.
 #pragma once
 #include "tools/race/Measure.h"

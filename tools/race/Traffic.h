@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: Zlib
 // tools/race/Traffic.h: the cars around: whom to steer round, and on which side, and whom to follow.
 #pragma once
 #include "tools/race/Course.h"

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: Zlib
 #include "tools/race/Trip.h"
 
 #include "base/Math.h"

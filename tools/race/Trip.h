@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: Zlib
 // tools/race/Trip.h: the trip of a badly damaged car to a repair box.
 #pragma once
 #include "tools/race/Course.h"

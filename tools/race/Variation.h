@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: Zlib
 // tools/race/Variation.h: what is changed in the game before a race starts: settings given on the command line, and the
 // cross product of those that are varied.
 #pragma once

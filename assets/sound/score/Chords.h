@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: Zlib
 // assets/sound/score/Chords.h: chord names and how they are laid out for several voices.
 #pragma once
 #include <string>

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: Zlib
 // assets/sound/score/Line.h: notes in musical time.
 #pragma once
 #include <vector>

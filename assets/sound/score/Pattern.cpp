@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: Zlib
 #include "assets/sound/score/Pattern.h"
 
 #include <algorithm>

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: Zlib
 // assets/sound/score/Pattern.h: the text of patterns and melodies, taken apart.
 #pragma once
 #include "assets/sound/score/Line.h"

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: Zlib
 #include "assets/sound/score/Score.h"
 
 #include "assets/common/Numbers.h"

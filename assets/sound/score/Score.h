@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: Zlib
 // assets/sound/score/Score.h: a piece on paper: its form and harmony, and the notations in which the players' lines are
 // written.
 //

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: Zlib
 // assets/sound/score/Studio.h: where a score is played, mixed and mastered.
 #pragma once
 #include "assets/sound/score/Score.h"

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: Zlib
 // assets/sound/synth/Analog.h: the subtractive voice behind pads, basses, leads, plucks, brass and reeds.
 #pragma once
 #include "assets/sound/synth/Envelope.h"

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: Zlib
 #include "assets/sound/synth/Biquad.h"
 
 #include "assets/common/Numbers.h"

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: Zlib
 // assets/sound/synth/Biquad.h: two poles, two zeros, fixed: the tone controls of a mixing desk.
 #pragma once
 #include "assets/sound/synth/Stereo.h"

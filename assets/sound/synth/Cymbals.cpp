@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: Zlib
 #include "assets/sound/synth/Cymbals.h"
 
 #include "assets/common/Numbers.h"

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: Zlib
 // assets/sound/synth/Cymbals.h: metal, shakers, and the noises that lead from one part of a piece to the next.
 #pragma once
 #include "assets/sound/synth/Tone.h"

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: Zlib
 // assets/sound/synth/Drums.h: synthesised drums. Hz and seconds; strengths from 0. Skins here, metal and noises of the
 // studio in assets/sound/synth/Cymbals.h.
 #pragma once

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: Zlib
 // Compress and Limit of assets/sound/synth/Effects.h.
 #include "assets/sound/synth/Effects.h"
 

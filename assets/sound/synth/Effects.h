@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: Zlib
 // assets/sound/synth/Effects.h: what is done to a whole part or bus. Frequencies in Hz, times in seconds, levels in
 // decibels.
 #pragma once

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: Zlib
 // assets/sound/synth/Envelope.h: how a note swells and fades. Times in seconds.
 #pragma once
 #include <algorithm>

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: Zlib
 // assets/sound/synth/Filter.h: the filters that voices and effects are made with. Frequencies in Hz.
 #pragma once
 #include "assets/common/Numbers.h"

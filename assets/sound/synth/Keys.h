@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: Zlib
 // assets/sound/synth/Keys.h: instruments made of sines: electric piano, bells, organ, whistle.
 #pragma once
 #include "assets/sound/synth/Envelope.h"

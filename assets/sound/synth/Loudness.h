@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: Zlib
 // assets/sound/synth/Loudness.h: how loud a sound is heard, by the measure that broadcasters use (ITU-R BS.1770).
 #pragma once
 #include "assets/sound/synth/Stereo.h"

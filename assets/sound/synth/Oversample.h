@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: Zlib
 // assets/sound/synth/Oversample.h: four frames out of one and back, by a long low-pass.
 #pragma once
 #include <array>

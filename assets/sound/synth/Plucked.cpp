@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: Zlib
 #include "assets/sound/synth/Plucked.h"
 
 #include "assets/common/Numbers.h"

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: Zlib
 // assets/sound/synth/Plucked.h: plucked strings as travelling waves: guitar, bass guitar, mandolin.
 #pragma once
 #include "assets/sound/synth/Tone.h"

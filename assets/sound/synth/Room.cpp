@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: Zlib
 // Room of assets/sound/synth/Effects.h: eight delay lines that feed each other.
 #include "assets/sound/synth/Effects.h"
 

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: Zlib
 // assets/sound/synth/Stereo.h: a stretch of stereo sound, 1 is full scale.
 #pragma once
 #include <algorithm>

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: Zlib
 // assets/sound/synth/Tone.h: one note as an instrument hears it.
 #pragma once
 #include "assets/sound/synth/Stereo.h"

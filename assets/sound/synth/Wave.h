@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: Zlib
 // assets/sound/synth/Wave.h: a sawtooth without aliasing, from tables with fewer harmonics the higher the note, and
 // sines.
 #pragma once

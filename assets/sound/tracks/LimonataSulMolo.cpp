@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: Zlib
 // Limonata sul molo: D major, 116 beats a minute, sixteenths that swing. The verse rocks between two chords, the chorus
 // sings over eight and turns to the minor subdominant near its end; the bridge is a lament over a falling bass.
 #include "assets/sound/Tracks.h"

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: Zlib
 // Luci sul lago: A minor, later B minor, 110 beats a minute. The hook is the rising 3 + 3 + 2 of the chorus.
 #include "assets/sound/Tracks.h"
 

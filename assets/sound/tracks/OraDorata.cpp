@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: Zlib
 // Ora dorata: E flat major, 92 beats a minute. A bossa nova for the last light; its bridge wanders to G flat and finds
 // home over a chain of fifths, the guitar then improvises over the first strain.
 #include "assets/sound/Tracks.h"

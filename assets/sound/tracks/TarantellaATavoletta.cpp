@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: Zlib
 // Tarantella a tavoletta: G minor, later A minor, six eighths at 152 beats a minute. A tarantella over the drums of
 // another century: a running theme, a sunny one in B flat, and a refrain of long notes over a bass that descends.
 #include "assets/sound/Tracks.h"

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: Zlib
 // Tornanti: E minor, 144 beats a minute. Electric guitars on both sides of a sequencer; the riff climbs through the
 // flattened fifth like a road through its hairpins, the chorus opens over C and D.
 #include "assets/sound/Tracks.h"

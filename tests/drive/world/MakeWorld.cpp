@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: Zlib
 // make_drive_world SOURCE DESTINATION: the small world of the driver scripts: the text files of the source folder
 // beside a handful of tiny pictures and an engine. No script depends on the art of the game.
 #include "base/BitmapFile.h"

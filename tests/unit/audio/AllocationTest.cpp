@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: Zlib
 // A refill takes no memory.
 #include "audio/WaveOut.h"
 #include "tests/support/Allocations.h"

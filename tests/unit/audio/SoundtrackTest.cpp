@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: Zlib
 #include "audio/Soundtrack.h"
 #include "tests/support/TempFolder.h"
 

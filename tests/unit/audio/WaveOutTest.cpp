@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: Zlib
 #include "audio/WaveOut.h"
 #include "tests/support/Messages.h"
 

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: Zlib
 #include "base/BitmapFile.h"
 
 #include <gtest/gtest.h>

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: Zlib
 #include "base/Files.h"
 #include "base/RuntimeError.h"
 #include "tests/support/TempFolder.h"

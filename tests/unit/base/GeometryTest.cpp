@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: Zlib
 #include "base/Geometry.h"
 
 #include <gtest/gtest.h>

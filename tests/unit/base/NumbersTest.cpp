@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: Zlib
 #include "base/Numbers.h"
 #include "base/Random.h"
 #include "base/RuntimeError.h"

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: Zlib
 // Time by phase.
 #include "base/PhaseClock.h"
 

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: Zlib
 #include "base/ReadNumber.h"
 #include "base/Random.h"
 

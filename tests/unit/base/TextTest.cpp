@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: Zlib
 #include "base/Text.h"
 
 #include <gtest/gtest.h>

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: Zlib
 #include "base/Trapped.h"
 #include "tests/support/Messages.h"
 

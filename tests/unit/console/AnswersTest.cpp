@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: Zlib
 // Lines typed into the running game, each with the answer that it shows.
 #include "base/Text.h"
 #include "tests/support/LoadedForm.h"

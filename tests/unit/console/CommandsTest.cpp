@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: Zlib
 // What commands do to the records.
 #include "tests/support/Desk.h"
 

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: Zlib
 // Opening, closing, recall, editing, the clipboard.
 #include "tests/support/Desk.h"
 

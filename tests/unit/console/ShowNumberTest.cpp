@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: Zlib
 #include "console/ShowNumber.h"
 
 #include <gtest/gtest.h>

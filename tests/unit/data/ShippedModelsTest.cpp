@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: Zlib
 // What the game counts on in the models that ship with it.
 #include "tests/support/Messages.h"
 #include "world/LoadObject.h"

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: Zlib
 // What the game counts on in the pictures and letters that ship with it.
 #include "base/Numbers.h"
 #include "base/Pixels.h"

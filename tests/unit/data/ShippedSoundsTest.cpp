@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: Zlib
 // What the game counts on in the engine sample and the music that ship with it.
 #include <algorithm>
 #include <array>

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: Zlib
 #include "platform/headless/Machine.h"
 #include "tests/support/HeardEvents.h"
 

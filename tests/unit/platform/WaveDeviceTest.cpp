@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: Zlib
 // The rules of the wave calls, on a device that only writes down what it is asked for.
 #include "platform/WaveDevice.h"
 

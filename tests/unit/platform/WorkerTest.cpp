@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: Zlib
 #include "platform/Worker.h"
 
 #include <gtest/gtest.h>

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: Zlib
 #include "tools/race/Apply.h"
 
 #include "tests/support/SmallWorld.h"

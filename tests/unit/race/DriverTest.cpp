@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: Zlib
 // The human-like driver and its parts, on made-up roads.
 #include "tools/race/HumanDriver.h"
 

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: Zlib
 #include "tools/race/Course.h"
 
 #include <gtest/gtest.h>

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: Zlib
 #include "tools/race/Measure.h"
 
 #include <gmock/gmock.h>

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: Zlib
 #include "tools/race/Passes.h"
 
 #include <gtest/gtest.h>

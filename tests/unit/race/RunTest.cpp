@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: Zlib
 // Whole races on a small world: three cars, three checkpoints on a plain.
 #include "tools/race/Run.h"
 #include "tests/support/SmallWorld.h"

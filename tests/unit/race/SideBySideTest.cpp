@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: Zlib
 #include "tools/race/SideBySide.h"
 
 #include <gtest/gtest.h>

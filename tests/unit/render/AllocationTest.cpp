@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: Zlib
 // A frame takes no memory once its lists have grown.
 #include "render/Effects.h"
 #include "render/Primitives.h"

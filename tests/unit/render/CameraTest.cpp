@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: Zlib
 #include "render/Camera.h"
 
 #include "base/Numbers.h"

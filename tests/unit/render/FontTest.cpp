@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: Zlib
 #include "render/Font.h"
 
 #include "tests/support/Messages.h"

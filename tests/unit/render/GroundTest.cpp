@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: Zlib
 #include "render/wide/Kernels.h"
 
 #include "render/GroundPlain.h"

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: Zlib
 #include "render/GroundTexture.h"
 
 #include "tests/support/Messages.h"

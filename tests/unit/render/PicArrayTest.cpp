@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: Zlib
 #include "render/PicArray.h"
 
 #include "tests/support/Messages.h"

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: Zlib
 #include "render/RenderFrame.h"
 
 #include "render/Draw2D.h"

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: Zlib
 #include "render/RowTables.h"
 
 #include "tests/support/Scenes.h"

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: Zlib
 #include "render/Screen.h"
 
 #include "render/RenderFrame.h"

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: Zlib
 #include "render/Sprites.h"
 
 #include "tests/support/Scenes.h"

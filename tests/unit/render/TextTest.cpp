@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: Zlib
 #include "render/Text.h"
 
 #include <gtest/gtest.h>

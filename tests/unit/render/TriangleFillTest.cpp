@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: Zlib
 #include "render/TriangleFillPlain.h"
 
 #include "tests/support/Scenes.h"

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: Zlib
 #include "render/Triangles.h"
 
 #include "tests/support/Scenes.h"

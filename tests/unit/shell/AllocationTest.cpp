@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: Zlib
 // No tick and no frame allocates.
 #include "tests/support/Allocations.h"
 #include "tests/support/LoadedForm.h"

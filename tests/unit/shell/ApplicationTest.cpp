@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: Zlib
 #include "shell/Application.h"
 #include "platform/headless/Machine.h"
 #include "tests/support/SmallWorld.h"

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: Zlib
 // Check boxes, and picture boxes that the pointer sets.
 #include "tests/support/Panel.h"
 

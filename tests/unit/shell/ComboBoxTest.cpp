@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: Zlib
 // Combo boxes: free text, and a list that stays within the window.
 #include "tests/support/Panel.h"
 

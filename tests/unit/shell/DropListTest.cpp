@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: Zlib
 // The open list of a combo box, without anybody's hands: what is seen of it and what is highlighted.
 #include "shell/forms/DropList.h"
 

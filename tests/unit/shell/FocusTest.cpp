@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: Zlib
 // The keys' way over a panel, the panel that covers the rest, and what stands out.
 #include "tests/support/Panel.h"
 

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: Zlib
 // The records of a form.
 #include "base/RuntimeError.h"
 #include "shell/forms/Control.h"

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: Zlib
 // The simulation step and its order.
 #include "base/Math.h"
 #include "tests/support/LoadedForm.h"

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: Zlib
 // The read-outs of the frame tick.
 #include "shell/HudElements.h"
 #include "tests/support/LoadedForm.h"

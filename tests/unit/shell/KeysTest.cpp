@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: Zlib
 // Keys of the race and the changing of their bindings.
 #include "shell/panels/KeyNames.h"
 #include "tests/support/LoadedForm.h"

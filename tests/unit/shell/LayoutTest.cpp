@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: Zlib
 // Where the controls stand, for every size of the window.
 #include "tests/support/LoadedForm.h"
 #include "typeface/Typeface.h"

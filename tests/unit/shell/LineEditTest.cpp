@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: Zlib
 // One line of text under the caret.
 #include "shell/forms/LineEdit.h"
 

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: Zlib
 // Clicking, pointing and dragging with the mouse.
 #include "tests/support/LoadedForm.h"
 

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: Zlib
 // The option panels: every message, what is in force after it, and how the settings take effect.
 #include "shell/panels/VideoOptions.h"
 #include "tests/support/LoadedForm.h"

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: Zlib
 // The painting of a form's canvas: fills, boxes, strokes, lines of text.
 #include "shell/forms/Paint.h"
 #include "tests/support/Pixels.h"

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: Zlib
 // The panels of the main window under mouse and keys: where an event goes while the menu, a panel, a race or the
 // rebinding box has it.
 #include "shell/forms/Boxes.h"

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: Zlib
 // The race run: started, suspended and resumed; the menu around it.
 #include "tests/support/LoadedForm.h"
 

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: Zlib
 // Whatever comes in whatever order, the window stands it: keys, clicks, panels over a race, other sizes, the clock.
 #include "tests/support/LoadedForm.h"
 

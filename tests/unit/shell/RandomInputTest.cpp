@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: Zlib
 // Whatever hands do to a panel, in whatever order: its marks stay true and it can be painted.
 #include "base/Random.h"
 #include "tests/support/Panel.h"

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: Zlib
 // The scaling of pictures for a form.
 #include "shell/forms/Scale.h"
 #include "base/Numbers.h"

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: Zlib
 // What is heard: start-up, the race, the music and its options.
 #include "tests/support/LoadedForm.h"
 

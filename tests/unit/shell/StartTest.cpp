@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: Zlib
 // Start-up and shut-down of the main window.
 #include "tests/support/LoadedForm.h"
 

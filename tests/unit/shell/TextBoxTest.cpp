@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: Zlib
 // Text boxes under mouse, keys and clipboard, and how they are painted.
 #include "tests/support/Panel.h"
 #include "typeface/Typeface.h"

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: Zlib
 #include "shell/Views.h"
 
 #include <gtest/gtest.h>

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: Zlib
 #include "tools/drive/Checksum.h"
 
 #include "render/Primitives.h"

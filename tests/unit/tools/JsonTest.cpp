@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: Zlib
 #include "tools/drive/Json.h"
 
 #include <gtest/gtest.h>

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: Zlib
 // Where the time goes, phase by phase.
 #include "tests/support/SmallWorld.h"
 #include "tools/drive/Driver.h"

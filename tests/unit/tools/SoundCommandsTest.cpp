@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: Zlib
 // What the wave command leaves in its file.
 #include "tests/support/SmallWorld.h"
 #include "tools/drive/Driver.h"

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: Zlib
 #include "tools/drive/Walk.h"
 
 #include "world/Race.h"

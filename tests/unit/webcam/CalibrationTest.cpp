@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: Zlib
 // From the click to the known background.
 #include "webcam/Calibration.h"
 

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: Zlib
 // Frames from the device: opening, one request at a time, closing with its time-out.
 #include "webcam/Capture.h"
 #include "platform/headless/Machine.h"

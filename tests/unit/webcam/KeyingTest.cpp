@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: Zlib
 // The image routines of the webcam, against numbers worked out by hand.
 #include "webcam/Keying.h"
 #include "tests/support/Allocations.h"

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: Zlib
 // A tick of the simulation takes no memory once its lists have grown.
 #include "tests/support/Allocations.h"
 #include "tests/support/World.h"

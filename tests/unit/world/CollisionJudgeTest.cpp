@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: Zlib
 // The fast walk over the pairs against the plain one: after every tick of random scenes, every bit is the same.
 #include "tests/support/World.h"
 #include "world/Collision.h"

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: Zlib
 #include "world/Collision.h"
 #include "tests/support/World.h"
 

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: Zlib
 #include "world/PointsAndPlayers.h"
 #include "tests/support/Messages.h"
 #include "tests/support/TempFolder.h"

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: Zlib
 #include "tests/support/World.h"
 
 #include <gtest/gtest.h>

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: Zlib
 #include "world/RowMarks.h"
 
 #include <gtest/gtest.h>

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: Zlib
 // The order of a step of the simulation.
 #include "base/Math.h"
 #include "tests/support/World.h"

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: Zlib
 #include "world/ZoneGrid.h"
 
 #include "base/Random.h"

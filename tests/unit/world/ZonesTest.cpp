@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: Zlib
 #include "world/Zones.h"
 #include "tests/support/World.h"
 #include "world/Driving.h"

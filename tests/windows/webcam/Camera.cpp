@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: Zlib
 // escapi.dll
 #include "tests/windows/webcam/Camera.h"
 

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: Zlib
 // tests/windows/webcam/Camera.h: a webcam made of nothing but arithmetic, in the shape of the capture library that the
 // game looks up at run time: escapi.dll holds the camera and hands out its frames, escapivb.dll opens and closes it.
 //

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: Zlib
 #include "tools/preview/Canvas.h"
 #include "tools/preview/Failure.h"
 #include "tools/preview/Limits.h"

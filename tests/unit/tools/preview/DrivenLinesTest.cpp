@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: Zlib
 #include "tools/preview/DrivenLines.h"
 #include "tests/support/TempFolder.h"
 #include "tools/preview/Failure.h"
