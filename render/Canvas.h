@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: Zlib
 // render/Canvas.h: where triangles are drawn: pixels, each with its depth, of the screen's size. Borrows all of it.
 #pragma once
 #include "base/Pixels.h"

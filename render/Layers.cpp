@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: Zlib
 #include "render/Layers.h"
 
 #include <cstddef>

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: Zlib
 // render/Layers.h: laying what was drawn ahead over the frame.
 #pragma once
 #include "render/Screen.h"

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: Zlib
 // render/Marks.h: in which blocks of a screen something may have been drawn, so that the others need not be looked at.
 #pragma once
 #include <algorithm>

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: Zlib
 // Four pixels at a time; most fours are wholly empty or wholly not. The same pixel by pixel: render/Layers.cpp.
 #include "render/Layers.h"
 
