@@ -24,12 +24,12 @@ struct Measure
 };
 constexpr auto Measures = []
 {
-    std::array<Measure, 21> measures;
-    double width = 4;
+    std::array<Measure, 11> measures;
+    double width = 8;
     for (Measure& measure : measures)
     {
         measure = {width, 1 / width};
-        width *= 2;
+        width *= 4;
     }
     return measures;
 }();
@@ -142,12 +142,12 @@ void NearGrid::Leave(std::int32_t body)
 
 void NearGrid::Put(std::size_t body, const Disc& at)
 {
-    Entries[body].At = at;
     if (!CanTouch(at))
     {
         Remove(body);
         return;
     }
+    Entries[body].At = at;
     const std::int32_t level = LevelOf(at);
     const double scale = Measures[static_cast<std::size_t>(level)].Scale;
     const std::int32_t column = base::Floor(PlaceOf(at.X) * scale), row = base::Floor(PlaceOf(at.Z) * scale);
@@ -157,7 +157,8 @@ void NearGrid::Put(std::size_t body, const Disc& at)
     Place& place = Places[body];
     if (place.Level == level && place.Chain == chain)
         return;
-    Remove(body);
+    if (place.Level != None)
+        Leave(static_cast<std::int32_t>(body));
     place.Level = level;
     place.Chain = chain;
     Join(static_cast<std::int32_t>(body));
@@ -169,6 +170,7 @@ void NearGrid::Remove(std::size_t body)
         return;
     Leave(static_cast<std::int32_t>(body));
     Places[body].Level = None;
+    Entries[body].At = Entry{}.At;
 }
 
 void NearGrid::LookOnLevel(const Question& asked, std::int32_t number, BodyList& found) const
