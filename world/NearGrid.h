@@ -31,11 +31,14 @@ class BodyList
 public:
     void Clear() { Count = 0; }
     void Reserve(std::size_t bodies) { Room.resize(std::max(Room.size(), bodies)); }
-    void Add(std::int32_t body)
+    void Add(std::int32_t body) { AddIf(body, true); }
+    // Without a branch on what is not known beforehand.
+    void AddIf(std::int32_t body, bool wanted)
     {
         if (Count == Room.size())
             Room.resize(2 * Count + 16);
-        Room[Count++] = body;
+        Room[Count] = body;
+        Count += wanted ? 1 : 0;
     }
     // In ascending order, each once.
     void Sort();
@@ -99,6 +102,7 @@ private:
     std::vector<std::int32_t> Chains = {None}; // the first body of cells that share a chain; a power of two of them
     std::uint32_t Mask = 0;                    // of their numbers
     std::array<Level, LevelCount> Levels;
+    std::uint32_t Inhabited = 0; // a bit for every level that has bodies
 
     void Join(std::int32_t body);
     void Leave(std::int32_t body);
