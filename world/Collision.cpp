@@ -16,26 +16,28 @@ bool AreNear(const render::Obj& a, const render::Obj& b)
     return render::Dist3D(a.X, a.Y, a.Z, b.X, b.Y, b.Z) < reach && std::isfinite(reach);
 }
 
-// How far a body may go before its neighbours are looked up again: they are looked up around it with twice as much.
-float Leeway(const Disc& disc)
+// How far a body may go before it is put into the grid anew, and its neighbours are looked up again.
+float Leeway(float radius)
 {
-    return 0.125f + std::fabs(disc.Radius) / 64.0f;
+    return 0.125f + std::fabs(radius) / 64.0f;
 }
 
+// Holds the disc as long as it goes no farther than the leeway, by more than any rounding.
 Disc Widened(const Disc& disc)
 {
-    return {disc.X, disc.Z, disc.Radius + 2.0f * Leeway(disc)};
+    return {disc.X, disc.Z, disc.Radius + 1.0625f * Leeway(disc.Radius)};
 }
 
-// Whether what was found around one place holds around the other.
-bool IsWithinLeeway(const Disc& from, const Disc& to)
+bool IsWithin(const Disc& wide, const Disc& disc)
 {
-    return std::fabs(static_cast<double>(from.X) - to.X) + std::fabs(static_cast<double>(from.Z) - to.Z) <=
-           static_cast<double>(Leeway(from));
+    return wide.Radius == Widened(disc).Radius &&
+           std::fabs(static_cast<double>(wide.X) - disc.X) + std::fabs(static_cast<double>(wide.Z) - disc.Z) <=
+               static_cast<double>(Leeway(disc.Radius));
 }
 
-// The walk over the pairs, row by row: a row is a body with all that come after it. The rows that are walked are
-// marked: those of every stirred body and of whoever may touch one that comes later.
+// The walk over the pairs, row by row: a row is a body with all that come after it. In the grid a body covers all where
+// it may go within its leeway; so whoever may touch a body was found when either of the two was looked around last, and
+// is noted in the row of the first of them. Two that nothing has happened to stand apart, and are not noted.
 struct PairWalk
 {
     Simulation& Sim;
@@ -44,40 +46,56 @@ struct PairWalk
 
     std::int32_t FirstRow = 0; // of those that are still to be walked
 
-    Disc DiscOf(std::size_t body) const { return {Objects[body].X, Objects[body].Z, Objects[body].Radius}; }
-
-    // The body stands where it did not stand before.
-    void Place(std::size_t body)
+    // The body stands where it did not stand before. True where the grid has it elsewhere now.
+    bool Place(std::size_t body)
     {
-        Scratch.Shapes[body].Forget(Objects[body]);
-        if (Scratch.Rest.IsBody(body))
-            Scratch.Grid.Put(body, DiscOf(body));
-        else
+        const render::Obj& object = Objects[body];
+        Scratch.Shapes[body].Forget(object);
+        if (!Scratch.Rest.IsBody(body))
+        {
             Scratch.Grid.Remove(body);
+            return true;
+        }
+        const Disc disc = {object.X, object.Z, object.Radius};
+        if (IsWithin(Scratch.Grid.At(body), disc))
+            return false;
+        Scratch.Grid.Put(body, Widened(disc));
+        return true;
     }
 
-    void MarkRows(std::size_t body)
+    void Note(std::int32_t a, std::int32_t b)
     {
-        const Disc disc = DiscOf(body);
-        const auto number = static_cast<std::int32_t>(body);
-        Scratch.MarkedAround[body] = disc;
-        Scratch.Marks.Mark(body);
-        Scratch.Grid.Look(Widened(disc), {FirstRow, number - 1}, Scratch.Found);
+        Scratch.Marks.MarkFor(static_cast<std::size_t>(std::min(a, b)), std::max(a, b));
+    }
+
+    // Finds whom the body may touch, of the rows that are still to be walked.
+    void LookAround(std::int32_t body)
+    {
+        Scratch.Grid.Look(Scratch.Grid.At(static_cast<std::size_t>(body)), {FirstRow, LastBody()}, Scratch.Found);
+    }
+
+    // Of two that have stirred the first notes both.
+    void NoteAtFirst(std::int32_t body)
+    {
+        LookAround(body);
         for (const std::int32_t found : Scratch.Found.Bodies())
-        {
-            const auto row = static_cast<std::size_t>(found);
-            if (Scratch.Rest.IsStirred(row)) // will look for itself
-                Scratch.Marks.Mark(row);
-            else
-                Scratch.Marks.MarkFor(row, number);
-        }
+            if (found > body || !Scratch.Rest.IsStirred(static_cast<std::size_t>(found)))
+                Note(body, found);
+    }
+
+    // The body meets the rows behind the present one, and its own, from where it is now.
+    void NoteAgain(std::int32_t body)
+    {
+        LookAround(body);
+        for (const std::int32_t found : Scratch.Found.Bodies())
+            if (found != body)
+                Note(body, found);
     }
 
     // Lists who of the row may touch its body: those above `after`.
     void ListRow(std::size_t body, std::int32_t after)
     {
-        Scratch.Grid.Look(Widened(DiscOf(body)), {after + 1, static_cast<std::int32_t>(Objects.size()) - 1},
-                          Scratch.Row);
+        Scratch.Grid.Look(Scratch.Grid.At(body), {after + 1, LastBody()}, Scratch.Row);
         Scratch.Row.Sort();
     }
 
@@ -94,45 +112,41 @@ struct PairWalk
         return FindContact(i, j, contact) && Strike(Sim, first, second, contact);
     }
 
-    // The second of a pair was pushed: it meets the rows between the two, and its own, from where it is now.
-    void Pushed(std::size_t body)
+    // The body was pushed. True where others may be near it than those that were found around it.
+    bool Pushed(std::size_t body)
     {
-        const bool isMarked = Scratch.Rest.IsStirred(body);
+        const bool wasStirred = Scratch.Rest.IsStirred(body);
         Scratch.Rest.Stir(body);
-        Place(body);
-        if (!isMarked || !IsWithinLeeway(Scratch.MarkedAround[body], DiscOf(body)))
-            MarkRows(body);
+        return Place(body) || !wasStirred;
     }
 
     void WalkRow(std::size_t body)
     {
-        Disc listed = DiscOf(body);
-        // One that has not stirred stands apart from all others that have not.
-        if (!Scratch.Marks.Take(body, Scratch.Row) || Scratch.Rest.IsStirred(body))
+        if (!Scratch.Marks.Take(body, Scratch.Row))
             ListRow(body, static_cast<std::int32_t>(body));
         for (std::size_t n = 0; n < Scratch.Row.Bodies().size();)
         {
             const std::int32_t other = Scratch.Row.Bodies()[n++];
-            if (!CollidePair(body, static_cast<std::size_t>(other)))
+            const auto second = static_cast<std::size_t>(other);
+            if (!CollidePair(body, second))
                 continue;
-            const bool isWhole = Scratch.Rest.IsStirred(body); // otherwise those that are not stirred were left out
-            Scratch.Rest.Stir(body);
-            Place(body);
-            Pushed(static_cast<std::size_t>(other));
-            if (isWhole && IsWithinLeeway(listed, DiscOf(body)))
+            const bool isElsewhere = Pushed(body);
+            if (Pushed(second))
+                NoteAgain(other);
+            if (!isElsewhere)
                 continue;
-            listed = DiscOf(body);
             ListRow(body, other);
             n = 0;
         }
     }
+
+    std::int32_t LastBody() const { return static_cast<std::int32_t>(Objects.size()) - 1; }
 
     // For another number of objects.
     void MakeRoom()
     {
         Scratch.Grid.Reset(Objects.size());
         Scratch.Shapes.resize(Objects.size());
-        Scratch.MarkedAround.resize(Objects.size());
         Scratch.Marks.Reset(Objects.size());
         Scratch.Row.Reserve(Objects.size());
         Scratch.Found.Reserve(Objects.size());
@@ -148,8 +162,7 @@ struct PairWalk
         for (const std::int32_t body : Scratch.Rest.StirredAtFirst())
             Place(static_cast<std::size_t>(body));
         for (const std::int32_t body : Scratch.Rest.StirredAtFirst())
-            if (Scratch.Rest.IsBody(static_cast<std::size_t>(body)))
-                MarkRows(static_cast<std::size_t>(body));
+            NoteAtFirst(body);
         for (std::size_t row = Scratch.Marks.Next(0); row < Objects.size(); row = Scratch.Marks.Next(row + 1))
         {
             FirstRow = static_cast<std::int32_t>(row) + 1;

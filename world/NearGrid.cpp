@@ -25,12 +25,12 @@ struct Measure
 };
 constexpr auto Measures = []
 {
-    std::array<Measure, 21> measures;
-    double width = 4;
+    std::array<Measure, 11> measures;
+    double width = 8;
     for (Measure& measure : measures)
     {
         measure = {width, 1 / width};
-        width *= 2;
+        width *= 4;
     }
     return measures;
 }();
@@ -70,7 +70,8 @@ std::uint32_t BitsOf(std::int32_t number)
 bool Overlap(const Disc& a, const Disc& b)
 {
     const float reach = a.Radius + b.Radius, x = a.X - b.X, z = a.Z - b.Z;
-    return x * x + z * z <= reach * reach * Hair + Speck && reach > 0.0f;
+    const bool isNear = x * x + z * z <= reach * reach * Hair + Speck;
+    return isNear & (reach > 0.0f);
 }
 
 // Of a row of cells, which lie side by side from here on.
@@ -96,6 +97,7 @@ void NearGrid::Reset(std::size_t bodies)
     Chains.assign(std::bit_ceil(bodies + 1), None);
     Mask = static_cast<std::uint32_t>(Chains.size() - 1);
     Levels.fill({});
+    Inhabited = 0;
 }
 
 void NearGrid::Join(std::int32_t body)
@@ -116,6 +118,7 @@ void NearGrid::Join(std::int32_t body)
         Places[static_cast<std::size_t>(level.First)].BeforeOnLevel = body;
     level.First = body;
     ++level.Count;
+    Inhabited |= 1u << place.Level;
     level.Range = {std::min(level.Range.First, body), std::max(level.Range.Last, body)};
 }
 
@@ -138,17 +141,18 @@ void NearGrid::Leave(std::int32_t body)
         Places[static_cast<std::size_t>(place.BeforeOnLevel)].NextOnLevel = place.NextOnLevel;
     if (place.NextOnLevel != None)
         Places[static_cast<std::size_t>(place.NextOnLevel)].BeforeOnLevel = place.BeforeOnLevel;
-    --level.Count;
+    if (--level.Count == 0)
+        Inhabited &= ~(1u << place.Level);
 }
 
 void NearGrid::Put(std::size_t body, const Disc& at)
 {
-    Entries[body].At = at;
     if (!CanTouch(at))
     {
         Remove(body);
         return;
     }
+    Entries[body].At = at;
     const std::int32_t level = LevelOf(at);
     const double scale = Measures[static_cast<std::size_t>(level)].Scale;
     const std::int32_t column = base::Floor(PlaceOf(at.X) * scale), row = base::Floor(PlaceOf(at.Z) * scale);
@@ -158,7 +162,8 @@ void NearGrid::Put(std::size_t body, const Disc& at)
     Place& place = Places[body];
     if (place.Level == level && place.Chain == chain)
         return;
-    Remove(body);
+    if (place.Level != None)
+        Leave(static_cast<std::int32_t>(body));
     place.Level = level;
     place.Chain = chain;
     Join(static_cast<std::int32_t>(body));
@@ -170,6 +175,7 @@ void NearGrid::Remove(std::size_t body)
         return;
     Leave(static_cast<std::int32_t>(body));
     Places[body].Level = None;
+    Entries[body].At = Entry{}.At;
 }
 
 void NearGrid::LookOnLevel(const Question& asked, std::int32_t number, BodyList& found) const
@@ -184,8 +190,8 @@ void NearGrid::LookOnLevel(const Question& asked, std::int32_t number, BodyList&
     const Entry* const entries = Entries.data();
     const auto take = [&, at = asked.At, range = asked.Range](std::int32_t body)
     {
-        if (Overlap(at, entries[body].At) && body >= range.First && body <= range.Last)
-            found.Add(body);
+        const bool isOfRange = (body >= range.First) & (body <= range.Last);
+        found.AddIf(body, isOfRange & Overlap(at, entries[body].At));
     };
 
     if ((std::int64_t{lastColumn} - firstColumn + 1) * (std::int64_t{lastRow} - firstRow + 1) > level.Count)
@@ -211,10 +217,11 @@ void NearGrid::Look(const Disc& at, const BodyRange& range, BodyList& found) con
     if (!CanTouch(at))
         return;
     const Question asked = {at, PlaceOf(at.X), PlaceOf(at.Z), ReachOf(at) + Slack, range};
-    for (std::int32_t number = 0; number < LevelCount; ++number)
+    for (std::uint32_t levels = Inhabited; levels != 0; levels &= levels - 1)
     {
+        const std::int32_t number = std::countr_zero(levels);
         const Level& level = Levels[static_cast<std::size_t>(number)];
-        if (level.Count != 0 && level.Range.First <= range.Last && level.Range.Last >= range.First)
+        if (level.Range.First <= range.Last && level.Range.Last >= range.First)
             LookOnLevel(asked, number, found);
     }
 }

@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: Zlib
 // world/NearGrid.h: which bodies may touch, without asking every pair. The ground is cut into square cells; a body lies
-// in the one cell that holds its middle, on the level whose cells are at least as wide as it is: 4, 8, 16 … units.
+// in the one cell that holds its middle, on the level whose cells are at least as wide as it is: 8, 32, 128 … units.
 // Whoever looks walks, level by level, the cells that a body may reach out of, or all bodies of the level where these
 // are fewer. Room is taken in proportion to the bodies, whatever their sizes and places.
 #pragma once
@@ -32,11 +32,14 @@ class BodyList
 public:
     void Clear() { Count = 0; }
     void Reserve(std::size_t bodies) { Room.resize(std::max(Room.size(), bodies)); }
-    void Add(std::int32_t body)
+    void Add(std::int32_t body) { AddIf(body, true); }
+    // Without a branch on what is not known beforehand.
+    void AddIf(std::int32_t body, bool wanted)
     {
         if (Count == Room.size())
             Room.resize(2 * Count + 16);
-        Room[Count++] = body;
+        Room[Count] = body;
+        Count += wanted ? 1 : 0;
     }
     // In ascending order, each once.
     void Sort();
@@ -54,18 +57,20 @@ public:
     void Reset(std::size_t bodies);
     // The body is there now, and nowhere else.
     void Put(std::size_t body, const Disc& at);
-    void Remove(std::size_t body); // nothing for a body that is not there
+    void Remove(std::size_t body);
+    // Where the body was put last; what touches nothing, with a radius that is no number, for one that is not there.
+    const Disc& At(std::size_t body) const { return Entries[body].At; }
     // Writes every body of the range whose disc overlaps that one, in no order; now and then one that misses it by a
     // hair, or one twice.
     void Look(const Disc& at, const BodyRange& range, BodyList& found) const;
 
 private:
     static constexpr std::int32_t None = -1;
-    static constexpr int LevelCount = 21;
+    static constexpr int LevelCount = 11;
 
     struct Entry
     {
-        Disc At;
+        Disc At = {0, 0, std::numeric_limits<float>::quiet_NaN()};
         std::int32_t Next = None; // in the chain of its cell
     };
     // The rest of what is known of a body, which nobody asks for who only looks.
@@ -98,6 +103,7 @@ private:
     std::vector<std::int32_t> Chains = {None}; // the first body of cells that share a chain; a power of two of them
     std::uint32_t Mask = 0;                    // of their numbers
     std::array<Level, LevelCount> Levels;
+    std::uint32_t Inhabited = 0; // a bit for every level that has bodies
 
     void Join(std::int32_t body);
     void Leave(std::int32_t body);

@@ -17,8 +17,7 @@ public:
     void Reset(std::size_t rows);
     // All rows have been taken, another walk begins.
     void Begin();
-    void Mark(std::size_t row) { Marked[row] = 1; }
-    // For the body, that comes after the row's own.
+    // Marks the row for the body, that comes after the row's own.
     void MarkFor(std::size_t row, std::int32_t body);
     // The first marked row from that one on; the number of rows when there is none.
     std::size_t Next(std::size_t from) const;

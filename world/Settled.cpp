@@ -16,23 +16,41 @@ const std::byte* BytesAt(const void* record, std::size_t offset)
 }
 }
 
-Settled::Stance Settled::StanceOf(const render::Obj& object, std::int32_t index)
+Settled::Stance Settled::StanceOf(const render::Obj& object)
 {
-    return {object.X, object.Y, object.Z, object.AngleA, object.AngleB, object.Radius, index};
+    return {object.Sfere.data(),
+            std::to_address(object.Sfere.end()),
+            object.X,
+            object.Y,
+            object.Z,
+            object.AngleA,
+            object.AngleB,
+            object.Radius,
+            object.Free};
+}
+
+// A vector that lies where it lay and ends where it ended may still hold other numbers, but can be looked into by what
+// is known of it.
+bool Settled::HasSpheresOf(const Stance& known, const render::Obj& object)
+{
+    return object.Sfere.data() == known.First && std::to_address(object.Sfere.end()) == known.End &&
+           object.Free == known.Free;
 }
 
 // Numbers are compared by their bits, several at a time: what is no number is itself, and -0 is not 0. Those of a
 // stance and of a ball lie in their records as they lie here.
-bool Settled::IsAsKnown(const Stance& known, const render::Obj& object)
+bool Settled::StandsAs(const Stance& known, const render::Obj& object)
 {
     using render::Obj;
-    static_assert(offsetof(Stance, X) == 0 && offsetof(Stance, Radius) == 5 * sizeof(float));
-    static_assert(offsetof(Obj, Y) == offsetof(Obj, X) + offsetof(Stance, Y) &&
-                  offsetof(Obj, Z) == offsetof(Obj, X) + offsetof(Stance, Z) &&
-                  offsetof(Obj, AngleA) == offsetof(Obj, X) + offsetof(Stance, AngleA) &&
-                  offsetof(Obj, AngleB) == offsetof(Obj, X) + offsetof(Stance, AngleB) &&
-                  offsetof(Obj, Radius) == offsetof(Obj, X) + offsetof(Stance, Radius));
-    return std::memcmp(BytesAt(&object, offsetof(Obj, X)), BytesAt(&known, 0), 6 * sizeof(float)) == 0;
+    constexpr std::size_t skipped = offsetof(Stance, X) - offsetof(Obj, X);
+    static_assert(offsetof(Obj, Radius) - offsetof(Obj, X) == 5 * sizeof(float));
+    static_assert(offsetof(Stance, Y) == offsetof(Obj, Y) + skipped &&
+                  offsetof(Stance, Z) == offsetof(Obj, Z) + skipped &&
+                  offsetof(Stance, AngleA) == offsetof(Obj, AngleA) + skipped &&
+                  offsetof(Stance, AngleB) == offsetof(Obj, AngleB) + skipped &&
+                  offsetof(Stance, Radius) == offsetof(Obj, Radius) + skipped);
+    return std::memcmp(BytesAt(&object, offsetof(Obj, X)), BytesAt(&known, offsetof(Stance, X)), 6 * sizeof(float)) ==
+           0;
 }
 
 bool Settled::IsAsKnown(const Ball& known)
@@ -61,69 +79,59 @@ void Settled::KeepMoving(std::size_t object)
     Moving.push_back(static_cast<std::int32_t>(object));
 }
 
-void Settled::Enlist(std::int32_t object)
+void Settled::Enlist(std::size_t object)
 {
-    std::uint8_t& stirred = Stirred[static_cast<std::size_t>(object)];
-    if (stirred == 0)
-        List.push_back(object);
-    stirred = 1;
+    if (Stirred[object] == 0)
+        List.push_back(static_cast<std::int32_t>(object));
+    Stirred[object] = 1;
 }
 
-// Without a branch: this is asked of every object in every step. A vector that lies where it lay and ends where it
-// ended may still hold other numbers, but can be looked into by what is known of it.
-bool Settled::AreSpheresKept(const std::vector<render::Obj>& objects) const
+// False where an object has other spheres than before, or another life: more must be learnt than how it stands.
+bool Settled::CompareStances(const std::vector<render::Obj>& objects)
 {
-    bool others = false;
-    const Spheres* kept = Kept.data();
+    Stance* known = Kept.data();
     for (const render::Obj& object : objects)
     {
-        const bool otherFirst = object.Sfere.data() != kept->First;
-        const bool otherEnd = std::to_address(object.Sfere.end()) != kept->End;
-        const bool otherLife = object.Free != kept->Free;
-        others |= otherFirst | otherEnd | otherLife;
-        ++kept;
+        if (!HasSpheresOf(*known, object))
+            return false;
+        if (!StandsAs(*known, object))
+        {
+            *known = StanceOf(object);
+            const auto index = static_cast<std::size_t>(known - Kept.data());
+            if (IsBody(index))
+                Enlist(index);
+        }
+        ++known;
     }
-    return !others;
+    return true;
 }
 
-void Settled::LearnAll(const std::vector<render::Obj>& objects)
+void Settled::CompareBalls()
 {
-    Stances.clear();
-    Balls.clear();
-    for (std::size_t index = 0; index < objects.size(); ++index)
-    {
-        const render::Obj& object = objects[index];
-        const auto number = static_cast<std::int32_t>(index);
-        const bool wasBody = IsBody(index);
-        Kept[index] = {object.Sfere.data(), std::to_address(object.Sfere.end()), object.Free};
-        if (wasBody || IsBody(index))
-            Enlist(number);
-        if (!IsBody(index))
-            continue;
-        Stances.push_back(StanceOf(object, number));
-        for (const render::Sfera& sphere : object.Sfere)
-            Balls.push_back({sphere.X, sphere.Y, sphere.Z, sphere.R, number, &sphere});
-    }
-}
-
-// Stances and spheres by themselves: two walks straight through memory.
-void Settled::CompareBodies(const std::vector<render::Obj>& objects)
-{
-    for (Stance& stance : Stances)
-    {
-        const render::Obj& object = objects[static_cast<std::size_t>(stance.Object)];
-        if (IsAsKnown(stance, object))
-            continue;
-        stance = StanceOf(object, stance.Object);
-        Enlist(stance.Object);
-    }
     for (Ball& ball : Balls)
     {
         if (IsAsKnown(ball))
             continue;
         const render::Sfera& sphere = *ball.Sphere;
         ball = {sphere.X, sphere.Y, sphere.Z, sphere.R, ball.Object, &sphere};
-        Enlist(ball.Object);
+        Enlist(static_cast<std::size_t>(ball.Object));
+    }
+}
+
+void Settled::LearnAll(const std::vector<render::Obj>& objects)
+{
+    Balls.clear();
+    for (std::size_t index = 0; index < objects.size(); ++index)
+    {
+        const render::Obj& object = objects[index];
+        const bool wasBody = IsBody(index);
+        Kept[index] = StanceOf(object);
+        if (wasBody || IsBody(index))
+            Enlist(index);
+        if (!IsBody(index))
+            continue;
+        for (const render::Sfera& sphere : object.Sfere)
+            Balls.push_back({sphere.X, sphere.Y, sphere.Z, sphere.R, static_cast<std::int32_t>(index), &sphere});
     }
 }
 
@@ -134,13 +142,13 @@ void Settled::Compare(const std::vector<render::Obj>& objects, const std::vector
         MakeRoom(objects.size());
     std::fill(Stirred.begin(), Stirred.end(), std::uint8_t{0});
     List.clear();
-    if (AreSpheresKept(objects))
-        CompareBodies(objects);
+    if (CompareStances(objects))
+        CompareBalls();
     else
         LearnAll(objects);
     for (const std::int32_t object : Moving)
     {
-        Enlist(object);
+        Enlist(static_cast<std::size_t>(object));
         Moves[static_cast<std::size_t>(object)] = 0;
     }
     Moving.clear();

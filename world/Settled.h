@@ -32,16 +32,13 @@ public:
     }
 
 private:
-    // Where an object's spheres lie; compared, and not followed before.
-    struct Spheres
-    {
-        const render::Sfera *First = nullptr, *End = nullptr;
-        std::uint8_t Free = 0; // of the object
-    };
+    // How an object stands.
     struct Stance
     {
+        // Where its spheres lie; compared, and not followed before.
+        const render::Sfera *First = nullptr, *End = nullptr;
         float X = 0, Y = 0, Z = 0, AngleA = 0, AngleB = 0, Radius = 0; // as in the object, in its order
-        std::int32_t Object = 0;
+        std::uint8_t Free = 0;
     };
     struct Ball
     {
@@ -51,22 +48,22 @@ private:
     };
 
     // As at the last Compare.
-    std::vector<Spheres> Kept;   // by object
-    std::vector<Stance> Stances; // of all bodies
-    std::vector<Ball> Balls;     // of all bodies
+    std::vector<Stance> Kept; // by object
+    std::vector<Ball> Balls;  // of all bodies
 
     std::vector<std::uint8_t> Stirred, Moves; // by object; Moves: it is in Moving
     std::vector<std::int32_t> List, Moving;   // StirredAtFirst; who will be there at the next Compare in any case
     bool OtherList = true;
 
-    static Stance StanceOf(const render::Obj& object, std::int32_t index);
-    static bool IsAsKnown(const Stance& known, const render::Obj& object);
+    static Stance StanceOf(const render::Obj& object);
+    static bool HasSpheresOf(const Stance& known, const render::Obj& object);
+    static bool StandsAs(const Stance& known, const render::Obj& object);
     static bool IsAsKnown(const Ball& known);
     void MakeRoom(std::size_t objects);
     void KeepMoving(std::size_t object);
-    void Enlist(std::int32_t object);
-    bool AreSpheresKept(const std::vector<render::Obj>& objects) const;
+    void Enlist(std::size_t object);
+    bool CompareStances(const std::vector<render::Obj>& objects);
+    void CompareBalls();
     void LearnAll(const std::vector<render::Obj>& objects);
-    void CompareBodies(const std::vector<render::Obj>& objects);
 };
 }

@@ -5,14 +5,21 @@
 
 #include <array>
 #include <cstddef>
+#include <limits>
 #include <vector>
 
 namespace world
 {
-// A collision sphere in the world.
-struct Ball
+// Four collision spheres in the world, side by side. Those that fill up the last four are no numbers: they touch
+// nothing.
+struct Balls
 {
-    float X = 0, Y = 0, Z = 0, R = 0; // its centre and its radius, world units
+    using Numbers = std::array<float, 4>;
+    static constexpr float None = std::numeric_limits<float>::quiet_NaN();
+    static constexpr Numbers NoNumbers = {None, None, None, None};
+
+    // Centres and radii, world units.
+    Numbers X = NoNumbers, Y = NoNumbers, Z = NoNumbers, R = NoNumbers;
 };
 
 // The first pair of spheres that touch: by the first body's spheres, then by the second's.
@@ -25,8 +32,8 @@ struct Contact
 // The spheres reach no farther than this along x, y and z. Low lies above High where there is nothing to reach.
 struct Bounds
 {
-    std::array<double, 3> Low = {}, High = {};
-    double Slack = 0; // more than the rounding of anything within; infinite where there is no bound
+    std::array<float, 3> Low = {}, High = {};
+    float Slack = 0; // more than the rounding of anything within; infinite where there is no bound
 };
 
 class Shape
@@ -37,8 +44,9 @@ public:
     // Finds the spheres, unless they are known. object: the one that was given to Forget last.
     void Take(const render::Obj& object);
 
-    std::vector<Ball> Balls; // in the world, in the object's order
-    world::Bounds Bounds;    // of them all
+    std::size_t Count = 0;    // of the spheres
+    std::vector<Balls> Fours; // of them, in the object's order
+    world::Bounds Bounds;     // of them all
 
 private:
     bool IsKnown = false;

@@ -36,10 +36,9 @@ struct TickScratch
     std::vector<std::int32_t> Cars;  // the objects of which CarOf knows a player
     ZoneGrid Boxes, Grass, Water;    // of the map
     Settled Rest;                    // what is known of the bodies that have not moved
-    NearGrid Grid;                   // of the bodies, as they stand
+    NearGrid Grid;                   // of the bodies, about where they stand
     std::vector<Shape> Shapes;       // by object
     RowMarks Marks;                  // by object: which rows of pairs are walked
-    std::vector<Disc> MarkedAround;  // by object: where it stood when those rows were marked for it
     BodyList Row;                    // whom the body of the present row may touch
     BodyList Found;                  // around another body
 };

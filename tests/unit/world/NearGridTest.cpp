@@ -130,6 +130,25 @@ TEST(NearGrid, WhoHasMovedIsFoundWhereItIs)
     EXPECT_EQ(Around(grid, {10, 10, 2}), List{});
 }
 
+TEST(NearGrid, TellsWhereABodyWasPut)
+{
+    NearGrid grid;
+    grid.Reset(2);
+    EXPECT_TRUE(std::isnan(grid.At(1).Radius));
+    grid.Put(1, {10, 20, 2});
+    grid.Put(1, {10.5f, 21, 3}); // in the same cell
+    EXPECT_EQ(grid.At(1).X, 10.5f);
+    EXPECT_EQ(grid.At(1).Z, 21);
+    EXPECT_EQ(grid.At(1).Radius, 3);
+    EXPECT_TRUE(std::isnan(grid.At(0).Radius));
+    grid.Remove(1);
+    EXPECT_TRUE(std::isnan(grid.At(1).Radius));
+    grid.Put(1, {10, 20, 2});
+    grid.Put(1, {NotANumber, 20, 2});
+    EXPECT_TRUE(std::isnan(grid.At(1).Radius));
+    EXPECT_EQ(Around(grid, grid.At(1)), std::vector<std::int32_t>{});
+}
+
 TEST(NearGrid, WhatIsNoNumberIsNowhere)
 {
     NearGrid grid;

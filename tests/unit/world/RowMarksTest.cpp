@@ -23,7 +23,7 @@ TEST(RowMarks, RowsComeInOrderWithThoseTheyWereMarkedFor)
     marks.MarkFor(3, 12);
     marks.MarkFor(7, 9);
     marks.MarkFor(7, 12);
-    marks.Mark(19);
+    marks.MarkFor(18, 19);
     world::BodyList bodies;
     EXPECT_EQ(marks.Next(0), 3u);
     EXPECT_TRUE(marks.Take(3, bodies));
@@ -32,15 +32,15 @@ TEST(RowMarks, RowsComeInOrderWithThoseTheyWereMarkedFor)
     EXPECT_EQ(marks.Next(7), 7u);
     EXPECT_TRUE(marks.Take(7, bodies));
     EXPECT_EQ(Listed(bodies), (std::vector<std::int32_t>{9, 12}));
-    EXPECT_EQ(marks.Next(4), 19u);
-    EXPECT_TRUE(marks.Take(19, bodies));
-    EXPECT_EQ(Listed(bodies), std::vector<std::int32_t>{});
+    EXPECT_EQ(marks.Next(4), 18u);
+    EXPECT_TRUE(marks.Take(18, bodies));
+    EXPECT_EQ(Listed(bodies), std::vector<std::int32_t>{19});
     EXPECT_EQ(marks.Next(0), 20u);
     EXPECT_EQ(marks.Next(20), 20u);
     marks.Begin();
-    marks.Mark(7);
+    marks.MarkFor(7, 8);
     EXPECT_TRUE(marks.Take(7, bodies));
-    EXPECT_EQ(Listed(bodies), std::vector<std::int32_t>{});
+    EXPECT_EQ(Listed(bodies), std::vector<std::int32_t>{8});
 }
 
 TEST(RowMarks, SaySoWhereTheyCannotRememberAll)
