@@ -163,20 +163,24 @@ TEST(RenderFrame, ObjectsStandOnAGroundThatWasCutOff)
     EXPECT_GT(std::count(whole.begin(), whole.end(), true), 1000);
 
     std::fill(view.Screen.Frame.Bytes.begin(), view.Screen.Frame.Bytes.end(), std::uint8_t{77});
-    std::vector<float>& depths = view.Screen.Depth.Cells;
-    std::fill(depths.begin(), depths.end(), 1.0f);
+    base::Grid<float>& depth = view.Screen.Depth;
+    for (int y = 0; y < depth.Height; ++y) // rows before and behind the object by turns
+        std::fill_n(depth.Row(y), depth.Width, y % 2 == 0 ? 1.0f : 100.0f);
     view.Screen.GroundLimit = 0;
     view.Draw();
-    EXPECT_GT(std::count(depths.begin(), depths.end(), 1.0f), 0);
+    EXPECT_GT(std::count(depth.Cells.begin(), depth.Cells.end(), 1.0f), 0);
     const std::vector<bool> cut = green();
+    EXPECT_GT(std::count(cut.begin(), cut.end(), true), 0);
     for (std::size_t i = 0; i < whole.size(); ++i)
-        ASSERT_EQ(cut[i], whole[i] && depths[i] != 1.0f) << i;
+        ASSERT_EQ(cut[i], whole[i] && depth.Cells[i] != 1.0f) << i;
 
     object.Visible = 0;
     view.Screen.GroundLimit = 600000;
     view.Draw();
     const std::vector<bool> none = green();
     EXPECT_EQ(std::count(none.begin(), none.end(), true), 0);
+    EXPECT_TRUE(
+        std::all_of(depth.Cells.begin(), depth.Cells.end(), [](float cell) { return cell == render::FarDepth; }));
 }
 
 TEST(RenderFrame, TheLimitIs60Milliseconds)
