@@ -90,6 +90,7 @@ void DrawInTurn(const Scene& scene, const Camera& camera, Screen& screen, Ground
 void DrawSideBySide(const Scene& scene, const Camera& camera, Screen& screen, GroundThreads& threads,
                     base::PhaseClock* clock)
 {
+    base::EnterPhase(clock, "ground");
     const GroundView view = MakeGroundView(scene, camera, screen);
     GroundThreads::Pass ground(threads, GroundJob(screen, view), screen.HalfBands);
     base::EnterPhase(clock, "objects");

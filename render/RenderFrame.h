@@ -13,8 +13,8 @@ class GroundThreads;
 
 // Draws into screen.Frame and screen.Depth; nothing before a resolution was applied. The threads are made as many as
 // the screen's bands are meant for, and rest when it returns. clock, where there is one, is given the time of the
-// phases "tables", "objects" (world meshes too), "ground" (without what was drawn beside the objects), "sprites"
-// (polylines too) and "display".
+// phases "tables", "ground" (what the calling thread waits for and draws of it), "objects" (world meshes too),
+// "sprites" (polylines too) and "display".
 void RenderFrame(const Scene& scene, const Camera& camera, Screen& screen, GroundThreads& threads,
                  base::PhaseClock* clock = nullptr);
 
