@@ -14,6 +14,7 @@ namespace render::VELKAR_WIDE
 namespace
 {
 constexpr std::int32_t Lanes = 4;
+static_assert(Marks::LeastColumns % Lanes == 0, "a block is whole fours");
 constexpr std::size_t FourPixels = Lanes * base::PixelBytes;
 
 // Four columns: the pixels of those that have a depth.
